@@ -1,0 +1,27 @@
+# Settings that every target of the project shares, and the function that makes one floor.
+
+add_library(glyphor_options INTERFACE)
+target_compile_options(glyphor_options INTERFACE
+    -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor -Werror)
+target_compile_definitions(glyphor_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_KEYWORDS
+    QT_NO_URL_CAST_FROM_STRING)
+
+if(GLYPHOR_SANITIZE)
+    target_compile_options(glyphor_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(glyphor_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# glyphor_floor(NAME SOURCES file... USES library...)
+#
+# Makes the static library of one floor. USES names the floors below it and the outside libraries
+# that it may use; docs/architecture.md has the whole table.
+function(glyphor_floor name)
+    cmake_parse_arguments(FLOOR "" "" "SOURCES;USES" ${ARGN})
+    add_library(glyphor_${name} STATIC ${FLOOR_SOURCES})
+    target_include_directories(glyphor_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(glyphor_${name} PUBLIC ${FLOOR_USES} PRIVATE glyphor_options)
+endfunction()

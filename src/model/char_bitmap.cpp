@@ -1,0 +1,294 @@
+#include "model/char_bitmap.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace Glyphor {
+
+namespace {
+
+constexpr int MinOffset = std::numeric_limits<qint8>::min();
+constexpr int MaxOffset = std::numeric_limits<qint8>::max();
+
+// The C text of every byte value, with the comma and the blank behind it.
+template <std::size_t Length>
+using ByteTexts = std::array<std::array<char, Length>, 256>;
+
+constexpr ByteTexts<10> MakePatternTexts()
+{
+    ByteTexts<10> texts{};
+    for (std::size_t byte = 0; byte < texts.size(); ++byte) {
+        for (std::size_t bit = 0; bit < 8; ++bit)
+            texts[byte][bit] = (byte >> (7 - bit) & 1) != 0 ? 'X' : '_';
+        texts[byte][8] = ',';
+        texts[byte][9] = ' ';
+    }
+    return texts;
+}
+
+constexpr ByteTexts<6> MakeHexTexts()
+{
+    constexpr char digits[] = "0123456789ABCDEF";
+    ByteTexts<6> texts{};
+    for (std::size_t byte = 0; byte < texts.size(); ++byte)
+        texts[byte] = {'0', 'x', digits[byte >> 4], digits[byte & 15], ',', ' '};
+    return texts;
+}
+
+constexpr ByteTexts<10> PatternTexts = MakePatternTexts();
+constexpr ByteTexts<6> HexTexts = MakeHexTexts();
+
+template <std::size_t Length>
+void AppendRows(const QByteArray& plane, const PixelLayout& layout, const ByteTexts<Length>& texts,
+                QByteArray& out, QByteArrayView lineEnding)
+{
+    const qsizetype lineLength =
+        2 + qsizetype(layout.BytesPerLine()) * qsizetype(Length) + lineEnding.size();
+    const qsizetype start = out.size();
+    out.resize(start + lineLength * layout.rows);
+    char* to = out.data() + start;
+    const char* from = plane.constData();
+    for (int y = 0; y < layout.rows; ++y) {
+        *to++ = ' ';
+        *to++ = ' ';
+        for (int i = 0; i < layout.BytesPerLine(); ++i) {
+            const auto& text = texts[static_cast<uchar>(*from++)];
+            to = std::copy(text.begin(), text.end(), to);
+        }
+        to = std::copy(lineEnding.begin(), lineEnding.end(), to);
+    }
+}
+
+} // namespace
+
+CharBitmap::CharBitmap(CharInfo& info) : info_(info) {}
+
+PixelLayout CharBitmap::Layout() const
+{
+    return {info_.width, info_.Rows(), info_.font.bitsPerPixel};
+}
+
+bool CharBitmap::CanInsertRow() const
+{
+    return !IsLegacyFormat(info_.font.format) && info_.height < CharInfo::MaxSize;
+}
+
+bool CharBitmap::CanDeleteRow() const
+{
+    return !IsLegacyFormat(info_.font.format) && info_.height > 1;
+}
+
+bool CharBitmap::InsertColumnRight()
+{
+    if (info_.width == CharInfo::MaxSize)
+        return false;
+    PixelPlane::InsertColumnRight(data_, Layout());
+    info_.SetWidth(static_cast<quint8>(info_.width + 1));
+    return true;
+}
+
+bool CharBitmap::InsertColumnLeft()
+{
+    if (info_.width == CharInfo::MaxSize)
+        return false;
+    PixelPlane::InsertColumnLeft(data_, Layout());
+    info_.SetWidth(static_cast<quint8>(info_.width + 1));
+    return true;
+}
+
+bool CharBitmap::InsertRowTop()
+{
+    if (!CanInsertRow() || info_.yPos == MinOffset)
+        return false;
+    PixelPlane::InsertRowTop(data_, Layout());
+    ++info_.height;
+    --info_.yPos;
+    return true;
+}
+
+bool CharBitmap::InsertRowBottom()
+{
+    if (!CanInsertRow())
+        return false;
+    PixelPlane::InsertRowBottom(data_, Layout());
+    ++info_.height;
+    return true;
+}
+
+void CharBitmap::ShiftRight()
+{
+    PixelPlane::ShiftRight(data_, Layout());
+}
+
+void CharBitmap::ShiftLeft()
+{
+    PixelPlane::ShiftLeft(data_, Layout());
+}
+
+void CharBitmap::ShiftUp()
+{
+    PixelPlane::ShiftUp(data_, Layout());
+}
+
+void CharBitmap::ShiftDown()
+{
+    PixelPlane::ShiftDown(data_, Layout());
+}
+
+bool CharBitmap::ReadData(std::span<const uchar> source)
+{
+    const auto size = static_cast<std::size_t>(Layout().Size());
+    if (source.size() < size)
+        return false;
+    data_ = QByteArray(reinterpret_cast<const char*>(source.data()), Layout().Size());
+    return true;
+}
+
+void CharBitmap::RenderData(const RenderedGlyph& glyph, const GlyphPlacement& placement)
+{
+    data_ = ConvertGlyph(glyph, placement, info_.font.bitsPerPixel);
+}
+
+void CharBitmap::AdjustData()
+{
+    data_ = Resized(std::move(data_), Layout().Size());
+}
+
+void CharBitmap::Clear()
+{
+    cleared_ = true;
+    info_.xPos = 0;
+    info_.SetWidth(1);
+    if (IsLegacyFormat(info_.font.format)) {
+        info_.yPos = 0;
+        info_.height = info_.font.height;
+    } else {
+        info_.yPos = static_cast<qint8>(std::min<int>(info_.font.baseline, MaxOffset));
+        info_.height = 1;
+    }
+    data_ = QByteArray(Layout().Size(), '\0');
+}
+
+bool CharBitmap::DeleteColumnRight()
+{
+    if (info_.width <= 1)
+        return false;
+    PixelPlane::DeleteColumnRight(data_, Layout());
+    info_.SetWidth(static_cast<quint8>(info_.width - 1));
+    return true;
+}
+
+bool CharBitmap::DeleteColumnLeft()
+{
+    if (info_.width <= 1)
+        return false;
+    PixelPlane::DeleteColumnLeft(data_, Layout());
+    info_.SetWidth(static_cast<quint8>(info_.width - 1));
+    return true;
+}
+
+bool CharBitmap::DeleteRowTop()
+{
+    if (!CanDeleteRow() || info_.yPos == MaxOffset)
+        return false;
+    PixelPlane::DeleteRowTop(data_, Layout());
+    --info_.height;
+    ++info_.yPos;
+    return true;
+}
+
+bool CharBitmap::DeleteRowBottom()
+{
+    if (!CanDeleteRow())
+        return false;
+    PixelPlane::DeleteRowBottom(data_, Layout());
+    --info_.height;
+    return true;
+}
+
+void CharBitmap::SetPixelIndex(int x, int y, int index)
+{
+    PixelPlane::SetPixel(data_, Layout(), x, y, index);
+}
+
+void CharBitmap::IncPixelIndex(int x, int y)
+{
+    CharBitmap::SetPixelIndex(x, y, GetPixelIndex(x, y) + 1);
+}
+
+void CharBitmap::DecPixelIndex(int x, int y)
+{
+    CharBitmap::SetPixelIndex(x, y, GetPixelIndex(x, y) - 1);
+}
+
+void CharBitmap::InvertPixelIndex(int x, int y)
+{
+    CharBitmap::SetPixelIndex(x, y, ~GetPixelIndex(x, y));
+}
+
+void CharBitmap::Write(QByteArray& stream) const
+{
+    stream.append(data_);
+}
+
+void CharBitmap::WriteBytes(QByteArray& text, QByteArrayView lineEnding) const
+{
+    WritePlaneBytes(data_, Layout(), text, lineEnding);
+}
+
+QByteArray CharBitmap::DataAsList() const
+{
+    return data_;
+}
+
+void CharBitmap::AssignData(const QByteArray& data)
+{
+    data_ = data;
+    CharBitmap::AdjustData();
+}
+
+int CharBitmap::GetPixelIndex(int x, int y) const
+{
+    return PixelPlane::GetPixel(data_, Layout(), x, y);
+}
+
+void CharBitmap::InsertFontRowTop()
+{
+    PixelPlane::InsertRowTop(data_, Layout());
+}
+
+void CharBitmap::InsertFontRowBottom()
+{
+    PixelPlane::InsertRowBottom(data_, Layout());
+}
+
+void CharBitmap::DeleteFontRowTop()
+{
+    PixelPlane::DeleteRowTop(data_, Layout());
+}
+
+void CharBitmap::DeleteFontRowBottom()
+{
+    PixelPlane::DeleteRowBottom(data_, Layout());
+}
+
+QByteArray CharBitmap::Resized(QByteArray data, int size)
+{
+    if (data.size() < size)
+        data.append(size - data.size(), '\0');
+    else
+        data.truncate(size);
+    return data;
+}
+
+void CharBitmap::WritePlaneBytes(const QByteArray& plane, const PixelLayout& layout,
+                                 QByteArray& text, QByteArrayView lineEnding)
+{
+    if (layout.bitsPerPixel == 1)
+        AppendRows(plane, layout, PatternTexts, text, lineEnding);
+    else
+        AppendRows(plane, layout, HexTexts, text, lineEnding);
+}
+
+} // namespace Glyphor

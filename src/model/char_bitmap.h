@@ -1,0 +1,113 @@
+#pragma once
+
+#include "model/char_info.h"
+#include "model/glyph_conversion.h"
+#include "model/pixel_plane.h"
+
+#include <QByteArray>
+
+#include <span>
+
+namespace Glyphor {
+
+// The pixels of one character and every edit of them. Edits keep the character's metrics in step.
+//
+// An edit that returns bool is refused, and changes nothing, where the bitmap would become empty or
+// larger than 255 pixels, where an offset would leave its range, and for single rows of a legacy
+// character, whose height is the font's.
+class CharBitmap
+{
+public:
+    // The metrics stay the owner's and must outlive the bitmap. There are no pixels yet.
+    explicit CharBitmap(CharInfo& info);
+    CharBitmap(const CharBitmap&) = delete;
+    CharBitmap& operator=(const CharBitmap&) = delete;
+
+    virtual bool InsertColumnRight();
+    virtual bool InsertColumnLeft();
+    virtual bool InsertRowTop();
+    virtual bool InsertRowBottom();
+
+    virtual void ShiftRight();
+    virtual void ShiftLeft();
+    virtual void ShiftUp();
+    virtual void ShiftDown();
+
+    // Takes as many bytes as the metrics ask for; false, and no change, where the source has fewer.
+    virtual bool ReadData(std::span<const uchar> source);
+
+    // Takes the pixels of a glyph. The metrics must already be those of the placement.
+    virtual void RenderData(const RenderedGlyph& glyph, const GlyphPlacement& placement);
+
+    // Cuts the data to the size that the metrics ask for, or fills it up with empty pixels.
+    virtual void AdjustData();
+
+    // Leaves one empty column of the font's height, or one empty pixel on the baseline.
+    virtual void Clear();
+
+    virtual ~CharBitmap() = default;
+
+    virtual bool DeleteColumnRight();
+    virtual bool DeleteColumnLeft();
+    virtual bool DeleteRowTop();
+    virtual bool DeleteRowBottom();
+
+    // What undo calls: deleted pixels come back empty.
+    virtual bool UndoInsertColumnRight() { return DeleteColumnRight(); }
+    virtual bool UndoInsertColumnLeft() { return DeleteColumnLeft(); }
+    virtual bool UndoInsertRowTop() { return DeleteRowTop(); }
+    virtual bool UndoInsertRowBottom() { return DeleteRowBottom(); }
+    virtual bool UndoDeleteRowTop() { return InsertRowTop(); }
+    virtual bool UndoDeleteColumnRight() { return InsertColumnRight(); }
+
+    // Indices are masked to the font's depth, so they wrap; pixels outside are ignored.
+    virtual void SetPixelIndex(int x, int y, int index);
+    virtual void IncPixelIndex(int x, int y);
+    virtual void DecPixelIndex(int x, int y);
+    virtual void InvertPixelIndex(int x, int y);
+
+    // Appends the packed bytes.
+    virtual void Write(QByteArray& stream) const;
+
+    // Appends the bytes as C text, a line for each row: patterns of "X" and "_" for 1 bit per
+    // pixel, hexadecimal numbers for 2 and 4.
+    virtual void WriteBytes(QByteArray& text, QByteArrayView lineEnding) const;
+
+    [[nodiscard]] virtual QByteArray DataAsList() const;
+
+    // Replaces the bytes; they are adjusted to the size that the metrics ask for.
+    virtual void AssignData(const QByteArray& data);
+
+    // 0 outside the data.
+    [[nodiscard]] int GetPixelIndex(int x, int y) const;
+
+    // Rows that the font gains or loses as a whole; for legacy characters only.
+    void InsertFontRowTop();
+    void InsertFontRowBottom();
+    void DeleteFontRowTop();
+    void DeleteFontRowBottom();
+
+    [[nodiscard]] const CharInfo& Info() const { return info_; }
+    [[nodiscard]] const QByteArray& Data() const { return data_; }
+
+    // True from a Clear on.
+    [[nodiscard]] bool IsCleared() const { return cleared_; }
+
+protected:
+    // Of one plane, after the metrics.
+    [[nodiscard]] PixelLayout Layout() const;
+
+    [[nodiscard]] static QByteArray Resized(QByteArray data, int size);
+    static void WritePlaneBytes(const QByteArray& plane, const PixelLayout& layout,
+                                QByteArray& text, QByteArrayView lineEnding);
+
+private:
+    [[nodiscard]] bool CanInsertRow() const;
+    [[nodiscard]] bool CanDeleteRow() const;
+
+    CharInfo& info_;
+    QByteArray data_;
+    bool cleared_ = false;
+};
+
+} // namespace Glyphor

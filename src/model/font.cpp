@@ -1,0 +1,203 @@
+#include "model/font.h"
+
+#include "model/char_bitmap_framed.h"
+
+#include <limits>
+
+namespace Glyphor {
+
+Character::Character(const FontMetrics& font) : info{font}
+{
+    if (font.format == FontFormat::Framed)
+        bitmap = std::make_unique<CharBitmapFramed>(info);
+    else
+        bitmap = std::make_unique<CharBitmap>(info);
+}
+
+Font::Font(FontFormat format, EncodingType encoding)
+{
+    metrics_.format = format;
+    metrics_.bitsPerPixel = static_cast<quint8>(BitsPerPixel(format));
+    metrics_.encoding = encoding;
+}
+
+void Font::SetHeight(quint8 height)
+{
+    metrics_.height = height;
+    metrics_.verticalSpace = height;
+}
+
+void Font::SetReferenceHeights(quint8 lowercase, quint8 capital)
+{
+    metrics_.lowercaseHeight = lowercase;
+    metrics_.capitalHeight = capital;
+}
+
+Character* Font::FindChar(quint16 code)
+{
+    const auto& page = pages_[code / PageSize];
+    return page ? (*page)[code % PageSize].get() : nullptr;
+}
+
+const Character* Font::FindChar(quint16 code) const
+{
+    const auto& page = pages_[code / PageSize];
+    return page ? (*page)[code % PageSize].get() : nullptr;
+}
+
+Character& Font::Create(quint16 code)
+{
+    auto& page = pages_[code / PageSize];
+    if (!page)
+        page = std::make_unique<Page>();
+    auto& character = (*page)[code % PageSize];
+    character = std::make_unique<Character>(metrics_);
+    existing_.Set(code, true);
+    enabled_.Set(code, true);
+    return *character;
+}
+
+Character& Font::AddChar(quint16 code)
+{
+    if (Character* const existing = FindChar(code))
+        return *existing;
+    Character& character = Create(code);
+    character.bitmap->Clear();
+    return character;
+}
+
+Font::AddResult Font::AddChar(quint16 code, const RenderedGlyph& glyph)
+{
+    if (existing_.Test(code))
+        return AddResult::Exists;
+    const auto placement = PlaceGlyph(glyph, metrics_);
+    if (!placement)
+        return AddResult::DoesNotFit;
+
+    Character& character = Create(code);
+    character.info.SetWidth(static_cast<quint8>(placement->width));
+    character.info.height = static_cast<quint8>(placement->height);
+    character.info.xPos = static_cast<qint8>(placement->xPos);
+    character.info.yPos = static_cast<qint8>(placement->yPos);
+    character.info.cursorDistance = static_cast<quint8>(placement->cursorDistance);
+    character.bitmap->RenderData(glyph, *placement);
+    return AddResult::Added;
+}
+
+bool Font::IsEnabled(quint16 code) const
+{
+    return enabled_.Test(code) && existing_.Test(code);
+}
+
+void Font::SetEnabled(quint16 first, quint16 last, bool state)
+{
+    enabled_.SetRange(first, last, state);
+    if (!state)
+        return;
+    for (int code = existing_.Next(first, false); code <= last; code = existing_.Next(code, false))
+        AddChar(static_cast<quint16>(code));
+}
+
+bool Font::HasEnabledChars() const
+{
+    CodeSet codes = enabled_;
+    codes &= existing_;
+    return codes.Next(0) != CodeSet::Count;
+}
+
+std::vector<CodeRun> Font::EnabledRuns() const
+{
+    CodeSet codes = enabled_;
+    codes &= existing_;
+    std::vector<CodeRun> runs;
+    int end = 0;
+    for (int first = codes.Next(0); first < CodeSet::Count; first = codes.Next(end)) {
+        end = codes.Next(first, false);
+        runs.push_back({static_cast<quint16>(first), static_cast<quint16>(end - 1)});
+    }
+    return runs;
+}
+
+int Font::CharDataWidth(const Character& character) const
+{
+    const int planes = metrics_.format == FontFormat::Framed ? 2 : 1;
+    return planes * character.info.bytesPerLine;
+}
+
+template <typename Edit>
+void Font::ForEachChar(Edit edit) const
+{
+    for (int code = existing_.Next(0); code < CodeSet::Count; code = existing_.Next(code + 1)) {
+        const auto index = static_cast<std::size_t>(code);
+        edit(*(*pages_[index / PageSize])[index % PageSize]);
+    }
+}
+
+bool Font::CanMoveDown(int rows) const
+{
+    const int baseline = metrics_.baseline + rows;
+    bool canMove = baseline >= 0 && baseline <= std::numeric_limits<quint8>::max();
+    if (!IsLegacyFormat(metrics_.format)) {
+        ForEachChar([&canMove, rows](const Character& character) {
+            const int yPos = character.info.yPos + rows;
+            canMove = canMove && yPos >= std::numeric_limits<qint8>::min() &&
+                      yPos <= std::numeric_limits<qint8>::max();
+        });
+    }
+    return canMove;
+}
+
+void Font::MoveDown(int rows)
+{
+    metrics_.baseline = static_cast<quint8>(metrics_.baseline + rows);
+    // A legacy character has no offset: its rows move instead.
+    if (IsLegacyFormat(metrics_.format))
+        return;
+    ForEachChar([rows](Character& character) {
+        character.info.yPos = static_cast<qint8>(character.info.yPos + rows);
+    });
+}
+
+bool Font::EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)())
+{
+    const bool isLegacy = IsLegacyFormat(metrics_.format);
+    const int height = metrics_.height + change;
+    const bool atTop = edge == RowEdge::Top;
+    if (height < (isLegacy ? 1 : 0) || height > CharInfo::MaxSize)
+        return false;
+    if (atTop && !CanMoveDown(change))
+        return false;
+
+    if (isLegacy) {
+        ForEachChar([=](Character& character) {
+            (character.bitmap.get()->*legacyEdit)();
+            character.info.height = static_cast<quint8>(height);
+        });
+    }
+    SetHeight(static_cast<quint8>(height));
+    if (atTop)
+        MoveDown(change);
+    return true;
+}
+
+bool Font::InsertRowTop()
+{
+    return EditRow(RowEdge::Top, 1, &CharBitmap::InsertFontRowTop);
+}
+
+bool Font::InsertRowBottom()
+{
+    return EditRow(RowEdge::Bottom, 1, &CharBitmap::InsertFontRowBottom);
+}
+
+bool Font::DeleteRowTop()
+{
+    return EditRow(RowEdge::Top, -1, &CharBitmap::DeleteFontRowTop);
+}
+
+bool Font::DeleteRowBottom()
+{
+    return EditRow(RowEdge::Bottom, -1, &CharBitmap::DeleteFontRowBottom);
+}
+
+} // namespace Glyphor

@@ -1,0 +1,131 @@
+#pragma once
+
+#include "model/char_bitmap.h"
+#include "model/code_set.h"
+
+#include <QString>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace Glyphor {
+
+// How much closer (or further apart) a character and the one with this code stand.
+struct KerningPair
+{
+    quint16 right;
+    qint32 distance; // pixels
+
+    bool operator==(const KerningPair&) const = default;
+};
+
+// One character of a font.
+struct Character
+{
+    explicit Character(const FontMetrics& font);
+
+    CharInfo info;
+    std::unique_ptr<CharBitmap> bitmap;
+    std::vector<KerningPair> kerning;
+};
+
+// A stretch of consecutive codes, all enabled.
+struct CodeRun
+{
+    quint16 first;
+    quint16 last;
+
+    [[nodiscard]] int Size() const { return last - first + 1; }
+    bool operator==(const CodeRun&) const = default;
+};
+
+// One bitmap font: its metrics, its characters by code, and the codes that are enabled. Only
+// characters that exist and are enabled are saved.
+class Font
+{
+public:
+    enum class AddResult { Added, Exists, DoesNotFit };
+
+    Font(FontFormat format, EncodingType encoding);
+    Font(const Font&) = delete;
+    Font& operator=(const Font&) = delete;
+
+    [[nodiscard]] const FontMetrics& Metrics() const { return metrics_; }
+    void SetHeight(quint8 height); // and the line distance, which equals it
+    void SetBaseline(quint8 baseline) { metrics_.baseline = baseline; }
+    void SetReferenceHeights(quint8 lowercase, quint8 capital);
+    void SetMaxWidth(quint8 width) { metrics_.maxWidth = width; }
+
+    [[nodiscard]] const QString& Name() const { return name_; }
+    void SetName(const QString& name) { name_ = name; }
+
+    // Whether the source face has kerning.
+    [[nodiscard]] bool HasKerning() const { return hasKerning_; }
+    void SetHasKerning(bool hasKerning) { hasKerning_ = hasKerning; }
+
+    // A text for the sibling tool Kestrix that XBF files may carry.
+    [[nodiscard]] const QString& ToolText() const { return toolText_; }
+    void SetToolText(const QString& text) { toolText_ = text; }
+
+    // Null where the font has no such character.
+    [[nodiscard]] Character* FindChar(quint16 code);
+    [[nodiscard]] const Character* FindChar(quint16 code) const;
+
+    // Gives a missing code an empty character and enables it; an existing one stays as it is.
+    Character& AddChar(quint16 code);
+
+    // Adds and enables a rendered character, unless the code exists or a field can't hold it.
+    AddResult AddChar(quint16 code, const RenderedGlyph& glyph);
+
+    // True for an enabled code that has a character.
+    [[nodiscard]] bool IsEnabled(quint16 code) const;
+
+    // Enabling gives every missing code of the range an empty character.
+    void SetEnabled(quint16 first, quint16 last, bool state);
+
+    // Sets the bits alone: it creates no characters.
+    void SetEnabledCodes(const CodeSet& codes) { enabled_ = codes; }
+
+    [[nodiscard]] const CodeSet& EnabledCodes() const { return enabled_; }
+    [[nodiscard]] const CodeSet& ExistingCodes() const { return existing_; }
+
+    [[nodiscard]] bool HasEnabledChars() const;
+
+    // The enabled characters as maximal runs of consecutive codes, in ascending order.
+    [[nodiscard]] std::vector<CodeRun> EnabledRuns() const;
+
+    // Bytes of one pixel row of the character in a file, all planes together.
+    [[nodiscard]] int CharDataWidth(const Character& character) const;
+
+    // Rows of the whole font, which legacy characters gain or lose in their pixels. Refused,
+    // without a change, where a metric would leave its range or legacy characters would become
+    // empty.
+    bool InsertRowTop();
+    bool InsertRowBottom();
+    bool DeleteRowTop();
+    bool DeleteRowBottom();
+
+private:
+    static constexpr std::size_t PageSize = 256;
+    using Page = std::array<std::unique_ptr<Character>, PageSize>;
+
+    enum class RowEdge { Top, Bottom };
+
+    Character& Create(quint16 code);
+    bool EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)());
+    [[nodiscard]] bool CanMoveDown(int rows) const;
+    void MoveDown(int rows);
+    template <typename Edit>
+    void ForEachChar(Edit edit) const;
+
+    FontMetrics metrics_;
+    QString name_;
+    bool hasKerning_ = false;
+    QString toolText_;
+    std::array<std::unique_ptr<Page>, PageSize> pages_;
+    CodeSet existing_;
+    CodeSet enabled_;
+};
+
+} // namespace Glyphor

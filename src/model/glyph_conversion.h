@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/font_metrics.h"
+#include "model/rendered_glyph.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace Glyphor {
+
+// Where a rendered glyph goes in the bitmap of its character, and that character's metrics.
+struct GlyphPlacement
+{
+    int width = 0;
+    int height = 0;
+    int xPos = 0;
+    int yPos = 0;
+    int cursorDistance = 0;
+    int column = 0; // of the glyph's first column in the bitmap
+    int row = 0;    // of the glyph's first row; rows outside the bitmap are dropped
+};
+
+// Fits a glyph into the fields of a character of such a font without moving its picture. Empty
+// where a field can't hold what the glyph needs.
+[[nodiscard]] std::optional<GlyphPlacement> PlaceGlyph(const RenderedGlyph& glyph,
+                                                       const FontMetrics& font);
+
+// The packed pixel rows of the placed glyph, quantised to the font's depth.
+[[nodiscard]] QByteArray ConvertGlyph(const RenderedGlyph& glyph, const GlyphPlacement& placement,
+                                      int bitsPerPixel);
+
+// The palette index of a coverage (0 to 255) at 1, 2, 4 or 8 bits per pixel.
+[[nodiscard]] quint8 QuantiseCoverage(quint8 coverage, int bitsPerPixel);
+
+} // namespace Glyphor
