@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QStringView>
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+namespace Glyphor {
+
+// ANSI foreground colours.
+enum class ConsoleColour : int {
+    Red = 31,
+    Green = 32,
+    Yellow = 33,
+    Blue = 34,
+    Magenta = 35,
+    Cyan = 36,
+    Default = 39
+};
+
+// The console text attribute (foreground colour bits) that stands for a colour on the desktop
+// system whose consoles have attributes; empty for a colour without one.
+[[nodiscard]] std::optional<int> ConsoleAttribute(ConsoleColour colour);
+
+// How a kind of output shows colours.
+class ConsolePainter
+{
+public:
+    ConsolePainter() = default;
+    ConsolePainter(const ConsolePainter&) = delete;
+    ConsolePainter& operator=(const ConsolePainter&) = delete;
+    virtual ~ConsolePainter() = default;
+
+    virtual void SetColour(ConsoleColour colour) = 0;
+};
+
+// Text output in colour where the output is a terminal, and plain elsewhere.
+class Console
+{
+public:
+    // The stream stays the caller's.
+    explicit Console(std::FILE* stream);
+
+    void Print(QStringView text, ConsoleColour colour = ConsoleColour::Default);
+    void PrintLine(QStringView text, ConsoleColour colour = ConsoleColour::Default);
+
+    [[nodiscard]] bool IsTerminal() const { return isTerminal_; }
+
+private:
+    void Write(QStringView text);
+
+    std::FILE* stream_;
+    bool isTerminal_;
+    std::unique_ptr<ConsolePainter> painter_;
+};
+
+} // namespace Glyphor

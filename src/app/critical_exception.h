@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+
+namespace Glyphor {
+
+// A failure that ends the work at hand. Thrown where it is noticed and shown by the front end.
+class CriticalException : public std::exception
+{
+public:
+    static QString DefaultTitle() { return QStringLiteral("Critical error!"); }
+
+    CriticalException(const QString& title, const QString& text)
+        : title_(title), text_(text), what_((title + QStringLiteral(": ") + text).toUtf8())
+    {}
+
+    explicit CriticalException(const QString& text) : CriticalException(DefaultTitle(), text) {}
+
+    [[nodiscard]] const QString& Title() const { return title_; }
+    [[nodiscard]] const QString& Text() const { return text_; }
+    [[nodiscard]] const char* what() const noexcept override { return what_.constData(); }
+
+private:
+    QString title_;
+    QString text_;
+    QByteArray what_;
+};
+
+} // namespace Glyphor

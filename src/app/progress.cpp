@@ -1,0 +1,32 @@
+#include "app/progress.h"
+
+#include "app/user_interface.h"
+
+#include <algorithm>
+
+namespace Glyphor {
+
+Progress::Progress(const QString& text, int maximum) : text_(text), maximum_(std::max(1, maximum))
+{
+    Report();
+}
+
+Progress::~Progress()
+{
+    CurrentInterface().progressFinished();
+}
+
+void Progress::SetValue(int value)
+{
+    value_ = std::min(value, maximum_);
+    if (value_ >= nextReport_)
+        Report();
+}
+
+void Progress::Report()
+{
+    CurrentInterface().progressChanged(text_, value_, maximum_);
+    nextReport_ = value_ + std::max(1, maximum_ / 100);
+}
+
+} // namespace Glyphor

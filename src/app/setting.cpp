@@ -1,0 +1,42 @@
+#include "app/setting.h"
+
+#include <QDataStream>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+std::optional<bool> ToSetting(const QVariant& stored, const bool*)
+{
+    // A text store gives back texts, and any other text would count as true.
+    const QString text = stored.toString().toLower();
+    if (text == "true"_L1 || text == "1"_L1)
+        return true;
+    if (text == "false"_L1 || text == "0"_L1)
+        return false;
+    return std::nullopt;
+}
+
+std::optional<int> ToSetting(const QVariant& stored, const int*)
+{
+    bool isNumber = false;
+    const int number = stored.toInt(&isNumber);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+std::optional<QStringList> ToSetting(const QVariant& stored, const QStringList*)
+{
+    return stored.canConvert<QStringList>() ? std::optional(stored.toStringList()) : std::nullopt;
+}
+
+QDataStream& operator<<(QDataStream& out, const WindowData& data)
+{
+    return out << data.geometry << data.state;
+}
+
+QDataStream& operator>>(QDataStream& in, WindowData& data)
+{
+    return in >> data.geometry >> data.state;
+}
+
+} // namespace Glyphor

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "app/settings_registry.h"
+
+#include <QMetaType>
+#include <QVariant>
+
+namespace Glyphor {
+
+// The common part of every setting: its key in the registry that holds it.
+class OptionBase
+{
+public:
+    OptionBase(const OptionBase&) = delete;
+    OptionBase& operator=(const OptionBase&) = delete;
+
+    [[nodiscard]] const QString& key() const { return key_; }
+
+protected:
+    OptionBase(SettingsRegistry& registry, const QString& key) : registry_(registry), key_(key) {}
+    ~OptionBase() = default;
+
+    [[nodiscard]] SettingsRegistry& registry() const { return registry_; }
+
+private:
+    SettingsRegistry& registry_;
+    QString key_;
+};
+
+// The stored value as the type of a setting; empty where it is not one.
+[[nodiscard]] std::optional<bool> ToSetting(const QVariant& stored, const bool*);
+[[nodiscard]] std::optional<int> ToSetting(const QVariant& stored, const int*);
+[[nodiscard]] std::optional<QStringList> ToSetting(const QVariant& stored, const QStringList*);
+
+// A setting bound to a variable, which has the stored value or else the default.
+template <typename Value>
+class OptionByRef final : public OptionBase
+{
+public:
+    OptionByRef(SettingsRegistry& registry, const QString& key, Value& variable,
+                const Value& defaultValue)
+        : OptionBase(registry, key), variable_(variable)
+    {
+        registry.registerDefault(key, QVariant::fromValue(defaultValue));
+        variable_ = ToSetting(registry.value(key), static_cast<const Value*>(nullptr))
+                        .value_or(defaultValue);
+    }
+
+    [[nodiscard]] const Value& value() const { return variable_; }
+
+    void setValue(const Value& value)
+    {
+        variable_ = value;
+        registry().setValue(key(), QVariant::fromValue(value));
+    }
+
+private:
+    Value& variable_;
+};
+
+// The whole record of a dialog's last entries and geometry, stored as one value. The record is a
+// plain type with data stream operators.
+template <typename Record>
+class OptionDialogData : public OptionBase
+{
+public:
+    OptionDialogData(SettingsRegistry& registry, const QString& key, const char* typeName)
+        : OptionBase(registry, key)
+    {
+        qRegisterMetaType<Record>(typeName);
+    }
+
+    // The stored record; its defaults where none is stored or something else is.
+    [[nodiscard]] Record load() const
+    {
+        const QVariant stored = registry().value(key());
+        return stored.canConvert<Record>() ? stored.value<Record>() : Record();
+    }
+
+    void save(const Record& record) { registry().setValue(key(), QVariant::fromValue(record)); }
+};
+
+// Where a window stood, and how its parts were arranged, in the toolkit's own form.
+struct WindowData
+{
+    QByteArray geometry;
+    QByteArray state;
+
+    bool operator==(const WindowData&) const = default;
+};
+
+QDataStream& operator<<(QDataStream& out, const WindowData& data);
+QDataStream& operator>>(QDataStream& in, WindowData& data);
+
+class OptionWindowData final : public OptionDialogData<WindowData>
+{
+public:
+    using OptionDialogData::OptionDialogData;
+};
+
+} // namespace Glyphor

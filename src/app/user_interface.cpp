@@ -1,0 +1,59 @@
+#include "app/user_interface.h"
+
+namespace Glyphor {
+
+namespace {
+
+BasicInterface* current = nullptr;
+
+} // namespace
+
+void UserInterface::information(const QString&, const QString&) {}
+
+void UserInterface::warning(const QString&, const QString&) {}
+
+void UserInterface::critical(const QString&, const QString&) {}
+
+bool UserInterface::handleRequest(ActionType)
+{
+    return false;
+}
+
+bool UserInterface::requestAction(Action&)
+{
+    return false;
+}
+
+bool UserInterface::actionPerformed(const std::shared_ptr<Action>& action, const QString&)
+{
+    return action != nullptr;
+}
+
+void UserInterface::actionChanged(const std::shared_ptr<Action>&) {}
+
+void UserInterface::progressChanged(const QString&, int, int) {}
+
+void UserInterface::progressFinished() {}
+
+int UserInterface::askFontFormat()
+{
+    return -1;
+}
+
+int UserInterface::askMergeMode()
+{
+    return 0;
+}
+
+BasicInterface& CurrentInterface()
+{
+    static UserInterface silent;
+    return current != nullptr ? *current : silent;
+}
+
+void SetCurrentInterface(BasicInterface* interface)
+{
+    current = interface;
+}
+
+} // namespace Glyphor

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "app/action_type.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace Glyphor {
+
+class Action;
+
+// How the engine talks to whoever uses it. The engine reaches the current one through
+// CurrentInterface() and never prints, asks or shows anything itself.
+class BasicInterface
+{
+public:
+    BasicInterface() = default;
+    BasicInterface(const BasicInterface&) = delete;
+    BasicInterface& operator=(const BasicInterface&) = delete;
+
+    virtual void information(const QString& title, const QString& text) = 0;
+    virtual void warning(const QString& title, const QString& text) = 0;
+    virtual void critical(const QString& title, const QString& text) = 0;
+
+    // Handles a kind that has no action object; false where it doesn't.
+    virtual bool handleRequest(ActionType kind) = 0;
+
+    // Fills the action's argument record; false: the action is not to be performed.
+    virtual bool requestAction(Action& action) = 0;
+
+    // Tells that an action was performed, with its log line. True if there is an action.
+    virtual bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) = 0;
+
+    // Tells that an action was undone or redone, so that views show the change.
+    virtual void actionChanged(const std::shared_ptr<Action>& action) = 0;
+
+    // Long work: `value` runs from 0 to `maximum`, in steps worth showing.
+    virtual void progressChanged(const QString& text, int value, int maximum) = 0;
+    virtual void progressFinished() = 0;
+
+    // The number of the chosen font format, or -1.
+    virtual int askFontFormat() = 0;
+
+    // The number of the chosen merge mode, or 0.
+    virtual int askMergeMode() = 0;
+
+    virtual ~BasicInterface() = default;
+};
+
+// Says nothing and answers no question: what an interface does unless it knows better.
+class UserInterface : public BasicInterface
+{
+public:
+    void information(const QString& title, const QString& text) override;
+    void warning(const QString& title, const QString& text) override;
+    void critical(const QString& title, const QString& text) override;
+    bool handleRequest(ActionType kind) override;
+    bool requestAction(Action& action) override;
+    bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
+    void actionChanged(const std::shared_ptr<Action>& action) override;
+    void progressChanged(const QString& text, int value, int maximum) override;
+    void progressFinished() override;
+    int askFontFormat() override;
+    int askMergeMode() override;
+};
+
+// The process-wide interface: a silent one until a front end sets its own.
+[[nodiscard]] BasicInterface& CurrentInterface();
+
+// The interface stays the caller's and must be taken back (null) before it goes.
+void SetCurrentInterface(BasicInterface* interface);
+
+} // namespace Glyphor

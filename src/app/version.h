@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+// What the program calls itself in generated files.
+namespace Glyphor::Program {
+
+extern const QLatin1StringView Name;
+extern const QLatin1StringView Version;
+
+// When this binary was compiled, in the form "Jul 30 2024" and "14:38:18".
+extern const QLatin1StringView BuildDate;
+extern const QLatin1StringView BuildTime;
+
+} // namespace Glyphor::Program
