@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <optional>
+
+namespace Glyphor {
+
+// What the settings and the history add to a generated C file.
+struct CFileOptions
+{
+    QByteArray lineEnding = "\r\n";
+    std::optional<QStringList> actionLog; // empty: the header has no log
+};
+
+// The name of a font as a part of C identifiers: cut at its last ".", and everything but ASCII
+// letters, digits and "_" replaced by "_".
+[[nodiscard]] QByteArray CName(const QString& fontName);
+
+// A symbol that C takes: "_" in front of one that would begin with a digit.
+[[nodiscard]] QByteArray CSymbol(const QByteArray& name);
+
+// The text of a generated C file while it is composed, with the pieces that all such files share.
+class CFileText
+{
+public:
+    CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName);
+
+    void Reserve(qsizetype size) { bytes_.reserve(size); }
+
+    // Adds the text and a line ending.
+    void Line(QByteArrayView text = {});
+
+    // The box at the head of the file.
+    void CommentBox(int fontHeight, QByteArrayView contentType);
+
+    // Lines only for the name of a header.
+    void IncludeGuardStart();
+    void IncludeGuardEnd();
+
+    void IncludeLine();
+    void StorageClassBlock();
+
+    // Three comment lines, the text in the middle one.
+    void Triple(QByteArrayView text);
+
+    void EndLine();
+
+    // For text that is written straight into the file.
+    [[nodiscard]] QByteArray& Bytes() { return bytes_; }
+    [[nodiscard]] QByteArrayView LineEnding() const { return options_.lineEnding; }
+
+private:
+    void BoxLine(const QString& text);
+    void BoxRule();
+    void BoxActionLog(const QStringList& log);
+
+    CFileOptions options_;
+    QString fileName_;
+    QString fontName_;
+    QByteArray guardSymbol_; // empty where the file has no guard
+    QByteArray bytes_;
+};
+
+} // namespace Glyphor

@@ -1,0 +1,40 @@
+#include "files/file_types.h"
+
+#include <algorithm>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array TrueTypeSuffixes = {".ttf"_L1, ".otf"_L1, ".woff"_L1};
+constexpr std::array CollectionSuffixes = {".ttc"_L1};
+constexpr std::array BdfSuffixes = {".bdf"_L1};
+constexpr std::array CSuffixes = {".c"_L1, ".cpp"_L1, ".cxx"_L1, ".cc"_L1,
+                                  ".h"_L1, ".hpp"_L1, ".hxx"_L1, ".hh"_L1};
+constexpr std::array XbfSuffixes = {".xbf"_L1};
+constexpr std::array SifSuffixes = {".sif"_L1};
+
+} // namespace
+
+constexpr std::array<FileTypeRow, 6> FileTypeTable = {{
+    {FileType::TrueType, "TrueType font formats"_L1, TrueTypeSuffixes},
+    {FileType::TrueTypeCollection, "TrueType font formats"_L1, CollectionSuffixes},
+    {FileType::Bdf, "Glyph Bitmap Distribution Format"_L1, BdfSuffixes},
+    {FileType::C, "C fonts"_L1, CSuffixes},
+    {FileType::Xbf, "External Bitmap Fonts"_L1, XbfSuffixes},
+    {FileType::Sif, "System Independent Fonts"_L1, SifSuffixes},
+}};
+
+std::optional<FileType> FileTypeOf(QStringView fileName)
+{
+    const auto row = std::ranges::find_if(FileTypeTable, [fileName](const FileTypeRow& entry) {
+        return std::ranges::any_of(entry.suffixes, [fileName](QLatin1StringView suffix) {
+            return fileName.endsWith(suffix, Qt::CaseInsensitive);
+        });
+    });
+    return row == FileTypeTable.end() ? std::nullopt : std::optional(row->type);
+}
+
+} // namespace Glyphor

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLatin1StringView>
+#include <QStringView>
+
+#include <array>
+#include <optional>
+#include <span>
+
+namespace Glyphor {
+
+enum class FileType { TrueType, TrueTypeCollection, Bdf, C, Xbf, Sif };
+
+// A kind of font file and the suffixes that tell it: never the contents of a file.
+struct FileTypeRow
+{
+    FileType type;
+    QLatin1StringView description;
+    std::span<const QLatin1StringView> suffixes;
+};
+
+// In the order in which a name is tested.
+extern const std::array<FileTypeRow, 6> FileTypeTable;
+
+// The first kind one of whose suffixes ends the name, in any letter case.
+[[nodiscard]] std::optional<FileType> FileTypeOf(QStringView fileName);
+
+// True for the kinds that are rendered at a height.
+[[nodiscard]] constexpr bool IsScalable(FileType type)
+{
+    return type == FileType::TrueType || type == FileType::TrueTypeCollection;
+}
+
+} // namespace Glyphor

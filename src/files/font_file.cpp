@@ -1,0 +1,24 @@
+#include "files/font_file.h"
+
+#include "app/critical_exception.h"
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+void ThrowUnsupportedFormat()
+{
+    throw CriticalException(u"Unsupported format!"_s, u"Given file format is not supported!"_s);
+}
+
+std::unique_ptr<Font> FontFile::Read()
+{
+    ThrowUnsupportedFormat();
+}
+
+void FontFile::Write(const Font&)
+{
+    ThrowUnsupportedFormat();
+}
+
+} // namespace Glyphor

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/file.h"
+#include "model/font.h"
+
+#include <memory>
+#include <optional>
+
+namespace Glyphor {
+
+// A file that holds a font. Each kind opens its device itself; a kind that can't be read or written
+// says so with a CriticalException.
+class FontFile : public File
+{
+public:
+    using File::File;
+
+    // Throws a CriticalException where the file doesn't hold a font.
+    virtual std::unique_ptr<Font> Read();
+
+    // Writes the enabled characters, of which there must be some. Throws a CriticalException where
+    // the file can't be written.
+    virtual void Write(const Font& font);
+
+    // Where set, reading leaves out the characters that are not in it.
+    void SetCharacterFilter(const std::optional<CodeSet>& filter) { filter_ = filter; }
+
+protected:
+    [[nodiscard]] const std::optional<CodeSet>& CharacterFilter() const { return filter_; }
+
+private:
+    std::optional<CodeSet> filter_;
+};
+
+// Throws the failure of a file kind that can't do what is asked.
+[[noreturn]] void ThrowUnsupportedFormat();
+
+} // namespace Glyphor

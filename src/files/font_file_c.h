@@ -1,0 +1,24 @@
+#pragma once
+
+#include "files/c_file_text.h"
+#include "files/font_file.h"
+
+namespace Glyphor {
+
+// A font as C source or, by the suffix of the file's name, as a C header: an array per character,
+// the table of their metrics, a property block per run of codes, and the font structure.
+class FontFileC final : public FontFile
+{
+public:
+    FontFileC(const QString& path, const CFileOptions& options);
+
+    void Write(const Font& font) override;
+
+    // The whole text of the file.
+    [[nodiscard]] QByteArray Compose(const Font& font) const;
+
+private:
+    CFileOptions options_;
+};
+
+} // namespace Glyphor
