@@ -1,0 +1,66 @@
+#include "render/font_file_ft.h"
+
+#include "app/user_interface.h"
+#include "model/unicode_table.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+quint8 ReferenceHeight(const FreeTypeFace& face, CharacterCategory category, quint8 fallback)
+{
+    const CharacterData::CharacterRecord* const reference = FirstOfCategory(category);
+    const int height = reference != nullptr ? face.GlyphHeight(reference->code) : 0;
+    return height != 0 ? ClampMetric(height) : fallback;
+}
+
+} // namespace
+
+quint8 ClampMetric(int value)
+{
+    return static_cast<quint8>(std::min<unsigned>(static_cast<unsigned>(value), 255));
+}
+
+void FontFileFT::MeasureReferenceHeights(const FreeTypeFace& face, Font& font)
+{
+    const quint8 height = font.Metrics().height;
+    font.SetReferenceHeights(ReferenceHeight(face, CharacterCategory::LowercaseLetter, height),
+                             ReferenceHeight(face, CharacterCategory::UppercaseLetter, height));
+}
+
+bool FontFileFT::AddGlyph(Font& font, quint16 code, const RenderedGlyph& glyph)
+{
+    if (glyph.pixels.empty() && glyph.cursorDistance <= 0)
+        return false;
+    const Font::AddResult result = font.AddChar(code, glyph);
+    if (result == Font::AddResult::DoesNotFit)
+        misfits_.push_back(code);
+    return result == Font::AddResult::Added;
+}
+
+void FontFileFT::WarnOfMisfits() const
+{
+    constexpr std::size_t listed = 8;
+    if (misfits_.empty())
+        return;
+    QStringList codes;
+    for (std::size_t index = 0; index < std::min(listed, misfits_.size()); ++index)
+        codes.append(u"0x"_s +
+                     QString::number(misfits_[index], 16).toUpper().rightJustified(4, u'0'));
+    if (misfits_.size() > listed)
+        codes.append(u"..."_s);
+    CurrentInterface().warning(
+        u"Characters left out"_s,
+        u"%1 characters were left out, since they need more than a character can hold "
+        "(255 pixels each way, a cursor distance from 0 to 255, offsets down to -128): %2"_s
+            .arg(misfits_.size())
+            .arg(codes.join(u", "_s)));
+}
+
+} // namespace Glyphor

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "render/font_file_ft.h"
+
+namespace Glyphor {
+
+// What a font is to be rendered as.
+struct RenderOptions
+{
+    FontFormat format = FontFormat::Standard;
+    EncodingType encoding = EncodingType::Unicode;
+    FontSize size;
+    quint32 effects = 0; // bits of FaceEffect
+    int faceIndex = 0;
+};
+
+// A scalable font file, rendered at one size into a font of one format. Read only.
+class FontFileScalable : public FontFileFT
+{
+public:
+    // Empty where the face could be opened.
+    [[nodiscard]] QString OpenFault() const { return face_.OpenFault(); }
+
+    // How many face indices the file takes: 0 up to one less than this.
+    [[nodiscard]] virtual int FaceCount() const = 0;
+
+    // The face's characters as a font; one without characters where the face could not be opened.
+    std::unique_ptr<Font> Read() override;
+
+protected:
+    FontFileScalable(const QString& path, const RenderOptions& options);
+
+    // Takes the face that is rendered and gives it the depth and the size.
+    void UseFace(const FreeTypeFace& face);
+
+    [[nodiscard]] const RenderOptions& Options() const { return options_; }
+    [[nodiscard]] FreeTypeFace& Face() { return face_; }
+    [[nodiscard]] const FreeTypeFace& Face() const { return face_; }
+
+private:
+    void SetMetrics(Font& font) const;
+    void RenderCharmap(Font& font);
+    void WarnOfMissingSize() const;
+    [[nodiscard]] QString FontName() const;
+
+    FreeTypeFace face_;
+    RenderOptions options_;
+};
+
+// A single face, a member of a collection by its index, or a named instance of a multi-master face,
+// where index 0 is the default instance.
+class FontFileTTF : public FontFileScalable
+{
+public:
+    FontFileTTF(const QString& path, const RenderOptions& options);
+
+    [[nodiscard]] int FaceCount() const override { return faceCount_; }
+
+private:
+    int faceCount_ = 0;
+};
+
+// How a face describes itself.
+struct FaceDescription
+{
+    QString familyName;
+    QString styleName;
+    FaceStyle style;
+};
+
+// A TrueType collection; the face index selects the member.
+class FontFileTTC final : public FontFileTTF
+{
+public:
+    FontFileTTC(const QString& path, const RenderOptions& options);
+
+    [[nodiscard]] int FaceCount() const override { return faceCount_; }
+
+    // One entry per face, in the order of their indices.
+    [[nodiscard]] QList<FaceDescription> FaceDescriptions() const;
+    [[nodiscard]] QStringList FamilyNames() const;
+
+private:
+    int faceCount_;
+};
+
+} // namespace Glyphor

@@ -1,0 +1,422 @@
+#include "render/free_type_face.h"
+
+#include "app/settings.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QtEndian>
+
+#include FT_MULTIPLE_MASTERS_H
+#include FT_SFNT_NAMES_H
+#include FT_SYNTHESIS_H
+#include FT_TRUETYPE_TABLES_H
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <span>
+#include <utility>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The library lives until the process ends.
+class LibraryHolder
+{
+public:
+    LibraryHolder() { FT_Init_FreeType(&library_); }
+    ~LibraryHolder() { FT_Done_FreeType(library_); }
+    LibraryHolder(const LibraryHolder&) = delete;
+    LibraryHolder& operator=(const LibraryHolder&) = delete;
+
+    [[nodiscard]] FT_Library Get() const { return library_; }
+
+private:
+    FT_Library library_ = nullptr;
+};
+
+struct VariationsDeleter
+{
+    FT_Library library;
+    void operator()(FT_MM_Var* variations) const { FT_Done_MM_Var(library, variations); }
+};
+
+using Variations = std::unique_ptr<FT_MM_Var, VariationsDeleter>;
+
+// The axes and named instances of a multi-master face; null for any other.
+Variations VariationsOf(FT_Library library, FT_Face face)
+{
+    FT_MM_Var* variations = nullptr;
+    if (face == nullptr || FT_Get_MM_Var(face, &variations) != 0)
+        variations = nullptr;
+    return {variations, VariationsDeleter{library}};
+}
+
+// FreeType counts in 26.6 pixels; shifting rounds towards minus infinity.
+int WholePixels(FT_Pos value)
+{
+    return static_cast<int>(std::clamp<FT_Pos>(value >> 6, std::numeric_limits<int>::min(),
+                                               std::numeric_limits<int>::max()));
+}
+
+// Only the encoding tells how a name is read, not the platform.
+QString DecodeName(const FT_SfntName& name)
+{
+    const QByteArrayView bytes(reinterpret_cast<const char*>(name.string), name.string_len);
+    QString text;
+    switch (name.encoding_id) {
+    case 1:
+        for (qsizetype i = 1; i < bytes.size(); i += 2)
+            text.append(QLatin1Char(bytes[i]));
+        break;
+    case 10:
+        for (qsizetype i = 0; i + 4 <= bytes.size(); i += 4)
+            text.append(QChar::fromUcs4(qFromBigEndian<char32_t>(bytes.data() + i)));
+        break;
+    default:
+        text = QString::fromLatin1(bytes);
+    }
+    return text;
+}
+
+QString FindName(FT_Face face, FT_UInt nameId)
+{
+    const FT_UInt count = FT_Get_Sfnt_Name_Count(face);
+    for (FT_UInt index = 0; index < count; ++index) {
+        FT_SfntName name{};
+        if (FT_Get_Sfnt_Name(face, index, &name) == 0 && name.name_id == nameId)
+            return DecodeName(name);
+    }
+    return {};
+}
+
+int BitsOf(const FT_Bitmap& bitmap)
+{
+    switch (bitmap.pixel_mode) {
+    case FT_PIXEL_MODE_MONO:
+        return 1;
+    case FT_PIXEL_MODE_GRAY2:
+        return 2;
+    case FT_PIXEL_MODE_GRAY4:
+        return 4;
+    default:
+        return 8;
+    }
+}
+
+const TT_OS2* Os2Table(FT_Face face)
+{
+    return face != nullptr ? static_cast<const TT_OS2*>(FT_Get_Sfnt_Table(face, FT_SFNT_OS2))
+                           : nullptr;
+}
+
+} // namespace
+
+FT_Library FreeTypeLibrary()
+{
+    static const LibraryHolder holder;
+    return holder.Get();
+}
+
+qint64 FontSize::PixelHeight() const
+{
+    if (!inPoints)
+        return value;
+    const bool hasDesktop = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+    const QScreen* const screen = hasDesktop ? QGuiApplication::primaryScreen() : nullptr;
+    const int dotsPerInch = screen != nullptr ? static_cast<int>(screen->logicalDotsPerInchX()) : 0;
+    return qint64(value) * dotsPerInch / 72;
+}
+
+FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FT_Library library)
+    : library_(library), path_(path)
+{
+    openError_ = FT_New_Face(library, QFile::encodeName(path).constData(), faceIndex, &face_);
+    if (openError_ != 0)
+        face_ = nullptr;
+}
+
+FreeTypeFace::FreeTypeFace(const FreeTypeFace& other)
+    : library_(other.library_),
+      face_(other.face_),
+      path_(other.path_),
+      effects_(other.effects_),
+      monochrome_(other.monochrome_),
+      openError_(other.openError_)
+{
+    if (face_ != nullptr)
+        FT_Reference_Face(face_);
+}
+
+FreeTypeFace& FreeTypeFace::operator=(const FreeTypeFace& other)
+{
+    if (other.face_ != nullptr)
+        FT_Reference_Face(other.face_);
+    if (face_ != nullptr)
+        FT_Done_Face(face_);
+    library_ = other.library_;
+    face_ = other.face_;
+    path_ = other.path_;
+    effects_ = other.effects_;
+    monochrome_ = other.monochrome_;
+    openError_ = other.openError_;
+    return *this;
+}
+
+FreeTypeFace::~FreeTypeFace()
+{
+    if (face_ != nullptr)
+        FT_Done_Face(face_);
+}
+
+QString FreeTypeFace::OpenFault() const
+{
+    switch (FT_ERROR_BASE(openError_)) {
+    case FT_Err_Ok:
+        return {};
+    case FT_Err_Cannot_Open_Resource:
+        return u"It could not be opened."_s;
+    case FT_Err_Unknown_File_Format:
+        return u"It is not a font file."_s;
+    default:
+        return u"Its contents are damaged (FreeType error %1)."_s.arg(openError_);
+    }
+}
+
+int FreeTypeFace::FaceCount() const
+{
+    return IsOpen() ? static_cast<int>(face_->num_faces) : 0;
+}
+
+int FreeTypeFace::GlyphCount() const
+{
+    return IsOpen() ? static_cast<int>(face_->num_glyphs) : 0;
+}
+
+bool FreeTypeFace::HasKerning() const
+{
+    return IsOpen() && FT_HAS_KERNING(face_);
+}
+
+QString FreeTypeFace::FamilyName() const
+{
+    return IsOpen() ? QString::fromUtf8(face_->family_name) : QString();
+}
+
+QString FreeTypeFace::StyleName() const
+{
+    return IsOpen() ? QString::fromUtf8(face_->style_name) : QString();
+}
+
+int FreeTypeFace::Ascent() const
+{
+    return IsOpen() ? WholePixels(face_->size->metrics.ascender) : 0;
+}
+
+int FreeTypeFace::LineHeight() const
+{
+    return IsOpen() ? WholePixels(face_->size->metrics.height) : 0;
+}
+
+int FreeTypeFace::MaxAdvance() const
+{
+    return IsOpen() ? WholePixels(face_->size->metrics.max_advance) : 0;
+}
+
+QList<int> FreeTypeFace::StrikeHeights() const
+{
+    QList<int> heights;
+    for (int index = 0; IsOpen() && index < face_->num_fixed_sizes; ++index)
+        heights.append(face_->available_sizes[index].height);
+    return heights;
+}
+
+bool FreeTypeFace::HasOutlines() const
+{
+    return IsOpen() && FT_IS_SCALABLE(face_);
+}
+
+int FreeTypeFace::GlyphHeight(quint16 code) const
+{
+    return LoadGlyph(code, FT_LOAD_DEFAULT) ? WholePixels(face_->glyph->metrics.height) : 0;
+}
+
+bool FreeTypeFace::IsMultiMaster() const
+{
+    return VariationsOf(library_, face_) != nullptr;
+}
+
+int FreeTypeFace::NamedInstanceCount() const
+{
+    const Variations variations = VariationsOf(library_, face_);
+    return variations ? static_cast<int>(variations->num_namedstyles) : 0;
+}
+
+QStringList FreeTypeFace::NamedInstanceNames() const
+{
+    QStringList names;
+    const Variations variations = VariationsOf(library_, face_);
+    for (FT_UInt index = 0; variations && index < variations->num_namedstyles; ++index) {
+        const QString name = FindName(face_, variations->namedstyle[index].strid);
+        if (!name.isEmpty())
+            names.append(name);
+    }
+    return names;
+}
+
+void FreeTypeFace::SetNamedInstance(int index)
+{
+    if (IsMultiMaster() && index >= 0 && index <= NamedInstanceCount())
+        FT_Set_Named_Instance(face_, static_cast<FT_UInt>(index));
+}
+
+FaceStyle FreeTypeFace::Style() const
+{
+    FaceStyle style;
+    if (const Variations variations = VariationsOf(library_, face_)) {
+        const std::span axes(variations->axis, variations->num_axis);
+        const auto weight = std::ranges::find_if(axes, [](const FT_Var_Axis& axis) {
+            const QLatin1StringView name(axis.name);
+            return name.compare("Weight"_L1, Qt::CaseInsensitive) == 0 ||
+                   name.compare("wght"_L1, Qt::CaseInsensitive) == 0;
+        });
+        const FT_Long instance = (face_->face_index >> 16) - 1;
+        if (weight != axes.end() && instance >= 0 &&
+            instance < FT_Long(variations->num_namedstyles)) {
+            const FT_Fixed coordinate =
+                variations->namedstyle[instance].coords[weight - axes.begin()];
+            style.weight = static_cast<quint32>(coordinate >> 16);
+        }
+        return style;
+    }
+    if (const TT_OS2* const os2 = Os2Table(face_)) {
+        constexpr int italicOrOblique = 0x201;
+        style.weight = os2->usWeightClass;
+        style.width = os2->usWidthClass;
+        style.italic = (os2->fsSelection & italicOrOblique) != 0;
+    }
+    return style;
+}
+
+QList<quint32> FreeTypeFace::UnicodeRanges() const
+{
+    const TT_OS2* const os2 = Os2Table(face_);
+    if (os2 == nullptr)
+        return {};
+    QList<quint32> ranges;
+    for (const FT_ULong range :
+         {os2->ulUnicodeRange1, os2->ulUnicodeRange2, os2->ulUnicodeRange3, os2->ulUnicodeRange4})
+        ranges.append(static_cast<quint32>(range));
+    return ranges;
+}
+
+bool FreeTypeFace::SelectStrike(qint64 pixelHeight)
+{
+    const qsizetype index = StrikeHeights().indexOf(pixelHeight);
+    if (index < 0 || !Settings::Instance().useIncludedBitmaps.value())
+        return false;
+    FT_Select_Size(face_, static_cast<FT_Int>(index));
+    return true;
+}
+
+void FreeTypeFace::SetPixelSize(const FontSize& size)
+{
+    const qint64 pixelHeight = size.PixelHeight();
+    if (!IsOpen() || SelectStrike(pixelHeight))
+        return;
+    FT_Size_RequestRec request{};
+    request.type = FT_SIZE_REQUEST_TYPE_BBOX;
+    request.height = static_cast<FT_Long>(pixelHeight * 64);
+    FT_Request_Size(face_, &request);
+}
+
+bool FreeTypeFace::LoadGlyph(quint16 code, FT_Int32 loadFlags) const
+{
+    if (!IsOpen())
+        return false;
+    const FT_UInt index = face_->charmap != nullptr ? FT_Get_Char_Index(face_, code) : code;
+    return index != 0 && FT_Load_Glyph(face_, index, loadFlags) == 0;
+}
+
+bool FreeTypeFace::RenderGlyph(quint16 code, RenderedGlyph& glyph) const
+{
+    if (!LoadGlyph(code, monochrome_ ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT))
+        return false;
+    if ((effects_ & BoldEffect) != 0)
+        FT_GlyphSlot_Embolden(face_->glyph);
+    if ((effects_ & ItalicEffect) != 0)
+        FT_GlyphSlot_Oblique(face_->glyph);
+    if (FT_Render_Glyph(face_->glyph, monochrome_ ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) !=
+        0)
+        return false;
+    FillGlyph(glyph);
+    return true;
+}
+
+void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
+{
+    const FT_GlyphSlot slot = face_->glyph;
+    const FT_Bitmap& bitmap = slot->bitmap;
+    const auto pitch = static_cast<std::size_t>(std::abs(bitmap.pitch));
+    glyph.xPos = slot->bitmap_left;
+    glyph.yPos = Ascent() - slot->bitmap_top;
+    glyph.cursorDistance = WholePixels(slot->advance.x);
+    glyph.width = static_cast<qint32>(bitmap.width);
+    glyph.rows = static_cast<qint32>(bitmap.rows);
+    glyph.pitch = static_cast<qint32>(pitch);
+    glyph.bitsPerPixel = BitsOf(bitmap);
+    glyph.pixels.clear();
+    if (bitmap.buffer != nullptr) {
+        glyph.pixels.assign(bitmap.buffer, bitmap.buffer + pitch * bitmap.rows);
+        // A negative pitch means that the last row stands first.
+        for (std::size_t y = 0; bitmap.pitch < 0 && y < bitmap.rows / 2; ++y) {
+            const auto row = glyph.pixels.begin() + std::ptrdiff_t(y * pitch);
+            std::swap_ranges(row, row + std::ptrdiff_t(pitch),
+                             glyph.pixels.end() - std::ptrdiff_t((y + 1) * pitch));
+        }
+    }
+    glyph.size = static_cast<qint32>(glyph.pixels.size());
+}
+
+int FreeTypeFace::Kerning(quint16 left, quint16 right) const
+{
+    if (!HasKerning())
+        return 0;
+    FT_Vector distance{};
+    const FT_UInt leftGlyph = FT_Get_Char_Index(face_, left);
+    const FT_UInt rightGlyph = FT_Get_Char_Index(face_, right);
+    if (FT_Get_Kerning(face_, leftGlyph, rightGlyph, FT_KERNING_DEFAULT, &distance) != 0)
+        return 0;
+    return WholePixels(distance.x);
+}
+
+std::vector<KerningPair> FreeTypeFace::KerningPairs(quint16 left) const
+{
+    std::vector<KerningPair> pairs;
+    if (!HasKerning())
+        return pairs;
+    for (const FT_ULong code : CharmapCodes()) {
+        const auto right = static_cast<quint16>(code);
+        if (const int distance = Kerning(left, right); distance != 0)
+            pairs.push_back({right, distance});
+    }
+    return pairs;
+}
+
+std::vector<FT_ULong> FreeTypeFace::CharmapCodes() const
+{
+    std::vector<FT_ULong> codes;
+    if (!IsOpen())
+        return codes;
+    FT_UInt glyph = 0;
+    for (FT_ULong code = FT_Get_First_Char(face_, &glyph); glyph != 0;
+         code = FT_Get_Next_Char(face_, code, &glyph))
+        codes.push_back(code);
+    return codes;
+}
+
+} // namespace Glyphor

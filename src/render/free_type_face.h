@@ -1,0 +1,130 @@
+#pragma once
+
+#include "model/font.h"
+#include "model/rendered_glyph.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include <vector>
+
+namespace Glyphor {
+
+// The process-wide FreeType library, opened on first use.
+[[nodiscard]] FT_Library FreeTypeLibrary();
+
+// How heavy and wide a face is, in the units of the OS/2 table, and whether it slants.
+struct FaceStyle
+{
+    quint32 weight = 0;
+    quint32 width = 5;
+    bool italic = false;
+
+    bool operator==(const FaceStyle&) const = default;
+};
+
+// What is done to every outline before it is rendered; bits of a flag word.
+enum FaceEffect : quint32 { BoldEffect = 1, ItalicEffect = 2 };
+
+// The size at which a face is rendered.
+struct FontSize
+{
+    int value = 0;
+    bool inPoints = false;
+
+    // Points are counted at the resolution of the desktop; without a desktop they give 0.
+    [[nodiscard]] qint64 PixelHeight() const;
+};
+
+// A handle to an open FreeType face. Copies share the face. Without a face every query answers 0,
+// nothing or false.
+class FreeTypeFace
+{
+public:
+    FreeTypeFace() = default;
+
+    // Opens the face; on failure the handle stays empty and OpenFault() tells why.
+    FreeTypeFace(const QString& path, FT_Long faceIndex, FT_Library library);
+    FreeTypeFace(const FreeTypeFace& other);
+    FreeTypeFace& operator=(const FreeTypeFace& other);
+
+    virtual ~FreeTypeFace();
+
+    // The baseline, in pixels from the top of the font.
+    [[nodiscard]] virtual int Ascent() const;
+
+    [[nodiscard]] bool IsOpen() const { return face_ != nullptr; }
+    [[nodiscard]] const QString& Path() const { return path_; }
+    [[nodiscard]] QString OpenFault() const;
+
+    [[nodiscard]] int FaceCount() const;
+    [[nodiscard]] int GlyphCount() const;
+    [[nodiscard]] bool HasKerning() const;
+    [[nodiscard]] QString FamilyName() const;
+    [[nodiscard]] QString StyleName() const;
+    [[nodiscard]] int LineHeight() const;
+    [[nodiscard]] int MaxAdvance() const;
+    [[nodiscard]] FaceStyle Style() const;
+
+    // The heights in pixels of the bitmaps that the face carries.
+    [[nodiscard]] QList<int> StrikeHeights() const;
+
+    // False for a face that has only bitmaps.
+    [[nodiscard]] bool HasOutlines() const;
+
+    // The height of the glyph's box at the current size; 0 where it can't be loaded.
+    [[nodiscard]] int GlyphHeight(quint16 code) const;
+
+    [[nodiscard]] bool IsMultiMaster() const;
+    [[nodiscard]] QStringList NamedInstanceNames() const;
+
+    // How many named instances there are, whether or not their names can be read.
+    [[nodiscard]] int NamedInstanceCount() const;
+
+    // 0 is the default instance, 1 the first named one; other indices do nothing.
+    void SetNamedInstance(int index);
+
+    void SetEffects(quint32 effects) { effects_ = effects; }
+    void SetMonochrome(bool monochrome) { monochrome_ = monochrome; }
+
+    // Selects an embedded strike of just this height where the settings allow, or scales the face
+    // so that its bounding box has the height.
+    void SetPixelSize(const FontSize& size);
+
+    bool LoadGlyph(quint16 code, FT_Int32 loadFlags) const;
+
+    // Loads, emboldens, slants and renders the glyph. The record keeps its buffer from call to
+    // call.
+    bool RenderGlyph(quint16 code, RenderedGlyph& glyph) const;
+
+    // By how many whole pixels a pair stands closer (negative) or further apart.
+    [[nodiscard]] int Kerning(quint16 left, quint16 right) const;
+
+    // The pairs of one character, found by asking for every character of the charmap.
+    [[nodiscard]] std::vector<KerningPair> KerningPairs(quint16 left) const;
+
+    // The codes of the charmap, in its order.
+    [[nodiscard]] std::vector<FT_ULong> CharmapCodes() const;
+
+    // The four words of the OS/2 table; nothing where the face has none.
+    [[nodiscard]] QList<quint32> UnicodeRanges() const;
+
+    [[nodiscard]] FT_Face Handle() const { return face_; }
+
+private:
+    bool SelectStrike(qint64 pixelHeight);
+    void FillGlyph(RenderedGlyph& glyph) const;
+
+    FT_Library library_ = nullptr;
+    FT_Face face_ = nullptr;
+    QString path_;
+    quint32 effects_ = 0;
+    bool monochrome_ = false;
+    FT_Error openError_ = 0;
+};
+
+} // namespace Glyphor

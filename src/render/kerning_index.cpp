@@ -1,0 +1,119 @@
+#include "render/kerning_index.h"
+
+#include FT_TRUETYPE_TABLES_H
+#include FT_TRUETYPE_TAGS_H
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <span>
+
+namespace Glyphor {
+
+namespace {
+
+std::vector<quint8> LoadTable(FT_Face face, FT_ULong tag)
+{
+    FT_ULong length = 0;
+    if (FT_Load_Sfnt_Table(face, tag, 0, nullptr, &length) != 0)
+        return {};
+    std::vector<quint8> table(length);
+    if (FT_Load_Sfnt_Table(face, tag, 0, table.data(), &length) != 0)
+        return {};
+    return table;
+}
+
+quint16 Number(std::span<const quint8> bytes, std::size_t offset)
+{
+    return qFromBigEndian<quint16>(bytes.data() + offset);
+}
+
+} // namespace
+
+KerningIndex::KerningIndex(const FreeTypeFace& face) : face_(face)
+{
+    if (!face_.HasKerning() || !FT_IS_SFNT(face_.Handle()))
+        return;
+    const std::vector<quint8> table = LoadTable(face_.Handle(), TTAG_kern);
+    if (table.empty())
+        return;
+    ReadKernTable(table);
+    ReadCharmap();
+    isComplete_ = true;
+}
+
+// The table is a version and a count, then subtables: version, length, coverage, and for format 0 a
+// pair count, three search fields, and pairs of two glyphs and a distance. Lengths that reach too
+// far are cut, as FreeType does; a pair too many does no harm, since FreeType is asked for its
+// distance.
+void KerningIndex::ReadKernTable(const std::vector<quint8>& table)
+{
+    constexpr std::size_t subtableHeader = 6;
+    constexpr std::size_t pairHeader = 8;
+    constexpr std::size_t pairSize = 6;
+    std::span<const quint8> rest(table);
+    if (rest.size() < 4)
+        return;
+    int count = Number(rest, 2);
+    rest = rest.subspan(4);
+    for (; count > 0 && rest.size() >= subtableHeader; --count) {
+        const std::size_t length = std::min<std::size_t>(Number(rest, 2), rest.size());
+        if (length <= subtableHeader + pairHeader)
+            break;
+        const bool hasPairs = rest[4] == 0;
+        const std::size_t fitting = (length - subtableHeader - pairHeader) / pairSize;
+        const std::size_t pairs = std::min<std::size_t>(Number(rest, subtableHeader), fitting);
+        for (std::size_t index = 0; hasPairs && index < pairs; ++index) {
+            const std::size_t offset = subtableHeader + pairHeader + index * pairSize;
+            pairs_.push_back({Number(rest, offset), Number(rest, offset + 2)});
+        }
+        rest = rest.subspan(length);
+    }
+    std::ranges::sort(pairs_);
+    pairs_.erase(std::ranges::unique(pairs_).begin(), pairs_.end());
+}
+
+void KerningIndex::ReadCharmap()
+{
+    for (const FT_ULong code : face_.CharmapCodes()) {
+        const auto code16 = static_cast<quint16>(code);
+        places_.push_back({FT_Get_Char_Index(face_.Handle(), code16), codes_.size()});
+        codes_.push_back(code16);
+    }
+    std::ranges::sort(places_);
+}
+
+int KerningIndex::Distance(FT_UInt left, FT_UInt right) const
+{
+    FT_Vector distance{};
+    if (FT_Get_Kerning(face_.Handle(), left, right, FT_KERNING_DEFAULT, &distance) != 0)
+        return 0;
+    return static_cast<int>(distance.x >> 6);
+}
+
+std::vector<KerningPair> KerningIndex::PairsOf(quint16 left) const
+{
+    if (!isComplete_)
+        return face_.KerningPairs(left);
+
+    const FT_UInt leftGlyph = FT_Get_Char_Index(face_.Handle(), left);
+    std::vector<std::pair<std::size_t, int>> found; // place in the charmap, distance
+    for (const GlyphPair& pair :
+         std::ranges::equal_range(pairs_, leftGlyph, {}, &GlyphPair::left)) {
+        const auto places = std::ranges::equal_range(places_, pair.right, {}, &CharmapPlace::glyph);
+        const int distance = places.empty() ? 0 : Distance(pair.left, pair.right);
+        for (const CharmapPlace& place : places) {
+            if (distance != 0)
+                found.emplace_back(place.position, distance);
+        }
+    }
+    std::ranges::sort(found);
+
+    std::vector<KerningPair> pairs;
+    pairs.reserve(found.size());
+    for (const auto& [position, distance] : found)
+        pairs.push_back({codes_[position], distance});
+    return pairs;
+}
+
+} // namespace Glyphor

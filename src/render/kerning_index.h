@@ -1,0 +1,49 @@
+#pragma once
+
+#include "render/free_type_face.h"
+
+#include <vector>
+
+namespace Glyphor {
+
+// Finds the kerning pairs of a face's characters without asking for every pair of its charmap: only
+// pairs that its kern table holds can have a distance. The answers are those of
+// FreeTypeFace::KerningPairs().
+class KerningIndex
+{
+public:
+    // Reads the table and the charmap. The face's size must not change afterwards.
+    explicit KerningIndex(const FreeTypeFace& face);
+
+    [[nodiscard]] std::vector<KerningPair> PairsOf(quint16 left) const;
+
+private:
+    struct GlyphPair
+    {
+        quint16 left;
+        quint16 right;
+
+        auto operator<=>(const GlyphPair&) const = default;
+    };
+
+    // A place of the charmap and the glyph that its code gives.
+    struct CharmapPlace
+    {
+        FT_UInt glyph;
+        std::size_t position;
+
+        auto operator<=>(const CharmapPlace&) const = default;
+    };
+
+    void ReadKernTable(const std::vector<quint8>& table);
+    void ReadCharmap();
+    [[nodiscard]] int Distance(FT_UInt left, FT_UInt right) const;
+
+    FreeTypeFace face_;
+    bool isComplete_ = false;          // every pair of the face is in pairs_
+    std::vector<GlyphPair> pairs_;     // ascending, without repetitions
+    std::vector<quint16> codes_;       // in charmap order
+    std::vector<CharmapPlace> places_; // ascending
+};
+
+} // namespace Glyphor
