@@ -1,6 +1,7 @@
 #include "files/font_file_c.h"
 
 #include "app/progress.h"
+#include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
 
@@ -9,11 +10,6 @@ namespace Glyphor {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray Hex4(quint16 code)
-{
-    return QByteArray::number(code, 16).toUpper().rightJustified(4, '0');
-}
 
 // Writes the parts of one font, each of which needs the font's identifier, runs and table types.
 class FontWriter

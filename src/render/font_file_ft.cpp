@@ -1,6 +1,7 @@
 #include "render/font_file_ft.h"
 
 #include "app/user_interface.h"
+#include "model/code_text.h"
 #include "model/unicode_table.h"
 
 #include <QStringList>
@@ -51,8 +52,7 @@ void FontFileFT::WarnOfMisfits() const
         return;
     QStringList codes;
     for (std::size_t index = 0; index < std::min(listed, misfits_.size()); ++index)
-        codes.append(u"0x"_s +
-                     QString::number(misfits_[index], 16).toUpper().rightJustified(4, u'0'));
+        codes.append(u"0x"_s + QString::fromLatin1(Hex4(misfits_[index])));
     if (misfits_.size() > listed)
         codes.append(u"..."_s);
     CurrentInterface().warning(

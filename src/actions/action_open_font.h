@@ -1,0 +1,47 @@
+#pragma once
+
+#include "actions/action.h"
+#include "model/code_set.h"
+#include "model/font.h"
+#include "render/free_type_face.h"
+
+#include <optional>
+
+namespace Glyphor {
+
+struct ActionOpenFontArgs
+{
+    QString path;
+
+    // For fonts that are rendered, and for files that do not tell these themselves.
+    std::optional<FontFormat> format;
+    std::optional<EncodingType> encoding;
+    FontSize size;
+    quint32 effects = 0; // bits of FaceEffect
+    int faceIndex = 0;
+
+    // Where set, only these characters are rendered, or stay enabled.
+    std::optional<CodeSet> selection;
+};
+
+// Makes a font file, or a rendering of one, the font of the session.
+class ActionOpenFont final : public ActionWithArgs<ActionOpenFontArgs>
+{
+public:
+    // The type is CreateFont or OpenFont.
+    ActionOpenFont(Session& session, ActionType type) : ActionWithArgs(session, type) {}
+
+    bool Execute() override;
+    void UndoOnce() override {}
+    void RedoOnce() override;
+    [[nodiscard]] QString LogText() const override;
+    [[nodiscard]] bool IsUndoable() const override { return false; }
+
+private:
+    [[nodiscard]] std::unique_ptr<Font> Render() const;
+    [[nodiscard]] std::unique_ptr<Font> ReadFile() const;
+
+    std::unique_ptr<Font> font_; // between Execute and the first step
+};
+
+} // namespace Glyphor

@@ -1,0 +1,41 @@
+#include "actions/action_save_file.h"
+
+#include "actions/font_files.h"
+#include "actions/session.h"
+#include "app/log_file.h"
+#include "app/settings.h"
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+bool ActionSaveFile::Execute()
+{
+    const Font* const font = CurrentSession().CurrentFont();
+    const QStringList actionLog = CurrentSession().Stack().LogLines();
+    const auto file = MakeFontFile(Args().path, actionLog);
+    const bool isXbf = FileTypeOf(Args().path) == FileType::Xbf;
+    if (isXbf && font != nullptr && IsLegacyFormat(font->Metrics().format))
+        ThrowActionError(u"Invalid file format!"_s,
+                         u"Legacy font formats cannot be saved in the XBF format."_s);
+    if (font == nullptr || !font->HasEnabledChars())
+        ThrowActionError(u"Font is empty!"_s,
+                         u"The font has no enabled characters that could be saved."_s);
+    file->Write(*font);
+    const Settings& settings = Settings::Instance();
+    if (settings.createLogFile.value())
+        LogFile(Args().path).Write(actionLog, settings.LineEnding());
+    return true;
+}
+
+void ActionSaveFile::RedoOnce()
+{
+    CurrentSession().SetSaved(Args().path);
+}
+
+QString ActionSaveFile::LogText() const
+{
+    return u"Saved font file: %1"_s.arg(Args().path);
+}
+
+} // namespace Glyphor

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "files/file_types.h"
+#include "render/font_file_scalable.h"
+
+#include <QStringList>
+
+#include <memory>
+
+namespace Glyphor {
+
+// Throws a CriticalException unless there is a file with something in it that may be read, and
+// whose name tells a known kind.
+FileType CheckInputFile(const QString& path);
+
+// The file object for a kind that is rendered.
+[[nodiscard]] std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
+                                                                     const RenderOptions& options);
+
+// The file object for a kind of the program's own. The log is what text files tell of the font's
+// history, if the settings want it told. Throws a CriticalException for any other kind.
+[[nodiscard]] std::unique_ptr<FontFile> MakeFontFile(const QString& path,
+                                                     const QStringList& actionLog = {});
+
+} // namespace Glyphor

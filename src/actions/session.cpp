@@ -1,0 +1,18 @@
+#include "actions/session.h"
+
+namespace Glyphor {
+
+void Session::ReplaceFont(std::unique_ptr<Font> font, const QString& path)
+{
+    stack_.Clear();
+    font_ = std::move(font);
+    path_ = path;
+}
+
+void Session::SetSaved(const QString& path)
+{
+    path_ = path;
+    stack_.setClean();
+}
+
+} // namespace Glyphor

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "actions/undo_stack.h"
+#include "model/font.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace Glyphor {
+
+// The font at work, the file that it belongs to, and its history. Every front end has one.
+class Session
+{
+public:
+    // Null until a font was opened.
+    [[nodiscard]] Font* CurrentFont() const { return font_.get(); }
+
+    // As the user gave it.
+    [[nodiscard]] const QString& Path() const { return path_; }
+
+    // True where the font has changes that are not in its file.
+    [[nodiscard]] bool IsModified() const { return !stack_.isClean(); }
+
+    [[nodiscard]] UndoStack& Stack() { return stack_; }
+
+    // Takes a new font and begins its history.
+    void ReplaceFont(std::unique_ptr<Font> font, const QString& path);
+
+    void SetSaved(const QString& path);
+
+private:
+    std::unique_ptr<Font> font_;
+    QString path_;
+    UndoStack stack_;
+};
+
+} // namespace Glyphor

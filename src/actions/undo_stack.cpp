@@ -1,0 +1,90 @@
+#include "actions/undo_stack.h"
+
+#include <QAction>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString StatusTip(const QString& verb, const QString& lastAction)
+{
+    const QString tip = u"%1 last action"_s.arg(verb);
+    return lastAction.isEmpty() ? tip : tip + u": %1"_s.arg(lastAction);
+}
+
+} // namespace
+
+UndoAction::UndoAction(std::shared_ptr<Action> action)
+    : QUndoCommand(action->LogText()), action_(std::move(action))
+{}
+
+void UndoAction::undo()
+{
+    action_->Undo();
+}
+
+void UndoAction::redo()
+{
+    action_->Redo();
+}
+
+int UndoAction::id() const
+{
+    return static_cast<int>(action_->Type());
+}
+
+UndoStack::UndoStack()
+{
+    for (const auto signal : {&QUndoStack::undoTextChanged, &QUndoStack::redoTextChanged})
+        connect(this, signal, this, &UndoStack::UpdateCommands);
+    for (const auto signal : {&QUndoStack::canUndoChanged, &QUndoStack::canRedoChanged})
+        connect(this, signal, this, &UndoStack::UpdateCommands);
+}
+
+void UndoStack::Push(const std::shared_ptr<Action>& action)
+{
+    if (action->IsUndoable()) {
+        DropUndone();
+        QUndoStack::push(new UndoAction(action));
+    } else {
+        action->Redo();
+    }
+    ActionStack::Push(action);
+}
+
+void UndoStack::Clear()
+{
+    QUndoStack::clear();
+    ActionStack::Clear();
+}
+
+void UndoStack::AddUndoCommand(QAction* command)
+{
+    undoCommands_.append(command);
+    UpdateCommands();
+}
+
+void UndoStack::AddRedoCommand(QAction* command)
+{
+    redoCommands_.append(command);
+    UpdateCommands();
+}
+
+void UndoStack::UpdateCommands()
+{
+    const auto update = [](const QList<QPointer<QAction>>& commands, bool isEnabled,
+                           const QString& tip) {
+        for (const QPointer<QAction>& command : commands) {
+            if (command == nullptr)
+                continue;
+            command->setEnabled(isEnabled);
+            command->setStatusTip(tip);
+        }
+    };
+    update(undoCommands_, canUndo(), StatusTip(u"Undo"_s, undoText()));
+    update(redoCommands_, canRedo(), StatusTip(u"Redo"_s, redoText()));
+}
+
+} // namespace Glyphor

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "actions/action_stack.h"
+
+#include <QList>
+#include <QPointer>
+#include <QUndoStack>
+
+class QAction;
+
+namespace Glyphor {
+
+// Moves one action between applied and undone. Never merged with another one.
+class UndoAction final : public QUndoCommand
+{
+public:
+    explicit UndoAction(std::shared_ptr<Action> action);
+
+    void undo() override;
+    void redo() override;
+    [[nodiscard]] int id() const override;
+
+private:
+    std::shared_ptr<Action> action_;
+};
+
+// The history of a font together with what of it can be undone and redone. Keeps the commands that
+// trigger undo and redo enabled and described as their effect at the time.
+class UndoStack final : public QUndoStack, public ActionStack
+{
+    Q_OBJECT
+
+public:
+    UndoStack();
+
+    // Applies an executed action and takes it into the history; what was undone is dropped.
+    void Push(const std::shared_ptr<Action>& action);
+
+    // Forgets the history.
+    void Clear();
+
+    // The commands stay their owner's.
+    void AddUndoCommand(QAction* command);
+    void AddRedoCommand(QAction* command);
+
+private:
+    void UpdateCommands();
+
+    QList<QPointer<QAction>> undoCommands_;
+    QList<QPointer<QAction>> redoCommands_;
+};
+
+} // namespace Glyphor
