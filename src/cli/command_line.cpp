@@ -1,0 +1,262 @@
+#include "cli/command_line.h"
+
+#include "actions/action_save_file.h"
+#include "actions/session.h"
+#include "app/critical_exception.h"
+#include "app/error_file.h"
+
+#include <algorithm>
+#include <iostream>
+#include <new>
+#include <string>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList ArgumentList(int argc, const char* const* argv)
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    return arguments;
+}
+
+bool HasArgument(int argc, const char* const* argv, QLatin1StringView argument)
+{
+    return ArgumentList(argc, argv).contains(argument, Qt::CaseInsensitive);
+}
+
+// The action kind of an option; nothing for options that run none of their own.
+ActionType KindOf(OptionId id)
+{
+    switch (id) {
+    case OptionId::Open:
+        return ActionType::OpenFont;
+    case OptionId::Save:
+        return ActionType::SaveFont;
+    case OptionId::Exit:
+        return ActionType::ExitProgram;
+    case OptionId::Help:
+        return ActionType::PrintUsage;
+    default:
+        return ActionType::None;
+    }
+}
+
+// Null for the kinds that a front end handles itself.
+std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
+{
+    switch (kind) {
+    case ActionType::OpenFont:
+        return std::make_shared<ActionOpenFont>(session, kind);
+    case ActionType::SaveFont:
+        return std::make_shared<ActionSaveFile>(session, kind);
+    default:
+        return nullptr;
+    }
+}
+
+// Options that this version checks but can't run yet must not look as if they had run.
+void RefuseUnavailable(const std::vector<OptionOccurrence>& occurrences)
+{
+    for (const OptionOccurrence& occurrence : occurrences) {
+        switch (occurrence.Id()) {
+        case OptionId::Create:
+        case OptionId::ReadPattern:
+        case OptionId::EditFont:
+        case OptionId::EditChar:
+        case OptionId::Merge:
+        case OptionId::ListFonts:
+            throw CriticalException(u"The option -%1 is not available in this version yet."_s.arg(
+                occurrence.option->longName));
+        default:
+            break;
+        }
+    }
+}
+
+} // namespace
+
+CommandLine::CommandLine() : console_(stdout), progressConsole_(stderr) {}
+
+CommandLine& CommandLine::instance()
+{
+    static CommandLine commandLine;
+    return commandLine;
+}
+
+bool CommandLine::isCommandLineMode(int argc, const char* const* argv)
+{
+    return HasArgument(argc, argv, "-hide"_L1);
+}
+
+void CommandLine::runGuarded(int argc, const char* const* argv, Session& session)
+{
+    const auto fail = [&](const QString& title, const QString& text) {
+        CurrentInterface().critical(title, text);
+        if (HasArgument(argc, argv, "-xirtsek"_L1))
+            ErrorFile().Write(text);
+    };
+    try {
+        try {
+            run(argc, argv, session);
+        } catch (const CriticalException& error) {
+            fail(error.Title(), error.Text());
+        } catch (const std::bad_alloc&) {
+            fail(CriticalException::DefaultTitle(), u"There is not enough memory."_s);
+        }
+    } catch (const CriticalException& error) { // of the error file
+        CurrentInterface().critical(error.Title(), error.Text());
+    }
+}
+
+void CommandLine::run(int argc, const char* const* argv, Session& session)
+{
+    if (argc < 2)
+        return;
+    std::vector<OptionOccurrence> occurrences = parser_.parse(ArgumentList(argc, argv));
+    if (!parser_.check(occurrences))
+        ReorderOccurrences(occurrences);
+    RefuseUnavailable(occurrences);
+    options_ = ReadRunOptions(occurrences);
+    for (const OptionOccurrence& occurrence : occurrences)
+        execute(occurrence, session);
+}
+
+void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
+{
+    if (occurrence.Id() == OptionId::Enable || occurrence.Id() == OptionId::Disable) {
+        SelectRange(options_.open.selection, occurrence.Get<CharRange>(0),
+                    occurrence.Id() == OptionId::Enable);
+        return;
+    }
+    current_ = &occurrence;
+    const ActionType kind = KindOf(occurrence.Id());
+    if (kind != ActionType::None)
+        perform(kind, session);
+    current_ = nullptr;
+}
+
+void CommandLine::perform(ActionType kind, Session& session)
+{
+    const std::shared_ptr<Action> action = MakeAction(kind, session);
+    if (action == nullptr) {
+        CurrentInterface().handleRequest(kind);
+        return;
+    }
+    if (!requestAction(*action))
+        return;
+    BasicInterface& interface = CurrentInterface();
+    if (&interface != this && !interface.requestAction(*action))
+        return;
+    action->Run();
+}
+
+void CommandLine::information(const QString&, const QString& text)
+{
+    console_.PrintLine(text);
+}
+
+void CommandLine::warning(const QString&, const QString& text)
+{
+    console_.PrintLine(text, ConsoleColour::Yellow);
+}
+
+void CommandLine::critical(const QString& title, const QString& text)
+{
+    // Exit status 0 tells nothing, so every failure begins with the same line.
+    if (!title.isEmpty())
+        console_.PrintLine(CriticalException::DefaultTitle(), ConsoleColour::Red);
+    if (!title.isEmpty() && title != CriticalException::DefaultTitle())
+        console_.PrintLine(title, ConsoleColour::Red);
+    console_.PrintLine(text, ConsoleColour::Red);
+}
+
+bool CommandLine::handleRequest(ActionType kind)
+{
+    switch (kind) {
+    case ActionType::ExitProgram: // the program ends after the run anyway
+        return true;
+    case ActionType::PrintUsage:
+        console_.Print(parser_.usage());
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool CommandLine::requestAction(Action& action)
+{
+    if (current_ == nullptr)
+        return false;
+    if (auto* const open = dynamic_cast<ActionOpenFont*>(&action)) {
+        open->Args() = options_.open;
+        open->Args().path = current_->Get<QString>(0);
+        return true;
+    }
+    if (auto* const save = dynamic_cast<ActionSaveFile*>(&action)) {
+        save->Args().path = current_->Get<QString>(0);
+        return true;
+    }
+    return false;
+}
+
+bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const QString& logText)
+{
+    if (action == nullptr)
+        return false;
+    if (const auto* const open = dynamic_cast<const ActionOpenFont*>(action.get()))
+        console_.PrintLine(u"Opened font file: "_s + open->Args().path);
+    else if (const auto* const save = dynamic_cast<const ActionSaveFile*>(action.get()))
+        console_.PrintLine(u"Saved font file: "_s + save->Args().path);
+    else if (options_.verbose && !logText.isEmpty())
+        console_.PrintLine(logText);
+    return true;
+}
+
+void CommandLine::progressChanged(const QString& text, int value, int maximum)
+{
+    if (progressConsole_.IsTerminal())
+        progressConsole_.Print(u"\r%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
+}
+
+void CommandLine::progressFinished()
+{
+    if (progressConsole_.IsTerminal())
+        progressConsole_.Print(u"\r\033[K"_s);
+}
+
+int CommandLine::ask(const QString& reason, const QString& subject,
+                     const ParameterKeywordTable& keywords)
+{
+    console_.PrintLine(reason);
+    for (;;) {
+        console_.PrintLine(u"Please select a %1 that should be used:"_s.arg(subject));
+        console_.Print(parser_.keywordList(keywords));
+        std::string line;
+        if (!std::getline(std::cin, line))
+            throw CriticalException(
+                u"Standard input ended before a %1 was selected."_s.arg(subject));
+        const QString answer = QString::fromLocal8Bit(line).trimmed();
+        if (const auto* const entry = keywords.Find(answer))
+            return entry->value;
+        console_.PrintLine(u"Invalid %1 \"%2\""_s.arg(subject, answer), ConsoleColour::Red);
+    }
+}
+
+int CommandLine::askFontFormat()
+{
+    return ask(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
+}
+
+int CommandLine::askMergeMode()
+{
+    return ask(u"Duplicate characters have been found in both fonts. How should duplicate "
+               "characters be handled?"_s,
+               u"merge mode"_s, MergeKeywords());
+}
+
+} // namespace Glyphor

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <span>
+#include <variant>
+#include <vector>
+
+namespace Glyphor {
+
+enum class OptionId : int {
+    None = 0,
+    Open = 1,
+    Create = 2,
+    Height = 3,
+    Format = 4,
+    Bold = 5,
+    Italic = 6,
+    Face = 7,
+    Encoding = 8,
+    Enable = 9,
+    Disable = 10,
+    ReadPattern = 11,
+    EditFont = 12,
+    EditChar = 13,
+    Merge = 14,
+    Save = 15,
+    Verbose = 16,
+    Exit = 17,
+    Help = 18,
+    Hide = 19,
+    ErrorFile = 20,
+    ListFonts = 21
+};
+
+enum class ParameterKind { Number = 0, Text = 1, Range = 2 };
+
+// The words that a text parameter takes. Hidden ones are accepted but not listed.
+class ParameterKeywordTable
+{
+public:
+    struct Entry
+    {
+        QString keyword;
+        QString description;
+        int value;
+        bool hidden = false;
+    };
+
+    explicit ParameterKeywordTable(std::vector<Entry> entries) : entries_(std::move(entries)) {}
+
+    // Ignores case; null where no keyword matches.
+    [[nodiscard]] const Entry* Find(QStringView text) const;
+
+    [[nodiscard]] std::span<const Entry> Entries() const { return entries_; }
+
+private:
+    std::vector<Entry> entries_;
+};
+
+struct CommandLineParameter
+{
+    ParameterKind kind;
+    QString placeholder;
+    const ParameterKeywordTable* keywords = nullptr;
+    bool required = true;
+};
+
+// One option of the command line. Hidden options have no description.
+struct CommandLineOption
+{
+    OptionId id;
+    QString longName;
+    QString shortName;
+    std::vector<CommandLineParameter> parameters;
+    QString description;
+    bool multiple = false;
+    bool required = false;
+    int position = -1; // of the positional option among the arguments; -1: a named option
+    OptionId exclusiveWith = OptionId::None; // exactly one of the two must be given
+    bool standalone = false;
+};
+
+// Character codes as given: the last may be the smaller one.
+struct CharRange
+{
+    quint16 first = 0;
+    quint16 last = 0;
+
+    bool operator==(const CharRange&) const = default;
+};
+
+// A parsed value; nothing for an optional parameter that was left out. A keyword stands as its
+// value in the keyword table.
+using ParameterValue = std::variant<std::monostate, int, QString, CharRange>;
+
+// One use of an option among the arguments.
+struct OptionOccurrence
+{
+    const CommandLineOption* option;
+    std::vector<ParameterValue> values; // one for each parameter
+
+    [[nodiscard]] OptionId Id() const { return option->id; }
+
+    template <typename Value>
+    [[nodiscard]] const Value& Get(std::size_t parameter) const
+    {
+        return std::get<Value>(values.at(parameter));
+    }
+};
+
+// Every option, in the order of the usage text.
+[[nodiscard]] std::span<const CommandLineOption> CommandLineOptions();
+
+[[nodiscard]] const CommandLineOption& OptionOf(OptionId id);
+
+[[nodiscard]] const ParameterKeywordTable& FormatKeywords();
+[[nodiscard]] const ParameterKeywordTable& EncodingKeywords();
+[[nodiscard]] const ParameterKeywordTable& MergeKeywords();
+[[nodiscard]] const ParameterKeywordTable& FontEditKeywords();
+[[nodiscard]] const ParameterKeywordTable& CharEditKeywords();
+
+} // namespace Glyphor

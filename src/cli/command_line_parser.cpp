@@ -1,0 +1,220 @@
+#include "cli/command_line_parser.h"
+
+#include "app/critical_exception.h"
+
+#include <algorithm>
+#include <cctype>
+#include <limits>
+#include <set>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[noreturn]] void Fail(const QString& text)
+{
+    throw CriticalException(text);
+}
+
+bool IsNamed(const CommandLineOption& option, QStringView argument)
+{
+    const QStringView name = argument.mid(1);
+    const auto matches = [name](const QString& candidate) {
+        return !candidate.isEmpty() && name.compare(candidate, Qt::CaseInsensitive) == 0;
+    };
+    return argument.startsWith(u'-') && (matches(option.longName) || matches(option.shortName));
+}
+
+// Decimal, or hexadecimal behind "0x"; nothing but digits.
+quint64 ParseNumber(const QString& text)
+{
+    const bool isHex = text.startsWith("0x"_L1, Qt::CaseInsensitive);
+    const QString digits = isHex ? text.mid(2) : text;
+    const bool onlyDigits = std::ranges::all_of(digits, [isHex](QChar digit) {
+        const char character = digit.toLatin1();
+        return (isHex ? std::isxdigit(uchar(character)) : std::isdigit(uchar(character))) != 0;
+    });
+    bool fits = false;
+    const quint64 number = digits.toULongLong(&fits, isHex ? 16 : 10);
+    if (!onlyDigits || !fits)
+        Fail(u"Error while parsing number: %1"_s.arg(text));
+    return number;
+}
+
+int ParseInt(const QString& text)
+{
+    const quint64 number = ParseNumber(text);
+    if (number > quint64(std::numeric_limits<int>::max()))
+        Fail(u"The number %1 is too large."_s.arg(text));
+    return static_cast<int>(number);
+}
+
+quint16 ParseCode(const QString& text)
+{
+    const quint64 number = ParseNumber(text);
+    if (number > std::numeric_limits<quint16>::max())
+        Fail(u"The character code %1 is too large: codes end at 0xFFFF (65535)."_s.arg(text));
+    return static_cast<quint16>(number);
+}
+
+CharRange ParseRange(const QString& text, const QString& placeholder)
+{
+    if (text.compare("all"_L1, Qt::CaseInsensitive) == 0)
+        return {0, std::numeric_limits<quint16>::max()};
+    const QStringList parts = text.split(u'-');
+    if (parts.size() > 2 || parts.contains(QString()))
+        Fail(u"Invalid range entered: %1%2Expected format: %3"_s.arg(text, u"\n"_s, placeholder));
+    return {ParseCode(parts.first()), ParseCode(parts.last())};
+}
+
+ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& text)
+{
+    if (parameter.keywords != nullptr) {
+        const auto* const entry = parameter.keywords->Find(text);
+        if (entry == nullptr)
+            Fail(u"Given parameter %1 did not match constraint!"_s.arg(text));
+        return entry->value;
+    }
+    switch (parameter.kind) {
+    case ParameterKind::Number:
+        return ParseInt(text);
+    case ParameterKind::Range:
+        return ParseRange(text, parameter.placeholder);
+    default:
+        return text;
+    }
+}
+
+// Walks the arguments. The positional option is counted without -hide, which may stand anywhere.
+class ArgumentReader
+{
+public:
+    explicit ArgumentReader(const QStringList& arguments) : arguments_(arguments) {}
+
+    std::vector<OptionOccurrence> ReadAll()
+    {
+        std::vector<OptionOccurrence> occurrences;
+        for (int position = 0; next_ < arguments_.size();) {
+            const CommandLineOption& option = Recognise(arguments_[next_], position);
+            if (option.position < 0)
+                ++next_;
+            if (option.id != OptionId::Hide)
+                ++position;
+            occurrences.push_back({&option, ReadValues(option)});
+        }
+        return occurrences;
+    }
+
+private:
+    const CommandLineOption& Recognise(const QString& argument, int position)
+    {
+        for (const CommandLineOption& option : CommandLineOptions()) {
+            const bool isPositional = option.position == position && !argument.startsWith(u'-');
+            if (!isPositional && !IsNamed(option, argument))
+                continue;
+            if (!present_.insert(option.id).second && !option.multiple)
+                Fail(u"Argument -%1 supplied more than once!"_s.arg(option.longName));
+            return option;
+        }
+        Fail(u"Invalid argument %1 entered!"_s.arg(argument));
+    }
+
+    std::vector<ParameterValue> ReadValues(const CommandLineOption& option)
+    {
+        std::vector<ParameterValue> values;
+        for (const CommandLineParameter& parameter : option.parameters)
+            values.push_back(ReadValue(parameter));
+        return values;
+    }
+
+    ParameterValue ReadValue(const CommandLineParameter& parameter)
+    {
+        if (next_ == arguments_.size()) {
+            if (parameter.required)
+                Fail(u"Parameter missing!"_s);
+            return {};
+        }
+        const QString& argument = arguments_[next_];
+        if (argument.startsWith(u'-')) {
+            const bool isOption =
+                std::ranges::any_of(CommandLineOptions(), [&argument](const auto& option) {
+                    return IsNamed(option, argument);
+                });
+            if (parameter.required || !isOption)
+                Fail(u"Read new argument %1 where a parameter was expected!"_s.arg(argument));
+            return {};
+        }
+        ++next_;
+        return ParseValue(parameter, argument);
+    }
+
+    const QStringList& arguments_;
+    qsizetype next_ = 0;
+    std::set<OptionId> present_;
+};
+
+// Moves the first occurrence of the option to the place; the others keep their order.
+void MoveToFront(std::vector<OptionOccurrence>& occurrences, OptionId id)
+{
+    const auto found = std::ranges::find(occurrences, id, &OptionOccurrence::Id);
+    if (found != occurrences.end())
+        std::rotate(occurrences.begin(), found, found + 1);
+}
+
+void MoveToBack(std::vector<OptionOccurrence>& occurrences, OptionId id)
+{
+    const auto found = std::ranges::find(occurrences, id, &OptionOccurrence::Id);
+    if (found != occurrences.end())
+        std::rotate(found, found + 1, occurrences.end());
+}
+
+bool IsSelection(const OptionOccurrence& occurrence)
+{
+    return occurrence.Id() == OptionId::Enable || occurrence.Id() == OptionId::Disable ||
+           occurrence.Id() == OptionId::ReadPattern;
+}
+
+} // namespace
+
+std::vector<OptionOccurrence> CommandLineParser::parse(const QStringList& arguments) const
+{
+    return ArgumentReader(arguments).ReadAll();
+}
+
+bool CommandLineParser::check(std::vector<OptionOccurrence>& occurrences) const
+{
+    const auto standalone = std::ranges::find_if(
+        occurrences, [](const auto& occurrence) { return occurrence.option->standalone; });
+    if (standalone != occurrences.end()) {
+        const OptionId kept = standalone->Id();
+        std::erase_if(occurrences, [kept](const auto& other) { return other.Id() != kept; });
+        return true;
+    }
+
+    const auto isGiven = [&occurrences](OptionId id) {
+        return std::ranges::find(occurrences, id, &OptionOccurrence::Id) != occurrences.end();
+    };
+    for (const CommandLineOption& option : CommandLineOptions()) {
+        if (option.exclusiveWith == OptionId::None ||
+            isGiven(option.id) != isGiven(option.exclusiveWith))
+            continue;
+        const QString text = isGiven(option.id)
+                                 ? u"Mutually exclusive arguments -%1 and -%2 both set!"_s
+                                 : u"Mutually exclusive arguments -%1 and -%2 both not set!"_s;
+        Fail(text.arg(option.longName, OptionOf(option.exclusiveWith).longName));
+    }
+    return false;
+}
+
+void ReorderOccurrences(std::vector<OptionOccurrence>& occurrences)
+{
+    MoveToFront(occurrences, OptionId::Open);
+    MoveToFront(occurrences, OptionId::Create);
+    std::ranges::stable_partition(occurrences, IsSelection);
+    MoveToBack(occurrences, OptionId::Save);
+    MoveToBack(occurrences, OptionId::Exit);
+}
+
+} // namespace Glyphor

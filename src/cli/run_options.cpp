@@ -1,0 +1,108 @@
+#include "cli/run_options.h"
+
+#include "app/critical_exception.h"
+#include "app/user_interface.h"
+#include "files/file_types.h"
+#include "model/code_text.h"
+
+#include <utility>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// FreeType counts pixels per em in 16 bits.
+constexpr int MaxHeight = 0xFFFF;
+
+void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    switch (occurrence.Id()) {
+    case OptionId::Height:
+        options.open.size = ParseHeight(occurrence.Get<QString>(0));
+        break;
+    case OptionId::Format:
+        options.open.format = static_cast<FontFormat>(occurrence.Get<int>(0));
+        break;
+    case OptionId::Encoding:
+        options.open.encoding = static_cast<EncodingType>(occurrence.Get<int>(0));
+        break;
+    case OptionId::Bold:
+        options.open.effects |= BoldEffect;
+        break;
+    case OptionId::Italic:
+        options.open.effects |= ItalicEffect;
+        break;
+    case OptionId::Face:
+        options.open.faceIndex = occurrence.Get<int>(0);
+        break;
+    case OptionId::Verbose:
+        options.verbose = true;
+        break;
+    default:
+        break;
+    }
+}
+
+bool OpensScalableFont(const OptionOccurrence& occurrence)
+{
+    if (occurrence.Id() == OptionId::Create)
+        return true;
+    if (occurrence.Id() != OptionId::Open)
+        return false;
+    const auto type = FileTypeOf(occurrence.Get<QString>(0));
+    return type && IsScalable(*type);
+}
+
+} // namespace
+
+FontSize ParseHeight(const QString& text)
+{
+    const bool inPoints = text.endsWith("pt"_L1, Qt::CaseInsensitive);
+    const bool inPixels = text.endsWith("px"_L1, Qt::CaseInsensitive);
+    const QString number = inPoints || inPixels ? text.chopped(2) : text;
+    bool isNumber = false;
+    const int height = number.toInt(&isNumber);
+    if (!isNumber || height <= 0 || height > MaxHeight)
+        throw CriticalException(u"The font height %1 is not usable: -height takes a whole number "
+                                u"from 1 to %2, followed "
+                                "by px or pt (e.g. 24px)."_s.arg(text)
+                                    .arg(MaxHeight));
+    if (!inPoints && !inPixels)
+        CurrentInterface().warning(u"Height"_s, u"Invalid measuring format, assuming px."_s);
+    return {height, inPoints};
+}
+
+RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences)
+{
+    RunOptions options;
+    bool needsHeight = false;
+    for (const OptionOccurrence& occurrence : occurrences) {
+        ReadOption(occurrence, options);
+        needsHeight = needsHeight || OpensScalableFont(occurrence);
+    }
+    if (needsHeight && options.open.size.value == 0)
+        throw CriticalException(
+            u"A scalable font needs a height: give -height (e.g. -height 24px)."_s);
+    return options;
+}
+
+void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state)
+{
+    if (!selection) {
+        selection.emplace();
+        if (!state)
+            selection->SetRange(0, CodeSet::Count - 1, true);
+    }
+    if (range.first > range.last) {
+        const auto code = [](quint16 value) { return QString::fromLatin1(Hex4(value)); };
+        CurrentInterface().warning(u"Range"_s,
+                                   u"The range 0x%1-0x%2 is reversed, assuming 0x%2-0x%1."_s.arg(
+                                       code(range.first), code(range.last)));
+        std::swap(range.first, range.last);
+    }
+    selection->SetRange(range.first, range.last, state);
+}
+
+} // namespace Glyphor
