@@ -12,9 +12,11 @@ int main(int argc, char** argv)
     using namespace Glyphor;
 
     std::setvbuf(stdout, nullptr, _IONBF, 0);
-#ifdef SIGPIPE
-    // A reader of the messages that goes away must not keep the font from being saved.
+#ifdef Q_OS_UNIX
+    // A reader of the messages that goes away must not keep the font from being saved, and a file
+    // that grows too large is to be reported.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 #endif
 
     if (!CommandLine::isCommandLineMode(argc, argv)) {

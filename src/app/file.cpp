@@ -9,6 +9,25 @@ namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The device must be unbuffered: a buffer is written when the file is closed or renamed, where a
+// failure would go unnoticed. Writing on after a short count tells the reason for it.
+bool WriteWhole(QIODevice& device, const QByteArray& contents)
+{
+    qsizetype written = 0;
+    while (written < contents.size()) {
+        const qint64 count =
+            device.write(contents.constData() + written, contents.size() - written);
+        if (count <= 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
+} // namespace
+
 void File::Replace(const QByteArray& contents)
 {
     const QFileInfo target(fileName());
@@ -22,19 +41,15 @@ void File::Replace(const QByteArray& contents)
 
 void File::WriteToDevice(const QByteArray& contents)
 {
-    if (!open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    if (!open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !WriteWhole(*this, contents))
         Fail(errorString());
-    const bool isWritten = write(contents) == contents.size();
-    const QString reason = errorString();
     close();
-    if (!isWritten)
-        Fail(reason);
 }
 
 void File::WriteToTemporary(const QByteArray& contents)
 {
     QSaveFile file(fileName());
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() ||
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !WriteWhole(file, contents) ||
         !file.commit())
         Fail(file.errorString());
 }
