@@ -26,7 +26,11 @@ std::optional<int> ToSetting(const QVariant& stored, const int*)
 
 std::optional<QStringList> ToSetting(const QVariant& stored, const QStringList*)
 {
-    return stored.canConvert<QStringList>() ? std::optional(stored.toStringList()) : std::nullopt;
+    if (!stored.canConvert<QStringList>())
+        return std::nullopt;
+    QStringList list = stored.toStringList();
+    list.removeAll(QString());
+    return list;
 }
 
 QDataStream& operator<<(QDataStream& out, const WindowData& data)
@@ -36,7 +40,10 @@ QDataStream& operator<<(QDataStream& out, const WindowData& data)
 
 QDataStream& operator>>(QDataStream& in, WindowData& data)
 {
-    return in >> data.geometry >> data.state;
+    in >> data.geometry >> data.state;
+    if (in.status() != QDataStream::Ok)
+        data = {};
+    return in;
 }
 
 } // namespace Glyphor

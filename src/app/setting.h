@@ -37,13 +37,17 @@ template <typename Value>
 class OptionByRef final : public OptionBase
 {
 public:
+    using Check = bool (*)(const Value&);
+
+    // A stored value that fails the check counts as not stored.
     OptionByRef(SettingsRegistry& registry, const QString& key, Value& variable,
-                const Value& defaultValue)
+                const Value& defaultValue, Check isValid = nullptr)
         : OptionBase(registry, key), variable_(variable)
     {
         registry.registerDefault(key, QVariant::fromValue(defaultValue));
-        variable_ = ToSetting(registry.value(key), static_cast<const Value*>(nullptr))
-                        .value_or(defaultValue);
+        const auto stored = ToSetting(registry.value(key), static_cast<const Value*>(nullptr));
+        const bool isUsable = stored && (isValid == nullptr || isValid(*stored));
+        variable_ = isUsable ? *stored : defaultValue;
     }
 
     [[nodiscard]] const Value& value() const { return variable_; }
@@ -59,16 +63,13 @@ private:
 };
 
 // The whole record of a dialog's last entries and geometry, stored as one value. The record is a
-// plain type with data stream operators.
+// plain type with data stream operators, which restore the defaults where the stream is damaged,
+// and must be registered as a meta-type before the store is first asked for anything.
 template <typename Record>
 class OptionDialogData : public OptionBase
 {
 public:
-    OptionDialogData(SettingsRegistry& registry, const QString& key, const char* typeName)
-        : OptionBase(registry, key)
-    {
-        qRegisterMetaType<Record>(typeName);
-    }
+    OptionDialogData(SettingsRegistry& registry, const QString& key) : OptionBase(registry, key) {}
 
     // The stored record; its defaults where none is stored or something else is.
     [[nodiscard]] Record load() const

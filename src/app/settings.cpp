@@ -16,6 +16,15 @@ std::unique_ptr<QSettings> OpenUserStore()
     return store;
 }
 
+// The store decodes everything that it holds when it is first asked for anything, and drops values
+// of types that are not known by then.
+std::unique_ptr<QSettings> WithRecordTypes(std::unique_ptr<QSettings> store)
+{
+    qRegisterMetaType<WindowData>("MainWindow::Data");
+    qRegisterMetaType<CommandDialogData>("CommandDialog::DialogData");
+    return store;
+}
+
 } // namespace
 
 QDataStream& operator<<(QDataStream& out, const CommandDialogData& data)
@@ -25,23 +34,28 @@ QDataStream& operator<<(QDataStream& out, const CommandDialogData& data)
 
 QDataStream& operator>>(QDataStream& in, CommandDialogData& data)
 {
-    return in >> data.width >> data.height;
+    in >> data.width >> data.height;
+    if (in.status() != QDataStream::Ok)
+        data = {};
+    return in;
 }
 
 Settings::Settings(std::unique_ptr<QSettings> store)
-    : SettingsRegistry(std::move(store)),
+    : SettingsRegistry(WithRecordTypes(std::move(store))),
       hideLegacy(*this, u"HideLegacy"_s, variables_.hideLegacy, true),
-      numeralSystem(*this, u"NumeralSystem"_s, variables_.numeralSystem, 1),
+      numeralSystem(*this, u"NumeralSystem"_s, variables_.numeralSystem, 1,
+                    [](const int& system) { return system == 0 || system == 1; }),
       logActions(*this, u"LogActions"_s, variables_.logActions, true),
       createLogFile(*this, u"CreateLogFile"_s, variables_.createLogFile, false),
       useSysLineEndings(*this, u"UseSysLineEndings"_s, variables_.useSysLineEndings, true),
-      lineEndings(*this, u"LineEndings"_s, variables_.lineEndings, 0),
+      lineEndings(*this, u"LineEndings"_s, variables_.lineEndings, 0,
+                  [](const int& choice) { return choice >= 0 && choice <= 2; }),
       additionalFontDirs(*this, u"AdditionalFontDirs"_s, variables_.additionalFontDirs, {}),
       searchDirsRecursively(*this, u"SearchDirsRecursively"_s, variables_.searchDirsRecursively,
                             true),
       useIncludedBitmaps(*this, u"UseIncludedBitmaps"_s, variables_.useIncludedBitmaps, true),
-      mainWindow(*this, u"MainWindowData"_s, "MainWindow::Data"),
-      commandDialog(*this, u"CommandDialogData"_s, "CommandDialog::DialogData")
+      mainWindow(*this, u"MainWindowData"_s),
+      commandDialog(*this, u"CommandDialogData"_s)
 {
     for (const QString& group :
          {mainWindow.key(), u"FontDialogData"_s, u"FontGenerationDialogData"_s,
