@@ -43,6 +43,12 @@ UndoStack::UndoStack()
         connect(this, signal, this, &UndoStack::UpdateCommands);
 }
 
+// The base class still signals while it goes, when there are no commands left to update.
+UndoStack::~UndoStack()
+{
+    disconnect(this, nullptr, this, nullptr);
+}
+
 void UndoStack::Push(const std::shared_ptr<Action>& action)
 {
     if (action->IsUndoable()) {

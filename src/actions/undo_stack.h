@@ -32,6 +32,7 @@ class UndoStack final : public QUndoStack, public ActionStack
 
 public:
     UndoStack();
+    ~UndoStack() override;
 
     // Applies an executed action and takes it into the history; what was undone is dropped.
     void Push(const std::shared_ptr<Action>& action);
