@@ -27,6 +27,15 @@ void WarnOfPoints(const FontSize& size)
         "not have. Give the height in pixels (px)."_s);
 }
 
+QString MissingFace(const QString& path, int index, int faceCount)
+{
+    const QString faces = faceCount == 1
+                              ? u"its only face has the index 0"_s
+                              : u"the indices of its faces are 0 to %1"_s.arg(faceCount - 1);
+    return u"The file %1 has no face with the index %2: %3."_s.arg(path, QString::number(index),
+                                                                   faces);
+}
+
 } // namespace
 
 bool ActionOpenFont::Execute()
@@ -64,11 +73,7 @@ std::unique_ptr<Font> ActionOpenFont::Render() const
     const auto file = MakeScalableFontFile(Args().path, options);
     const int faceCount = file->FaceCount();
     if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
-        ThrowActionError(
-            CreationFailed(),
-            u"The file %1 has no face with the index %2: its faces are 0 to %3."_s.arg(Args().path)
-                .arg(options.faceIndex)
-                .arg(faceCount - 1));
+        ThrowActionError(CreationFailed(), MissingFace(Args().path, options.faceIndex, faceCount));
     if (!file->OpenFault().isEmpty())
         ThrowActionError(CreationFailed(), u"The font file %1 can't be used: %2"_s.arg(
                                                Args().path, file->OpenFault()));

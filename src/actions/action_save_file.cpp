@@ -2,8 +2,10 @@
 
 #include "actions/font_files.h"
 #include "actions/session.h"
+#include "app/critical_exception.h"
 #include "app/log_file.h"
 #include "app/settings.h"
+#include "app/user_interface.h"
 
 namespace Glyphor {
 
@@ -12,8 +14,6 @@ using namespace Qt::StringLiterals;
 bool ActionSaveFile::Execute()
 {
     const Font* const font = CurrentSession().CurrentFont();
-    const QStringList actionLog = CurrentSession().Stack().LogLines();
-    const auto file = MakeFontFile(Args().path, actionLog);
     const bool isXbf = FileTypeOf(Args().path) == FileType::Xbf;
     if (isXbf && font != nullptr && IsLegacyFormat(font->Metrics().format))
         ThrowActionError(u"Invalid file format!"_s,
@@ -21,11 +21,23 @@ bool ActionSaveFile::Execute()
     if (font == nullptr || !font->HasEnabledChars())
         ThrowActionError(u"Font is empty!"_s,
                          u"The font has no enabled characters that could be saved."_s);
-    file->Write(*font);
-    const Settings& settings = Settings::Instance();
-    if (settings.createLogFile.value())
-        LogFile(Args().path).Write(actionLog, settings.LineEnding());
+    const QStringList actionLog = CurrentSession().Stack().LogLines();
+    MakeFontFile(Args().path, actionLog)->Write(*font);
+    WriteLogFile(actionLog);
     return true;
+}
+
+// The font is safe by now, whatever becomes of its log.
+void ActionSaveFile::WriteLogFile(const QStringList& actionLog) const
+{
+    const Settings& settings = Settings::Instance();
+    if (!settings.createLogFile.value())
+        return;
+    try {
+        LogFile(Args().path).Write(actionLog, settings.LineEnding());
+    } catch (const CriticalException& error) {
+        CurrentInterface().warning(error.Title(), error.Text());
+    }
 }
 
 void ActionSaveFile::RedoOnce()

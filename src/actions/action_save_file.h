@@ -22,6 +22,9 @@ public:
     void RedoOnce() override;
     [[nodiscard]] QString LogText() const override;
     [[nodiscard]] bool IsUndoable() const override { return false; }
+
+private:
+    void WriteLogFile(const QStringList& actionLog) const;
 };
 
 } // namespace Glyphor

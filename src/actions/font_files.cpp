@@ -58,9 +58,14 @@ std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
 
 std::unique_ptr<FontFile> MakeFontFile(const QString& path, const QStringList& actionLog)
 {
-    if (FileTypeOf(path) == FileType::C)
-        return std::make_unique<FontFileC>(path, OptionsOfSettings(actionLog));
-    ThrowUnsupportedFormat();
+    const auto type = FileTypeOf(path);
+    if (!type || IsScalable(*type))
+        ThrowUnsupportedFormat();
+    if (*type != FileType::C)
+        throw CriticalException(
+            u"Unsupported format!"_s,
+            u"The file kind of %1 is not available in this version yet."_s.arg(path));
+    return std::make_unique<FontFileC>(path, OptionsOfSettings(actionLog));
 }
 
 } // namespace Glyphor

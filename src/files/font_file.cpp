@@ -13,7 +13,8 @@ void ThrowUnsupportedFormat()
 
 std::unique_ptr<Font> FontFile::Read()
 {
-    ThrowUnsupportedFormat();
+    throw CriticalException(u"Unsupported format!"_s,
+                            u"Reading %1 is not available in this version yet."_s.arg(fileName()));
 }
 
 void FontFile::Write(const Font&)
