@@ -124,7 +124,8 @@ void WriteTables(const std::string& unicodePath, const std::string& blocksPath,
     out << "};\n\nconst ShiftJisRecord ShiftJis[" << shiftJis.size() << "] = {\n";
     for (const std::string& line : shiftJis) {
         const auto parts = Split(line, "\t", 2);
-        const auto name = nameOfCode.find(Hex(parts[1]));
+        // The zero row that closes the list is no character.
+        const auto name = Hex(parts[0]) == 0 ? nameOfCode.end() : nameOfCode.find(Hex(parts[1]));
         out << "    {" << parts[0] << ", " << parts[1] << ", "
             << (name == nameOfCode.end() ? noName : name->second) << "},\n";
     }

@@ -1,6 +1,5 @@
 #include "model/char_bitmap_framed.h"
 
-#include <array>
 #include <utility>
 
 namespace Glyphor {
@@ -158,22 +157,33 @@ void CharBitmapFramed::AssignData(const QByteArray& data)
     UpdateFrame();
 }
 
-// The four direct neighbours of every set pixel that are not set themselves. Those outside the
-// bitmap are dropped: editing a pixel never changes the size.
+// The four direct neighbours of every set pixel that are not set themselves, eight pixels at a
+// time. Those outside the bitmap are dropped: editing a pixel never changes the size.
 void CharBitmapFramed::UpdateFrame()
 {
-    static constexpr std::array<std::pair<int, int>, 4> neighbours = {
-        {{-1, 0}, {1, 0}, {0, -1}, {0, 1}}};
     const PixelLayout layout = Layout();
+    const int length = layout.BytesPerLine();
+    const int unused = length * 8 - layout.width;
+    const QByteArray empty(length, '\0');
     frame_ = QByteArray(layout.Size(), '\0');
+    const auto rowOf = [&](int y) {
+        const bool isInside = y >= 0 && y < layout.rows;
+        return reinterpret_cast<const uchar*>(isInside ? Data().constData() + y * length
+                                                       : empty.constData());
+    };
+    auto* to = reinterpret_cast<uchar*>(frame_.data());
     for (int y = 0; y < layout.rows; ++y) {
-        for (int x = 0; x < layout.width; ++x) {
-            if (GetPixelIndex(x, y) == 0)
-                continue;
-            for (const auto& [dx, dy] : neighbours) {
-                if (GetPixelIndex(x + dx, y + dy) == 0)
-                    PixelPlane::SetPixel(frame_, layout, x + dx, y + dy, 1);
-            }
+        const uchar* const row = rowOf(y);
+        const uchar* const above = rowOf(y - 1);
+        const uchar* const below = rowOf(y + 1);
+        for (int i = 0; i < length; ++i) {
+            const int before = i > 0 ? row[i - 1] : 0;
+            const int after = i + 1 < length ? row[i + 1] : 0;
+            const int fromLeft = before << 7 | row[i] >> 1;
+            const int fromRight = row[i] << 1 | after >> 7;
+            const int inside = i + 1 < length ? 0xFF : 0xFF << unused;
+            *to++ =
+                static_cast<uchar>((fromLeft | fromRight | above[i] | below[i]) & ~row[i] & inside);
         }
     }
 }

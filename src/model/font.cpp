@@ -6,6 +6,13 @@
 
 namespace Glyphor {
 
+namespace {
+
+constexpr int MinOffset = std::numeric_limits<qint8>::min();
+constexpr int MaxOffset = std::numeric_limits<qint8>::max();
+
+} // namespace
+
 Character::Character(const FontMetrics& font) : info{font}
 {
     if (font.format == FontFormat::Framed)
@@ -140,8 +147,8 @@ bool Font::CanMoveDown(int rows) const
     if (!IsLegacyFormat(metrics_.format)) {
         ForEachChar([&canMove, rows](const Character& character) {
             const int yPos = character.info.yPos + rows;
-            canMove = canMove && yPos >= std::numeric_limits<qint8>::min() &&
-                      yPos <= std::numeric_limits<qint8>::max();
+            const bool hasRoom = character.info.height < CharInfo::MaxSize;
+            canMove = canMove && yPos >= MinOffset && (yPos <= MaxOffset || hasRoom);
         });
     }
     return canMove;
@@ -154,7 +161,11 @@ void Font::MoveDown(int rows)
     if (IsLegacyFormat(metrics_.format))
         return;
     ForEachChar([rows](Character& character) {
-        character.info.yPos = static_cast<qint8>(character.info.yPos + rows);
+        CharInfo& info = character.info;
+        // At the largest offset an empty row above the picture moves it.
+        if (info.yPos + rows > MaxOffset && !character.bitmap->InsertRowTop())
+            return;
+        info.yPos = static_cast<qint8>(info.yPos + rows);
     });
 }
 

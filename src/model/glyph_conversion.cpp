@@ -83,7 +83,7 @@ void GrowForFrame(const RenderedGlyph& glyph, GlyphPlacement& placement)
     bool left = false;
     bool right = false;
     std::vector<quint8> indices(static_cast<std::size_t>(glyph.width));
-    for (int y = 0; y < glyph.rows && glyph.width > 0; ++y) {
+    for (int y = 0; y < glyph.rows && !glyph.pixels.empty(); ++y) {
         QuantiseRow(glyph, y, Table1, indices.data());
         const bool ink = std::ranges::find(indices, 1) != indices.end();
         top |= ink && y == 0;
