@@ -57,10 +57,9 @@ void FontFileFT::WarnOfMisfits() const
         codes.append(u"..."_s);
     CurrentInterface().warning(
         u"Characters left out"_s,
-        u"%1 characters were left out, since they need more than a character can hold "
-        "(255 pixels each way, a cursor distance from 0 to 255, offsets down to -128): %2"_s
-            .arg(misfits_.size())
-            .arg(codes.join(u", "_s)));
+        u"Characters left out: %1 (%2). They need more than a character can hold: 255 pixels each "
+        "way, a cursor distance from 0 to 255, offsets from -128."_s.arg(
+            QString::number(misfits_.size()), codes.join(u", "_s)));
 }
 
 } // namespace Glyphor

@@ -14,12 +14,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Pairs of a font speak of the font's own codes; characters that it can't encode have no pairs.
-std::vector<KerningPair> Encoded(std::vector<KerningPair> pairs, EncodingType encoding)
+std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs, EncodingType encoding)
 {
-    const Encoding& unicode = EncodingFor(EncodingType::Unicode);
-    std::erase_if(pairs, [&](KerningPair& pair) { return !unicode.Convert(encoding, pair.right); });
-    return pairs;
+    std::vector<KerningPair> encoded;
+    encoded.reserve(pairs.size());
+    for (KerningPair pair : pairs) {
+        if (EncodingFor(EncodingType::Unicode).Convert(encoding, pair.right))
+            encoded.push_back(pair);
+    }
+    return encoded;
 }
+
+// No font needs as many pairs, but a damaged one can claim one for every two characters.
+constexpr std::size_t MaxKerningPairs = 4'000'000;
 
 } // namespace
 
@@ -43,7 +50,7 @@ std::unique_ptr<Font> FontFileScalable::Read()
     SetMetrics(*font);
     if (font->Metrics().height == 0)
         WarnOfMissingSize();
-    if (face_.GlyphCount() == 0)
+    if (face_.GlyphCount() == 0 || font->Metrics().height == 0)
         return font;
     font->SetHasKerning(face_.HasKerning());
     RenderCharmap(*font);
@@ -80,19 +87,30 @@ void FontFileScalable::RenderCharmap(Font& font)
         kerning.emplace(face_);
     Progress progress(u"Rendering font..."_s, face_.GlyphCount());
     RenderedGlyph glyph;
-    for (const FT_ULong charmapCode : face_.CharmapCodes()) {
-        const auto faceCode = static_cast<quint16>(charmapCode);
+    std::size_t pairCount = 0;
+    CodeSet visited; // a code that comes up again gives the same glyph again
+    int notVisited = CodeSet::Count;
+    face_.WalkCharmap([&](quint16 faceCode) {
+        if (visited.Test(faceCode))
+            return true;
+        visited.Set(faceCode, true);
+        --notVisited;
         quint16 code = faceCode;
-        if (CharacterFilter() && !CharacterFilter()->Test(faceCode))
-            continue;
-        if (!unicode.Convert(options_.encoding, code) || font.ExistingCodes().Test(code))
-            continue;
-        if (!face_.RenderGlyph(faceCode, glyph) || !AddGlyph(font, code, glyph))
-            continue;
-        if (kerning)
-            font.FindChar(code)->kerning = Encoded(kerning->PairsOf(faceCode), options_.encoding);
-        progress.Advance();
-    }
+        const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
+        if (isWanted && unicode.Convert(options_.encoding, code) &&
+            face_.RenderGlyph(faceCode, glyph) && AddGlyph(font, code, glyph)) {
+            if (kerning && pairCount < MaxKerningPairs) {
+                auto& pairs = font.FindChar(code)->kerning;
+                pairs = Encoded(kerning->PairsOf(faceCode), options_.encoding);
+                pairCount += pairs.size();
+            }
+            progress.Advance();
+        }
+        return notVisited > 0;
+    });
+    if (pairCount >= MaxKerningPairs)
+        CurrentInterface().warning(u"Kerning left out"_s,
+                                   u"The font has too many kerning pairs; some were left out."_s);
 }
 
 // A face of bitmaps only has no other size than theirs.

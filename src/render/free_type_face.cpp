@@ -399,24 +399,12 @@ std::vector<KerningPair> FreeTypeFace::KerningPairs(quint16 left) const
     std::vector<KerningPair> pairs;
     if (!HasKerning())
         return pairs;
-    for (const FT_ULong code : CharmapCodes()) {
-        const auto right = static_cast<quint16>(code);
+    WalkCharmap([&](quint16 right) {
         if (const int distance = Kerning(left, right); distance != 0)
             pairs.push_back({right, distance});
-    }
+        return true;
+    });
     return pairs;
-}
-
-std::vector<FT_ULong> FreeTypeFace::CharmapCodes() const
-{
-    std::vector<FT_ULong> codes;
-    if (!IsOpen())
-        return codes;
-    FT_UInt glyph = 0;
-    for (FT_ULong code = FT_Get_First_Char(face_, &glyph); glyph != 0;
-         code = FT_Get_Next_Char(face_, code, &glyph))
-        codes.push_back(code);
-    return codes;
 }
 
 } // namespace Glyphor

@@ -107,8 +107,10 @@ public:
     // The pairs of one character, found by asking for every character of the charmap.
     [[nodiscard]] std::vector<KerningPair> KerningPairs(quint16 left) const;
 
-    // The codes of the charmap, in its order.
-    [[nodiscard]] std::vector<FT_ULong> CharmapCodes() const;
+    // Calls visit(code) for the characters of the charmap, in its order, until it returns false.
+    // The code is the low 16 bits of the charmap's, so one can come up more than once.
+    template <typename Visit>
+    void WalkCharmap(Visit visit) const;
 
     // The four words of the OS/2 table; nothing where the face has none.
     [[nodiscard]] QList<quint32> UnicodeRanges() const;
@@ -126,5 +128,20 @@ private:
     bool monochrome_ = false;
     FT_Error openError_ = 0;
 };
+
+template <typename Visit>
+void FreeTypeFace::WalkCharmap(Visit visit) const
+{
+    // Damaged tables claim billions of codes behind the last one there is.
+    constexpr FT_ULong lastCharacter = 0x10FFFF;
+    FT_UInt glyph = 0;
+    if (!IsOpen())
+        return;
+    for (FT_ULong code = FT_Get_First_Char(face_, &glyph); glyph != 0 && code <= lastCharacter;
+         code = FT_Get_Next_Char(face_, code, &glyph)) {
+        if (!visit(static_cast<quint16>(code)))
+            return;
+    }
+}
 
 } // namespace Glyphor

@@ -75,11 +75,11 @@ void KerningIndex::ReadKernTable(const std::vector<quint8>& table)
 
 void KerningIndex::ReadCharmap()
 {
-    for (const FT_ULong code : face_.CharmapCodes()) {
-        const auto code16 = static_cast<quint16>(code);
-        places_.push_back({FT_Get_Char_Index(face_.Handle(), code16), codes_.size()});
-        codes_.push_back(code16);
-    }
+    face_.WalkCharmap([this](quint16 code) {
+        places_.push_back({FT_Get_Char_Index(face_.Handle(), code), codes_.size()});
+        codes_.push_back(code);
+        return true;
+    });
     std::ranges::sort(places_);
 }
 
