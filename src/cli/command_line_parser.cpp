@@ -27,7 +27,7 @@ bool IsNamed(const CommandLineOption& option, QStringView argument)
     return argument.startsWith(u'-') && (matches(option.longName) || matches(option.shortName));
 }
 
-// Decimal, or hexadecimal behind "0x"; nothing but digits.
+// Decimal, or hexadecimal behind "0x"; nothing but digits. What does not fit is the largest number.
 quint64 ParseNumber(const QString& text)
 {
     const bool isHex = text.startsWith("0x"_L1, Qt::CaseInsensitive);
@@ -36,11 +36,11 @@ quint64 ParseNumber(const QString& text)
         const char character = digit.toLatin1();
         return (isHex ? std::isxdigit(uchar(character)) : std::isdigit(uchar(character))) != 0;
     });
+    if (!onlyDigits || digits.isEmpty())
+        Fail(u"Error while parsing number: %1"_s.arg(text));
     bool fits = false;
     const quint64 number = digits.toULongLong(&fits, isHex ? 16 : 10);
-    if (!onlyDigits || !fits)
-        Fail(u"Error while parsing number: %1"_s.arg(text));
-    return number;
+    return fits ? number : std::numeric_limits<quint64>::max();
 }
 
 int ParseInt(const QString& text)

@@ -5,6 +5,7 @@
 #include "files/file_types.h"
 #include "model/code_text.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Glyphor {
@@ -62,13 +63,14 @@ FontSize ParseHeight(const QString& text)
     const bool inPoints = text.endsWith("pt"_L1, Qt::CaseInsensitive);
     const bool inPixels = text.endsWith("px"_L1, Qt::CaseInsensitive);
     const QString number = inPoints || inPixels ? text.chopped(2) : text;
+    const bool onlyDigits =
+        std::ranges::all_of(number, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
     bool isNumber = false;
     const int height = number.toInt(&isNumber);
-    if (!isNumber || height <= 0 || height > MaxHeight)
+    if (!onlyDigits || !isNumber || height == 0 || height > MaxHeight)
         throw CriticalException(u"The font height %1 is not usable: -height takes a whole number "
                                 u"from 1 to %2, followed "
-                                "by px or pt (e.g. 24px)."_s.arg(text)
-                                    .arg(MaxHeight));
+                                "by px or pt (e.g. 24px)."_s.arg(text, QString::number(MaxHeight)));
     if (!inPoints && !inPixels)
         CurrentInterface().warning(u"Height"_s, u"Invalid measuring format, assuming px."_s);
     return {height, inPoints};

@@ -50,7 +50,7 @@ QString Synopsis()
 {
     QString text;
     QString line = u"   Glyphor_CL.exe "_s;
-    const QString indent(line.size(), u' ');
+    const QString indent(7, u' ');
     for (const CommandLineOption& option : CommandLineOptions()) {
         if (!IsListed(option) || EndsPair(option))
             continue;

@@ -22,13 +22,21 @@ QString Centred(const QString& text)
     return u'*' + (left + text).leftJustified(inside) + u'*';
 }
 
-// Names and paths come from files and users; none may end the comment, open another one or break
-// its line.
+// Names and paths come from files and users; none may end the comment, open another one, break its
+// line or turn its direction of writing.
 QString InComment(QString text)
 {
     for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control)
+        switch (character.category()) {
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
             character = u' ';
+            break;
+        default:
+            break;
+        }
     }
     text.replace(u"*/"_s, u"* /"_s);
     text.replace(u"/*"_s, u"/ *"_s);
