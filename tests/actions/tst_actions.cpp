@@ -1,0 +1,97 @@
+#include "actions/session.h"
+#include "support/count_action.h"
+#include "support/test_main.h"
+
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+using Test::CountAction;
+
+class TestActions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void RepeatedStepsMoveTogether()
+    {
+        Test::RecordingInterface interface;
+        Session session;
+        int total = 0;
+        const auto action = std::make_shared<CountAction>(session, total, 3);
+        QVERIFY(action->Run());
+        QCOMPARE(total, 3);
+        QCOMPARE(action->Applied(), 3);
+        QCOMPARE(interface.performed, QStringList{u"Counted."_s});
+        QCOMPARE(session.Stack().LogLines(), QStringList(3, u"Counted."_s));
+        QVERIFY(session.IsModified());
+
+        session.Stack().undo();
+        QCOMPARE(total, 0);
+        QVERIFY(session.Stack().LogLines().isEmpty());
+        QVERIFY(!session.IsModified());
+        session.Stack().redo();
+        QCOMPARE(total, 3);
+        QCOMPARE(session.Stack().LogLines().size(), 3);
+        QCOMPARE(interface.changes, 3);
+        QCOMPARE(session.Stack().command(0)->id(), 12);
+    }
+
+    void NewActionsDropUndoneOnes()
+    {
+        Session session;
+        int total = 0;
+        std::weak_ptr<Action> undone;
+        {
+            const auto action = std::make_shared<CountAction>(session, total, 1, u"first"_s);
+            action->Run();
+            undone = action;
+        }
+        session.Stack().undo();
+        QVERIFY(!undone.expired());
+        std::make_shared<CountAction>(session, total, 1, u"second"_s)->Run();
+        QVERIFY(undone.expired());
+        std::make_shared<CountAction>(session, total, 1, QString())->Run(); // no log line
+        QCOMPARE(session.Stack().LogLines(), QStringList{u"second"_s});
+        QCOMPARE(session.Stack().count(), 2); // never merged
+    }
+
+    void NothingToDo()
+    {
+        Test::RecordingInterface interface;
+        Session session;
+        int total = 0;
+        const auto action = std::make_shared<CountAction>(session, total, 1);
+        action->Args().step = 0;
+        QVERIFY(!action->Run());
+        QCOMPARE(session.Stack().count(), 0);
+        QVERIFY(interface.performed.isEmpty() && session.Stack().LogLines().isEmpty());
+
+        CountAction unshared(session, total, 1);
+        QVERIFY_EXCEPTION_THROWN(unshared.Run(), std::bad_weak_ptr);
+        QVERIFY_EXCEPTION_THROWN(unshared.Undo(), std::bad_weak_ptr);
+        QVERIFY_EXCEPTION_THROWN(unshared.Redo(), std::bad_weak_ptr);
+    }
+
+    void LogTexts()
+    {
+        QCOMPARE(RangePrefix(0x41, 0x41), u"[Char 0x0041]: "_s);
+        QCOMPARE(RangePrefix(0x20, 0xABCD), u"[Range 0x0020-0xABCD]: "_s);
+        QCOMPARE(LogMessage(ActionType::Disable), u"Disabled."_s);
+        QCOMPARE(LogMessage(ActionType::DisableAll), u"Disabled."_s);
+        QCOMPARE(LogMessage(ActionType::SetPixelIndex0), u"Set pixel index (%2,%3) to %4."_s);
+        QVERIFY(LogMessage(ActionType::SaveFont).isEmpty());
+        int texts = 0;
+        for (int type = 0; type <= 64; ++type)
+            texts += LogMessage(ActionType(type)).isEmpty() ? 0 : 1;
+        QCOMPARE(texts, 34);
+    }
+};
+
+GLYPHOR_TEST(TestActions)
+
+} // namespace Glyphor
+
+#include "tst_actions.moc"

@@ -1,0 +1,216 @@
+#include "actions/action_open_font.h"
+#include "actions/action_save_file.h"
+#include "actions/session.h"
+#include "app/critical_exception.h"
+#include "app/settings.h"
+#include "support/test_main.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Failure
+{
+    QString title;
+    QString text;
+};
+
+// What running the action fails with; empty texts where it does not.
+Failure FailureOf(Action& action)
+{
+    try {
+        action.Run();
+    } catch (const CriticalException& error) {
+        return {error.Title(), error.Text()};
+    }
+    return {};
+}
+
+std::shared_ptr<ActionOpenFont> Open(Session& session, const QString& path, int height = 12,
+                                     ActionType type = ActionType::OpenFont)
+{
+    auto action = std::make_shared<ActionOpenFont>(session, type);
+    action->Args().path = path;
+    action->Args().size = {height, false};
+    return action;
+}
+
+std::shared_ptr<ActionSaveFile> Save(Session& session, const QString& path)
+{
+    auto action = std::make_shared<ActionSaveFile>(session, ActionType::SaveFont);
+    action->Args().path = path;
+    return action;
+}
+
+} // namespace
+
+class TestOpenSave : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void OpensSavesAndLogs()
+    {
+        const QTemporaryDir folder;
+        const QString source = Test::FontPath("strike.ttf");
+        const QString target = folder.filePath(u"font.c"_s);
+        Session session;
+        QVERIFY(Open(session, source)->Run());
+        QCOMPARE(session.Path(), source);
+        QCOMPARE(session.CurrentFont()->Metrics().format, FontFormat::Standard);
+        Settings::Instance().createLogFile.setValue(true);
+        QVERIFY(Save(session, target)->Run());
+        Settings::Instance().createLogFile.setValue(false);
+
+        const QString opened = u"[Font]: Opened font file: %1"_s.arg(source);
+        QVERIFY(Test::ReadAll(target).contains(opened.toUtf8()));
+        QCOMPARE(Test::ReadAll(folder.filePath(u"font.log"_s)),
+                 "Log file for: font\r\n\r\n" + opened.toUtf8() + "\r\n");
+        QCOMPARE(session.Stack().LogLines(),
+                 (QStringList{opened, u"Saved font file: %1"_s.arg(target)}));
+        QVERIFY(!session.IsModified() && !session.Stack().canUndo());
+        QCOMPARE(session.Path(), target);
+
+        // Another font begins another history.
+        QVERIFY(Open(session, source, 20, ActionType::CreateFont)->Run());
+        QCOMPARE(session.Stack().LogLines(),
+                 QStringList{u"[Font]: Initial height of font: 20px."_s});
+        Settings::Instance().logActions.setValue(false);
+        QVERIFY(Save(session, target)->Run());
+        Settings::Instance().logActions.setValue(true);
+        QVERIFY(!Test::ReadAll(target).contains("[Font]"));
+    }
+
+    void OpenFailures_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("encoding");
+        QTest::addColumn<int>("face");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text"); // the beginning
+        const QString font = Test::FontPath("strike.ttf");
+        const QString creation = u"Font creation failed!"_s;
+        const auto row = [&](const char* name, const QString& path, const QString& title,
+                             const QString& text) {
+            QTest::newRow(name) << path << 12 << 3 << 0 << 0 << title << text;
+        };
+        row("missing", u"none.ttf"_s, u"Error opening file!"_s, u"Given file does not exist!"_s);
+        row("missing, unknown kind", u"none"_s, u"Error opening file!"_s,
+            u"Given file does not exist!"_s);
+        row("unknown kind", folder_.path(), u"Unsupported format!"_s,
+            u"Given file format is not supported!"_s);
+        row("directory", File(u"directory.ttf"_s), u"Error opening file!"_s,
+            u"The file %1 is a directory."_s.arg(File(u"directory.ttf"_s)));
+        row("empty", File(u"empty.otf"_s), u"Error opening file!"_s,
+            u"The file %1 is empty."_s.arg(File(u"empty.otf"_s)));
+        row("text", File(u"text.ttc"_s), creation,
+            u"The font file %1 can't be used: It is not a font file."_s.arg(File(u"text.ttc"_s)));
+        row("truncated", File(u"truncated.ttf"_s), creation, u"The font file "_s);
+        QTest::newRow("height 0") << font << 0 << 3 << 0 << 0 << creation
+                                  << u"Font has invalid metrics."_s;
+        QTest::newRow("Shift JIS")
+            << font << 12 << 5 << 1 << 0 << u"Invalid combination of encoding and font format!"_s
+            << u"SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."_s;
+        for (const auto& [name, face] : {std::pair("variable.ttf", 3),
+                                         {"collection.ttc", 2},
+                                         {"strike.ttf", 1},
+                                         {"strike.ttf", 0x10000}})
+            QTest::addRow("face %d of %s", face, name)
+                << Test::FontPath(name) << 12 << 3 << 0 << face << creation
+                << u"The file %1 has no face with the index %2: "_s.arg(Test::FontPath(name),
+                                                                        QString::number(face));
+    }
+
+    void OpenFailures()
+    {
+        QFETCH(const QString, path);
+        QFETCH(const int, height);
+        QFETCH(const int, format);
+        QFETCH(const int, encoding);
+        QFETCH(const int, face);
+        QFETCH(const QString, title);
+        QFETCH(const QString, text);
+        Session session;
+        Open(session, Test::FontPath("strike.ttf"))->Run();
+        const Font* const before = session.CurrentFont();
+        const auto action = Open(session, path, height);
+        action->Args().format = FontFormat(format);
+        action->Args().encoding = EncodingType(encoding);
+        action->Args().faceIndex = face;
+        const Failure failure = FailureOf(*action);
+        QCOMPARE(failure.title, title);
+        QVERIFY2(failure.text.startsWith(text), qUtf8Printable(failure.text));
+        QCOMPARE(session.CurrentFont(), before);
+        QCOMPARE(session.Stack().LogLines().size(), 1);
+    }
+
+    void PointsNeedADesktop()
+    {
+        Test::RecordingInterface interface;
+        Session session;
+        const auto action = Open(session, Test::FontPath("strike.ttf"));
+        action->Args().size = {12, true};
+        QCOMPARE(FailureOf(*action).text, u"Font has invalid metrics."_s);
+        QCOMPARE(interface.warnings.size(), 1);
+        QVERIFY(interface.warnings[0].contains(u"points"_s));
+    }
+
+    void SaveFailures_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<int>("format");
+        QTest::addColumn<bool>("hasChars");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("empty") << File(u"a.c"_s) << 3 << false << u"Font is empty!"_s;
+        QTest::newRow("unknown kind") << File(u"a.txt"_s) << 3 << true << u"Unsupported format!"_s;
+        QTest::newRow("read only kind")
+            << File(u"a.ttf"_s) << 3 << true << u"Unsupported format!"_s;
+        QTest::newRow("legacy XBF") << File(u"a.xbf"_s) << 0 << true << u"Invalid file format!"_s;
+        QTest::newRow("empty XBF") << File(u"a.xbf"_s) << 3 << false << u"Font is empty!"_s;
+        QTest::newRow("unwritable") << File(u"none/a.c"_s) << 3 << true << u"Error saving file!"_s;
+    }
+
+    void SaveFailures()
+    {
+        QFETCH(const QString, path);
+        QFETCH(const int, format);
+        QFETCH(const bool, hasChars);
+        QFETCH(const QString, title);
+        Session session;
+        const auto open = Open(session, Test::FontPath("strike.ttf"));
+        open->Args().format = FontFormat(format);
+        if (!hasChars)
+            open->Args().selection = CodeSet();
+        open->Run();
+        QCOMPARE(FailureOf(*Save(session, path)).title, title);
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(session.Stack().LogLines().size(), 1);
+    }
+
+    void initTestCase()
+    {
+        QVERIFY(QDir(folder_.path()).mkdir(u"directory.ttf"_s));
+        Test::WriteAll(File(u"empty.otf"_s), {});
+        Test::WriteAll(File(u"text.ttc"_s), "no font at all\n");
+        Test::WriteAll(File(u"truncated.ttf"_s),
+                       Test::ReadAll(Test::FontPath("outlines.ttf")).left(100));
+    }
+
+private:
+    [[nodiscard]] QString File(const QString& name) const { return folder_.filePath(name); }
+
+    QTemporaryDir folder_;
+};
+
+GLYPHOR_TEST(TestOpenSave)
+
+} // namespace Glyphor
+
+#include "tst_open_save.moc"

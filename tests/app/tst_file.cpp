@@ -1,0 +1,103 @@
+#include "app/critical_exception.h"
+#include "app/error_file.h"
+#include "app/log_file.h"
+#include "support/test_main.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+class TestFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Replaces()
+    {
+        const QString path = folder_.filePath(u"file.c"_s);
+        File(path).Replace("first");
+        QCOMPARE(Test::ReadAll(path), QByteArray("first"));
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+        const auto permissions = QFile::permissions(path);
+        File(path).Replace("second");
+        QCOMPARE(Test::ReadAll(path), QByteArray("second"));
+        QCOMPARE(QFile::permissions(path), permissions);
+        QCOMPARE(QDir(folder_.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    }
+
+    void FollowsLinks()
+    {
+        const QString target = folder_.filePath(u"target.c"_s);
+        const QString link = folder_.filePath(u"link.c"_s);
+        QVERIFY(QFile::link(u"target.c"_s, link));
+        for (const QByteArray contents : {"of a link that dangles", "of one that does not"}) {
+            File(link).Replace(contents);
+            QVERIFY(QFileInfo(link).isSymLink());
+            QCOMPARE(Test::ReadAll(target), contents);
+        }
+    }
+
+    void Failures_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("directory") << folder_.path();
+        QTest::newRow("missing directory") << folder_.filePath(u"none/file.c"_s);
+        QTest::newRow("full disk") << u"/dev/full"_s;
+        QTest::newRow("no name") << QString();
+    }
+
+    void Failures()
+    {
+        QFETCH(const QString, path);
+        try {
+            File(path).Replace("contents");
+            QFAIL("no failure");
+        } catch (const CriticalException& error) {
+            QCOMPARE(error.Title(), u"Error saving file!"_s);
+            QVERIFY(error.Text().startsWith(u"The file %1 could not be written: "_s.arg(path)));
+            QVERIFY(!error.Text().endsWith(u": "_s));
+        }
+    }
+
+    void WritesToPipes()
+    {
+        const QString path = folder_.filePath(u"pipe.c"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        QFile reader(path);
+        // For both, so as not to wait for a writer; a buffer would wait for more than there is.
+        QVERIFY(reader.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+        File(path).Replace("through");
+        QCOMPARE(reader.read(7), QByteArray("through"));
+        QVERIFY(QFileInfo(path).exists() && !QFileInfo(path).isFile());
+    }
+
+    void Logs()
+    {
+        LogFile(folder_.filePath(u"Arial.16.xbf"_s)).Write({u"one"_s, u"two"_s}, "\r\n");
+        QCOMPARE(Test::ReadAll(folder_.filePath(u"Arial.16.log"_s)),
+                 QByteArray("Log file for: Arial\r\n\r\none\r\ntwo\r\n"));
+
+        const QString before = QDir::currentPath();
+        QDir::setCurrent(folder_.path());
+        ErrorFile().Write(u"first"_s);
+        ErrorFile().Write(u"second"_s);
+        QDir::setCurrent(before);
+        QCOMPARE(Test::ReadAll(folder_.filePath(u"Glyphor.err"_s)), QByteArray("second"));
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+GLYPHOR_TEST(TestFile)
+
+} // namespace Glyphor
+
+#include "tst_file.moc"

@@ -1,0 +1,120 @@
+#include "app/settings.h"
+#include "support/test_main.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+class TestSettings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Defaults_data()
+    {
+        QTest::addColumn<QByteArray>("store");
+        QTest::newRow("no store") << QByteArray();
+        QTest::newRow("other keys") << QByteArray("[General]\nOther=1\n");
+        QTest::newRow("wrong values")
+            << QByteArray("[General]\nHideLegacy=perhaps\nNumeralSystem=many\nLogActions=\n"
+                          "CreateLogFile=7\nUseSysLineEndings=@Rect(0 0 1 1)\nLineEndings=x\n"
+                          "AdditionalFontDirs=@Rect(1 2 3 4)\nSearchDirsRecursively=yes\n"
+                          "UseIncludedBitmaps=@Variant(\\0\\0\\0)\n"
+                          "CommandDialogData=@Variant(\\0\\0\\0\\x7f\\0\\0)\nMainWindowData=5\n");
+        QTest::newRow("no settings at all") << QByteArray("\x7f"
+                                                          "ELF\x01\n=[[\n\\x\0\n",
+                                                          13);
+    }
+
+    void Defaults()
+    {
+        QFETCH(const QByteArray, store);
+        const Settings settings(Store(store));
+        QCOMPARE(settings.hideLegacy.value(), true);
+        QCOMPARE(settings.numeralSystem.value(), 1);
+        QCOMPARE(settings.logActions.value(), true);
+        QCOMPARE(settings.createLogFile.value(), false);
+        QCOMPARE(settings.useSysLineEndings.value(), true);
+        QCOMPARE(settings.lineEndings.value(), 0);
+        QCOMPARE(settings.additionalFontDirs.value(), QStringList());
+        QCOMPARE(settings.searchDirsRecursively.value(), true);
+        QCOMPARE(settings.useIncludedBitmaps.value(), true);
+        QCOMPARE(settings.commandDialog.load(), CommandDialogData());
+        QCOMPARE(settings.mainWindow.load(), WindowData());
+        QCOMPARE(settings.keys().size(), 9);
+        QCOMPARE(settings.keys().first(), u"HideLegacy"_s);
+        QCOMPARE(
+            settings.groups(),
+            (QStringList{u"MainWindowData"_s, u"FontDialogData"_s, u"FontGenerationDialogData"_s,
+                         u"EnableRangeDialogData"_s, u"MergeModeDialogData"_s,
+                         u"PreferencesDialogData"_s, u"CommandDialogData"_s}));
+    }
+
+    void StoredValues()
+    {
+        {
+            Settings settings(Store({}));
+            settings.hideLegacy.setValue(false);
+            settings.numeralSystem.setValue(0);
+            settings.additionalFontDirs.setValue({u"one"_s});
+            settings.commandDialog.save({640, 480});
+            settings.mainWindow.save({"geometry", "state"});
+            QCOMPARE(settings.hideLegacy.value(), false);
+            QCOMPARE(settings.commandDialog.load(), (CommandDialogData{640, 480}));
+        }
+        const Settings settings(Reopen());
+        QCOMPARE(settings.hideLegacy.value(), false);
+        QCOMPARE(settings.numeralSystem.value(), 0);
+        QCOMPARE(settings.additionalFontDirs.value(), QStringList{u"one"_s});
+        QCOMPARE(settings.commandDialog.load(), (CommandDialogData{640, 480}));
+        QCOMPARE(settings.mainWindow.load(), (WindowData{"geometry", "state"}));
+    }
+
+    void LineEndings_data()
+    {
+        QTest::addColumn<bool>("system");
+        QTest::addColumn<int>("choice");
+        QTest::addColumn<QByteArray>("ending");
+        QTest::newRow("system") << true << 2 << QByteArray("\r\n");
+        QTest::newRow("CR LF") << false << 0 << QByteArray("\r\n");
+        QTest::newRow("CR") << false << 1 << QByteArray("\r");
+        QTest::newRow("LF") << false << 2 << QByteArray("\n");
+        QTest::newRow("unknown") << false << 77 << QByteArray("\r\n");
+    }
+
+    void LineEndings()
+    {
+        QFETCH(const bool, system);
+        QFETCH(const int, choice);
+        QFETCH(const QByteArray, ending);
+        Settings settings(Store({}));
+        settings.useSysLineEndings.setValue(system);
+        settings.lineEndings.setValue(choice);
+        QCOMPARE(settings.LineEnding(), ending);
+    }
+
+private:
+    std::unique_ptr<QSettings> Store(const QByteArray& contents)
+    {
+        Test::WriteAll(Path(), contents);
+        return Reopen();
+    }
+
+    std::unique_ptr<QSettings> Reopen()
+    {
+        return std::make_unique<QSettings>(Path(), QSettings::IniFormat);
+    }
+
+    [[nodiscard]] QString Path() const { return folder_.filePath(u"settings.ini"_s); }
+
+    QTemporaryDir folder_;
+};
+
+GLYPHOR_TEST(TestSettings)
+
+} // namespace Glyphor
+
+#include "tst_settings.moc"

@@ -1,0 +1,136 @@
+#include "actions/session.h"
+#include "app/critical_exception.h"
+#include "cli/command_line.h"
+#include "support/test_main.h"
+
+#include <QTest>
+
+#include <iostream>
+#include <sstream>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Answers the console's questions for as long as it lives.
+class Answers
+{
+public:
+    explicit Answers(const std::string& text) : text_(text), before_(std::cin.rdbuf(text_.rdbuf()))
+    {
+        std::cin.clear();
+    }
+    ~Answers() { std::cin.rdbuf(before_); }
+    Answers(const Answers&) = delete;
+    Answers& operator=(const Answers&) = delete;
+
+private:
+    std::istringstream text_;
+    std::streambuf* before_;
+};
+
+} // namespace
+
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Mode_data()
+    {
+        QTest::addColumn<QByteArray>("argument");
+        QTest::addColumn<bool>("isCommandLine");
+        QTest::newRow("-hide") << QByteArray("-hide") << true;
+        QTest::newRow("-HIDE") << QByteArray("-HIDE") << true;
+        QTest::newRow("--hide") << QByteArray("--hide") << false;
+        QTest::newRow("hide") << QByteArray("hide") << false;
+    }
+
+    void Mode()
+    {
+        QFETCH(const QByteArray, argument);
+        QFETCH(const bool, isCommandLine);
+        const char* const last[] = {"-hide", "x", argument.constData()};
+        QCOMPARE(CommandLine::isCommandLineMode(3, last), isCommandLine);
+        QVERIFY(!CommandLine::isCommandLineMode(1, last));
+    }
+
+    void Heights_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("height"); // 0: refused
+        QTest::addColumn<bool>("inPoints");
+        QTest::newRow("pixels") << u"24px"_s << 24 << false;
+        QTest::newRow("points") << u"12Pt"_s << 12 << true;
+        QTest::newRow("no unit") << u"16"_s << 16 << false;
+        for (const auto* const bad : {"+5px", " 5px", "%1px", "0px", "px", "-5px", "1.5px", "24em",
+                                      "65536px", "4294967320px", "twelve"})
+            QTest::newRow(bad) << QString::fromUtf8(bad) << 0 << false;
+    }
+
+    void Heights()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const int, height);
+        QFETCH(const bool, inPoints);
+        Test::RecordingInterface interface;
+        if (height == 0) {
+            QVERIFY_EXCEPTION_THROWN((void)ParseHeight(text), CriticalException);
+            return;
+        }
+        const FontSize size = ParseHeight(text);
+        QCOMPARE(size.value, height);
+        QCOMPARE(size.inPoints, inPoints);
+        QCOMPARE(interface.warnings.contains(u"Invalid measuring format, assuming px."_s),
+                 text == u"16"_s);
+    }
+
+    void Selection()
+    {
+        Test::RecordingInterface interface;
+        std::optional<CodeSet> enabling;
+        SelectRange(enabling, {0x20, 0x7E}, true);
+        SelectRange(enabling, {0x41, 0x40}, false);
+        QVERIFY(enabling->Test(0x3F) && enabling->Test(0x42) && !enabling->Test(0x7F));
+        QVERIFY(!enabling->Test(0x40) && !enabling->Test(0x41));
+        QCOMPARE(interface.warnings,
+                 QStringList{u"The range 0x0041-0x0040 is reversed, assuming 0x0040-0x0041."_s});
+
+        std::optional<CodeSet> disabling;
+        SelectRange(disabling, {0, 0xFFFE}, false);
+        QCOMPARE(disabling->Next(0), 0xFFFF);
+    }
+
+    void Questions()
+    {
+        CommandLine commandLine;
+        {
+            const Answers answers("nonsense\n aa4 \nKEEP\n");
+            QCOMPARE(commandLine.askFontFormat(), 6);
+            QCOMPARE(commandLine.askMergeMode(), 3);
+        }
+        const Answers none("nonsense\n");
+        QVERIFY_EXCEPTION_THROWN(commandLine.askFontFormat(), CriticalException);
+    }
+
+    void Requests()
+    {
+        CommandLine commandLine;
+        QVERIFY(commandLine.handleRequest(ActionType::ExitProgram));
+        QVERIFY(commandLine.handleRequest(ActionType::PrintUsage));
+        QVERIFY(!commandLine.handleRequest(ActionType::MergeFont));
+        QVERIFY(!commandLine.actionPerformed(nullptr, {}));
+        Session session;
+        const char* const none[] = {"Glyphor"};
+        commandLine.run(1, none, session);
+        QVERIFY(session.CurrentFont() == nullptr);
+    }
+};
+
+GLYPHOR_TEST(TestCommandLine)
+
+} // namespace Glyphor
+
+#include "tst_command_line.moc"

@@ -1,0 +1,267 @@
+#include "app/version.h"
+#include "files/file_types.h"
+#include "files/font_file_c.h"
+#include "model/code_text.h"
+#include "support/test_main.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Characters in two runs and three areas, an empty one among them, no two alike.
+std::unique_ptr<Font> MakeFont(FontFormat format, EncodingType encoding = EncodingType::Unicode)
+{
+    auto font = std::make_unique<Font>(format, encoding);
+    font->SetName(u"8 Tests/Plain 1.5"_s);
+    font->SetHeight(3);
+    font->SetBaseline(2);
+    font->SetReferenceHeights(1, 2);
+    int width = 1;
+    for (const quint16 code : std::initializer_list<quint16>{0x41, 0x42, 0x7F, 0x80, 0x81}) {
+        Character& character = font->AddChar(code);
+        character.info.height = 2;
+        character.info.SetWidth(quint8(width));
+        character.info.xPos = qint8(-width);
+        character.info.yPos = qint8(width - 2);
+        character.info.cursorDistance = quint8(width + 1);
+        QByteArray data(character.info.bytesPerLine * character.info.Rows(), '\0');
+        character.bitmap->AssignData(data);
+        for (int x = 0; x < width; ++x)
+            character.bitmap->SetPixelIndex(x, x % 2, width + x);
+        width += 4;
+    }
+    if (!IsLegacyFormat(format)) {
+        Character& empty = font->AddChar(0x43);
+        empty.info.SetWidth(0);
+        empty.info.height = 0;
+        empty.bitmap->AdjustData();
+    }
+    font->AddChar(0x7E);
+    font->SetEnabled(0x7E, 0x7E, false);
+    return font;
+}
+
+QByteArray DumpBytes(const Character& character)
+{
+    const QByteArray hex = character.bitmap->DataAsList().toHex(' ').toUpper();
+    return hex.isEmpty() ? hex : ' ' + hex;
+}
+
+// What dump.c prints of the font.
+QByteArray Dump(const Font& font)
+{
+    const FontMetrics& metrics = font.Metrics();
+    QByteArray text;
+    const auto add = [&text](std::initializer_list<int> numbers) {
+        QByteArrayList texts;
+        for (const int number : numbers)
+            texts.append(QByteArray::number(number));
+        text += texts.join(' ');
+    };
+    add({int(metrics.format), metrics.height, metrics.height, 1, 1, metrics.baseline,
+         metrics.lowercaseHeight, metrics.capitalHeight});
+    text += '\n';
+    for (const CodeRun& run : font.EnabledRuns()) {
+        for (int code = run.first; code <= run.last; ++code) {
+            const Character& character = *font.FindChar(quint16(code));
+            const CharInfo& info = character.info;
+            text += Hex4(quint16(code)) + ' ';
+            if (IsLegacyFormat(metrics.format))
+                add({info.width, info.cursorDistance, info.bytesPerLine});
+            else
+                add({info.width, info.height, info.xPos, info.yPos, info.cursorDistance});
+            text += ':' + DumpBytes(character) + '\n';
+        }
+    }
+    return text;
+}
+
+// "X" and "_" for every byte, as the embedded library's header has them.
+QByteArray PatternHeader()
+{
+    QByteArray text;
+    for (int byte = 0; byte < 256; ++byte) {
+        QByteArray name;
+        for (int bit = 7; bit >= 0; --bit)
+            name += (byte >> bit & 1) != 0 ? 'X' : '_';
+        text += "#define " + name + ' ' + QByteArray::number(byte) + '\n';
+    }
+    return text;
+}
+
+} // namespace
+
+class TestFontFileC : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void FileTypes_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("type"); // -1: none
+        QTest::newRow("capitals") << u"FONT.C"_s << int(FileType::C);
+        QTest::newRow("header") << u"dir.ttf/font.Hpp"_s << int(FileType::C);
+        QTest::newRow("backup") << u"font.c.bak"_s << -1;
+        QTest::newRow("collection") << u"a.ttc"_s << int(FileType::TrueTypeCollection);
+        QTest::newRow("compressed") << u"a.woff"_s << int(FileType::TrueType);
+        QTest::newRow("binary") << u"a.SIF"_s << int(FileType::Sif);
+        QTest::newRow("no suffix") << u"ttf"_s << -1;
+        QTest::newRow("no name") << QString() << -1;
+    }
+
+    void FileTypes()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const int, type);
+        const auto found = FileTypeOf(name);
+        QCOMPARE(found ? int(*found) : -1, type);
+    }
+
+    void Names_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("cName");
+        QTest::newRow("cut at the last dot") << u"Arial 24.c"_s << QByteArray("Arial_24");
+        QTest::newRow("two dots") << u"a.b-c.d"_s << QByteArray("a_b_c");
+        QTest::newRow("other letters") << u"L\u00f6we \u0410_1"_s << QByteArray("L_we___1");
+        QTest::newRow("digit") << u"8x16"_s << QByteArray("8x16");
+    }
+
+    void Names()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, cName);
+        QCOMPARE(CName(name), cName);
+    }
+
+    // Run with GLYPHOR_RENEW_GOLDEN set to write the expected files anew.
+    void Golden_data()
+    {
+        QTest::addColumn<QString>("fileName");
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("encoding");
+        QTest::newRow("standard") << u"standard.c"_s << int(FontFormat::Standard) << 0;
+        QTest::newRow("Shift JIS") << u"shiftjis.h"_s << int(FontFormat::LegacyAA2) << 1;
+    }
+
+    void Golden()
+    {
+        QFETCH(const QString, fileName);
+        QFETCH(const int, format);
+        QFETCH(const int, encoding);
+        CFileOptions options;
+        if (encoding == 0)
+            options.actionLog = {u"[Font]: Opened font file: a/*/\u202e\nb.ttf"_s,
+                                 QString(70, u'x')};
+        const auto font = MakeFont(FontFormat(format), EncodingType(encoding));
+        QByteArray text = FontFileC(u"some/dir/"_s + fileName, options).Compose(*font);
+        const QByteArray built =
+            QByteArray(Program::BuildDate.data()) + ' ' + Program::BuildTime.data();
+        QVERIFY(text.contains(Program::Name.data() + QByteArray(" ") + Program::Version.data()));
+        QVERIFY(text.contains("Compiled: " + built));
+        text.replace(built, QByteArray("<date and time>").leftJustified(built.size()));
+        const QByteArray version = Program::Version.data();
+        text.replace("Glyphor " + version,
+                     "Glyphor " + QByteArray("#").leftJustified(version.size()));
+
+        const QString path = QString::fromUtf8(TEST_SOURCES "/files/") + fileName + u".golden"_s;
+        if (qEnvironmentVariableIsSet("GLYPHOR_RENEW_GOLDEN"))
+            Test::WriteAll(path, text);
+        QCOMPARE(text, Test::ReadAll(path));
+    }
+
+    void LineEndingsAndLog()
+    {
+        const auto font = MakeFont(FontFormat::AA4);
+        const QByteArray lines = FontFileC(u"a.c"_s, {"\n", std::nullopt}).Compose(*font);
+        const QByteArray log = FontFileC(u"a.c"_s, {"\n", QStringList()}).Compose(*font);
+        QVERIFY(!lines.contains('\r'));
+        // An empty log still has its three separating lines.
+        QCOMPARE(log.count('\n'), lines.count('\n') + 3);
+    }
+
+    void GuardOnlyForHeaders_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("hasGuard");
+        for (const auto* const name : {"font.h", "a.b.hh", "font.hxx", "font.hpp"})
+            QTest::newRow(name) << QString::fromUtf8(name) << true;
+        for (const auto* const name : {"font.c", "font.H", "font.hpp.c", "h", "font.cpp"})
+            QTest::newRow(name) << QString::fromUtf8(name) << false;
+    }
+
+    void GuardOnlyForHeaders()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const bool, hasGuard);
+        const QByteArray text = FontFileC(name, {}).Compose(*MakeFont(FontFormat::AA2));
+        QCOMPARE(text.contains("#ifndef _8_TESTS_PLAIN_1_H\r\n#define _8_TESTS_PLAIN_1_H\r\n\r\n"),
+                 hasGuard);
+        QCOMPARE(text.contains("};\r\n\r\n#endif // _8_TESTS_PLAIN_1_H\r\n\r\n/****"), hasGuard);
+    }
+
+    void CompilesAndReadsBack_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<QString>("fileName");
+        for (int format = 0; format < FormatCount; ++format) {
+            for (const auto* const name : {"font.c", "font.h"})
+                QTest::addRow("format %d, %s", format, name) << format << QString::fromUtf8(name);
+        }
+    }
+
+    void CompilesAndReadsBack()
+    {
+        QFETCH(const int, format);
+        QFETCH(const QString, fileName);
+        const QTemporaryDir folder;
+        const auto font = MakeFont(FontFormat(format));
+        FontFileC(folder.filePath(fileName), {}).Write(*font);
+        Test::WriteAll(folder.filePath(u"GUI_patterns.h"_s), PatternHeader());
+
+        const QString program = folder.filePath(u"dump"_s);
+        const QString sources = QString::fromUtf8(TEST_SOURCES "/files/gui");
+        QStringList arguments = {u"-std=gnu99"_s,
+                                 u"-Wall"_s,
+                                 u"-Wextra"_s,
+                                 u"-Werror"_s,
+                                 u"-I"_s + sources,
+                                 u"-I"_s + folder.path(),
+                                 u"-DFONT_NAME=GUI_Font8_Tests_Plain_1"_s,
+                                 u"-DFONT_FILE=\"%1\""_s.arg(fileName),
+                                 u"-o"_s,
+                                 program,
+                                 sources + u"/dump.c"_s};
+        if (fileName.endsWith(u".h"_s))
+            arguments.append(u"-DFONT_IS_HEADER"_s);
+        else
+            arguments.append(folder.filePath(fileName));
+        QCOMPARE(RunProgram(u"gcc"_s, arguments), QByteArray());
+        QCOMPARE(RunProgram(program, {}), Dump(*font));
+    }
+
+private:
+    // Standard output and standard error together.
+    static QByteArray RunProgram(const QString& program, const QStringList& arguments)
+    {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(program, arguments);
+        if (!process.waitForFinished())
+            return process.errorString().toUtf8();
+        return process.readAll();
+    }
+};
+
+GLYPHOR_TEST(TestFontFileC)
+
+} // namespace Glyphor
+
+#include "tst_font_file_c.moc"

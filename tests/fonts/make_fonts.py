@@ -1,0 +1,167 @@
+#!/usr/bin/env python3
+"""Makes the small fonts that the tests read, into the folder given as the only argument.
+
+    outlines.ttf    boxes of known sizes, a kern table, codes beyond 0xFFFF
+    variable.ttf    a weight axis with the default instance and two named ones
+    collection.ttc  two faces
+    strike.ttf      outlines and a 1-bit strike of 10 pixels that has only "A"
+"""
+
+import os
+import sys
+
+from fontTools.fontBuilder import FontBuilder
+from fontTools.pens.ttGlyphPen import TTGlyphPen
+from fontTools.ttLib import TTCollection, newTable
+from fontTools.ttLib.tables._k_e_r_n import KernTable_format_0
+from fontTools.ttLib.tables.TupleVariation import TupleVariation
+
+EM = 1000
+
+
+def box(left, bottom, right, top):
+    pen = TTGlyphPen(None)
+    if right > left:
+        pen.moveTo((left, bottom))
+        pen.lineTo((left, top))
+        pen.lineTo((right, top))
+        pen.lineTo((right, bottom))
+        pen.closePath()
+    return pen.glyph()
+
+
+def build(family, style, glyphs, cmap, weight=400, selection=0x40):
+    """glyphs: name -> (advance, left, bottom, right, top), in em units, 1000 to the em."""
+    builder = FontBuilder(EM, isTTF=True)
+    order = [".notdef"] + list(glyphs)
+    builder.setupGlyphOrder(order)
+    builder.setupCharacterMap(cmap)
+    boxes = {".notdef": (500, 0, 0, 0, 0), **glyphs}
+    builder.setupGlyf({name: box(*boxes[name][1:]) for name in order})
+    builder.setupHorizontalMetrics({name: (boxes[name][0], boxes[name][1]) for name in order})
+    builder.setupHorizontalHeader(ascent=800, descent=-200)
+    builder.setupNameTable({"familyName": family, "styleName": style})
+    builder.setupOS2(sTypoAscender=800, sTypoDescender=-200, usWinAscent=800, usWinDescent=200,
+                     usWeightClass=weight, fsSelection=selection, ulUnicodeRange1=1,
+                     ulUnicodeRange2=2, ulUnicodeRange3=3, ulUnicodeRange4=4)
+    builder.setupPost()
+    return builder
+
+
+LETTERS = {
+    "A": (600, 50, 0, 550, 700),
+    "a": (500, 50, 0, 450, 500),
+    "V": (600, 0, 0, 600, 700),
+}
+
+
+def outlines(folder):
+    glyphs = {
+        **LETTERS,
+        "space": (300, 0, 0, 0, 0),
+        "mark": (0, 0, 0, 0, 0),  # empty, and does not move the cursor
+        "left": (400, -200, 0, 100, 700),  # starts before the cursor
+        "wide": (20000, 0, 0, 300, 300),
+        "far": (900, 0, 0, 9000, 300),
+        "high": (500, 0, -200, 300, 800),
+    }
+    cmap = {0x20: "space", 0x41: "A", 0x61: "a", 0x56: "V", 0x300: "mark", 0x6C: "left",
+            0x57: "wide", 0x46: "far", 0x48: "high", 0x391: "A", 0x4E9C: "V",
+            0x10041: "a", 0x1F600: "a"}
+    builder = build("Test Outlines", "Regular", glyphs, cmap)
+    kern = newTable("kern")
+    kern.version = 0
+    kern.kernTables = []
+    for pairs in ({("A", "V"): -100, ("V", "A"): -120, ("A", "A"): 1, ("V", "space"): 80,
+                   ("a", "left"): -500},
+                  {("A", "V"): -50, ("left", "V"): 90}):
+        table = KernTable_format_0()
+        table.coverage = 1
+        table.version = 0
+        table.tupleIndex = None
+        table.kernTable = pairs
+        kern.kernTables.append(table)
+    builder.font["kern"] = kern
+    builder.save(os.path.join(folder, "outlines.ttf"))
+
+
+def variable(folder):
+    glyphs = {"A": (600, 50, 0, 250, 700)}
+    builder = build("Test Variable", "Regular", glyphs, {0x41: "A"})
+    builder.setupFvar(
+        axes=[("wght", 400, 400, 900, "Weight")],
+        instances=[{"location": {"wght": 400}, "stylename": "Plain"},
+                   {"location": {"wght": 900}, "stylename": "Heavy"}])
+    # The right edge moves by 300 units from the lightest to the heaviest.
+    deltas = [(0, 0), (0, 0), (300, 0), (300, 0), (0, 0), (300, 0), (0, 0), (0, 0)]
+    builder.setupGvar({"A": [TupleVariation({"wght": (0.0, 1.0, 1.0)}, deltas)]})
+    builder.save(os.path.join(folder, "variable.ttf"))
+
+
+def collection(folder):
+    fonts = TTCollection()
+    for style, weight, selection in (("Regular", 400, 0x40), ("Oblique", 700, 0x200)):
+        glyphs = {"A": (600, 50, 0, 550 if weight == 400 else 350, 700)}
+        fonts.fonts.append(
+            build("Test Collection", style, glyphs, {0x41: "A"}, weight, selection).font)
+    fonts.save(os.path.join(folder, "collection.ttc"))
+
+
+def line_metrics(direction):
+    values = (("ascender", 8), ("descender", -2), ("widthMax", 7), ("caretSlopeNumerator", 0),
+              ("caretSlopeDenominator", 0), ("caretOffset", 0), ("minOriginSB", 0),
+              ("minAdvanceSB", 0), ("maxBeforeBL", 8), ("minAfterBL", -2), ("pad1", 0), ("pad2", 0))
+    rows = "".join(f'<{name} value="{value}"/>' for name, value in values)
+    return f'<sbitLineMetrics direction="{direction}">{rows}</sbitLineMetrics>'
+
+
+def strike(folder):
+    """The strike's "A" is 6 x 8 pixels, a chequered pattern that no outline gives."""
+    rows = "a854" * 4
+    xml = f"""<?xml version="1.0" encoding="UTF-8"?>
+<ttFont>
+  <EBLC>
+    <header version="2.0"/>
+    <strike index="0">
+      <bitmapSizeTable>
+        {line_metrics("hori")}{line_metrics("vert")}
+        <colorRef value="0"/><startGlyphIndex value="1"/><endGlyphIndex value="1"/>
+        <ppemX value="10"/><ppemY value="10"/><bitDepth value="1"/><flags value="1"/>
+      </bitmapSizeTable>
+      <eblc_index_sub_table_1 imageFormat="1" firstGlyphIndex="1" lastGlyphIndex="1">
+        <glyphLoc name="A"/>
+      </eblc_index_sub_table_1>
+    </strike>
+  </EBLC>
+  <EBDT>
+    <header version="2.0"/>
+    <strikedata index="0">
+      <ebdt_bitmap_format_1 name="A">
+        <SmallGlyphMetrics>
+          <height value="8"/><width value="6"/><BearingX value="1"/><BearingY value="8"/>
+          <Advance value="7"/>
+        </SmallGlyphMetrics>
+        <rawimagedata>{rows}</rawimagedata>
+      </ebdt_bitmap_format_1>
+    </strikedata>
+  </EBDT>
+</ttFont>
+"""
+    path = os.path.join(folder, "strike.ttx")
+    with open(path, "w", encoding="utf-8") as out:
+        out.write(xml)
+    font = build("Test Strike", "Regular", LETTERS, {0x41: "A", 0x61: "a", 0x56: "V"}).font
+    font.importXML(path)
+    os.remove(path)
+    font.save(os.path.join(folder, "strike.ttf"))
+
+
+def main():
+    folder = sys.argv[1]
+    os.makedirs(folder, exist_ok=True)
+    for make in (outlines, variable, collection, strike):
+        make(folder)
+
+
+if __name__ == "__main__":
+    main()

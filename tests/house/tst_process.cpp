@@ -1,0 +1,195 @@
+#include "support/test_main.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Result
+{
+    QString output;
+    QString errors;
+    int status = -1;
+};
+
+} // namespace
+
+// Runs the program as a build script does.
+class TestProcess : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        folder_ = std::make_unique<QTemporaryDir>();
+        QFile::setPermissions(folder_->path(), QFile::Permissions(0x7777));
+    }
+
+    void Converts()
+    {
+        const QStringList arguments = Arguments(Test::FontPath("outlines.ttf"), u"out.c"_s);
+        const Result result = Run(arguments);
+        QCOMPARE(result.status, 0);
+        QCOMPARE(result.errors, QString());
+        QVERIFY2(
+            result.output.startsWith(u"Characters left out: 1 (0x0057). "_s) &&
+                result.output.endsWith(u"\nOpened font file: %1\nSaved font file: out.c\n"_s.arg(
+                    Test::FontPath("outlines.ttf"))),
+            qUtf8Printable(result.output));
+        const QByteArray text = Test::ReadAll(File(u"out.c"_s));
+        QVERIFY(text.contains("GUI_FONTTYPE_PROP_AA4_EXT, // Type of font\r\n"));
+        QVERIFY(text.contains("_0041["));
+        QVERIFY(!text.contains("_0391[") && !text.contains("_0020["));
+        Run(arguments);
+        QCOMPARE(Test::ReadAll(File(u"out.c"_s)), text);
+
+        // Where -hide stands makes no difference, nor does the order of the others.
+        QStringList other = arguments;
+        other.move(other.indexOf(u"-hide"_s), 0);
+        other.append({u"-verbose"_s, u"-exit"_s});
+        QCOMPARE(Run(other).output, result.output);
+        QCOMPARE(Test::ReadAll(File(u"out.c"_s)), text);
+    }
+
+    void BadInput_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("expected"); // in the output
+        const QString font = Test::FontPath("outlines.ttf");
+        const auto row = [](const char* name, const QStringList& arguments,
+                            const QString& expected) {
+            QTest::newRow(name) << arguments << expected;
+        };
+        row("missing file", Arguments(u"none.ttf"_s), u"Given file does not exist!"_s);
+        row("directory", Arguments(u"directory.ttf"_s), u"directory.ttf is a directory."_s);
+        row("empty file", Arguments(u"empty.ttf"_s), u"empty.ttf is empty."_s);
+        row("text file", Arguments(u"text.ttf"_s), u"It is not a font file."_s);
+        row("unreadable file", Arguments(u"secret.ttf"_s), u"Permission denied"_s);
+        row("no height", {u"-hide"_s, font, u"-save"_s, u"old.c"_s}, u"-height"_s);
+        row("missing folder", Arguments(font, u"none/out.c"_s), u"none/out.c"_s);
+        row("full disk", Arguments(font, u"full.c"_s), u"No space left on device"_s);
+        row("target folder", Arguments(font, u"directory.c"_s), u"It is a directory."_s);
+        row("nothing selected", Arguments(font) + QStringList{u"-disable"_s, u"all"_s},
+            u"Font is empty!\nThe font has no enabled characters that could be saved."_s);
+        row("faulty option", Arguments(font) + QStringList{u"-nonsense"_s},
+            u"Invalid argument -nonsense entered!"_s);
+        row("later option", Arguments(font) + QStringList{u"-merge"_s, u"b.c"_s}, u"-merge"_s);
+    }
+
+    void BadInput()
+    {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QString, expected);
+        Test::WriteAll(File(u"old.c"_s), "old");
+        Test::WriteAll(File(u"empty.ttf"_s), {});
+        Test::WriteAll(File(u"text.ttf"_s), "text\n");
+        Test::WriteAll(File(u"secret.ttf"_s), "secret\n");
+        QVERIFY(QFile::setPermissions(File(u"secret.ttf"_s), {}));
+        QVERIFY(QFile::link(u"/dev/full"_s, File(u"full.c"_s)));
+        for (const QString& name : {u"directory.ttf"_s, u"directory.c"_s})
+            QVERIFY(QDir(folder_->path()).mkdir(name));
+
+        const Result result = Run(arguments, [] { BecomeNobody(); });
+        QCOMPARE(result.status, 0);
+        QVERIFY2(result.output.contains(u"Critical error!\n"_s), qUtf8Printable(result.output));
+        QVERIFY2(result.output.contains(expected), qUtf8Printable(result.output));
+        QVERIFY(!result.output.contains(u"Saved"_s));
+        QCOMPARE(Test::ReadAll(File(u"old.c"_s)), QByteArray("old"));
+    }
+
+    void FullDiskKeepsTheOldFile()
+    {
+        Test::WriteAll(File(u"old.c"_s), "old");
+        const Result result = Run(Arguments(Test::FontPath("outlines.ttf")), [] {
+            const rlimit limit = {1000, 1000}; // bytes that a file may have
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+            std::signal(SIGXFSZ, SIG_IGN);
+        });
+        QVERIFY2(result.output.contains(u"Critical error!\nError saving file!\n"_s),
+                 qUtf8Printable(result.output));
+        QCOMPARE(Test::ReadAll(File(u"old.c"_s)), QByteArray("old"));
+        QCOMPARE(QDir(folder_->path()).entryList(QDir::Files).size(), 1);
+    }
+
+    void ClosedStreams()
+    {
+        const Result result = Run(Arguments(Test::FontPath("outlines.ttf"), u"out.c"_s), [] {
+            for (const int stream : {0, 1, 2})
+                ::close(stream);
+        });
+        QCOMPARE(result.status, 0);
+        QVERIFY(Test::ReadAll(File(u"out.c"_s))
+                    .endsWith("End of file ****************************/\r\n"));
+    }
+
+    void ErrorFile()
+    {
+        Run({u"-hide"_s, u"none.ttf"_s, u"-XIRTSEK"_s, u"-height"_s, u"9px"_s});
+        QCOMPARE(Test::ReadAll(File(u"Glyphor.err"_s)), QByteArray("Given file does not exist!"));
+        Run({u"-hide"_s, u"-xirtsek"_s, u"-save"_s});
+        QCOMPARE(Test::ReadAll(File(u"Glyphor.err"_s)), QByteArray("Parameter missing!"));
+        Run(Arguments(Test::FontPath("outlines.ttf")) + QStringList{u"-xirtsek"_s});
+        QCOMPARE(Test::ReadAll(File(u"Glyphor.err"_s)), QByteArray("Parameter missing!"));
+    }
+
+    void WithoutWindow()
+    {
+        const Result result = Run({u"-help"_s});
+        QCOMPARE(result.status, 0);
+        QCOMPARE(result.output, QString());
+        QCOMPARE(result.errors.count(u'\n'), 1);
+        QVERIFY(result.errors.contains(u"-hide"_s));
+        QVERIFY(Run({u"none.ttf"_s, u"-hide"_s, u"-help"_s}).output.startsWith(u"USAGE:\n"_s));
+    }
+
+private:
+    static QStringList Arguments(const QString& font, const QString& target = u"old.c"_s)
+    {
+        return {font,     u"-hide"_s,   u"-height"_s,   u"24px"_s,  u"-format"_s,
+                u"AA4"_s, u"-enable"_s, u"0x21-0x7E"_s, u"-save"_s, target};
+    }
+
+    // The rights of root would let it read and write everything.
+    static void BecomeNobody()
+    {
+        constexpr uid_t nobody = 65534;
+        if (::geteuid() == 0 && ::setuid(nobody) != 0)
+            ::_exit(1);
+    }
+
+    Result Run(const QStringList& arguments, const std::function<void()>& prepare = {})
+    {
+        QProcess process;
+        process.setWorkingDirectory(folder_->path());
+        if (prepare)
+            process.setChildProcessModifier(prepare);
+        process.start(QString::fromUtf8(GLYPHOR_PROGRAM), arguments);
+        process.closeWriteChannel();
+        if (!process.waitForFinished())
+            qFatal("the program does not end");
+        const bool ended = process.exitStatus() == QProcess::NormalExit;
+        return {QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError()), ended ? process.exitCode() : -1};
+    }
+
+    [[nodiscard]] QString File(const QString& name) const { return folder_->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> folder_;
+};
+
+GLYPHOR_TEST(TestProcess)
+
+} // namespace Glyphor
+
+#include "tst_process.moc"

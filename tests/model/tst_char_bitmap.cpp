@@ -1,0 +1,361 @@
+#include "model/char_bitmap_framed.h"
+#include "model/font.h"
+#include "support/test_main.h"
+
+#include <QTest>
+
+#include <functional>
+
+namespace Glyphor {
+
+namespace {
+
+constexpr auto AllFormats = {FontFormat::Legacy,   FontFormat::LegacyAA2, FontFormat::LegacyAA4,
+                             FontFormat::Standard, FontFormat::Framed,    FontFormat::AA2,
+                             FontFormat::AA4};
+
+// Pixel indices by row and column: what the packed bytes stand for.
+using Picture = std::vector<std::vector<int>>;
+
+Picture PictureOf(const Character& character)
+{
+    Picture picture;
+    for (int y = 0; y < character.info.Rows(); ++y) {
+        picture.emplace_back();
+        for (int x = 0; x < character.info.width; ++x)
+            picture.back().push_back(character.bitmap->GetPixelIndex(x, y));
+    }
+    return picture;
+}
+
+// A character with a different index in most of its pixels. Its font has 5 rows.
+struct Sample
+{
+    static constexpr int Rows = 5;
+
+    Sample(FontFormat format, int width) : font(format, EncodingType::Unicode)
+    {
+        font.SetHeight(Rows);
+        font.SetBaseline(3);
+        character = &font.AddChar('A');
+        character->info.height = Rows;
+        character->info.yPos = 1;
+        character->info.SetWidth(quint8(width));
+        character->bitmap->AdjustData();
+        const int maximum = (1 << font.Metrics().bitsPerPixel) - 1;
+        for (int y = 0; y < Rows; ++y) {
+            for (int x = 0; x < width; ++x)
+                character->bitmap->SetPixelIndex(x, y, (x * 7 + y * 3 + x * x) % 5 & maximum);
+        }
+    }
+
+    // The unused bits of every row, which must stay 0.
+    [[nodiscard]] bool HasCleanPadding() const
+    {
+        const PixelLayout layout{character->info.width, character->info.Rows(),
+                                 character->info.font.bitsPerPixel};
+        const QByteArray& data = character->bitmap->Data();
+        const int unused = layout.BytesPerLine() * 8 - layout.width * layout.bitsPerPixel;
+        bool clean = data.size() == layout.Size();
+        for (int y = 0; clean && y < layout.rows && unused > 0; ++y)
+            clean = (uchar(data[(y + 1) * layout.BytesPerLine() - 1]) & ((1 << unused) - 1)) == 0;
+        return clean;
+    }
+
+    Font font;
+    Character* character;
+};
+
+struct EditCase
+{
+    const char* name;
+    std::function<bool(CharBitmap&)> edit;
+    std::function<void(Picture&)> expected;
+};
+
+template <typename Rows>
+void Rotate(Rows& rows, std::ptrdiff_t by)
+{
+    std::rotate(rows.begin(), by > 0 ? rows.end() - by : rows.begin() - by, rows.end());
+}
+
+// The edits that leave the number of rows alone, which every format has.
+const std::vector<EditCase> WidthEdits = {
+    {"InsertColumnRight", &CharBitmap::InsertColumnRight,
+     [](Picture& rows) {
+         for (auto& row : rows)
+             row.push_back(0);
+     }},
+    {"InsertColumnLeft", &CharBitmap::InsertColumnLeft,
+     [](Picture& rows) {
+         for (auto& row : rows)
+             row.insert(row.begin(), 0);
+     }},
+    {"DeleteColumnRight", &CharBitmap::DeleteColumnRight,
+     [](Picture& rows) {
+         for (auto& row : rows)
+             row.pop_back();
+     }},
+    {"DeleteColumnLeft", &CharBitmap::DeleteColumnLeft,
+     [](Picture& rows) {
+         for (auto& row : rows)
+             row.erase(row.begin());
+     }},
+    {"ShiftRight",
+     [](CharBitmap& bitmap) {
+         bitmap.ShiftRight();
+         return true;
+     },
+     [](Picture& rows) {
+         for (auto& row : rows)
+             Rotate(row, 1);
+     }},
+    {"ShiftLeft",
+     [](CharBitmap& bitmap) {
+         bitmap.ShiftLeft();
+         return true;
+     },
+     [](Picture& rows) {
+         for (auto& row : rows)
+             Rotate(row, -1);
+     }},
+    {"ShiftUp",
+     [](CharBitmap& bitmap) {
+         bitmap.ShiftUp();
+         return true;
+     },
+     [](Picture& rows) { Rotate(rows, -1); }},
+    {"ShiftDown",
+     [](CharBitmap& bitmap) {
+         bitmap.ShiftDown();
+         return true;
+     },
+     [](Picture& rows) { Rotate(rows, 1); }},
+};
+
+struct RowEditCase
+{
+    EditCase edit;
+    int yPos; // afterwards, from 1
+};
+
+const std::vector<RowEditCase> RowEdits = {
+    {{"InsertRowTop", &CharBitmap::InsertRowTop,
+      [](Picture& rows) { rows.insert(rows.begin(), std::vector<int>(rows[0].size())); }},
+     0},
+    {{"InsertRowBottom", &CharBitmap::InsertRowBottom,
+      [](Picture& rows) { rows.emplace_back(rows[0].size()); }},
+     1},
+    {{"DeleteRowTop", &CharBitmap::DeleteRowTop, [](Picture& rows) { rows.erase(rows.begin()); }},
+     2},
+    {{"DeleteRowBottom", &CharBitmap::DeleteRowBottom, [](Picture& rows) { rows.pop_back(); }}, 1},
+};
+
+} // namespace
+
+class TestCharBitmap : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Edits_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("width");
+        for (const FontFormat format : AllFormats) {
+            for (const int width : {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 254})
+                QTest::addRow("format %d, width %d", int(format), width) << int(format) << width;
+        }
+    }
+
+    void Edits()
+    {
+        QFETCH(const int, format);
+        QFETCH(const int, width);
+        for (const EditCase& edit : WidthEdits)
+            CheckEdit(edit, FontFormat(format), width);
+        for (const RowEditCase& edit : RowEdits) {
+            Sample sample(FontFormat(format), width);
+            const Picture before = PictureOf(*sample.character);
+            if (IsLegacyFormat(FontFormat(format))) {
+                QVERIFY2(!edit.edit.edit(*sample.character->bitmap), edit.edit.name);
+                QCOMPARE(PictureOf(*sample.character), before);
+            } else {
+                CheckEdit(edit.edit, FontFormat(format), width, edit.yPos);
+            }
+        }
+    }
+
+    void Limits()
+    {
+        Sample narrow(FontFormat::AA2, 1);
+        QVERIFY(!narrow.character->bitmap->DeleteColumnLeft());
+        QVERIFY(!narrow.character->bitmap->DeleteColumnRight());
+        for (int row = 1; row < Sample::Rows; ++row)
+            QVERIFY(narrow.character->bitmap->DeleteRowTop());
+        QVERIFY(!narrow.character->bitmap->DeleteRowTop());
+        QVERIFY(!narrow.character->bitmap->DeleteRowBottom());
+        QCOMPARE(int(narrow.character->info.height), 1);
+
+        Sample wide(FontFormat::AA2, 255);
+        QVERIFY(!wide.character->bitmap->InsertColumnLeft());
+        QVERIFY(!wide.character->bitmap->InsertColumnRight());
+        for (int row = Sample::Rows; row < 255; ++row)
+            QVERIFY(wide.character->bitmap->InsertRowBottom());
+        QVERIFY(!wide.character->bitmap->InsertRowBottom());
+        QVERIFY(!wide.character->bitmap->InsertRowTop());
+
+        Sample offset(FontFormat::AA2, 3);
+        offset.character->info.yPos = -128;
+        QVERIFY(!offset.character->bitmap->InsertRowTop());
+        offset.character->info.yPos = 127;
+        QVERIFY(!offset.character->bitmap->DeleteRowTop());
+    }
+
+    void UndoBringsBackEmptyPixels()
+    {
+        Sample sample(FontFormat::AA4, 4);
+        CharBitmap& bitmap = *sample.character->bitmap;
+        bitmap.SetPixelIndex(3, 2, 9);
+        QVERIFY(bitmap.DeleteColumnRight() && bitmap.UndoDeleteColumnRight());
+        QCOMPARE(bitmap.GetPixelIndex(3, 2), 0);
+        QVERIFY(bitmap.DeleteRowTop() && bitmap.UndoDeleteRowTop());
+        QCOMPARE(int(sample.character->info.yPos), 1);
+        const Picture before = PictureOf(*sample.character);
+        QVERIFY(bitmap.InsertRowTop() && bitmap.UndoInsertRowTop());
+        QVERIFY(bitmap.InsertRowBottom() && bitmap.UndoInsertRowBottom());
+        QVERIFY(bitmap.InsertColumnLeft() && bitmap.UndoInsertColumnLeft());
+        QVERIFY(bitmap.InsertColumnRight() && bitmap.UndoInsertColumnRight());
+        QCOMPARE(PictureOf(*sample.character), before);
+    }
+
+    void PackingFromTheMostSignificantBit()
+    {
+        Sample two(FontFormat::AA2, 2);
+        two.character->bitmap->AssignData({});
+        two.character->bitmap->SetPixelIndex(0, 0, 3);
+        QCOMPARE(two.character->bitmap->Data()[0], char(0xC0));
+        Sample four(FontFormat::AA4, 2);
+        four.character->bitmap->AssignData({});
+        four.character->bitmap->SetPixelIndex(1, 0, 5);
+        QCOMPARE(four.character->bitmap->Data()[0], char(0x05));
+    }
+
+    void PixelIndicesWrap()
+    {
+        for (const FontFormat format : AllFormats) {
+            Sample sample(format, 3);
+            CharBitmap& bitmap = *sample.character->bitmap;
+            const int maximum = (1 << BitsPerPixel(format)) - 1;
+            bitmap.SetPixelIndex(1, 1, maximum);
+            bitmap.IncPixelIndex(1, 1);
+            QCOMPARE(bitmap.GetPixelIndex(1, 1), 0);
+            bitmap.DecPixelIndex(1, 1);
+            QCOMPARE(bitmap.GetPixelIndex(1, 1), maximum);
+            bitmap.SetPixelIndex(1, 1, 0x10 + maximum);
+            bitmap.DecPixelIndex(1, 1);
+            bitmap.InvertPixelIndex(1, 1);
+            QCOMPARE(bitmap.GetPixelIndex(1, 1), 1);
+
+            const Picture before = PictureOf(*sample.character);
+            for (const auto& [x, y] : {std::pair(3, 0), {0, 5}, {-1, 0}, {0, -1}})
+                bitmap.InvertPixelIndex(x, y);
+            QCOMPARE(PictureOf(*sample.character), before);
+            QCOMPARE(bitmap.GetPixelIndex(0, 99), 0);
+        }
+    }
+
+    void Clearing()
+    {
+        for (const FontFormat format : AllFormats) {
+            Sample sample(format, 20);
+            sample.character->info.xPos = 5;
+            sample.character->bitmap->Clear();
+            const CharInfo& info = sample.character->info;
+            QCOMPARE(int(info.width), 1);
+            QCOMPARE(int(info.bytesPerLine), 1);
+            QCOMPARE(int(info.xPos), 0);
+            QCOMPARE(int(info.yPos), IsLegacyFormat(format) ? 0 : 3);
+            QCOMPARE(int(info.height), IsLegacyFormat(format) ? Sample::Rows : 1);
+            const int planes = format == FontFormat::Framed ? 2 : 1;
+            QCOMPARE(sample.character->bitmap->DataAsList(),
+                     QByteArray(info.height * planes, '\0'));
+            QVERIFY(sample.character->bitmap->IsCleared());
+        }
+    }
+
+    void FrameSurroundsInk()
+    {
+        Sample sample(FontFormat::Framed, 9);
+        auto& bitmap = dynamic_cast<CharBitmapFramed&>(*sample.character->bitmap);
+        bitmap.AssignData({});
+        bitmap.SetPixelIndex(4, 2, 1);
+        QCOMPARE(bitmap.Frame().toHex(), QByteArray("0000"
+                                                    "0800"
+                                                    "1400"
+                                                    "0800"
+                                                    "0000"));
+        bitmap.SetPixelIndex(0, 0, 1); // the frame outside is dropped
+        QCOMPARE(bitmap.Frame().toHex(), QByteArray("4000"
+                                                    "8800"
+                                                    "1400"
+                                                    "0800"
+                                                    "0000"));
+        QCOMPARE(int(sample.character->info.width), 9);
+
+        QVERIFY(bitmap.InsertColumnLeft());
+        QCOMPARE(bitmap.Frame().toHex(), QByteArray("2000"
+                                                    "4400"
+                                                    "0a00"
+                                                    "0400"
+                                                    "0000"));
+        QByteArray written;
+        bitmap.Write(written);
+        QCOMPARE(written, bitmap.Data() + bitmap.Frame());
+
+        Sample copy(FontFormat::Framed, 10);
+        const auto* const bytes = reinterpret_cast<const uchar*>(written.constData());
+        QVERIFY(!copy.character->bitmap->ReadData({bytes, std::size_t(written.size() - 1)}));
+        QVERIFY(copy.character->bitmap->ReadData({bytes, std::size_t(written.size())}));
+        QCOMPARE(copy.character->bitmap->DataAsList(), written);
+    }
+
+    void CText()
+    {
+        QByteArray text;
+        Sample one(FontFormat::Standard, 3);
+        one.character->bitmap->AssignData(QByteArray::fromHex("c000a0e000"));
+        one.character->bitmap->WriteBytes(text, "|");
+        QCOMPARE(text, QByteArray("  XX______, |  ________, |  X_X_____, |  XXX_____, |"
+                                  "  ________, |"));
+        text.clear();
+        Sample four(FontFormat::AA4, 3);
+        four.character->bitmap->AssignData(QByteArray::fromHex("0f5a"));
+        four.character->bitmap->WriteBytes(text, "\r\n");
+        QVERIFY(text.startsWith("  0x0F, 0x5A, \r\n  0x00, 0x00, \r\n"));
+    }
+
+private:
+    static void CheckEdit(const EditCase& edit, FontFormat format, int width, int yPos = 1)
+    {
+        Sample sample(format, width);
+        const bool isRefused = width == 1 && QByteArray(edit.name).startsWith("DeleteColumn");
+        Picture expected = PictureOf(*sample.character);
+        if (!isRefused)
+            edit.expected(expected);
+        QCOMPARE(edit.edit(*sample.character->bitmap), !isRefused);
+        QVERIFY2(PictureOf(*sample.character) == expected, edit.name);
+        QVERIFY2(sample.HasCleanPadding(), edit.name);
+        QCOMPARE(int(sample.character->info.yPos), yPos);
+        if (format == FontFormat::Framed) {
+            const auto& framed = dynamic_cast<CharBitmapFramed&>(*sample.character->bitmap);
+            QCOMPARE(framed.Frame().size(), framed.Data().size());
+        }
+    }
+};
+
+GLYPHOR_TEST(TestCharBitmap)
+
+} // namespace Glyphor
+
+#include "tst_char_bitmap.moc"

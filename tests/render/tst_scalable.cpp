@@ -1,0 +1,285 @@
+#include "app/settings.h"
+#include "render/font_file_scalable.h"
+#include "support/test_main.h"
+
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<Font> Render(const char* name, const RenderOptions& options,
+                             const std::optional<CodeSet>& filter = {})
+{
+    FontFileTTF file(Test::FontPath(name), options);
+    file.SetCharacterFilter(filter);
+    return file.Read();
+}
+
+RenderOptions At(int height, FontFormat format = FontFormat::AA4)
+{
+    RenderOptions options;
+    options.format = format;
+    options.size = {height, false};
+    return options;
+}
+
+// A face set up by calling FreeType alone.
+class DirectFace
+{
+public:
+    DirectFace(const QString& path, int height)
+    {
+        FT_Init_FreeType(&library_);
+        FT_New_Face(library_, QFile::encodeName(path).constData(), 0, &face_);
+        FT_Size_RequestRec request = {FT_SIZE_REQUEST_TYPE_BBOX, 0, height * 64, 0, 0};
+        FT_Request_Size(face_, &request);
+    }
+    ~DirectFace() { FT_Done_FreeType(library_); }
+    DirectFace(const DirectFace&) = delete;
+    DirectFace& operator=(const DirectFace&) = delete;
+
+    FT_GlyphSlot Render(quint16 code, bool monochrome)
+    {
+        if (FT_Load_Glyph(face_, FT_Get_Char_Index(face_, code),
+                          monochrome ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT) != 0 ||
+            FT_Render_Glyph(face_->glyph,
+                            monochrome ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) != 0)
+            return nullptr;
+        return face_->glyph;
+    }
+
+    FT_Face Face() { return face_; }
+
+private:
+    FT_Library library_ = nullptr;
+    FT_Face face_ = nullptr;
+};
+
+} // namespace
+
+class TestScalable : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void GlyphsAreFreeTypes_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::newRow("1 bit") << int(FontFormat::Standard);
+        QTest::newRow("2 bits") << int(FontFormat::AA2);
+        QTest::newRow("4 bits") << int(FontFormat::AA4);
+    }
+
+    void GlyphsAreFreeTypes()
+    {
+        QFETCH(const int, format);
+        const QString path = QString::fromUtf8(SYSTEM_FONTS "/DejaVuSans.ttf");
+        const bool monochrome = BitsPerPixel(FontFormat(format)) == 1;
+        CodeSet filter;
+        filter.SetRange(0x20, 0x17F, true);
+        FontFileTTF file(path, At(21, FontFormat(format)));
+        file.SetCharacterFilter(filter);
+        const auto font = file.Read();
+        DirectFace direct(path, 21);
+        const int ascent = int(direct.Face()->size->metrics.ascender >> 6);
+        for (int code = 0x20; code <= 0x17F; ++code) {
+            const Character* const character = font->FindChar(quint16(code));
+            const FT_GlyphSlot slot = direct.Render(quint16(code), monochrome);
+            if (character == nullptr) {
+                QVERIFY(slot == nullptr || slot->advance.x == 0 ||
+                        FT_Get_Char_Index(direct.Face(), FT_ULong(code)) == 0);
+                continue;
+            }
+            const FT_Bitmap& bitmap = slot->bitmap;
+            QCOMPARE(unsigned(character->info.width), bitmap.width);
+            QCOMPARE(unsigned(character->info.height), bitmap.rows);
+            QCOMPARE(int(character->info.xPos), slot->bitmap_left);
+            QCOMPARE(int(character->info.yPos), ascent - slot->bitmap_top);
+            QCOMPARE(int(character->info.cursorDistance), int(slot->advance.x >> 6));
+            for (int y = 0; y < int(bitmap.rows); ++y) {
+                for (int x = 0; x < int(bitmap.width); ++x) {
+                    const uchar* const row = bitmap.buffer + y * bitmap.pitch;
+                    const int expected =
+                        monochrome ? row[x / 8] >> (7 - x % 8) & 1
+                                   : QuantiseCoverage(row[x], BitsPerPixel(FontFormat(format)));
+                    QCOMPARE(character->bitmap->GetPixelIndex(x, y), expected);
+                }
+            }
+        }
+    }
+
+    void MetricsAndNames()
+    {
+        RenderOptions options = At(100);
+        const auto font = Render("outlines.ttf", options);
+        QCOMPARE(font->Name(), u"Test Outlines Regular"_s);
+        QVERIFY(font->HasKerning());
+        QCOMPARE(font->FindChar('V')->kerning.size(), std::size_t(4));
+
+        const FontMetrics& metrics = font->Metrics();
+        DirectFace direct(Test::FontPath("outlines.ttf"), 100);
+        const FT_Size_Metrics& size = direct.Face()->size->metrics;
+        QCOMPARE(int(metrics.height), int(size.height >> 6));
+        QCOMPARE(int(metrics.baseline), int(size.ascender >> 6));
+        QCOMPARE(int(metrics.maxWidth), int(std::min<FT_Pos>(size.max_advance >> 6, 255)));
+        FT_Load_Char(direct.Face(), 'a', FT_LOAD_DEFAULT);
+        QCOMPARE(int(metrics.lowercaseHeight), int(direct.Face()->glyph->metrics.height >> 6));
+        FT_Load_Char(direct.Face(), 'A', FT_LOAD_DEFAULT);
+        QCOMPARE(int(metrics.capitalHeight), int(direct.Face()->glyph->metrics.height >> 6));
+
+        // The face has no "a": the font's height stands in.
+        const auto variable = Render("variable.ttf", At(50));
+        QCOMPARE(variable->Metrics().lowercaseHeight, variable->Metrics().height);
+    }
+
+    void LargeMetricsAreClamped()
+    {
+        Test::RecordingInterface interface;
+        const auto font = Render("outlines.ttf", At(1000));
+        QCOMPARE(int(font->Metrics().height), 255);
+        QCOMPARE(int(font->Metrics().baseline), 255);
+        QCOMPARE(ClampMetric(-1), quint8(255));
+        QVERIFY(font->FindChar('A') == nullptr);
+    }
+
+    void WhatIsKept()
+    {
+        Test::RecordingInterface interface;
+        const auto font = Render("outlines.ttf", At(40));
+        QVERIFY(font->FindChar(' ') != nullptr);    // moves the cursor
+        QVERIFY(font->FindChar(0x300) == nullptr);  // empty, and does not
+        QVERIFY(font->FindChar(0xF600) == nullptr); // the low bits of U+1F600, without a glyph
+        QVERIFY(font->FindChar('W') == nullptr);    // too wide
+        QVERIFY(font->FindChar('F') == nullptr);
+        QVERIFY(font->FindChar('l')->info.xPos < 0);
+        QCOMPARE(int(font->FindChar(' ')->info.width), 0);
+        QCOMPARE(interface.warnings.size(), 1);
+        QVERIFY(interface.warnings[0].startsWith(u"Characters left out: 2 (0x0046, 0x0057). "_s));
+
+        // FreeType renders an empty outline in black and white as one clear pixel.
+        const auto mono = Render("outlines.ttf", At(40, FontFormat::Standard));
+        QCOMPARE(mono->FindChar(' ')->bitmap->Data(), QByteArray(1, '\0'));
+        QVERIFY(mono->FindChar(0x300) != nullptr);
+    }
+
+    void FilterAndEncoding()
+    {
+        Test::RecordingInterface interface;
+        CodeSet filter;
+        filter.SetRange(0x4E9C, 0x4E9C, true);
+        filter.SetRange('A', 'A', true);
+        QCOMPARE(Render("outlines.ttf", At(20), filter)->EnabledRuns(),
+                 (std::vector<CodeRun>{{'A', 'A'}, {0x4E9C, 0x4E9C}}));
+        QVERIFY(!Render("outlines.ttf", At(20), CodeSet())->HasEnabledChars());
+
+        RenderOptions options = At(20, FontFormat::LegacyAA4);
+        options.encoding = EncodingType::ShiftJis;
+        const auto font = Render("outlines.ttf", options, filter);
+        QCOMPARE(font->EnabledRuns(), (std::vector<CodeRun>{{'A', 'A'}, {0x889F, 0x889F}}));
+        // 0x83A0 is the Greek letter with the glyph of "A".
+        QCOMPARE(font->FindChar(0x889F)->kerning,
+                 (std::vector<KerningPair>{{' ', 1}, {'A', -2}, {0x839F, -2}, {'A', -2}}));
+    }
+
+    void Effects_data()
+    {
+        QTest::addColumn<quint32>("effects");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("bold") << quint32(BoldEffect) << u"Test Outlines Regular (Bold)"_s;
+        QTest::newRow("italic") << quint32(ItalicEffect) << u"Test Outlines Regular (Italic)"_s;
+        QTest::newRow("both") << quint32(BoldEffect | ItalicEffect)
+                              << u"Test Outlines Regular (Bold, Italic)"_s;
+    }
+
+    void Effects()
+    {
+        QFETCH(const quint32, effects);
+        QFETCH(const QString, name);
+        Test::RecordingInterface interface;
+        const auto plain = Render("outlines.ttf", At(40));
+        RenderOptions options = At(40);
+        options.effects = effects;
+        const auto font = Render("outlines.ttf", options);
+        QCOMPARE(font->Name(), name);
+        QVERIFY(font->FindChar('A')->info.width > plain->FindChar('A')->info.width);
+        QCOMPARE(font->FindChar('A')->info.height > plain->FindChar('A')->info.height,
+                 (effects & BoldEffect) != 0);
+    }
+
+    void Strikes()
+    {
+        const QByteArray chequered = QByteArray::fromHex("a854a854a854a854");
+        const auto mono = Render("strike.ttf", At(10, FontFormat::Standard));
+        QCOMPARE(mono->FindChar('A')->bitmap->Data(), chequered);
+        QCOMPARE(int(mono->FindChar('A')->info.cursorDistance), 7);
+        QVERIFY(mono->FindChar('V')->bitmap->Data() != chequered); // an outline among them
+
+        const auto grey = Render("strike.ttf", At(10));
+        QCOMPARE(grey->FindChar('A')->bitmap->Data().left(3), QByteArray::fromHex("f0f0f0"));
+
+        QVERIFY(Render("strike.ttf", At(11, FontFormat::Standard))->FindChar('A')->bitmap->Data() !=
+                chequered);
+        Settings::Instance().useIncludedBitmaps.setValue(false);
+        const auto outline = Render("strike.ttf", At(10, FontFormat::Standard));
+        Settings::Instance().useIncludedBitmaps.setValue(true);
+        QVERIFY(outline->FindChar('A')->bitmap->Data() != chequered);
+    }
+
+    void NamedInstances()
+    {
+        FreeTypeFace face(Test::FontPath("variable.ttf"), 0, FreeTypeLibrary());
+        QVERIFY(face.IsMultiMaster());
+        QCOMPARE(face.NamedInstanceNames(), (QStringList{u"Plain"_s, u"Heavy"_s}));
+        QCOMPARE(face.Style(), (FaceStyle{0, 5, false}));
+        face.SetNamedInstance(2);
+        QCOMPARE(face.Style(), (FaceStyle{900, 5, false}));
+
+        QList<int> widths;
+        for (int index = 0; index <= 2; ++index) {
+            RenderOptions options = At(50);
+            options.faceIndex = index;
+            widths.append(Render("variable.ttf", options)->FindChar('A')->info.width);
+        }
+        QCOMPARE(widths[0], widths[1]);
+        QVERIFY(widths[2] > widths[1]);
+        QCOMPARE(FontFileTTF(Test::FontPath("variable.ttf"), At(50)).FaceCount(), 3);
+    }
+
+    void Collections()
+    {
+        RenderOptions options = At(10, FontFormat::Standard);
+        options.faceIndex = 1;
+        FontFileTTC file(Test::FontPath("collection.ttc"), options);
+        QCOMPARE(file.FaceCount(), 2);
+        QCOMPARE(file.FamilyNames(), QStringList(2, u"Test Collection"_s));
+        QCOMPARE(file.FaceDescriptions()[1].styleName, u"Oblique"_s);
+        QCOMPARE(file.FaceDescriptions()[1].style, (FaceStyle{700, 5, true}));
+        const auto font = file.Read();
+        QCOMPARE(font->Name(), u"Test Collection Oblique"_s);
+        QCOMPARE(int(font->FindChar('A')->info.bytesPerLine), 1); // 1 bit per pixel, of the size
+        QCOMPARE(font->Metrics().height, Render("collection.ttc", At(10))->Metrics().height);
+    }
+
+    void NoFace()
+    {
+        FontFileTTF file(u"none.ttf"_s, At(10));
+        QVERIFY(!file.OpenFault().isEmpty());
+        const auto font = file.Read();
+        QVERIFY(!font->HasEnabledChars());
+        FreeTypeFace face;
+        const FreeTypeFace copy = face;
+        QCOMPARE(copy.Ascent() + copy.GlyphHeight('A') + copy.Kerning('A', 'V'), 0);
+        QVERIFY(copy.UnicodeRanges().isEmpty() && copy.KerningPairs('A').empty());
+        QCOMPARE(FreeTypeFace(Test::FontPath("outlines.ttf"), 0, FreeTypeLibrary()).UnicodeRanges(),
+                 (QList<quint32>{1, 2, 3, 4}));
+    }
+};
+
+GLYPHOR_TEST(TestScalable)
+
+} // namespace Glyphor
+
+#include "tst_scalable.moc"

@@ -1,0 +1,58 @@
+#include "support/test_main.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor::Test {
+
+namespace {
+
+std::vector<std::function<std::unique_ptr<QObject>()>>& Registered()
+{
+    static std::vector<std::function<std::unique_ptr<QObject>()>> list;
+    return list;
+}
+
+} // namespace
+
+Registration::Registration(std::function<std::unique_ptr<QObject>()> make)
+{
+    Registered().push_back(std::move(make));
+}
+
+QString FontPath(const char* name)
+{
+    return QString::fromUtf8(TEST_FONTS "/") + QString::fromUtf8(name);
+}
+
+QByteArray ReadAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void WriteAll(const QString& path, const QByteArray& contents)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+        qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+} // namespace Glyphor::Test
+
+// Runs every registered class, with settings of its own.
+int main(int argc, char** argv)
+{
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    const TEST_APPLICATION application(argc, argv);
+
+    int failures = 0;
+    for (const auto& make : Glyphor::Test::Registered())
+        failures += QTest::qExec(make().get(), argc, argv);
+    return failures == 0 ? 0 : 1;
+}
