@@ -32,6 +32,7 @@ CommandLineParameter Range()
     return {ParameterKind::Range, u"{<first char>[-<last char>]|all}"_s};
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table
 std::vector<CommandLineOption> MakeOptions()
 {
     return {
@@ -192,6 +193,7 @@ const ParameterKeywordTable& FormatKeywords()
 {
     static const ParameterKeywordTable table([] {
         std::vector<ParameterKeywordTable::Entry> entries;
+        entries.reserve(FormatKeywordTable.size());
         for (const FormatKeywordRow& row : FormatKeywordTable)
             entries.push_back(
                 {row.keyword, FormatDisplayName(row.format), static_cast<int>(row.format)});
@@ -204,6 +206,7 @@ const ParameterKeywordTable& EncodingKeywords()
 {
     static const ParameterKeywordTable table([] {
         std::vector<ParameterKeywordTable::Entry> entries;
+        entries.reserve(EncodingKeywordTable.size());
         for (const EncodingKeywordRow& row : EncodingKeywordTable)
             entries.push_back({row.keyword, row.description, static_cast<int>(row.encoding),
                                row.description.isEmpty()});

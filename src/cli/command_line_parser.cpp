@@ -212,7 +212,7 @@ void ReorderOccurrences(std::vector<OptionOccurrence>& occurrences)
 {
     MoveToFront(occurrences, OptionId::Open);
     MoveToFront(occurrences, OptionId::Create);
-    std::ranges::stable_partition(occurrences, IsSelection);
+    std::stable_partition(occurrences.begin(), occurrences.end(), IsSelection);
     MoveToBack(occurrences, OptionId::Save);
     MoveToBack(occurrences, OptionId::Exit);
 }

@@ -167,7 +167,7 @@ void FontWriter::PropertyBlock(std::size_t index, int firstChar)
 {
     const QByteArray type = TableType("GUI_FONT_PROP");
     const auto name = [this](std::size_t block) {
-        return identifier_ + "_Prop" + QByteArray::number(qulonglong(block + 1));
+        return identifier_ + "_Prop" + QByteArray::number(qsizetype(block) + 1);
     };
     text_.Line("static GUI_CONST_STORAGE " + type + ' ' + name(index) + " = {");
     text_.Line("  0x" + Hex4(runs_[index].first) + ", // First character");

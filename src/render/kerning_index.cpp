@@ -70,7 +70,7 @@ void KerningIndex::ReadKernTable(const std::vector<quint8>& table)
         rest = rest.subspan(length);
     }
     std::ranges::sort(pairs_);
-    pairs_.erase(std::ranges::unique(pairs_).begin(), pairs_.end());
+    pairs_.erase(std::unique(pairs_.begin(), pairs_.end()), pairs_.end());
 }
 
 void KerningIndex::ReadCharmap()
@@ -98,14 +98,13 @@ std::vector<KerningPair> KerningIndex::PairsOf(quint16 left) const
 
     const FT_UInt leftGlyph = FT_Get_Char_Index(face_.Handle(), left);
     std::vector<std::pair<std::size_t, int>> found; // place in the charmap, distance
-    for (const GlyphPair& pair :
-         std::ranges::equal_range(pairs_, leftGlyph, {}, &GlyphPair::left)) {
-        const auto places = std::ranges::equal_range(places_, pair.right, {}, &CharmapPlace::glyph);
-        const int distance = places.empty() ? 0 : Distance(pair.left, pair.right);
-        for (const CharmapPlace& place : places) {
-            if (distance != 0)
-                found.emplace_back(place.position, distance);
-        }
+    auto pair = std::ranges::lower_bound(pairs_, leftGlyph, {}, &GlyphPair::left);
+    for (; pair != pairs_.end() && pair->left == leftGlyph; ++pair) {
+        auto place = std::ranges::lower_bound(places_, pair->right, {}, &CharmapPlace::glyph);
+        const bool isMapped = place != places_.end() && place->glyph == pair->right;
+        const int distance = isMapped ? Distance(pair->left, pair->right) : 0;
+        for (; distance != 0 && place != places_.end() && place->glyph == pair->right; ++place)
+            found.emplace_back(place->position, distance);
     }
     std::ranges::sort(found);
 

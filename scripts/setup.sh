@@ -1,0 +1,37 @@
+# Sourced by the other scripts: goes to the project's folder and installs what a task needs.
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
+
+build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libfreetype-dev)
+
+# install PACKAGE...: installs the Debian packages that are missing, and says nothing otherwise.
+install() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q ' installed$' ||
+            missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+    echo "Installing ${missing[*]}" >&2
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "Please install as root: apt-get install ${missing[*]}" >&2
+            exit 1
+        }
+        as_root=(sudo)
+    fi
+    "${as_root[@]}" apt-get update >&2 &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y --no-install-recommends "${missing[@]}" >&2
+}
+
+# build PRESET [TARGET...]: configures once and builds; prints to standard error only.
+build() {
+    local preset=$1
+    shift
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >&2 || return 1
+    fi
+    cmake --build --preset "$preset" ${1:+--target "$@"} >&2
+}
