@@ -70,9 +70,8 @@ QString LogMessage(ActionType type)
 
 QString RangePrefix(quint16 first, quint16 last)
 {
-    const auto hex = [](quint16 code) { return QString::fromLatin1(Hex4(code)); };
-    return first == last ? u"[Char 0x%1]: "_s.arg(hex(first))
-                         : u"[Range 0x%1-0x%2]: "_s.arg(hex(first), hex(last));
+    return first == last ? u"[Char 0x%1]: "_s.arg(Hex4Text(first))
+                         : u"[Range 0x%1-0x%2]: "_s.arg(Hex4Text(first), Hex4Text(last));
 }
 
 QString Action::MessageFor(ActionType type) const

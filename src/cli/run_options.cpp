@@ -98,10 +98,9 @@ void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state)
             selection->SetRange(0, CodeSet::Count - 1, true);
     }
     if (range.first > range.last) {
-        const auto code = [](quint16 value) { return QString::fromLatin1(Hex4(value)); };
         CurrentInterface().warning(u"Range"_s,
                                    u"The range 0x%1-0x%2 is reversed, assuming 0x%2-0x%1."_s.arg(
-                                       code(range.first), code(range.last)));
+                                       Hex4Text(range.first), Hex4Text(range.last)));
         std::swap(range.first, range.last);
     }
     selection->SetRange(range.first, range.last, state);

@@ -82,11 +82,6 @@ CFileText::CFileText(const CFileOptions& options, const QString& filePath, const
         guardSymbol_ = CSymbol(CName(fontName).toUpper() + "_H");
 }
 
-void CFileText::Line(QByteArrayView text)
-{
-    bytes_.append(text).append(options_.lineEnding);
-}
-
 void CFileText::BoxLine(const QString& text)
 {
     const QString line = InComment(text);
@@ -142,8 +137,8 @@ void CFileText::IncludeGuardStart()
 {
     if (guardSymbol_.isEmpty())
         return;
-    Line("#ifndef " + guardSymbol_);
-    Line("#define " + guardSymbol_);
+    Line("#ifndef ", guardSymbol_);
+    Line("#define ", guardSymbol_);
     Line();
 }
 
@@ -151,7 +146,7 @@ void CFileText::IncludeGuardEnd()
 {
     if (guardSymbol_.isEmpty())
         return;
-    Line("#endif // " + guardSymbol_);
+    Line("#endif // ", guardSymbol_);
     Line();
 }
 
@@ -167,14 +162,6 @@ void CFileText::StorageClassBlock()
     Line("  #define GUI_CONST_STORAGE const");
     Line("#endif");
     Line();
-}
-
-void CFileText::Triple(QByteArrayView text)
-{
-    Line("//");
-    bytes_.append("// ");
-    Line(text);
-    Line("//");
 }
 
 void CFileText::EndLine()

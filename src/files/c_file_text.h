@@ -29,8 +29,20 @@ public:
 
     void Reserve(qsizetype size) { bytes_.reserve(size); }
 
-    // Adds the text and a line ending.
-    void Line(QByteArrayView text = {});
+    // Adds the texts, one behind the other, and a line ending. Nothing is composed on the way: a
+    // font has tens of thousands of lines.
+    template <typename... Texts>
+    void Line(const Texts&... texts)
+    {
+        Add(texts...);
+        bytes_.append(options_.lineEnding);
+    }
+
+    template <typename... Texts>
+    void Add(const Texts&... texts)
+    {
+        (bytes_.append(QByteArrayView(texts)), ...);
+    }
 
     // The box at the head of the file.
     void CommentBox(int fontHeight, QByteArrayView contentType);
@@ -42,8 +54,14 @@ public:
     void IncludeLine();
     void StorageClassBlock();
 
-    // Three comment lines, the text in the middle one.
-    void Triple(QByteArrayView text);
+    // Three comment lines, the texts in the middle one.
+    template <typename... Texts>
+    void Triple(const Texts&... texts)
+    {
+        Line("//");
+        Line("// ", texts...);
+        Line("//");
+    }
 
     void EndLine();
 

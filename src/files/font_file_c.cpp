@@ -15,16 +15,7 @@ namespace {
 class FontWriter
 {
 public:
-    FontWriter(const Font& font, CFileText& text)
-        : font_(font),
-          text_(text),
-          runs_(font.EnabledRuns()),
-          identifier_("GUI_Font" + CName(font.Name())),
-          isLegacy_(IsLegacyFormat(font.Metrics().format))
-    {
-        for (const CodeRun& run : runs_)
-            count_ += run.Size();
-    }
+    FontWriter(const Font& font, CFileText& text);
 
     void Reserve();
     void Hint();
@@ -37,15 +28,11 @@ private:
     void AreaHeading(quint16 code);
     void Bitmap(quint16 code, const Character& character);
     void CharInfoRow(quint16 code, const CharInfo& info);
-    void PropertyBlock(std::size_t index, int firstChar);
+    void PropertyBlock(int index, int firstChar);
+    void CommentedLine(QByteArrayView comment, QByteArrayView value);
 
-    [[nodiscard]] QByteArray ArrayName(quint16 code) const
-    {
-        return "ac" + identifier_ + '_' + Hex4(code);
-    }
-
-    [[nodiscard]] QByteArray CodeComment(quint16 code) const;
-    [[nodiscard]] QByteArray TableType(QByteArrayView plain) const;
+    // Adds "// Code 0041, LATIN CAPITAL LETTER A" and ends the line.
+    void EndWithCodeComment(quint16 code);
 
     template <typename Visit>
     void ForEachChar(Visit visit) const
@@ -57,13 +44,32 @@ private:
     }
 
     const Font& font_;
+    const Encoding& encoding_;
     CFileText& text_;
     std::vector<CodeRun> runs_;
     QByteArray identifier_;
+    QByteArray arrayPrefix_;
+    bool isUnicode_; // Shift JIS codes have neither names nor named areas here
     bool isLegacy_;
+    QByteArray tableSuffix_; // of the structures with offsets
     int count_ = 0;
     int lastArea_ = -1;
 };
+
+FontWriter::FontWriter(const Font& font, CFileText& text)
+    : font_(font),
+      encoding_(EncodingFor(font.Metrics().encoding)),
+      text_(text),
+      runs_(font.EnabledRuns()),
+      identifier_("GUI_Font" + CName(font.Name())),
+      arrayPrefix_("ac" + identifier_ + '_'),
+      isUnicode_(font.Metrics().encoding == EncodingType::Unicode),
+      isLegacy_(IsLegacyFormat(font.Metrics().format)),
+      tableSuffix_(isLegacy_ ? "" : "_EXT")
+{
+    for (const CodeRun& run : runs_)
+        count_ += run.Size();
+}
 
 // Room for everything at once: growing a large text step by step would copy it and double the peak.
 void FontWriter::Reserve()
@@ -78,50 +84,35 @@ void FontWriter::Reserve()
     text_.Reserve(size);
 }
 
-QByteArray FontWriter::CodeComment(quint16 code) const
+void FontWriter::EndWithCodeComment(quint16 code)
 {
-    QByteArray comment = "// Code " + Hex4(code);
-    const EncodingType encoding = font_.Metrics().encoding;
-    if (encoding == EncodingType::Unicode) {
-        const QLatin1StringView name = EncodingFor(encoding).CharName(code);
-        if (!name.isEmpty())
-            comment.append(", ").append(name.data(), name.size());
-    }
-    return comment;
-}
-
-// The structure names of the formats with offsets end in "_EXT".
-QByteArray FontWriter::TableType(QByteArrayView plain) const
-{
-    return plain.toByteArray() + (isLegacy_ ? "" : "_EXT");
+    const QLatin1StringView name = isUnicode_ ? encoding_.CharName(code) : QLatin1StringView();
+    text_.Line("// Code ", Hex4(code), name.isEmpty() ? "" : ", ", name);
 }
 
 void FontWriter::Hint()
 {
     text_.Triple("The following line needs to be included in any file selecting the font:");
-    text_.Line("extern GUI_CONST_STORAGE GUI_FONT " + identifier_ + ';');
+    text_.Line("extern GUI_CONST_STORAGE GUI_FONT ", identifier_, ";");
     text_.Line();
 }
 
-// Shift JIS codes have no named areas.
 void FontWriter::AreaHeading(quint16 code)
 {
-    if (font_.Metrics().encoding != EncodingType::Unicode)
-        return;
-    const int area = BlockIndex(code);
+    const int area = isUnicode_ ? BlockIndex(code) : -1;
     if (area < 0 || area == lastArea_)
         return;
     lastArea_ = area;
-    const QLatin1StringView name = BlockName(code);
-    text_.Triple("Start of unicode area " + QByteArray(name.data(), name.size()));
+    text_.Triple("Start of unicode area ", encoding_.BlockName(code));
 }
 
 void FontWriter::Bitmap(quint16 code, const Character& character)
 {
     AreaHeading(code);
     const int size = font_.CharDataWidth(character) * character.info.Rows();
-    text_.Line("static GUI_CONST_STORAGE unsigned char " + ArrayName(code) + '[' +
-               QByteArray::number(size) + "] = { " + CodeComment(code));
+    text_.Add("static GUI_CONST_STORAGE unsigned char ", arrayPrefix_, Hex4(code), "[",
+              Decimal(size), "] = { ");
+    EndWithCodeComment(code);
     character.bitmap->WriteBytes(text_.Bytes(), text_.LineEnding());
     text_.Line("};");
     text_.Line();
@@ -138,45 +129,45 @@ void FontWriter::Bitmaps()
 
 void FontWriter::CharInfoRow(quint16 code, const CharInfo& info)
 {
-    QByteArray row = "  { ";
-    const auto add = [&row](int value) {
-        row += QByteArray::number(value).rightJustified(4) + ", ";
-    };
+    constexpr int width = 4;
+    text_.Add("  { ");
     if (isLegacy_) {
         for (const int value : {info.width, info.cursorDistance, info.bytesPerLine})
-            add(value);
+            text_.Add(Decimal(value, width), ", ");
     } else {
         for (const int value : {int(info.width), int(info.height), int(info.xPos), int(info.yPos),
                                 int(info.cursorDistance)})
-            add(value);
+            text_.Add(Decimal(value, width), ", ");
     }
-    text_.Line(row + ArrayName(code) + " }, " + CodeComment(code));
+    text_.Add(arrayPrefix_, Hex4(code), " }, ");
+    EndWithCodeComment(code);
 }
 
 void FontWriter::CharInfoTable()
 {
-    text_.Line("static GUI_CONST_STORAGE " + TableType("GUI_CHARINFO") + ' ' + identifier_ +
-               "_CharInfo[" + QByteArray::number(count_) + "] = {");
+    text_.Line("static GUI_CONST_STORAGE GUI_CHARINFO", tableSuffix_, " ", identifier_,
+               "_CharInfo[", Decimal(count_), "] = {");
     ForEachChar(
         [this](quint16 code, const Character& character) { CharInfoRow(code, character.info); });
     text_.Line("};");
     text_.Line();
 }
 
-void FontWriter::PropertyBlock(std::size_t index, int firstChar)
+void FontWriter::PropertyBlock(int index, int firstChar)
 {
-    const QByteArray type = TableType("GUI_FONT_PROP");
-    const auto name = [this](std::size_t block) {
-        return identifier_ + "_Prop" + QByteArray::number(qsizetype(block) + 1);
-    };
-    text_.Line("static GUI_CONST_STORAGE " + type + ' ' + name(index) + " = {");
-    text_.Line("  0x" + Hex4(runs_[index].first) + ", // First character");
-    text_.Line("  0x" + Hex4(runs_[index].last) + ", // Last character");
-    text_.Line("  &" + identifier_ + "_CharInfo[" + QByteArray::number(firstChar) +
+    const CodeRun& run = runs_[static_cast<std::size_t>(index)];
+    const QByteArray type = "GUI_FONT_PROP" + tableSuffix_;
+    text_.Line("static GUI_CONST_STORAGE ", type, " ", identifier_, "_Prop", Decimal(index + 1),
+               " = {");
+    text_.Line("  0x", Hex4(run.first), ", // First character");
+    text_.Line("  0x", Hex4(run.last), ", // Last character");
+    text_.Line("  &", identifier_, "_CharInfo[", Decimal(firstChar),
                "], // Address of first character");
-    const QByteArray next =
-        index + 1 == runs_.size() ? "(GUI_CONST_STORAGE " + type + " *)0" : '&' + name(index + 1);
-    text_.Line("  " + next + ", // Pointer to next " + type);
+    if (index + 1 == int(runs_.size()))
+        text_.Add("  (GUI_CONST_STORAGE ", type, " *)0");
+    else
+        text_.Add("  &", identifier_, "_Prop", Decimal(index + 2));
+    text_.Line(", // Pointer to next ", type);
     text_.Line("};");
     text_.Line();
 }
@@ -185,31 +176,30 @@ void FontWriter::PropertyBlock(std::size_t index, int firstChar)
 void FontWriter::PropertyBlocks()
 {
     int firstChar = count_;
-    for (std::size_t index = runs_.size(); index-- > 0;) {
-        firstChar -= runs_[index].Size();
+    for (int index = int(runs_.size()) - 1; index >= 0; --index) {
+        firstChar -= runs_[static_cast<std::size_t>(index)].Size();
         PropertyBlock(index, firstChar);
     }
+}
+
+void FontWriter::CommentedLine(QByteArrayView comment, QByteArrayView value)
+{
+    text_.Line("  ", value, ", // ", comment);
 }
 
 void FontWriter::FontStructure()
 {
     const FontMetrics& metrics = font_.Metrics();
-    const QLatin1StringView type = FontTypeName(metrics.format, metrics.encoding);
-    const auto row = [this](const QByteArray& value, QByteArrayView comment) {
-        text_.Line("  " + value + ", // " + comment.toByteArray());
-    };
-    const auto number = [](int value) { return QByteArray::number(value); };
-
-    text_.Line("GUI_CONST_STORAGE GUI_FONT " + identifier_ + " = {");
-    row(QByteArray(type.data(), type.size()), "Type of font");
-    row(number(metrics.height), "Height of font");
-    row(number(metrics.height), "Vertical space of font");
-    row("1", "Magnification in X");
-    row("1", "Magnification in Y");
-    row("{&" + identifier_ + "_Prop1}", "Pointer to first block");
-    row(number(metrics.baseline), "Baseline");
-    row(number(metrics.lowercaseHeight), "Height of lowercase characters");
-    row(number(metrics.capitalHeight), "Height of capital characters");
+    text_.Line("GUI_CONST_STORAGE GUI_FONT ", identifier_, " = {");
+    CommentedLine("Type of font", FontTypeName(metrics.format, metrics.encoding));
+    CommentedLine("Height of font", Decimal(metrics.height));
+    CommentedLine("Vertical space of font", Decimal(metrics.height));
+    CommentedLine("Magnification in X", "1");
+    CommentedLine("Magnification in Y", "1");
+    CommentedLine("Pointer to first block", "{&" + identifier_ + "_Prop1}");
+    CommentedLine("Baseline", Decimal(metrics.baseline));
+    CommentedLine("Height of lowercase characters", Decimal(metrics.lowercaseHeight));
+    CommentedLine("Height of capital characters", Decimal(metrics.capitalHeight));
     text_.Line("};");
     text_.Line();
 }

@@ -52,7 +52,7 @@ void FontFileFT::WarnOfMisfits() const
         return;
     QStringList codes;
     for (std::size_t index = 0; index < std::min(listed, misfits_.size()); ++index)
-        codes.append(u"0x"_s + QString::fromLatin1(Hex4(misfits_[index])));
+        codes.append(u"0x"_s + Hex4Text(misfits_[index]));
     if (misfits_.size() > listed)
         codes.append(u"..."_s);
     CurrentInterface().warning(

@@ -6,7 +6,9 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <numeric>
 #include <span>
+#include <utility>
 
 namespace Glyphor {
 
@@ -26,6 +28,17 @@ std::vector<quint8> LoadTable(FT_Face face, FT_ULong tag)
 quint16 Number(std::span<const quint8> bytes, std::size_t offset)
 {
     return qFromBigEndian<quint16>(bytes.data() + offset);
+}
+
+// For every 16-bit glyph, how many entries have a smaller one.
+template <typename Entry, typename GlyphOf>
+std::vector<quint32> FirstOfEach(const std::vector<Entry>& entries, GlyphOf glyphOf)
+{
+    std::vector<quint32> first(0x10001);
+    for (const Entry& entry : entries)
+        ++first[glyphOf(entry) + 1U];
+    std::partial_sum(first.begin(), first.end(), first.begin());
+    return first;
 }
 
 } // namespace
@@ -71,16 +84,23 @@ void KerningIndex::ReadKernTable(const std::vector<quint8>& table)
     }
     std::ranges::sort(pairs_);
     pairs_.erase(std::unique(pairs_.begin(), pairs_.end()), pairs_.end());
+
+    firstPair_ = FirstOfEach(pairs_, [](const GlyphPair& pair) { return pair.left; });
 }
 
 void KerningIndex::ReadCharmap()
 {
-    face_.WalkCharmap([this](quint16 code) {
-        places_.push_back({FT_Get_Char_Index(face_.Handle(), code), codes_.size()});
+    std::vector<quint16> glyphs;
+    face_.WalkCharmap([&](quint16 code) {
+        glyphs.push_back(static_cast<quint16>(FT_Get_Char_Index(face_.Handle(), code)));
         codes_.push_back(code);
         return true;
     });
-    std::ranges::sort(places_);
+    firstPosition_ = FirstOfEach(glyphs, [](quint16 glyph) { return glyph; });
+    std::vector<quint32> next = firstPosition_;
+    positions_.resize(glyphs.size());
+    for (std::size_t position = 0; position < glyphs.size(); ++position)
+        positions_[next[glyphs[position]]++] = static_cast<quint32>(position);
 }
 
 int KerningIndex::Distance(FT_UInt left, FT_UInt right) const
@@ -96,15 +116,15 @@ std::vector<KerningPair> KerningIndex::PairsOf(quint16 left) const
     if (!isComplete_)
         return face_.KerningPairs(left);
 
-    const FT_UInt leftGlyph = FT_Get_Char_Index(face_.Handle(), left);
-    std::vector<std::pair<std::size_t, int>> found; // place in the charmap, distance
-    auto pair = std::ranges::lower_bound(pairs_, leftGlyph, {}, &GlyphPair::left);
-    for (; pair != pairs_.end() && pair->left == leftGlyph; ++pair) {
-        auto place = std::ranges::lower_bound(places_, pair->right, {}, &CharmapPlace::glyph);
-        const bool isMapped = place != places_.end() && place->glyph == pair->right;
-        const int distance = isMapped ? Distance(pair->left, pair->right) : 0;
-        for (; distance != 0 && place != places_.end() && place->glyph == pair->right; ++place)
-            found.emplace_back(place->position, distance);
+    const auto leftGlyph = static_cast<quint16>(FT_Get_Char_Index(face_.Handle(), left));
+    std::vector<std::pair<quint32, int>> found; // position in the charmap, distance
+    for (quint32 index = firstPair_[leftGlyph]; index < firstPair_[leftGlyph + 1U]; ++index) {
+        const quint16 right = pairs_[index].right;
+        const quint32 first = firstPosition_[right];
+        const quint32 end = firstPosition_[right + 1U];
+        const int distance = first < end ? Distance(leftGlyph, right) : 0;
+        for (quint32 place = first; distance != 0 && place < end; ++place)
+            found.emplace_back(positions_[place], distance);
     }
     std::ranges::sort(found);
 

@@ -26,24 +26,20 @@ private:
         auto operator<=>(const GlyphPair&) const = default;
     };
 
-    // A place of the charmap and the glyph that its code gives.
-    struct CharmapPlace
-    {
-        FT_UInt glyph;
-        std::size_t position;
-
-        auto operator<=>(const CharmapPlace&) const = default;
-    };
-
     void ReadKernTable(const std::vector<quint8>& table);
     void ReadCharmap();
     [[nodiscard]] int Distance(FT_UInt left, FT_UInt right) const;
 
     FreeTypeFace face_;
-    bool isComplete_ = false;          // every pair of the face is in pairs_
-    std::vector<GlyphPair> pairs_;     // ascending, without repetitions
-    std::vector<quint16> codes_;       // in charmap order
-    std::vector<CharmapPlace> places_; // ascending
+    bool isComplete_ = false; // every pair of the face is in pairs_
+
+    // Lists by glyph: those of glyph g are the entries from first[g] to first[g + 1].
+    std::vector<GlyphPair> pairs_; // ascending, without repetitions
+    std::vector<quint32> firstPair_;
+    std::vector<quint32> positions_; // in the charmap, ascending for each glyph
+    std::vector<quint32> firstPosition_;
+
+    std::vector<quint16> codes_; // in charmap order
 };
 
 } // namespace Glyphor

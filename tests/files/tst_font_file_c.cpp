@@ -71,7 +71,7 @@ QByteArray Dump(const Font& font)
         for (int code = run.first; code <= run.last; ++code) {
             const Character& character = *font.FindChar(quint16(code));
             const CharInfo& info = character.info;
-            text += Hex4(quint16(code)) + ' ';
+            text += Hex4Text(quint16(code)).toLatin1() + ' ';
             if (IsLegacyFormat(metrics.format))
                 add({info.width, info.cursorDistance, info.bytesPerLine});
             else
