@@ -6,8 +6,10 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <vector>
 
 using namespace Glyphor;
 
@@ -21,6 +23,13 @@ double Seconds(Work work)
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+double Median(std::vector<double> values)
+{
+    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -30,29 +39,35 @@ int main(int argc, char** argv)
     FreeTypeFace face(path, 0, FreeTypeLibrary());
     face.SetPixelSize({32, false});
 
+    std::vector<quint16> codes;
+    face.WalkCharmap([&](quint16 code) {
+        codes.push_back(code);
+        return true;
+    });
     const auto render = [&] {
         RenderedGlyph glyph;
-        face.WalkCharmap([&](quint16 code) {
+        for (const quint16 code : codes)
             face.RenderGlyph(code, glyph);
-            return true;
-        });
     };
     std::size_t pairs = 0;
     const auto gather = [&] {
         const KerningIndex index(face);
         pairs = 0;
-        face.WalkCharmap([&](quint16 code) {
+        for (const quint16 code : codes)
             pairs += index.PairsOf(code).size();
-            return true;
-        });
     };
     render();
     gather();
-    for (int run = 0; run < 5; ++run) {
-        const double rendering = Seconds(render);
-        const double kerning = Seconds(gather);
-        std::printf("rendering %.1f ms, %zu kerning pairs %.2f ms: %.1f %%\n", rendering * 1e3,
-                    pairs, kerning * 1e3, 100 * kerning / rendering);
+    std::vector<double> renderings;
+    std::vector<double> gatherings;
+    for (int run = 0; run < 15; ++run) {
+        renderings.push_back(Seconds(render));
+        gatherings.push_back(Seconds(gather));
     }
+    const double rendering = Median(renderings);
+    const double gathering = Median(gatherings);
+    std::printf("Kerning of %s at 32px\n", qUtf8Printable(path));
+    std::printf("  rendering %.1f ms, its %zu pairs %.2f ms: %.1f %%\n", rendering * 1e3, pairs,
+                gathering * 1e3, 100 * gathering / rendering);
     return 0;
 }

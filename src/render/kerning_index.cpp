@@ -30,15 +30,26 @@ quint16 Number(std::span<const quint8> bytes, std::size_t offset)
     return qFromBigEndian<quint16>(bytes.data() + offset);
 }
 
-// For every 16-bit glyph, how many entries have a smaller one.
+// For every glyph up to the largest, and one more, how many entries have a smaller one.
 template <typename Entry, typename GlyphOf>
 std::vector<quint32> FirstOfEach(const std::vector<Entry>& entries, GlyphOf glyphOf)
 {
-    std::vector<quint32> first(0x10001);
+    std::size_t largest = 0;
+    for (const Entry& entry : entries)
+        largest = std::max<std::size_t>(largest, glyphOf(entry));
+    std::vector<quint32> first(largest + 2);
     for (const Entry& entry : entries)
         ++first[glyphOf(entry) + 1U];
     std::partial_sum(first.begin(), first.end(), first.begin());
     return first;
+}
+
+// The entries of one glyph, from the first to the one behind the last.
+std::pair<quint32, quint32> EntriesOf(const std::vector<quint32>& first, quint16 glyph)
+{
+    if (glyph + 1U >= first.size())
+        return {0, 0};
+    return {first[glyph], first[glyph + 1U]};
 }
 
 } // namespace
@@ -90,7 +101,10 @@ void KerningIndex::ReadKernTable(const std::vector<quint8>& table)
 
 void KerningIndex::ReadCharmap()
 {
+    const auto expected = static_cast<std::size_t>(face_.GlyphCount());
     std::vector<quint16> glyphs;
+    glyphs.reserve(expected);
+    codes_.reserve(expected);
     face_.WalkCharmap([&](quint16 code) {
         glyphs.push_back(static_cast<quint16>(FT_Get_Char_Index(face_.Handle(), code)));
         codes_.push_back(code);
@@ -118,10 +132,10 @@ std::vector<KerningPair> KerningIndex::PairsOf(quint16 left) const
 
     const auto leftGlyph = static_cast<quint16>(FT_Get_Char_Index(face_.Handle(), left));
     std::vector<std::pair<quint32, int>> found; // position in the charmap, distance
-    for (quint32 index = firstPair_[leftGlyph]; index < firstPair_[leftGlyph + 1U]; ++index) {
+    const auto [firstPair, endPair] = EntriesOf(firstPair_, leftGlyph);
+    for (quint32 index = firstPair; index < endPair; ++index) {
         const quint16 right = pairs_[index].right;
-        const quint32 first = firstPosition_[right];
-        const quint32 end = firstPosition_[right + 1U];
+        const auto [first, end] = EntriesOf(firstPosition_, right);
         const int distance = first < end ? Distance(leftGlyph, right) : 0;
         for (quint32 place = first; distance != 0 && place < end; ++place)
             found.emplace_back(positions_[place], distance);
