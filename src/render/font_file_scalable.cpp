@@ -26,7 +26,7 @@ std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs, Encoding
 }
 
 // No font needs as many pairs, but a damaged one can claim one for every two characters.
-constexpr std::size_t MaxKerningPairs = 4'000'000;
+constexpr std::size_t MaxKerningPairs = 1'000'000;
 
 } // namespace
 

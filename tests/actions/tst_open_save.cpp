@@ -118,6 +118,10 @@ private Q_SLOTS:
         QTest::newRow("Shift JIS")
             << font << 12 << 5 << 1 << 0 << u"Invalid combination of encoding and font format!"_s
             << u"SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."_s;
+        QTest::newRow("placeholders in the name")
+            << File(u"%1%2.ttf"_s) << 12 << 3 << 0 << 7 << creation
+            << u"The file %1 has no face with the index 7: its only face has the index 0."_s.arg(
+                   File(u"%1%2.ttf"_s));
         for (const auto& [name, face] : {std::pair("variable.ttf", 3),
                                          {"collection.ttc", 2},
                                          {"strike.ttf", 1},
@@ -198,6 +202,7 @@ private Q_SLOTS:
     {
         QVERIFY(QDir(folder_.path()).mkdir(u"directory.ttf"_s));
         Test::WriteAll(File(u"empty.otf"_s), {});
+        QVERIFY(QFile::copy(Test::FontPath("strike.ttf"), File(u"%1%2.ttf"_s)));
         Test::WriteAll(File(u"text.ttc"_s), "no font at all\n");
         Test::WriteAll(File(u"truncated.ttf"_s),
                        Test::ReadAll(Test::FontPath("outlines.ttf")).left(100));

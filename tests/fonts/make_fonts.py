@@ -5,14 +5,17 @@
     variable.ttf    a weight axis with the default instance and two named ones
     collection.ttc  two faces
     strike.ttf      outlines and a 1-bit strike of 10 pixels that has only "A"
+    hostile.ttf     a few bytes that map 4 billion codes to one glyph, which kerns with itself
 """
 
 import os
+import struct
 import sys
 
 from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.ttGlyphPen import TTGlyphPen
 from fontTools.ttLib import TTCollection, newTable
+from fontTools.ttLib.tables.DefaultTable import DefaultTable
 from fontTools.ttLib.tables._k_e_r_n import KernTable_format_0
 from fontTools.ttLib.tables.TupleVariation import TupleVariation
 
@@ -156,10 +159,22 @@ def strike(folder):
     font.save(os.path.join(folder, "strike.ttf"))
 
 
+def hostile(folder):
+    font = build("Test Hostile", "Regular", {"A": LETTERS["A"]}, {0x41: "A"}).font
+    group = struct.pack(">III", 0, 0xFFFFFFFE, 1)
+    subtable = struct.pack(">HHIII", 13, 0, 16 + len(group), 0, 1) + group
+    font["cmap"] = DefaultTable("cmap")
+    font["cmap"].data = struct.pack(">HHHHI", 0, 1, 3, 10, 12) + subtable
+    pair = struct.pack(">HHh", 1, 1, -500)
+    font["kern"] = DefaultTable("kern")
+    font["kern"].data = struct.pack(">HHHHHHHHH", 0, 1, 0, 14 + len(pair), 1, 1, 6, 0, 0) + pair
+    font.save(os.path.join(folder, "hostile.ttf"))
+
+
 def main():
     folder = sys.argv[1]
     os.makedirs(folder, exist_ok=True)
-    for make in (outlines, variable, collection, strike):
+    for make in (outlines, variable, collection, strike, hostile):
         make(folder)
 
 

@@ -1,3 +1,4 @@
+#include "app/settings.h"
 #include "support/test_main.h"
 
 #include <QDir>
@@ -141,6 +142,21 @@ private Q_SLOTS:
         QCOMPARE(Test::ReadAll(File(u"Glyphor.err"_s)), QByteArray("Parameter missing!"));
         Run(Arguments(Test::FontPath("outlines.ttf")) + QStringList{u"-xirtsek"_s});
         QCOMPARE(Test::ReadAll(File(u"Glyphor.err"_s)), QByteArray("Parameter missing!"));
+    }
+
+    // The store is decoded before anything else, in a process that knows no types yet.
+    void StoredRecordsAreKnown()
+    {
+        {
+            Settings settings(
+                std::make_unique<QSettings>(File(u"Morvek/Glyphor.conf"_s), QSettings::IniFormat));
+            settings.commandDialog.save({640, 480});
+            settings.mainWindow.save({"geometry", "state"});
+        }
+        qputenv("XDG_CONFIG_HOME", folder_->path().toLocal8Bit());
+        const Result result = Run(Arguments(Test::FontPath("strike.ttf")));
+        QCOMPARE(result.errors, QString());
+        QVERIFY(result.output.contains(u"Saved"_s));
     }
 
     void WithoutWindow()

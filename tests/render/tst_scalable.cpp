@@ -143,6 +143,17 @@ private Q_SLOTS:
         QCOMPARE(int(font->Metrics().baseline), 255);
         QCOMPARE(ClampMetric(-1), quint8(255));
         QVERIFY(font->FindChar('A') == nullptr);
+        // U+10041 counts as U+0041, but does not count again.
+        QCOMPARE(interface.warnings[0].count(u"0x0041"_s), 1);
+    }
+
+    void HostileCharmap()
+    {
+        Test::RecordingInterface interface;
+        const auto font = Render("hostile.ttf", At(10));
+        QCOMPARE(font->EnabledRuns(), (std::vector<CodeRun>{{0, 0xFFFF}}));
+        QCOMPARE(interface.warnings,
+                 QStringList{u"The font has too many kerning pairs; some were left out."_s});
     }
 
     void WhatIsKept()

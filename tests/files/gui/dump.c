@@ -11,43 +11,43 @@ extern const GUI_FONT FONT_NAME;
 
 static void bytes(const unsigned char* data, int count)
 {
-  while (count-- > 0)
-    printf(" %02X", *data++);
-  printf("\n");
+    while (count-- > 0)
+        printf(" %02X", *data++);
+    printf("\n");
 }
 
 static void legacy(const GUI_FONT* font, const GUI_FONT_PROP* prop)
 {
-  for (; prop != 0; prop = prop->pNext) {
-    const GUI_CHARINFO* info = prop->paCharInfo;
-    for (int code = prop->First; code <= prop->Last; ++code, ++info) {
-      printf("%04X %d %d %d:", code, info->XSize, info->XDist, info->BytesPerLine);
-      bytes(info->pData, info->BytesPerLine * font->YSize);
+    for (; prop != 0; prop = prop->pNext) {
+        const GUI_CHARINFO* info = prop->paCharInfo;
+        for (int code = prop->First; code <= prop->Last; ++code, ++info) {
+            printf("%04X %d %d %d:", code, info->XSize, info->XDist, info->BytesPerLine);
+            bytes(info->pData, info->BytesPerLine * font->YSize);
+        }
     }
-  }
 }
 
 static void extended(int bits, int planes, const GUI_FONT_PROP_EXT* prop)
 {
-  for (; prop != 0; prop = prop->pNext) {
-    const GUI_CHARINFO_EXT* info = prop->paCharInfo;
-    for (int code = prop->First; code <= prop->Last; ++code, ++info) {
-      printf("%04X %d %d %d %d %d:", code, info->XSize, info->YSize, info->XPos, info->YPos,
-             info->XDist);
-      bytes(info->pData, (bits * info->XSize + 7) / 8 * info->YSize * planes);
+    for (; prop != 0; prop = prop->pNext) {
+        const GUI_CHARINFO_EXT* info = prop->paCharInfo;
+        for (int code = prop->First; code <= prop->Last; ++code, ++info) {
+            printf("%04X %d %d %d %d %d:", code, info->XSize, info->YSize, info->XPos, info->YPos,
+                   info->XDist);
+            bytes(info->pData, (bits * info->XSize + 7) / 8 * info->YSize * planes);
+        }
     }
-  }
 }
 
 int main(void)
 {
-  static const int bits[] = {1, 2, 4, 1, 1, 2, 4};
-  const GUI_FONT* font = &FONT_NAME;
-  printf("%d %d %d %d %d %d %d %d\n", font->Type, font->YSize, font->YDist, font->XMag, font->YMag,
-         font->Baseline, font->LHeight, font->CHeight);
-  if (font->Type <= GUI_FONTTYPE_PROP_AA4)
-    legacy(font, font->p.pProp);
-  else
-    extended(bits[font->Type], font->Type == GUI_FONTTYPE_PROP_FRM ? 2 : 1, font->p.pProp);
-  return 0;
+    static const int bits[] = {1, 2, 4, 1, 1, 2, 4};
+    const GUI_FONT* font = &FONT_NAME;
+    printf("%d %d %d %d %d %d %d %d\n", font->Type, font->YSize, font->YDist, font->XMag,
+           font->YMag, font->Baseline, font->LHeight, font->CHeight);
+    if (font->Type <= GUI_FONTTYPE_PROP_AA4)
+        legacy(font, font->p.pProp);
+    else
+        extended(bits[font->Type], font->Type == GUI_FONTTYPE_PROP_FRM ? 2 : 1, font->p.pProp);
+    return 0;
 }
