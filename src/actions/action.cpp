@@ -79,6 +79,11 @@ QString Action::MessageFor(ActionType type) const
     return LogMessage(type == ActionType::None ? type_ : type);
 }
 
+Font* Action::CurrentFont() const
+{
+    return session_.CurrentFont();
+}
+
 void Action::ThrowActionError(const QString& title, const QString& message)
 {
     throw CriticalException(title, message);

@@ -8,6 +8,7 @@
 
 namespace Glyphor {
 
+class Font;
 class Session;
 
 // One change to the font of a session, or one use of it. Always held by shared ownership: made with
@@ -45,6 +46,9 @@ public:
     [[nodiscard]] ActionType Type() const { return type_; }
     [[nodiscard]] int Repeat() const { return repeat_; }
 
+    // For an action that has not run yet.
+    void SetRepeat(int repeat) { repeat_ = repeat; }
+
     // How many elementary steps are in force: 0 or the repeat count.
     [[nodiscard]] int Applied() const { return applied_; }
 
@@ -58,6 +62,9 @@ protected:
     {}
 
     [[nodiscard]] Session& CurrentSession() const { return session_; }
+
+    // Null where the session has none.
+    [[nodiscard]] Font* CurrentFont() const;
 
     [[noreturn]] static void ThrowActionError(const QString& title, const QString& message);
 

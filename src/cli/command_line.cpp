@@ -1,6 +1,7 @@
 #include "cli/command_line.h"
 
 #include "actions/action_save_file.h"
+#include "actions/edit_actions.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/error_file.h"
@@ -30,11 +31,14 @@ bool HasArgument(int argc, const char* const* argv, QLatin1StringView argument)
 }
 
 // The action kind of an option; nothing for options that run none of their own.
-ActionType KindOf(OptionId id)
+ActionType KindOf(const OptionOccurrence& occurrence)
 {
-    switch (id) {
+    switch (occurrence.Id()) {
     case OptionId::Open:
         return ActionType::OpenFont;
+    case OptionId::EditFont:
+    case OptionId::EditChar:
+        return static_cast<ActionType>(occurrence.Get<int>(0));
     case OptionId::Save:
         return ActionType::SaveFont;
     case OptionId::Exit:
@@ -46,9 +50,21 @@ ActionType KindOf(OptionId id)
     }
 }
 
+// The parameter of an occurrence, or 1 where it was left out.
+int CountOf(const OptionOccurrence& occurrence, std::size_t parameter)
+{
+    return std::holds_alternative<int>(occurrence.values[parameter])
+               ? occurrence.Get<int>(parameter)
+               : 1;
+}
+
 // Null for the kinds that a front end handles itself.
 std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
 {
+    if (kind >= ActionType::InsertColumnRight && kind <= ActionType::DeleteRowBottom)
+        return std::make_shared<ActionChar>(session, kind);
+    if (kind >= ActionType::FontInsertRowTop && kind <= ActionType::FontDeleteRowBottom)
+        return std::make_shared<ActionFont>(session, kind);
     switch (kind) {
     case ActionType::OpenFont:
         return std::make_shared<ActionOpenFont>(session, kind);
@@ -66,8 +82,6 @@ void RefuseUnavailable(const std::vector<OptionOccurrence>& occurrences)
         switch (occurrence.Id()) {
         case OptionId::Create:
         case OptionId::ReadPattern:
-        case OptionId::EditFont:
-        case OptionId::EditChar:
         case OptionId::Merge:
         case OptionId::ListFonts:
             throw CriticalException(u"The option -%1 is not available in this version yet."_s.arg(
@@ -134,7 +148,7 @@ void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
         return;
     }
     current_ = &occurrence;
-    const ActionType kind = KindOf(occurrence.Id());
+    const ActionType kind = KindOf(occurrence);
     if (kind != ActionType::None)
         perform(kind, session);
     current_ = nullptr;
@@ -199,6 +213,16 @@ bool CommandLine::requestAction(Action& action)
     }
     if (auto* const save = dynamic_cast<ActionSaveFile*>(&action)) {
         save->Args().path = current_->Get<QString>(0);
+        return true;
+    }
+    if (auto* const edit = dynamic_cast<ActionChar*>(&action)) {
+        const CharRange range = Ordered(current_->Get<CharRange>(1));
+        edit->Args() = {range.first, range.last};
+        edit->SetRepeat(CountOf(*current_, 2));
+        return true;
+    }
+    if (auto* const edit = dynamic_cast<ActionFont*>(&action)) {
+        edit->SetRepeat(CountOf(*current_, 1));
         return true;
     }
     return false;

@@ -17,6 +17,14 @@ namespace {
 // FreeType counts pixels per em in 16 bits.
 constexpr int MaxHeight = 0xFFFF;
 
+void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
+{
+    if (std::holds_alternative<int>(occurrence.values[parameter]) &&
+        occurrence.Get<int>(parameter) < 1)
+        throw CriticalException(u"The %1 of -%2 has to be 1 or more."_s.arg(
+            occurrence.option->parameters[parameter].placeholder, occurrence.option->longName));
+}
+
 void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
 {
     switch (occurrence.Id()) {
@@ -37,6 +45,12 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         break;
     case OptionId::Face:
         options.open.faceIndex = occurrence.Get<int>(0);
+        break;
+    case OptionId::EditFont:
+        CheckCount(occurrence, 1);
+        break;
+    case OptionId::EditChar:
+        CheckCount(occurrence, 2);
         break;
     case OptionId::Verbose:
         options.verbose = true;
@@ -90,6 +104,17 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences)
     return options;
 }
 
+CharRange Ordered(CharRange range)
+{
+    if (range.first > range.last) {
+        CurrentInterface().warning(u"Range"_s,
+                                   u"The range 0x%1-0x%2 is reversed, assuming 0x%2-0x%1."_s.arg(
+                                       Hex4Text(range.first), Hex4Text(range.last)));
+        std::swap(range.first, range.last);
+    }
+    return range;
+}
+
 void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state)
 {
     if (!selection) {
@@ -97,12 +122,7 @@ void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state)
         if (!state)
             selection->SetRange(0, CodeSet::Count - 1, true);
     }
-    if (range.first > range.last) {
-        CurrentInterface().warning(u"Range"_s,
-                                   u"The range 0x%1-0x%2 is reversed, assuming 0x%2-0x%1."_s.arg(
-                                       Hex4Text(range.first), Hex4Text(range.last)));
-        std::swap(range.first, range.last);
-    }
+    range = Ordered(range);
     selection->SetRange(range.first, range.last, state);
 }
 

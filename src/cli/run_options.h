@@ -20,6 +20,9 @@ struct RunOptions
 // "24px", "18pt", or a bare number of pixels, after a warning.
 [[nodiscard]] FontSize ParseHeight(const QString& text);
 
+// The range in ascending order, after a warning where it was reversed.
+[[nodiscard]] CharRange Ordered(CharRange range);
+
 // Applies an -enable or -disable range to the character selection, which begins empty where its
 // first option enables, and full where it disables.
 void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state);

@@ -53,6 +53,21 @@ public:
         return *this;
     }
 
+    CodeSet& operator|=(const CodeSet& other)
+    {
+        for (std::size_t index = 0; index < words_.size(); ++index)
+            words_[index] |= other.words_[index];
+        return *this;
+    }
+
+    // Leaves out the codes of the other set.
+    CodeSet& operator-=(const CodeSet& other)
+    {
+        for (std::size_t index = 0; index < words_.size(); ++index)
+            words_[index] &= ~other.words_[index];
+        return *this;
+    }
+
     bool operator==(const CodeSet&) const = default;
 
 private:

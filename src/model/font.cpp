@@ -52,16 +52,33 @@ const Character* Font::FindChar(quint16 code) const
     return page ? (*page)[code % PageSize].get() : nullptr;
 }
 
-Character& Font::Create(quint16 code)
+std::unique_ptr<Character>& Font::Place(quint16 code)
 {
     auto& page = pages_[code / PageSize];
     if (!page)
         page = std::make_unique<Page>();
-    auto& character = (*page)[code % PageSize];
+    return (*page)[code % PageSize];
+}
+
+Character& Font::Create(quint16 code)
+{
+    auto& character = Place(code);
     character = std::make_unique<Character>(metrics_);
     existing_.Set(code, true);
     enabled_.Set(code, true);
     return *character;
+}
+
+std::unique_ptr<Character> Font::RemoveChar(quint16 code)
+{
+    existing_.Set(code, false);
+    return std::move(Place(code));
+}
+
+void Font::InsertChar(quint16 code, std::unique_ptr<Character> character)
+{
+    existing_.Set(code, character != nullptr);
+    Place(code) = std::move(character);
 }
 
 Character& Font::AddChar(quint16 code)

@@ -78,6 +78,11 @@ public:
     // Adds and enables a rendered character, unless the code exists or a field can't hold it.
     AddResult AddChar(quint16 code, const RenderedGlyph& glyph);
 
+    // Takes a character out of the font, or gives it one that was taken out of it. Its enabled bit
+    // stays as it is.
+    std::unique_ptr<Character> RemoveChar(quint16 code);
+    void InsertChar(quint16 code, std::unique_ptr<Character> character);
+
     // True for an enabled code that has a character.
     [[nodiscard]] bool IsEnabled(quint16 code) const;
 
@@ -112,6 +117,7 @@ private:
 
     enum class RowEdge { Top, Bottom };
 
+    std::unique_ptr<Character>& Place(quint16 code);
     Character& Create(quint16 code);
     bool EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)());
     [[nodiscard]] bool CanMoveDown(int rows) const;

@@ -109,6 +109,30 @@ private Q_SLOTS:
         QCOMPARE(Test::ReadAll(File(u"old.c"_s)), QByteArray("old"));
     }
 
+    void EditsAndReports()
+    {
+        const QString font = Test::FontPath("strike.ttf");
+        const QStringList edits = {u"-editfont"_s, u"INSTOP"_s, u"2"_s,       u"-ec"_s,
+                                   u"cinc"_s,      u"all"_s,    u"-EC"_s,     u"MOVER"_s,
+                                   u"0x61-0x41"_s, u"3"_s,      u"-verbose"_s};
+        const Result result = Run(Arguments(font, u"out.c"_s) + edits);
+        QCOMPARE(result.output, u"Opened font file: %1\n"
+                                "[Font]: Inserted a row at the top of the font.\n"
+                                "[Range 0x0000-0xFFFF]: Increased cursor distance.\n"
+                                "The range 0x0061-0x0041 is reversed, assuming 0x0041-0x0061.\n"
+                                "[Range 0x0041-0x0061]: Moved 1 pixel to the right.\n"
+                                "Saved font file: out.c\n"_s.arg(font));
+        const QByteArray text = Test::ReadAll(File(u"out.c"_s));
+        QCOMPARE(text.count("[Font]: Inserted a row at the top of the font."), 2);
+        QCOMPARE(text.count("Moved 1 pixel to the right."), 3);
+        for (const QStringList& zero : {QStringList{u"-ef"_s, u"INSTOP"_s, u"0"_s},
+                                        QStringList{u"-ec"_s, u"DELB"_s, u"all"_s, u"0x0"_s}}) {
+            QVERIFY(Run(Arguments(font, u"zero.c"_s) + zero)
+                        .output.startsWith(u"Critical error!\nThe <"_s));
+            QVERIFY(!QFile::exists(File(u"zero.c"_s)));
+        }
+    }
+
     void FullDiskKeepsTheOldFile()
     {
         Test::WriteAll(File(u"old.c"_s), "old");

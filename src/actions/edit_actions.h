@@ -1,0 +1,146 @@
+#pragma once
+
+#include "actions/action.h"
+#include "model/code_set.h"
+#include "model/font.h"
+
+#include <QHash>
+
+#include <map>
+#include <memory>
+
+namespace Glyphor {
+
+struct ActionCharArgs
+{
+    quint16 first = 0;
+    quint16 last = 0;
+};
+
+// Edits the pixels or metrics of every character of a range: types 8 to 25, and 33, which toggles
+// each one's enabled bit. Codes without a character are skipped.
+class ActionChar final : public ActionWithArgs<ActionCharArgs>
+{
+public:
+    // For one character, as an editor edits it.
+    ActionChar(Session& session, ActionType type, quint16 code);
+
+    // For a range, which the arguments give.
+    ActionChar(Session& session, ActionType type) : ActionWithArgs(session, type) {}
+
+    bool Execute() override { return CurrentFont() != nullptr; }
+    void UndoOnce() override;
+    void RedoOnce() override;
+    [[nodiscard]] QString LogText() const override;
+
+private:
+    template <typename Visit>
+    void ForEachChar(Visit visit);
+
+    // How many steps the character of a code refused. Undo leaves as many out on it, so it never
+    // becomes larger than it was. A character that refuses a step refuses all that follow.
+    QHash<quint16, int> refused_;
+};
+
+// Inserts or deletes rows of the whole font: types 26 to 29.
+class ActionFont final : public Action
+{
+public:
+    ActionFont(Session& session, ActionType type) : Action(session, type) {}
+
+    // Cuts the count where the font's height reaches its limit. False where it stands there
+    // already.
+    bool Execute() override;
+    void UndoOnce() override;
+    void RedoOnce() override;
+    [[nodiscard]] QString LogText() const override { return MessageFor(); }
+
+private:
+    int refused_ = 0;
+};
+
+struct ActionPixelIndexArgs
+{
+    quint16 code = 0;
+    int x = 0;
+    int y = 0;
+    int previousIndex = 0; // for undo
+};
+
+// Changes one pixel: types 35 to 37, and one type for each index that a pixel can be set to.
+class ActionPixelIndex final : public ActionWithArgs<ActionPixelIndexArgs>
+{
+public:
+    ActionPixelIndex(Session& session, ActionType type) : ActionWithArgs(session, type) {}
+
+    // False where there is no character, or where the pixel has the index already.
+    bool Execute() override;
+    void UndoOnce() override;
+    void RedoOnce() override;
+    [[nodiscard]] QString LogText() const override;
+
+private:
+    [[nodiscard]] bool IsSet() const { return Type() >= ActionType::SetPixelIndex0; }
+    [[nodiscard]] int IndexToSet() const;
+    [[nodiscard]] CharBitmap& Bitmap() const;
+};
+
+// How actions change which characters are enabled.
+class CharStateInterface
+{
+public:
+    CharStateInterface() = default;
+    CharStateInterface(const CharStateInterface&) = delete;
+    CharStateInterface& operator=(const CharStateInterface&) = delete;
+    virtual ~CharStateInterface() = default;
+
+    // Makes the same change to any set of codes.
+    virtual void ApplyTo(CodeSet& codes) const = 0;
+};
+
+struct ActionCharStateArgs
+{
+    quint16 first = 0;
+    quint16 last = 0;
+    CodeSet previousCodes; // that were enabled, for undo
+};
+
+// Enables (30), disables (31 a range, 32 all) or toggles (33, all like the first) characters.
+class ActionCharState final : public ActionWithArgs<ActionCharStateArgs>, public CharStateInterface
+{
+public:
+    ActionCharState(Session& session, ActionType type);
+
+    // False where no code of the range would change.
+    bool Execute() override;
+    void UndoOnce() override;
+    void RedoOnce() override;
+    [[nodiscard]] QString LogText() const override;
+    void ApplyTo(CodeSet& codes) const override;
+
+private:
+    bool target_ = false;
+    CodeSet created_; // characters that enabling made
+};
+
+// Removes the characters of some codes from the font, and their bits.
+class ActionCharDelete final : public Action
+{
+public:
+    ActionCharDelete(Session& session, const CodeSet& codes)
+        : Action(session, ActionType::None), codes_(codes)
+    {}
+
+    // False where none of the codes has a character.
+    bool Execute() override;
+    void UndoOnce() override;
+    void RedoOnce() override;
+    [[nodiscard]] QString LogText() const override;
+
+private:
+    CodeSet codes_;
+    CodeSet previousCodes_; // that were enabled
+    std::map<quint16, std::unique_ptr<Character>> removed_;
+};
+
+} // namespace Glyphor

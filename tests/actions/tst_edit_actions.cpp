@@ -1,0 +1,288 @@
+#include "actions/edit_actions.h"
+#include "actions/session.h"
+#include "support/test_main.h"
+
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A font with "A", "B" and "D", whose pixels differ.
+std::unique_ptr<Font> MakeFont(FontFormat format)
+{
+    auto font = std::make_unique<Font>(format, EncodingType::Unicode);
+    font->SetHeight(4);
+    font->SetBaseline(3);
+    for (const char code : {'A', 'B', 'D'}) {
+        Character& character = font->AddChar(quint16(code));
+        character.info.height = 4;
+        character.info.yPos = 0;
+        character.info.SetWidth(5);
+        character.info.cursorDistance = 6;
+        character.bitmap->AdjustData();
+        character.bitmap->SetPixelIndex(code % 4, 1, 1);
+        character.bitmap->SetPixelIndex(2, 2, 1);
+    }
+    return font;
+}
+
+// Everything about a font that an edit may change.
+QByteArray Snapshot(const Font& font)
+{
+    const FontMetrics& metrics = font.Metrics();
+    QByteArray text = QByteArray::number(metrics.height) + ' ' +
+                      QByteArray::number(metrics.verticalSpace) + ' ' +
+                      QByteArray::number(metrics.baseline);
+    const CodeSet& codes = font.ExistingCodes();
+    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1)) {
+        const Character& character = *font.FindChar(quint16(code));
+        text += '\n' + QByteArray::number(code);
+        for (const int value :
+             {int(character.info.width), int(character.info.height), int(character.info.xPos),
+              int(character.info.yPos), int(character.info.cursorDistance),
+              int(font.IsEnabled(quint16(code)))})
+            text += ' ' + QByteArray::number(value);
+        text += ' ' + character.bitmap->DataAsList().toHex();
+    }
+    return text;
+}
+
+} // namespace
+
+class TestEditActions : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void CharEdits_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("type");
+        for (int format = 0; format < FormatCount; ++format) {
+            for (int type = 8; type <= 25; ++type)
+                QTest::addRow("format %d, type %d", format, type) << format << type;
+        }
+    }
+
+    // Undo of a deletion (22 and above) brings back the size, but empty pixels.
+    void CharEdits()
+    {
+        QFETCH(const int, format);
+        QFETCH(const int, type);
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat(format)), {});
+        const Font& font = *session.CurrentFont();
+        const QByteArray before = Snapshot(font);
+        const QByteArray lastBefore = before.mid(before.lastIndexOf('\n'));
+        const auto action = std::make_shared<ActionChar>(session, ActionType(type));
+        action->Args() = {'A', 'C'};
+        action->SetRepeat(2);
+        QVERIFY(action->Run());
+        const QByteArray after = Snapshot(font);
+        const bool isRowEdit = type == 10 || type == 11 || type == 24 || type == 25;
+        const bool isRefused = isRowEdit && IsLegacyFormat(FontFormat(format));
+        QCOMPARE(after == before, isRefused);
+        QCOMPARE(after.mid(after.lastIndexOf('\n')), lastBefore); // "D" is outside
+        QCOMPARE(session.Stack().LogLines(),
+                 QStringList(2, u"[Range 0x0041-0x0043]: "_s + LogMessage(ActionType(type))));
+
+        session.Stack().undo();
+        const QByteArray undone = Snapshot(font);
+        if (type < 22)
+            QCOMPARE(undone, before);
+        QCOMPARE(font.FindChar('A')->info.width, quint8(5));
+        QCOMPARE(font.FindChar('A')->info.height, quint8(4));
+        QVERIFY(session.Stack().LogLines().isEmpty());
+        session.Stack().redo();
+        QCOMPARE(Snapshot(font), after);
+        session.Stack().undo();
+        QCOMPARE(Snapshot(font), undone);
+    }
+
+    void RefusedStepsAreNotReverted()
+    {
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        Font& font = *session.CurrentFont();
+        font.FindChar('B')->bitmap->DeleteColumnRight();
+        const auto action = std::make_shared<ActionChar>(session, ActionType::DeleteColumnRight);
+        action->Args() = {'A', 'D'};
+        action->SetRepeat(10);
+        action->Run();
+        QCOMPARE(int(font.FindChar('A')->info.width), 1);
+        for (int round = 0; round < 2; ++round) {
+            session.Stack().undo();
+            QCOMPARE(int(font.FindChar('A')->info.width), 5);
+            QCOMPARE(int(font.FindChar('B')->info.width), 4);
+            session.Stack().redo();
+            QCOMPARE(int(font.FindChar('B')->info.width), 1);
+        }
+    }
+
+    void FontEdits_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<int>("done");
+        for (const int format : {int(FontFormat::LegacyAA4), int(FontFormat::Framed)}) {
+            QTest::addRow("insert top %d", format) << format << 26 << 2 << 2;
+            QTest::addRow("insert bottom %d", format) << format << 27 << 2 << 2;
+            QTest::addRow("delete top %d", format) << format << 28 << 2 << 2;
+            QTest::addRow("delete bottom %d", format) << format << 29 << 2 << 2;
+            QTest::addRow("insert beyond the limit %d", format) << format << 27 << 999 << 251;
+        }
+        QTest::addRow("delete all") << int(FontFormat::AA2) << 29 << 9 << 4;
+        QTest::addRow("delete all of a legacy font") << int(FontFormat::Legacy) << 29 << 9 << 3;
+    }
+
+    void FontEdits()
+    {
+        QFETCH(const int, format);
+        QFETCH(const int, type);
+        QFETCH(const int, count);
+        QFETCH(const int, done);
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat(format)), {});
+        const Font& font = *session.CurrentFont();
+        const QByteArray before = Snapshot(font);
+        const auto action = std::make_shared<ActionFont>(session, ActionType(type));
+        action->SetRepeat(count);
+        QVERIFY(action->Run());
+        const int sign = type < 28 ? 1 : -1;
+        QCOMPARE(int(font.Metrics().height), 4 + sign * done);
+        QCOMPARE(int(font.Metrics().baseline), 3 + (type % 2 == 0 ? sign * done : 0));
+        QVERIFY(session.Stack().LogLines().contains(LogMessage(ActionType(type))));
+        session.Stack().undo();
+        QCOMPARE(int(font.Metrics().height), 4);
+        QCOMPARE(Snapshot(font) == before, sign > 0 || !IsLegacyFormat(FontFormat(format)));
+    }
+
+    void FontAtItsLimit()
+    {
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        session.CurrentFont()->SetHeight(255);
+        QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontInsertRowTop)->Run());
+        session.CurrentFont()->SetHeight(0);
+        QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontDeleteRowBottom)->Run());
+        QVERIFY(session.Stack().LogLines().isEmpty());
+    }
+
+    void PixelEdits_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("index"); // afterwards, from 1 of 3
+        QTest::addColumn<QString>("log");
+        QTest::newRow("increase") << 35 << 2 << u"Increased pixel index (65,1)."_s;
+        QTest::newRow("decrease") << 36 << 0 << u"Decreased pixel index (65,1)."_s;
+        QTest::newRow("invert") << 37 << 2 << u"Inverted pixel index (65,1)."_s;
+        QTest::newRow("set to 3") << 41 << 3 << u"Set pixel index (65,1) to 2."_s;
+        QTest::newRow("set to itself") << 39 << 1 << QString();
+    }
+
+    void PixelEdits()
+    {
+        QFETCH(const int, type);
+        QFETCH(const int, index);
+        QFETCH(const QString, log);
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        CharBitmap& bitmap = *session.CurrentFont()->FindChar('A')->bitmap;
+        bitmap.SetPixelIndex(1, 2, 1);
+        const auto action = std::make_shared<ActionPixelIndex>(session, ActionType(type));
+        action->Args() = {.code = 'A', .x = 1, .y = 2};
+        QCOMPARE(action->Run(), !log.isEmpty());
+        QCOMPARE(bitmap.GetPixelIndex(1, 2), index);
+        // The messages begin at %2: the code stands where x was meant to.
+        QCOMPARE(session.Stack().LogLines().join(u'\n'), log);
+        session.Stack().undo();
+        QCOMPARE(bitmap.GetPixelIndex(1, 2), 1);
+
+        const auto missing = std::make_shared<ActionPixelIndex>(session, ActionType(type));
+        missing->Args().code = 'C';
+        QVERIFY(!missing->Run());
+    }
+
+    void States_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("first");
+        QTest::addColumn<int>("last");
+        QTest::addColumn<QByteArray>("enabled"); // "A" and "D" are at first
+        QTest::addColumn<QString>("log");
+        QTest::newRow("enable") << 30 << int('A') << int('C') << QByteArray("ABCD")
+                                << u"[Range 0x0041-0x0043]: Enabled."_s;
+        QTest::newRow("disable") << 31 << int('A') << int('A') << QByteArray("D")
+                                 << u"[Char 0x0041]: Disabled."_s;
+        QTest::newRow("disable all")
+            << 32 << 0 << 0xFFFF << QByteArray() << u"[Range 0x0000-0xFFFF]: Disabled."_s;
+        QTest::newRow("toggle off") << 33 << int('A') << int('B') << QByteArray("D")
+                                    << u"[Range 0x0041-0x0042]: Disabled."_s;
+        QTest::newRow("toggle on") << 33 << int('B') << int('D') << QByteArray("ABCD")
+                                   << u"[Range 0x0042-0x0044]: Enabled."_s;
+        QTest::newRow("nothing to do")
+            << 30 << int('D') << int('D') << QByteArray("AD") << QString();
+    }
+
+    void States()
+    {
+        QFETCH(const int, type);
+        QFETCH(const int, first);
+        QFETCH(const int, last);
+        QFETCH(const QByteArray, enabled);
+        QFETCH(const QString, log);
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        Font& font = *session.CurrentFont();
+        font.SetEnabled('B', 'B', false);
+        const QByteArray before = Snapshot(font);
+        const auto action = std::make_shared<ActionCharState>(session, ActionType(type));
+        if (type != 32)
+            action->Args() = {.first = quint16(first), .last = quint16(last), .previousCodes = {}};
+        QCOMPARE(action->Run(), !log.isEmpty());
+        for (int round = 0; round < 2; ++round) {
+            QByteArray now;
+            for (const char code : {'A', 'B', 'C', 'D'}) {
+                if (font.IsEnabled(quint16(code)))
+                    now += code;
+            }
+            QCOMPARE(now, enabled);
+            QCOMPARE(session.Stack().LogLines().join(u'\n'), log);
+            if (log.isEmpty())
+                return;
+            session.Stack().undo();
+            QCOMPARE(Snapshot(font), before);
+            session.Stack().redo();
+        }
+        CodeSet others;
+        action->ApplyTo(others);
+        QCOMPARE(others.Test(quint16(first)), enabled.contains(char(first)));
+    }
+
+    void Deletion()
+    {
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat::Framed), {});
+        Font& font = *session.CurrentFont();
+        const QByteArray before = Snapshot(font);
+        CodeSet codes;
+        codes.SetRange('B', 'Z', true);
+        QVERIFY(std::make_shared<ActionCharDelete>(session, codes)->Run());
+        QVERIFY(font.FindChar('B') == nullptr && !font.EnabledCodes().Test('D'));
+        QCOMPARE(session.Stack().LogLines(), QStringList{u"[Range 0x0042-0x0044]: Deleted."_s});
+        session.Stack().undo();
+        QCOMPARE(Snapshot(font), before);
+        session.Stack().redo();
+        QVERIFY(!std::make_shared<ActionCharDelete>(session, codes)->Run());
+    }
+};
+
+GLYPHOR_TEST(TestEditActions)
+
+} // namespace Glyphor
+
+#include "tst_edit_actions.moc"
