@@ -81,7 +81,6 @@ void RefuseUnavailable(const std::vector<OptionOccurrence>& occurrences)
     for (const OptionOccurrence& occurrence : occurrences) {
         switch (occurrence.Id()) {
         case OptionId::Create:
-        case OptionId::ReadPattern:
         case OptionId::Merge:
         case OptionId::ListFonts:
             throw CriticalException(u"The option -%1 is not available in this version yet."_s.arg(
@@ -142,10 +141,17 @@ void CommandLine::run(int argc, const char* const* argv, Session& session)
 
 void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
 {
-    if (occurrence.Id() == OptionId::Enable || occurrence.Id() == OptionId::Disable) {
-        SelectRange(options_.open.selection, occurrence.Get<CharRange>(0),
-                    occurrence.Id() == OptionId::Enable);
+    std::optional<CodeSet>& selection = options_.open.selection;
+    switch (occurrence.Id()) {
+    case OptionId::Enable:
+    case OptionId::Disable:
+        SelectRange(selection, occurrence.Get<CharRange>(0), occurrence.Id() == OptionId::Enable);
         return;
+    case OptionId::ReadPattern:
+        SelectPattern(selection, occurrence.Get<QString>(0));
+        return;
+    default:
+        break;
     }
     current_ = &occurrence;
     const ActionType kind = KindOf(occurrence);

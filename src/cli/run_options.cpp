@@ -1,5 +1,6 @@
 #include "cli/run_options.h"
 
+#include "actions/pattern_file.h"
 #include "app/critical_exception.h"
 #include "app/user_interface.h"
 #include "files/file_types.h"
@@ -124,6 +125,14 @@ void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state)
     }
     range = Ordered(range);
     selection->SetRange(range.first, range.last, state);
+}
+
+void SelectPattern(std::optional<CodeSet>& selection, const QString& path)
+{
+    const CodeSet pattern = PatternFile(path).Read();
+    if (!selection)
+        selection.emplace();
+    *selection |= pattern;
 }
 
 } // namespace Glyphor

@@ -27,4 +27,7 @@ struct RunOptions
 // first option enables, and full where it disables.
 void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state);
 
+// Adds the characters of a pattern file to the selection, which begins empty where this is first.
+void SelectPattern(std::optional<CodeSet>& selection, const QString& path);
+
 } // namespace Glyphor

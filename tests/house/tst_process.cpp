@@ -133,6 +133,22 @@ private Q_SLOTS:
         }
     }
 
+    void PatternsSelect()
+    {
+        Test::WriteAll(File(u"one.txt"_s), QByteArray::fromHex("fffe 4100 9c4e"));
+        const QString font = Test::FontPath("outlines.ttf");
+        QStringList arguments = {font,         u"-hide"_s, u"-height"_s, u"9px"_s,   u"-p"_s,
+                                 u"one.txt"_s, u"-e"_s,    u"0x56"_s,    u"-save"_s, u"out.c"_s};
+        QVERIFY(Run(arguments).output.contains(u"Saved"_s));
+        const QByteArray text = Test::ReadAll(File(u"out.c"_s));
+        QVERIFY(text.contains("_CharInfo[3] = {"));
+        QVERIFY(text.contains("_0041[") && text.contains("_0056[") && text.contains("_4E9C["));
+        arguments[5] = u"none.txt"_s;
+        const QString output = Run(arguments).output;
+        QVERIFY2(output.startsWith(u"Critical error!\n"_s) && output.contains(u"none.txt"_s),
+                 qUtf8Printable(output));
+    }
+
     void FullDiskKeepsTheOldFile()
     {
         Test::WriteAll(File(u"old.c"_s), "old");

@@ -1,0 +1,29 @@
+#include "actions/action_read_pattern.h"
+
+#include "actions/pattern_file.h"
+#include "actions/session.h"
+
+namespace Glyphor {
+
+bool ActionReadPattern::Execute()
+{
+    if (CurrentFont() == nullptr || !QFile::exists(Args().path))
+        return false;
+    pattern_ = PatternFile(Args().path).Read();
+    return true;
+}
+
+void ActionReadPattern::RedoOnce()
+{
+    previousCodes_ = CurrentFont()->EnabledCodes();
+    CodeSet codes = previousCodes_;
+    ApplyTo(codes);
+    CurrentFont()->SetEnabledCodes(codes);
+}
+
+void ActionReadPattern::UndoOnce()
+{
+    CurrentFont()->SetEnabledCodes(previousCodes_);
+}
+
+} // namespace Glyphor

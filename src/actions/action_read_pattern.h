@@ -1,0 +1,33 @@
+#pragma once
+
+#include "actions/edit_actions.h"
+
+namespace Glyphor {
+
+struct ActionReadPatternArgs
+{
+    QString path;
+};
+
+// Enables the characters that a pattern file lists, in addition to those that are enabled. It
+// creates none.
+class ActionReadPattern final : public ActionWithArgs<ActionReadPatternArgs>,
+                                public CharStateInterface
+{
+public:
+    explicit ActionReadPattern(Session& session) : ActionWithArgs(session, ActionType::ReadPattern)
+    {}
+
+    // Reads the file; false where there is none.
+    bool Execute() override;
+    void UndoOnce() override;
+    void RedoOnce() override;
+    [[nodiscard]] QString LogText() const override { return MessageFor().arg(Args().path); }
+    void ApplyTo(CodeSet& codes) const override { codes |= pattern_; }
+
+private:
+    CodeSet pattern_;
+    CodeSet previousCodes_; // that were enabled, for undo
+};
+
+} // namespace Glyphor

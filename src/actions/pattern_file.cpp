@@ -1,0 +1,58 @@
+#include "actions/pattern_file.h"
+
+#include "app/critical_exception.h"
+#include "app/user_interface.h"
+
+#include <QtEndian>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint16 ByteOrderMark = 0xFEFF;
+
+void AppendUnit(QByteArray& bytes, quint16 unit)
+{
+    bytes.append(static_cast<char>(unit & 0xFF));
+    bytes.append(static_cast<char>(unit >> 8));
+}
+
+} // namespace
+
+CodeSet PatternFile::Read()
+{
+    if (!open(QIODevice::ReadOnly))
+        throw CriticalException(
+            u"Error opening file!"_s,
+            u"The pattern file %1 could not be read: %2"_s.arg(fileName(), errorString()));
+    const QByteArray bytes = readAll();
+    close();
+    const auto unit = [&bytes](qsizetype offset) {
+        return qFromLittleEndian<quint16>(bytes.constData() + offset);
+    };
+    if (bytes.size() < 2 || unit(0) != ByteOrderMark)
+        throw CriticalException(u"Wrong encoding in pattern file!"_s,
+                                u"UTF-16 LE byte order mark was not found."_s);
+    CodeSet codes;
+    for (qsizetype offset = 2; offset + 2 <= bytes.size(); offset += 2)
+        codes.Set(unit(offset), true);
+    if (bytes.size() % 2 != 0)
+        CurrentInterface().warning(
+            u"Pattern file"_s,
+            u"The pattern file %1 ends in the middle of a character, which was left out."_s.arg(
+                fileName()));
+    return codes;
+}
+
+void PatternFile::Write(const CodeSet& codes)
+{
+    QByteArray bytes;
+    AppendUnit(bytes, ByteOrderMark);
+    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1))
+        AppendUnit(bytes, static_cast<quint16>(code));
+    Replace(bytes);
+}
+
+} // namespace Glyphor

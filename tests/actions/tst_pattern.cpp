@@ -1,0 +1,108 @@
+#include "actions/action_read_pattern.h"
+#include "actions/pattern_file.h"
+#include "actions/session.h"
+#include "app/critical_exception.h"
+#include "support/test_main.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+class TestPattern : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Reading_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QList<int>>("codes");
+        QTest::addColumn<int>("warnings");
+        QTest::addColumn<QString>("failure");
+        const QString encoding = u"Wrong encoding in pattern file!"_s;
+        const auto row = [](const char* name, const char* hex, const QList<int>& codes,
+                            int warnings, const QString& failure) {
+            QTest::newRow(name) << QByteArray::fromHex(hex) << codes << warnings << failure;
+        };
+        row("mark only", "fffe", {}, 0, {});
+        row("AB and a line break", "fffe 4200 4100 4100 0d00 0a00", {0x0A, 0x0D, 0x41, 0x42}, 0,
+            {});
+        row("first and last code", "fffe ffff 0000", {0, 0xFFFF}, 0, {});
+        row("odd byte", "fffe 4100 42", {0x41}, 1, {});
+        row("UTF-8", "efbbbf 41", {}, 0, encoding);
+        row("big-endian", "feff 0041", {}, 0, encoding);
+        row("empty", "", {}, 0, encoding);
+    }
+
+    void Reading()
+    {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const QList<int>, codes);
+        QFETCH(const int, warnings);
+        QFETCH(const QString, failure);
+        Test::WriteAll(Path(), bytes);
+        Test::RecordingInterface interface;
+        try {
+            const CodeSet read = PatternFile(Path()).Read();
+            QVERIFY(failure.isEmpty());
+            QList<int> found;
+            for (int code = read.Next(0); code < CodeSet::Count; code = read.Next(code + 1))
+                found.append(code);
+            QCOMPARE(found, codes);
+            QCOMPARE(interface.warnings.size(), warnings);
+        } catch (const CriticalException& error) {
+            QCOMPARE(error.Title(), failure);
+            QCOMPARE(error.Text(), u"UTF-16 LE byte order mark was not found."_s);
+        }
+    }
+
+    void RoundTrip()
+    {
+        CodeSet codes;
+        codes.SetRange(0x20, 0x7E, true);
+        codes.Set(0xFFFF, true);
+        PatternFile(Path()).Write(codes);
+        QCOMPARE(Test::ReadAll(Path()).left(6), QByteArray::fromHex("fffe20002100"));
+        QCOMPARE(PatternFile(Path()).Read(), codes);
+    }
+
+    void Applying()
+    {
+        Session session;
+        auto font = std::make_unique<Font>(FontFormat::AA2, EncodingType::Unicode);
+        font->SetEnabled('A', 'B', true);
+        font->SetEnabled('A', 'A', false);
+        session.ReplaceFont(std::move(font), {});
+        const Font& current = *session.CurrentFont();
+        const CodeSet before = current.EnabledCodes();
+        Test::WriteAll(Path(), QByteArray::fromHex("fffe 4100 4300"));
+
+        const auto action = std::make_shared<ActionReadPattern>(session);
+        action->Args().path = Path();
+        QVERIFY(action->Run());
+        QVERIFY(current.IsEnabled('A') && current.IsEnabled('B'));
+        QVERIFY(current.EnabledCodes().Test('C') && current.FindChar('C') == nullptr);
+        QCOMPARE(session.Stack().LogLines(),
+                 QStringList{u"[Font]: Read pattern file: %1."_s.arg(Path())});
+        session.Stack().undo();
+        QCOMPARE(current.EnabledCodes(), before);
+
+        const auto missing = std::make_shared<ActionReadPattern>(session);
+        missing->Args().path = u"none.txt"_s;
+        QVERIFY(!missing->Run());
+    }
+
+private:
+    [[nodiscard]] QString Path() const { return folder_.filePath(u"pattern.txt"_s); }
+
+    QTemporaryDir folder_;
+};
+
+GLYPHOR_TEST(TestPattern)
+
+} // namespace Glyphor
+
+#include "tst_pattern.moc"
