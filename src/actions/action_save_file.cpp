@@ -6,6 +6,7 @@
 #include "app/log_file.h"
 #include "app/settings.h"
 #include "app/user_interface.h"
+#include "files/kerning_file.h"
 
 namespace Glyphor {
 
@@ -22,9 +23,31 @@ bool ActionSaveFile::Execute()
         ThrowActionError(u"Font is empty!"_s,
                          u"The font has no enabled characters that could be saved."_s);
     const QStringList actionLog = CurrentSession().Stack().LogLines();
+    if (IsKerning()) {
+        SaveKerning(*font, actionLog);
+        return true;
+    }
     MakeFontFile(Args().path, actionLog)->Write(*font);
     WriteLogFile(actionLog);
     return true;
+}
+
+bool ActionSaveFile::IsKerning() const
+{
+    return Type() == ActionType::SaveKerning || IsBinaryKerningName(Args().path);
+}
+
+void ActionSaveFile::SaveKerning(const Font& font, const QStringList& actionLog) const
+{
+    const auto file = MakeKerningFile(Args().path, CFileOptionsOfSettings(actionLog));
+    if (file == nullptr)
+        ThrowUnsupportedFormat();
+    const std::vector<KerningEntry> pairs = EnabledKerning(font);
+    if (pairs.empty())
+        ThrowActionError(u"No kerning data!"_s,
+                         u"The enabled characters don't have any kerning data that could be "
+                         "saved to a file."_s);
+    file->Write(pairs, font);
 }
 
 // The font is safe by now, whatever becomes of its log.
@@ -42,12 +65,13 @@ void ActionSaveFile::WriteLogFile(const QStringList& actionLog) const
 
 void ActionSaveFile::RedoOnce()
 {
-    CurrentSession().SetSaved(Args().path);
+    if (!IsKerning())
+        CurrentSession().SetSaved(Args().path);
 }
 
 QString ActionSaveFile::LogText() const
 {
-    return u"Saved font file: %1"_s.arg(Args().path);
+    return (IsKerning() ? u"Saved kerning file: %1"_s : u"Saved font file: %1"_s).arg(Args().path);
 }
 
 } // namespace Glyphor

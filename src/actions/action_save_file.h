@@ -4,17 +4,19 @@
 
 namespace Glyphor {
 
+class Font;
+
 struct ActionSaveFileArgs
 {
     QString path;
 };
 
 // Writes the enabled characters to a file whose kind its name tells, and the log file beside it
-// where the settings ask for one.
+// where the settings ask for one; or writes their kerning pairs.
 class ActionSaveFile final : public ActionWithArgs<ActionSaveFileArgs>
 {
 public:
-    // The type is SaveFont or SaveFontAs.
+    // The type is SaveFont, SaveFontAs, or SaveKerning for a kerning file as C.
     ActionSaveFile(Session& session, ActionType type) : ActionWithArgs(session, type) {}
 
     bool Execute() override;
@@ -24,6 +26,8 @@ public:
     [[nodiscard]] bool IsUndoable() const override { return false; }
 
 private:
+    [[nodiscard]] bool IsKerning() const;
+    void SaveKerning(const Font& font, const QStringList& actionLog) const;
     void WriteLogFile(const QStringList& actionLog) const;
 };
 

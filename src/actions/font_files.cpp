@@ -17,7 +17,9 @@ namespace {
     throw CriticalException(u"Error opening file!"_s, text);
 }
 
-CFileOptions OptionsOfSettings(const QStringList& actionLog)
+} // namespace
+
+CFileOptions CFileOptionsOfSettings(const QStringList& actionLog)
 {
     const Settings& settings = Settings::Instance();
     CFileOptions options{settings.LineEnding(), std::nullopt};
@@ -25,8 +27,6 @@ CFileOptions OptionsOfSettings(const QStringList& actionLog)
         options.actionLog = actionLog;
     return options;
 }
-
-} // namespace
 
 FileType CheckInputFile(const QString& path)
 {
@@ -65,7 +65,7 @@ std::unique_ptr<FontFile> MakeFontFile(const QString& path, const QStringList& a
         throw CriticalException(
             u"Unsupported format!"_s,
             u"The file kind of %1 is not available in this version yet."_s.arg(path));
-    return std::make_unique<FontFileC>(path, OptionsOfSettings(actionLog));
+    return std::make_unique<FontFileC>(path, CFileOptionsOfSettings(actionLog));
 }
 
 } // namespace Glyphor

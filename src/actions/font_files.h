@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/c_file_text.h"
 #include "files/file_types.h"
 #include "render/font_file_scalable.h"
 
@@ -12,6 +13,9 @@ namespace Glyphor {
 // Throws a CriticalException unless there is a file with something in it that may be read, and
 // whose name tells a known kind.
 FileType CheckInputFile(const QString& path);
+
+// What the settings say about generated C files; the log is told where they want it told.
+[[nodiscard]] CFileOptions CFileOptionsOfSettings(const QStringList& actionLog);
 
 // The file object for a kind that is rendered.
 [[nodiscard]] std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,

@@ -37,4 +37,9 @@ std::optional<FileType> FileTypeOf(QStringView fileName)
     return row == FileTypeTable.end() ? std::nullopt : std::optional(row->type);
 }
 
+bool IsBinaryKerningName(QStringView fileName)
+{
+    return fileName.endsWith(".kern"_L1, Qt::CaseInsensitive);
+}
+
 } // namespace Glyphor

@@ -25,6 +25,9 @@ extern const std::array<FileTypeRow, 6> FileTypeTable;
 // The first kind one of whose suffixes ends the name, in any letter case.
 [[nodiscard]] std::optional<FileType> FileTypeOf(QStringView fileName);
 
+// True for ".kern", in any letter case.
+[[nodiscard]] bool IsBinaryKerningName(QStringView fileName);
+
 // True for the kinds that are rendered at a height.
 [[nodiscard]] constexpr bool IsScalable(FileType type)
 {

@@ -86,6 +86,25 @@ private Q_SLOTS:
         QVERIFY(!Test::ReadAll(target).contains("[Font]"));
     }
 
+    void SavesKerning()
+    {
+        const QTemporaryDir folder;
+        const QString target = folder.filePath(u"pairs.c"_s);
+        Session session;
+        const auto open = Open(session, Test::FontPath("outlines.ttf"), 100);
+        open->Args().selection.emplace().SetRange(' ', 'V', true);
+        open->Run();
+        const auto save = std::make_shared<ActionSaveFile>(session, ActionType::SaveKerning);
+        save->Args().path = target;
+        QVERIFY(save->Run());
+        // A repetition of the charmap's is one of the file's.
+        QVERIFY(Test::ReadAll(target).contains(
+            "  0x0041, 0x0056, (U16)-15, 0x0056, 0x0020, (U16)  8, "
+            "0x0056, 0x0041, (U16)-12, 0x0056, 0x0041, (U16)-12, \r\n};\r\n"));
+        QCOMPARE(session.Path(), Test::FontPath("outlines.ttf"));
+        QCOMPARE(session.Stack().LogLines().last(), u"Saved kerning file: %1"_s.arg(target));
+    }
+
     void OpenFailures_data()
     {
         QTest::addColumn<QString>("path");
@@ -178,6 +197,7 @@ private Q_SLOTS:
             << File(u"a.ttf"_s) << 3 << true << u"Unsupported format!"_s;
         QTest::newRow("legacy XBF") << File(u"a.xbf"_s) << 0 << true << u"Invalid file format!"_s;
         QTest::newRow("empty XBF") << File(u"a.xbf"_s) << 3 << false << u"Font is empty!"_s;
+        QTest::newRow("no kerning") << File(u"a.kern"_s) << 3 << true << u"No kerning data!"_s;
         QTest::newRow("unwritable") << File(u"none/a.c"_s) << 3 << true << u"Error saving file!"_s;
     }
 

@@ -1,10 +1,8 @@
-#include "app/version.h"
 #include "files/file_types.h"
 #include "files/font_file_c.h"
 #include "model/code_text.h"
-#include "support/test_main.h"
+#include "support/c_files.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -82,19 +80,6 @@ QByteArray Dump(const Font& font)
     return text;
 }
 
-// "X" and "_" for every byte, as the embedded library's header has them.
-QByteArray PatternHeader()
-{
-    QByteArray text;
-    for (int byte = 0; byte < 256; ++byte) {
-        QByteArray name;
-        for (int bit = 7; bit >= 0; --bit)
-            name += (byte >> bit & 1) != 0 ? 'X' : '_';
-        text += "#define " + name + ' ' + QByteArray::number(byte) + '\n';
-    }
-    return text;
-}
-
 } // namespace
 
 class TestFontFileC : public QObject
@@ -141,7 +126,6 @@ private Q_SLOTS:
         QCOMPARE(CName(name), cName);
     }
 
-    // Run with GLYPHOR_RENEW_GOLDEN set to write the expected files anew.
     void Golden_data()
     {
         QTest::addColumn<QString>("fileName");
@@ -161,20 +145,8 @@ private Q_SLOTS:
             options.actionLog = {u"[Font]: Opened font file: a/*/\u202e\nb.ttf"_s,
                                  QString(70, u'x')};
         const auto font = MakeFont(FontFormat(format), EncodingType(encoding));
-        QByteArray text = FontFileC(u"some/dir/"_s + fileName, options).Compose(*font);
-        const QByteArray built =
-            QByteArray(Program::BuildDate.data()) + ' ' + Program::BuildTime.data();
-        QVERIFY(text.contains(Program::Name.data() + QByteArray(" ") + Program::Version.data()));
-        QVERIFY(text.contains("Compiled: " + built));
-        text.replace(built, QByteArray("<date and time>").leftJustified(built.size()));
-        const QByteArray version = Program::Version.data();
-        text.replace("Glyphor " + version,
-                     "Glyphor " + QByteArray("#").leftJustified(version.size()));
-
-        const QString path = QString::fromUtf8(TEST_SOURCES "/files/") + fileName + u".golden"_s;
-        if (qEnvironmentVariableIsSet("GLYPHOR_RENEW_GOLDEN"))
-            Test::WriteAll(path, text);
-        QCOMPARE(text, Test::ReadAll(path));
+        const QByteArray text = FontFileC(u"some/dir/"_s + fileName, options).Compose(*font);
+        Test::CompareWithGolden(text, fileName);
     }
 
     void LineEndingsAndLog()
@@ -224,39 +196,17 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const auto font = MakeFont(FontFormat(format));
         FontFileC(folder.filePath(fileName), {}).Write(*font);
-        Test::WriteAll(folder.filePath(u"GUI_patterns.h"_s), PatternHeader());
 
         const QString program = folder.filePath(u"dump"_s);
-        const QString sources = QString::fromUtf8(TEST_SOURCES "/files/gui");
-        QStringList arguments = {u"-std=gnu99"_s,
-                                 u"-Wall"_s,
-                                 u"-Wextra"_s,
-                                 u"-Werror"_s,
-                                 u"-I"_s + sources,
-                                 u"-I"_s + folder.path(),
-                                 u"-DFONT_NAME=GUI_Font8_Tests_Plain_1"_s,
-                                 u"-DFONT_FILE=\"%1\""_s.arg(fileName),
-                                 u"-o"_s,
-                                 program,
-                                 sources + u"/dump.c"_s};
+        QStringList arguments = {u"-DFONT_NAME=GUI_Font8_Tests_Plain_1"_s,
+                                 u"-DFONT_FILE=\"%1\""_s.arg(fileName), u"-o"_s, program,
+                                 QString::fromUtf8(TEST_SOURCES "/files/gui/dump.c")};
         if (fileName.endsWith(u".h"_s))
             arguments.append(u"-DFONT_IS_HEADER"_s);
         else
             arguments.append(folder.filePath(fileName));
-        QCOMPARE(RunProgram(u"gcc"_s, arguments), QByteArray());
-        QCOMPARE(RunProgram(program, {}), Dump(*font));
-    }
-
-private:
-    // Standard output and standard error together.
-    static QByteArray RunProgram(const QString& program, const QStringList& arguments)
-    {
-        QProcess process;
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(program, arguments);
-        if (!process.waitForFinished())
-            return process.errorString().toUtf8();
-        return process.readAll();
+        QCOMPARE(Test::Compile(folder.path(), arguments), QByteArray());
+        QCOMPARE(Test::OutputOf(program, {}), Dump(*font));
     }
 };
 
