@@ -3,34 +3,14 @@
 // Usage: bench_kerning [FONT]
 
 #include "render/kerning_index.h"
+#include "timing.h"
 
 #include <QString>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <vector>
 
 using namespace Glyphor;
-
-namespace {
-
-template <typename Work>
-double Seconds(Work work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double Median(std::vector<double> values)
-{
-    const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {

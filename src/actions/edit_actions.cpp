@@ -3,6 +3,8 @@
 #include "actions/session.h"
 
 #include <algorithm>
+#include <array>
+#include <type_traits>
 
 namespace Glyphor {
 
@@ -10,126 +12,79 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// One elementary step on one character; false where it is refused.
-bool ApplyStep(ActionType type, Character& character)
+// An edit of the bitmap as a step; false where the bitmap refuses it.
+template <auto Edit>
+bool EditBitmap(Character& character)
 {
     CharBitmap& bitmap = *character.bitmap;
-    CharInfo& info = character.info;
-    switch (type) {
-    case ActionType::InsertColumnRight:
-        return bitmap.InsertColumnRight();
-    case ActionType::InsertColumnLeft:
-        return bitmap.InsertColumnLeft();
-    case ActionType::InsertRowTop:
-        return bitmap.InsertRowTop();
-    case ActionType::InsertRowBottom:
-        return bitmap.InsertRowBottom();
-    case ActionType::ShiftRight:
-        bitmap.ShiftRight();
+    if constexpr (std::is_same_v<decltype((bitmap.*Edit)()), bool>) {
+        return (bitmap.*Edit)();
+    } else {
+        (bitmap.*Edit)();
         return true;
-    case ActionType::ShiftLeft:
-        bitmap.ShiftLeft();
-        return true;
-    case ActionType::ShiftUp:
-        bitmap.ShiftUp();
-        return true;
-    case ActionType::ShiftDown:
-        bitmap.ShiftDown();
-        return true;
-    case ActionType::MoveRight:
-        ++info.xPos;
-        return true;
-    case ActionType::MoveLeft:
-        --info.xPos;
-        return true;
-    case ActionType::MoveUp:
-        --info.yPos;
-        return true;
-    case ActionType::MoveDown:
-        ++info.yPos;
-        return true;
-    case ActionType::IncreaseCursorDistance:
-        ++info.cursorDistance;
-        return true;
-    case ActionType::DecreaseCursorDistance:
-        --info.cursorDistance;
-        return true;
-    case ActionType::DeleteColumnRight:
-        return bitmap.DeleteColumnRight();
-    case ActionType::DeleteColumnLeft:
-        return bitmap.DeleteColumnLeft();
-    case ActionType::DeleteRowTop:
-        return bitmap.DeleteRowTop();
-    case ActionType::DeleteRowBottom:
-        return bitmap.DeleteRowBottom();
-    default:
-        return false;
     }
 }
 
-// What reverts a step. Deleted pixels come back empty.
-void RevertStep(ActionType type, Character& character)
+// A metric changed by one as a step. Metrics wrap.
+template <auto Metric>
+bool Increase(Character& character)
 {
-    CharBitmap& bitmap = *character.bitmap;
-    const auto apply = [&character](ActionType opposite) { ApplyStep(opposite, character); };
-    switch (type) {
-    case ActionType::InsertColumnRight:
-        bitmap.UndoInsertColumnRight();
-        break;
-    case ActionType::InsertColumnLeft:
-        bitmap.UndoInsertColumnLeft();
-        break;
-    case ActionType::InsertRowTop:
-        bitmap.UndoInsertRowTop();
-        break;
-    case ActionType::InsertRowBottom:
-        bitmap.UndoInsertRowBottom();
-        break;
-    case ActionType::ShiftRight:
-        apply(ActionType::ShiftLeft);
-        break;
-    case ActionType::ShiftLeft:
-        apply(ActionType::ShiftRight);
-        break;
-    case ActionType::ShiftUp:
-        apply(ActionType::ShiftDown);
-        break;
-    case ActionType::ShiftDown:
-        apply(ActionType::ShiftUp);
-        break;
-    case ActionType::MoveRight:
-        apply(ActionType::MoveLeft);
-        break;
-    case ActionType::MoveLeft:
-        apply(ActionType::MoveRight);
-        break;
-    case ActionType::MoveUp:
-        apply(ActionType::MoveDown);
-        break;
-    case ActionType::MoveDown:
-        apply(ActionType::MoveUp);
-        break;
-    case ActionType::IncreaseCursorDistance:
-        apply(ActionType::DecreaseCursorDistance);
-        break;
-    case ActionType::DecreaseCursorDistance:
-        apply(ActionType::IncreaseCursorDistance);
-        break;
-    case ActionType::DeleteColumnRight:
-        bitmap.UndoDeleteColumnRight();
-        break;
-    case ActionType::DeleteColumnLeft:
-        apply(ActionType::InsertColumnLeft);
-        break;
-    case ActionType::DeleteRowTop:
-        bitmap.UndoDeleteRowTop();
-        break;
-    case ActionType::DeleteRowBottom:
-        apply(ActionType::InsertRowBottom);
-        break;
-    default:
-        break;
-    }
+    ++(character.info.*Metric);
+    return true;
+}
+
+template <auto Metric>
+bool Decrease(Character& character)
+{
+    --(character.info.*Metric);
+    return true;
+}
+
+struct CharStep
+{
+    ActionType type;
+    bool (*apply)(Character&);
+    bool (*revert)(Character&); // deleted pixels come back empty
+};
+
+using Bitmap = CharBitmap;
+
+// From InsertColumnRight on, without a gap.
+constexpr std::array<CharStep, 18> CharSteps = {{
+    {ActionType::InsertColumnRight, EditBitmap<&Bitmap::InsertColumnRight>,
+     EditBitmap<&Bitmap::UndoInsertColumnRight>},
+    {ActionType::InsertColumnLeft, EditBitmap<&Bitmap::InsertColumnLeft>,
+     EditBitmap<&Bitmap::UndoInsertColumnLeft>},
+    {ActionType::InsertRowTop, EditBitmap<&Bitmap::InsertRowTop>,
+     EditBitmap<&Bitmap::UndoInsertRowTop>},
+    {ActionType::InsertRowBottom, EditBitmap<&Bitmap::InsertRowBottom>,
+     EditBitmap<&Bitmap::UndoInsertRowBottom>},
+    {ActionType::ShiftRight, EditBitmap<&Bitmap::ShiftRight>, EditBitmap<&Bitmap::ShiftLeft>},
+    {ActionType::ShiftLeft, EditBitmap<&Bitmap::ShiftLeft>, EditBitmap<&Bitmap::ShiftRight>},
+    {ActionType::ShiftUp, EditBitmap<&Bitmap::ShiftUp>, EditBitmap<&Bitmap::ShiftDown>},
+    {ActionType::ShiftDown, EditBitmap<&Bitmap::ShiftDown>, EditBitmap<&Bitmap::ShiftUp>},
+    {ActionType::MoveRight, Increase<&CharInfo::xPos>, Decrease<&CharInfo::xPos>},
+    {ActionType::MoveLeft, Decrease<&CharInfo::xPos>, Increase<&CharInfo::xPos>},
+    {ActionType::MoveUp, Decrease<&CharInfo::yPos>, Increase<&CharInfo::yPos>},
+    {ActionType::MoveDown, Increase<&CharInfo::yPos>, Decrease<&CharInfo::yPos>},
+    {ActionType::IncreaseCursorDistance, Increase<&CharInfo::cursorDistance>,
+     Decrease<&CharInfo::cursorDistance>},
+    {ActionType::DecreaseCursorDistance, Decrease<&CharInfo::cursorDistance>,
+     Increase<&CharInfo::cursorDistance>},
+    {ActionType::DeleteColumnRight, EditBitmap<&Bitmap::DeleteColumnRight>,
+     EditBitmap<&Bitmap::UndoDeleteColumnRight>},
+    {ActionType::DeleteColumnLeft, EditBitmap<&Bitmap::DeleteColumnLeft>,
+     EditBitmap<&Bitmap::InsertColumnLeft>},
+    {ActionType::DeleteRowTop, EditBitmap<&Bitmap::DeleteRowTop>,
+     EditBitmap<&Bitmap::UndoDeleteRowTop>},
+    {ActionType::DeleteRowBottom, EditBitmap<&Bitmap::DeleteRowBottom>,
+     EditBitmap<&Bitmap::InsertRowBottom>},
+}};
+
+const CharStep& StepOf(ActionType type)
+{
+    const int index = static_cast<int>(type) - static_cast<int>(CharSteps.front().type);
+    return CharSteps.at(static_cast<std::size_t>(index));
 }
 
 bool ApplyFontStep(ActionType type, Font& font)
@@ -186,8 +141,9 @@ void ActionChar::RedoOnce()
         CurrentFont()->SetEnabledCodes(codes);
         return;
     }
-    ForEachChar([this](quint16 code, Character& character) {
-        if (!ApplyStep(Type(), character))
+    const auto apply = StepOf(Type()).apply;
+    ForEachChar([&](quint16 code, Character& character) {
+        if (!apply(character))
             ++refused_[code];
     });
 }
@@ -198,10 +154,11 @@ void ActionChar::UndoOnce()
         RedoOnce();
         return;
     }
-    ForEachChar([this](quint16 code, Character& character) {
+    const auto revert = StepOf(Type()).revert;
+    ForEachChar([&](quint16 code, Character& character) {
         const auto refused = refused_.find(code);
         if (refused == refused_.end())
-            RevertStep(Type(), character);
+            revert(character);
         else if (--*refused == 0)
             refused_.erase(refused);
     });
@@ -224,7 +181,8 @@ bool ActionFont::Execute()
     const bool isInsertion =
         Type() == ActionType::FontInsertRowTop || Type() == ActionType::FontInsertRowBottom;
     const int height = font->Metrics().height;
-    const int possible = isInsertion ? CharInfo::MaxSize - height : height;
+    const int minimum = IsLegacyFormat(font->Metrics().format) ? 1 : 0;
+    const int possible = isInsertion ? CharInfo::MaxSize - height : height - minimum;
     SetRepeat(std::min(Repeat(), possible));
     return possible > 0;
 }

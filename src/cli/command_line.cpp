@@ -6,7 +6,8 @@
 #include "app/critical_exception.h"
 #include "app/error_file.h"
 
-#include <algorithm>
+#include <QScopeGuard>
+
 #include <iostream>
 #include <new>
 #include <string>
@@ -154,10 +155,10 @@ void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
         break;
     }
     current_ = &occurrence;
+    const auto forget = qScopeGuard([this] { current_ = nullptr; });
     const ActionType kind = KindOf(occurrence);
     if (kind != ActionType::None)
         perform(kind, session);
-    current_ = nullptr;
 }
 
 void CommandLine::perform(ActionType kind, Session& session)

@@ -59,7 +59,8 @@ int GetPixel(const QByteArray& bytes, const PixelLayout& layout, int x, int y)
         qsizetype(layout.BytesPerLine()) * y + qsizetype(x) * layout.bitsPerPixel / 8;
     if (offset >= bytes.size())
         return 0;
-    return static_cast<uchar>(bytes[offset]) >> BitShift(layout, x) & layout.MaxIndex();
+    const auto* const data = reinterpret_cast<const uchar*>(bytes.constData());
+    return GetInRow(data + qsizetype(layout.BytesPerLine()) * y, layout, x);
 }
 
 void SetPixel(QByteArray& bytes, const PixelLayout& layout, int x, int y, int index)
@@ -142,37 +143,38 @@ void DeleteRowBottom(QByteArray& bytes, const PixelLayout& layout)
 
 void ShiftRight(QByteArray& bytes, const PixelLayout& layout)
 {
-    const int bits = layout.bitsPerPixel;
-    const int length = layout.BytesPerLine();
-    const int padding = length * 8 - layout.width * bits;
     if (layout.width == 0)
         return;
-    for (int y = 0; y < layout.rows; ++y) {
-        uchar* const row = Row(bytes, layout, y);
-        int carry = GetInRow(row, layout, layout.width - 1);
+    const int bits = layout.bitsPerPixel;
+    const int length = layout.BytesPerLine();
+    const int lastShift = BitShift(layout, layout.width - 1);
+    const int used = 0xFF << (length * 8 - layout.width * bits);
+    uchar* row = Row(bytes, layout, 0);
+    for (int y = 0; y < layout.rows; ++y, row += length) {
+        int carry = row[length - 1] >> lastShift & layout.MaxIndex();
         for (int i = 0; i < length; ++i) {
             const int byte = row[i];
             row[i] = static_cast<uchar>(carry << (8 - bits) | byte >> bits);
-            carry = byte & layout.MaxIndex();
+            carry = byte;
         }
-        row[length - 1] = static_cast<uchar>(row[length - 1] & 0xFF << padding);
+        row[length - 1] = static_cast<uchar>(row[length - 1] & used);
     }
 }
 
 void ShiftLeft(QByteArray& bytes, const PixelLayout& layout)
 {
-    const int bits = layout.bitsPerPixel;
-    const int length = layout.BytesPerLine();
     if (layout.width == 0)
         return;
-    for (int y = 0; y < layout.rows; ++y) {
-        uchar* const row = Row(bytes, layout, y);
-        const int first = GetInRow(row, layout, 0);
-        for (int i = 0; i < length; ++i) {
-            const int next = i + 1 < length ? row[i + 1] : 0;
-            row[i] = static_cast<uchar>(row[i] << bits | next >> (8 - bits));
-        }
-        SetInRow(row, layout, layout.width - 1, first);
+    const int bits = layout.bitsPerPixel;
+    const int length = layout.BytesPerLine();
+    const int lastShift = BitShift(layout, layout.width - 1);
+    uchar* row = Row(bytes, layout, 0);
+    for (int y = 0; y < layout.rows; ++y, row += length) {
+        const int first = row[0] >> (8 - bits);
+        for (int i = 0; i + 1 < length; ++i)
+            row[i] = static_cast<uchar>(row[i] << bits | row[i + 1] >> (8 - bits));
+        // What moved into the place of the last pixel was unused, and so is 0.
+        row[length - 1] = static_cast<uchar>(row[length - 1] << bits | first << lastShift);
     }
 }
 

@@ -169,7 +169,13 @@ private Q_SLOTS:
         QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontInsertRowTop)->Run());
         session.CurrentFont()->SetHeight(0);
         QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontDeleteRowBottom)->Run());
-        QVERIFY(session.Stack().LogLines().isEmpty());
+        // The pixels of a legacy character must not vanish.
+        session.ReplaceFont(MakeFont(FontFormat::Legacy), {});
+        const auto deletion = std::make_shared<ActionFont>(session, ActionType::FontDeleteRowTop);
+        deletion->SetRepeat(3);
+        QVERIFY(deletion->Run());
+        QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontDeleteRowBottom)->Run());
+        QCOMPARE(session.Stack().LogLines().size(), 3);
     }
 
     void PixelEdits_data()
