@@ -256,12 +256,19 @@ int FreeTypeFace::NamedInstanceCount() const
     return variations ? static_cast<int>(variations->num_namedstyles) : 0;
 }
 
+QString FreeTypeFace::NamedInstanceName(int index) const
+{
+    const Variations variations = VariationsOf(library_, face_);
+    if (!variations || index < 1 || index > static_cast<int>(variations->num_namedstyles))
+        return {};
+    return FindName(face_, variations->namedstyle[index - 1].strid);
+}
+
 QStringList FreeTypeFace::NamedInstanceNames() const
 {
     QStringList names;
-    const Variations variations = VariationsOf(library_, face_);
-    for (FT_UInt index = 0; variations && index < variations->num_namedstyles; ++index) {
-        const QString name = FindName(face_, variations->namedstyle[index].strid);
+    for (int index = 1; index <= NamedInstanceCount(); ++index) {
+        const QString name = NamedInstanceName(index);
         if (!name.isEmpty())
             names.append(name);
     }

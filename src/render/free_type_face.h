@@ -82,6 +82,9 @@ public:
     [[nodiscard]] bool IsMultiMaster() const;
     [[nodiscard]] QStringList NamedInstanceNames() const;
 
+    // The name of one of them, counted from 1; empty where it has none.
+    [[nodiscard]] QString NamedInstanceName(int index) const;
+
     // How many named instances there are, whether or not their names can be read.
     [[nodiscard]] int NamedInstanceCount() const;
 

@@ -4,6 +4,7 @@
     outlines.ttf    boxes of known sizes, a kern table, codes beyond 0xFFFF
     variable.ttf    a weight axis with the default instance and two named ones
     collection.ttc  two faces
+    black.ttf       one more style of the collection's family
     strike.ttf      outlines and a 1-bit strike of 10 pixels that has only "A"
     hostile.ttf     a few bytes that map 4 billion codes to one glyph, which kerns with itself
 """
@@ -108,6 +109,8 @@ def collection(folder):
         fonts.fonts.append(
             build("Test Collection", style, glyphs, {0x41: "A"}, weight, selection).font)
     fonts.save(os.path.join(folder, "collection.ttc"))
+    black = build("Test Collection", "Black", {"A": LETTERS["A"]}, {0x41: "A"}, 900)
+    black.save(os.path.join(folder, "black.ttf"))
 
 
 def line_metrics(direction):

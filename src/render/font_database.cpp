@@ -1,0 +1,168 @@
+#include "render/font_database.h"
+
+#include "app/settings.h"
+#include "render/font_directories.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr uint ThreadStackSize = 4 * 1024 * 1024;
+
+struct FontFileEntry
+{
+    QString path;
+    FileType type;
+};
+
+// Enters directories and those below them, each once.
+class DirectoryWalk
+{
+public:
+    explicit DirectoryWalk(bool recursively) : recursively_(recursively) {}
+
+    void Enter(const QString& path)
+    {
+        const QString canonical = QDir(path).canonicalPath();
+        if (canonical.isEmpty() || seen_.contains(canonical))
+            return;
+        seen_.insert(canonical);
+        entered_.append(path);
+        if (!recursively_)
+            return;
+        const QDir directory(path);
+        for (const QString& name :
+             directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted)) {
+            // The count never goes down again, so it limits the whole list and not the depth.
+            if (entered_.size() < MaxEntered)
+                Enter(directory.filePath(name));
+        }
+    }
+
+    [[nodiscard]] const QStringList& Entered() const { return entered_; }
+
+private:
+    static constexpr qsizetype MaxEntered = 10;
+
+    bool recursively_;
+    QStringList entered_;
+    QSet<QString> seen_;
+};
+
+std::vector<FontFileEntry> FontFilesIn(const QStringList& directories)
+{
+    QStringList patterns;
+    for (const FileTypeRow& row : FileTypeTable) {
+        for (const QLatin1StringView suffix :
+             IsScalable(row.type) ? row.suffixes : decltype(row.suffixes)())
+            patterns.append(u'*' + suffix);
+    }
+    std::vector<FontFileEntry> files;
+    for (const QString& directory : directories) {
+        for (const QFileInfo& file :
+             QDir(directory).entryInfoList(patterns, QDir::Files | QDir::Readable, QDir::Name)) {
+            if (const auto type = FileTypeOf(file.fileName()))
+                files.push_back({file.filePath(), *type});
+        }
+    }
+    return files;
+}
+
+// A FreeType library of its own for a thread of its own.
+class LocalLibrary
+{
+public:
+    LocalLibrary() { FT_Init_FreeType(&library_); }
+    ~LocalLibrary() { FT_Done_FreeType(library_); }
+    LocalLibrary(const LocalLibrary&) = delete;
+    LocalLibrary& operator=(const LocalLibrary&) = delete;
+
+    [[nodiscard]] FT_Library Get() const { return library_; }
+
+private:
+    FT_Library library_ = nullptr;
+};
+
+} // namespace
+
+FontDatabase& FontDatabase::Instance()
+{
+    static FontDatabase database;
+    return database;
+}
+
+void FontDatabase::Build(const QStringList& directories, const std::function<void(int)>& counted,
+                         const std::function<void(int)>& done)
+{
+    families_.clear();
+    const std::vector<FontFileEntry> files = FontFilesIn(directories);
+    counted(static_cast<int>(files.size()));
+    const LocalLibrary library;
+    int count = 0;
+    for (const FontFileEntry& file : files) {
+        for (auto& family : ListFamilies(file.path, file.type, library.Get()))
+            Add(std::move(family));
+        done(++count);
+    }
+    std::ranges::sort(families_, {}, [](const auto& family) { return family->Name(); });
+}
+
+void FontDatabase::Add(std::unique_ptr<FontFamily> family)
+{
+    if (family->Name().isEmpty() || family->StyleNames().isEmpty())
+        return;
+    const auto known = std::ranges::find(families_, family->Name(),
+                                         [](const auto& other) { return other->Name(); });
+    if (known != families_.end())
+        (*known)->AddStyles(*family);
+    else
+        families_.push_back(std::move(family));
+}
+
+const FontFamily* FontDatabase::Find(const QString& name) const
+{
+    const auto found =
+        std::ranges::find(families_, name, [](const auto& family) { return family->Name(); });
+    return found != families_.end() ? found->get() : nullptr;
+}
+
+QStringList ExpandDirectories(const QStringList& directories, bool recursively)
+{
+    DirectoryWalk walk(recursively);
+    for (const QString& directory : directories)
+        walk.Enter(directory);
+    return walk.Entered();
+}
+
+QStringList FontSearchList()
+{
+    const Settings& settings = Settings::Instance();
+    QStringList list = ExpandDirectories(SystemFontDirectories(), true);
+    list += ExpandDirectories(settings.additionalFontDirs.value(),
+                              settings.searchDirsRecursively.value());
+    list.removeDuplicates();
+    return list;
+}
+
+FontDatabaseThread::FontDatabaseThread(QObject* parent) : QThread(parent)
+{
+    setStackSize(ThreadStackSize);
+}
+
+void FontDatabaseThread::run()
+{
+    FontDatabase::Instance().Build(
+        FontSearchList(), [this](int count) { Q_EMIT initFileCount(count); },
+        [this](int done) { Q_EMIT fileDone(done); });
+    Q_EMIT hasFinished();
+}
+
+} // namespace Glyphor

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "render/font_family.h"
+
+#include <QThread>
+
+#include <functional>
+
+namespace Glyphor {
+
+// The families of the scalable fonts in the font directories, in ascending order of their names.
+class FontDatabase
+{
+public:
+    // The process-wide one, empty until it was built.
+    static FontDatabase& Instance();
+
+    // Indexes the font files of the directories anew. `counted` hears the number of files, `done`
+    // after each how many are done.
+    void Build(const QStringList& directories, const std::function<void(int)>& counted,
+               const std::function<void(int)>& done);
+
+    [[nodiscard]] const FontFamilies& Families() const { return families_; }
+
+    // Null where no family has just this name.
+    [[nodiscard]] const FontFamily* Find(const QString& name) const;
+
+private:
+    void Add(std::unique_ptr<FontFamily> family);
+
+    FontFamilies families_;
+};
+
+// The directories to index: the system's with those below them, and those of the settings.
+[[nodiscard]] QStringList FontSearchList();
+
+// The directories in order, each followed by those below it if asked for. Ten directories at most
+// are entered from others for the whole list.
+[[nodiscard]] QStringList ExpandDirectories(const QStringList& directories, bool recursively);
+
+// Rebuilds the process-wide database in the background.
+class FontDatabaseThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    explicit FontDatabaseThread(QObject* parent = nullptr);
+
+Q_SIGNALS:
+    void initFileCount(int count);
+    void fileDone(int done);
+    void hasFinished();
+
+protected:
+    void run() override;
+};
+
+} // namespace Glyphor

@@ -1,0 +1,109 @@
+#include "render/font_family.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace Glyphor {
+
+FontFamily::FontFamily(const FreeTypeFace& face)
+    : name_(face.FamilyName()), unicodeRanges_(face.UnicodeRanges())
+{}
+
+void FontFamily::AddStyle(const QString& name, const QString& path, int faceIndex, bool isInstance,
+                          const FaceStyle& style)
+{
+    styles_.try_emplace(name, Entry{path, faceIndex, isInstance, style});
+}
+
+const FontFamily::Entry* FontFamily::Find(const QString& style) const
+{
+    const auto found = styles_.find(style);
+    return found != styles_.end() ? &found->second : nullptr;
+}
+
+FreeTypeFace FontFamily::Face(const QString& style) const
+{
+    const Entry* const entry = Find(style);
+    if (entry == nullptr)
+        return {};
+    FreeTypeFace face(entry->path, entry->isInstance ? 0 : entry->faceIndex, FreeTypeLibrary());
+    if (entry->isInstance)
+        face.SetNamedInstance(entry->faceIndex);
+    return face;
+}
+
+int FontFamily::FaceIndex(const QString& style) const
+{
+    const Entry* const entry = Find(style);
+    return entry != nullptr ? entry->faceIndex : 0;
+}
+
+QString FontFamily::Path(const QString& style) const
+{
+    const Entry* const entry = Find(style);
+    return entry != nullptr ? entry->path : QString();
+}
+
+FaceStyle FontFamily::Style(const QString& style) const
+{
+    const Entry* const entry = Find(style);
+    return entry != nullptr ? entry->style : FaceStyle();
+}
+
+QStringList FontFamily::StyleNames() const
+{
+    QStringList names;
+    for (const auto& [name, entry] : styles_)
+        names.append(name);
+    std::ranges::stable_sort(names, {}, [this](const QString& name) {
+        const FaceStyle style = Style(name);
+        return std::tuple(style.weight, style.width, style.italic);
+    });
+    return names;
+}
+
+void FontFamily::AddStyles(const FontFamily& other)
+{
+    for (const auto& style : other.styles_)
+        styles_.insert(style);
+}
+
+FontFamilyTTF::FontFamilyTTF(const FreeTypeFace& face) : FontFamily(face)
+{
+    AddStyle(face.StyleName(), face.Path(), 0, false, face.Style());
+}
+
+FontFamilyTTC::FontFamilyTTC(const FreeTypeFace& face, int faceIndex) : FontFamily(face)
+{
+    AddStyle(face.StyleName(), face.Path(), faceIndex, false, face.Style());
+}
+
+FontFamilyTTF_MM::FontFamilyTTF_MM(FreeTypeFace& face) : FontFamily(face)
+{
+    for (int index = 1; index <= face.NamedInstanceCount(); ++index) {
+        const QString name = face.NamedInstanceName(index);
+        face.SetNamedInstance(index);
+        if (!name.isEmpty())
+            AddStyle(name, face.Path(), index, true, face.Style());
+    }
+}
+
+FontFamilies ListFamilies(const QString& path, FileType type, FT_Library library)
+{
+    FontFamilies families;
+    FreeTypeFace face(path, 0, library);
+    if (type == FileType::TrueTypeCollection) {
+        for (int index = 0; index < face.FaceCount(); ++index) {
+            const FreeTypeFace member(path, index, library);
+            if (member.IsOpen())
+                families.push_back(std::make_unique<FontFamilyTTC>(member, index));
+        }
+    } else if (face.NamedInstanceCount() > 0) {
+        families.push_back(std::make_unique<FontFamilyTTF_MM>(face));
+    } else if (face.IsOpen()) {
+        families.push_back(std::make_unique<FontFamilyTTF>(face));
+    }
+    return families;
+}
+
+} // namespace Glyphor

@@ -1,0 +1,110 @@
+#include "render/font_database.h"
+#include "support/test_main.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+class TestFontDatabase : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void FamiliesAreMerged()
+    {
+        const QTemporaryDir folder;
+        for (const auto* const name : {"collection.ttc", "black.ttf", "variable.ttf"})
+            QVERIFY(QFile::copy(Test::FontPath(name), folder.filePath(QString::fromUtf8(name))));
+        Test::WriteAll(folder.filePath(u"a_broken.ttf"_s), "no font");
+        Test::WriteAll(folder.filePath(u"a_cut.otf"_s),
+                       Test::ReadAll(Test::FontPath("outlines.ttf")).left(300));
+        Test::WriteAll(folder.filePath(u"readme.txt"_s), "not looked at");
+
+        FontDatabase database;
+        QList<int> reports;
+        database.Build(
+            {folder.path()}, [&](int count) { reports.append(count); },
+            [&](int done) { reports.append(done); });
+        QCOMPARE(reports, (QList<int>{5, 1, 2, 3, 4, 5}));
+        QStringList names;
+        for (const auto& family : database.Families())
+            names.append(family->Name());
+        QCOMPARE(names, (QStringList{u"Test Collection"_s, u"Test Variable"_s}));
+
+        const FontFamily& collection = *database.Find(names[0]);
+        QCOMPARE(collection.StyleNames(), (QStringList{u"Regular"_s, u"Oblique"_s, u"Black"_s}));
+        QCOMPARE(collection.FaceIndex(u"Oblique"_s), 1);
+        QCOMPARE(collection.Style(u"Oblique"_s), (FaceStyle{700, 5, true}));
+        QCOMPARE(collection.Face(u"Oblique"_s).StyleName(), u"Oblique"_s);
+        QCOMPARE(collection.Face(u"Black"_s).Path(), folder.filePath(u"black.ttf"_s));
+        QVERIFY(!collection.Face(u"Thin"_s).IsOpen());
+        QCOMPARE(collection.UnicodeRanges(), (QList<quint32>{1, 2, 3, 4}));
+
+        const FontFamily& variable = *database.Find(names[1]);
+        QCOMPARE(variable.StyleNames(), (QStringList{u"Plain"_s, u"Heavy"_s}));
+        QCOMPARE(variable.FaceIndex(u"Heavy"_s), 2);
+        QCOMPARE(variable.Face(u"Heavy"_s).Style().weight, 900U);
+        QVERIFY(database.Find(u"test collection"_s) == nullptr);
+    }
+
+    void TenDirectories_data()
+    {
+        QTest::addColumn<QStringList>("made");
+        QTest::addColumn<int>("entered");
+        QStringList siblings;
+        QString nested;
+        QStringList deep;
+        for (int index = 0; index < 15; ++index) {
+            siblings.append(u"s%1"_s.arg(index));
+            nested += u"/n%1"_s.arg(index);
+            deep.append(nested.mid(1));
+        }
+        QTest::newRow("siblings") << siblings << 10;
+        QTest::newRow("nested") << deep << 10;
+        QTest::newRow("few") << siblings.first(3) << 4;
+    }
+
+    void TenDirectories()
+    {
+        QFETCH(const QStringList, made);
+        QFETCH(const int, entered);
+        const QTemporaryDir folder;
+        for (const QString& name : made)
+            QVERIFY(QDir(folder.path()).mkpath(name));
+        const QStringList list = ExpandDirectories({folder.path()}, true);
+        QCOMPARE(list.size(), entered);
+        QCOMPARE(list.first(), folder.path());
+        QCOMPARE(ExpandDirectories({folder.path()}, false), QStringList{folder.path()});
+        // Directories that are named are entered whatever the count, but each once.
+        const QTemporaryDir other;
+        QCOMPARE(ExpandDirectories({folder.path(), other.path(), other.path()}, true).size(),
+                 entered + 1);
+        QVERIFY(ExpandDirectories({folder.filePath(u"none"_s)}, true).isEmpty());
+    }
+
+    void ThreadReports()
+    {
+        FontDatabaseThread thread;
+        QCOMPARE(thread.stackSize(), 4194304U);
+        QSignalSpy counted(&thread, &FontDatabaseThread::initFileCount);
+        QSignalSpy done(&thread, &FontDatabaseThread::fileDone);
+        QSignalSpy finished(&thread, &FontDatabaseThread::hasFinished);
+        thread.start();
+        QVERIFY(finished.wait());
+        thread.wait();
+        QCOMPARE(counted.size(), 1);
+        QCOMPARE(done.size(), counted[0][0].toInt());
+        QVERIFY(FontDatabase::Instance().Find(u"DejaVu Sans"_s) != nullptr);
+    }
+};
+
+GLYPHOR_TEST(TestFontDatabase)
+
+} // namespace Glyphor
+
+#include "tst_font_database.moc"
