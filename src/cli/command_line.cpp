@@ -5,6 +5,7 @@
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/error_file.h"
+#include "cli/installed_fonts.h"
 
 #include <QScopeGuard>
 
@@ -37,6 +38,10 @@ ActionType KindOf(const OptionOccurrence& occurrence)
     switch (occurrence.Id()) {
     case OptionId::Open:
         return ActionType::OpenFont;
+    case OptionId::Create:
+        return ActionType::CreateFont;
+    case OptionId::ListFonts:
+        return ActionType::ListFonts;
     case OptionId::EditFont:
     case OptionId::EditChar:
         return static_cast<ActionType>(occurrence.Get<int>(0));
@@ -67,6 +72,7 @@ std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
     if (kind >= ActionType::FontInsertRowTop && kind <= ActionType::FontDeleteRowBottom)
         return std::make_shared<ActionFont>(session, kind);
     switch (kind) {
+    case ActionType::CreateFont:
     case ActionType::OpenFont:
         return std::make_shared<ActionOpenFont>(session, kind);
     case ActionType::SaveFont:
@@ -81,9 +87,7 @@ void RefuseUnavailable(const std::vector<OptionOccurrence>& occurrences)
 {
     for (const OptionOccurrence& occurrence : occurrences) {
         switch (occurrence.Id()) {
-        case OptionId::Create:
         case OptionId::Merge:
-        case OptionId::ListFonts:
             throw CriticalException(u"The option -%1 is not available in this version yet."_s.arg(
                 occurrence.option->longName));
         default:
@@ -201,6 +205,9 @@ bool CommandLine::handleRequest(ActionType kind)
     switch (kind) {
     case ActionType::ExitProgram: // the program ends after the run anyway
         return true;
+    case ActionType::ListFonts:
+        console_.Print(InstalledFontTable());
+        return true;
     case ActionType::PrintUsage:
         console_.Print(parser_.usage());
         return true;
@@ -216,6 +223,12 @@ bool CommandLine::requestAction(Action& action)
     if (auto* const open = dynamic_cast<ActionOpenFont*>(&action)) {
         open->Args() = options_.open;
         open->Args().path = current_->Get<QString>(0);
+        if (action.Type() == ActionType::CreateFont) {
+            const InstalledFont font =
+                FindInstalledFont(current_->Get<QString>(0), current_->Get<QString>(1));
+            open->Args().path = font.path;
+            open->Args().faceIndex = font.faceIndex;
+        }
         return true;
     }
     if (auto* const save = dynamic_cast<ActionSaveFile*>(&action)) {

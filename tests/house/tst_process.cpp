@@ -2,6 +2,7 @@
 #include "support/test_main.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -147,6 +148,37 @@ private Q_SLOTS:
         const QString output = Run(arguments).output;
         QVERIFY2(output.startsWith(u"Critical error!\n"_s) && output.contains(u"none.txt"_s),
                  qUtf8Printable(output));
+    }
+
+    void FontsByName()
+    {
+        const QString folder = QFileInfo(Test::FontPath("black.ttf")).path();
+        {
+            Settings settings(
+                std::make_unique<QSettings>(File(u"Morvek/Glyphor.conf"_s), QSettings::IniFormat));
+            settings.additionalFontDirs.setValue({folder});
+        }
+        qputenv("XDG_CONFIG_HOME", folder_->path().toLocal8Bit());
+        const QStringList list = Run({u"-hide"_s, u"-listfonts"_s}).output.split(u'\n');
+        const qsizetype column = list[0].indexOf(u"Styles"_s);
+        QVERIFY(list[0].startsWith(u"Font family "_s) && column > 0);
+        QVERIFY(list.contains(u"Test Collection"_s.leftJustified(column) +
+                              u"Regular, Oblique, Black"_s));
+        QVERIFY(list.contains(u"Test Variable"_s.leftJustified(column) + u"Plain, Heavy"_s));
+
+        QStringList create = {u"-hide"_s,   u"-create"_s, u"Test Collection"_s, u"Oblique"_s,
+                              u"-height"_s, u"9px"_s,     u"-save"_s,           u"out.c"_s};
+        QCOMPARE(Run(create).output,
+                 u"Opened font file: %1/collection.ttc\nSaved font file: out.c\n"_s.arg(folder));
+        const QByteArray text = Test::ReadAll(File(u"out.c"_s));
+        QVERIFY(text.contains("Font:         Test Collection Oblique "));
+        QVERIFY(text.contains("[Font]: Initial height of font: 9px."));
+        create[3] = u"Obliqe"_s;
+        QVERIFY(Run(create).output.contains(
+            u"Font Test Collection Obliqe could not be found!\nIts styles are: Regular, Oblique, Black"_s));
+        create[2] = u"Test Colection"_s;
+        QVERIFY(Run(create).output.contains(u"Test Colection Obliqe could not be found!\n"
+                                            "Families with a similar name: Test Collection"_s));
     }
 
     void FullDiskKeepsTheOldFile()

@@ -1,0 +1,107 @@
+#include "cli/installed_fonts.h"
+
+#include "app/critical_exception.h"
+#include "app/progress.h"
+#include "render/font_database.h"
+
+#include <QEventLoop>
+
+#include <algorithm>
+#include <memory>
+#include <numeric>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The database, built in the background while the progress is shown here.
+const FontDatabase& BuiltDatabase()
+{
+    const FontDatabase& database = FontDatabase::Instance();
+    if (!database.Families().empty())
+        return database;
+    QEventLoop loop;
+    FontDatabaseThread thread;
+    std::unique_ptr<Progress> progress;
+    QObject::connect(&thread, &FontDatabaseThread::initFileCount, &loop, [&progress](int count) {
+        progress = std::make_unique<Progress>(u"Indexing font files..."_s, count);
+    });
+    QObject::connect(&thread, &FontDatabaseThread::fileDone, &loop,
+                     [&progress](int done) { progress->SetValue(done); });
+    QObject::connect(&thread, &FontDatabaseThread::hasFinished, &loop, &QEventLoop::quit);
+    thread.start();
+    loop.exec();
+    thread.wait();
+    return database;
+}
+
+// How many letters have to be inserted, deleted or replaced to get from one name to the other.
+qsizetype EditDistance(const QString& from, const QString& to)
+{
+    std::vector<qsizetype> row(static_cast<std::size_t>(to.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 0; i < from.size(); ++i) {
+        qsizetype diagonal = row[0];
+        row[0] = i + 1;
+        for (std::size_t j = 1; j < row.size(); ++j) {
+            const bool isSame = from[i].toLower() == to[qsizetype(j) - 1].toLower();
+            const qsizetype replaced = diagonal + (isSame ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, replaced});
+        }
+    }
+    return row.back();
+}
+
+// The names most like the given one, the likest first.
+QStringList Nearest(QStringList names, const QString& name)
+{
+    constexpr qsizetype shown = 3;
+    std::ranges::stable_sort(names, {},
+                             [&name](const QString& other) { return EditDistance(name, other); });
+    return names.first(std::min(shown, names.size()));
+}
+
+} // namespace
+
+InstalledFont FindInstalledFont(const QString& family, const QString& style)
+{
+    const FontDatabase& database = BuiltDatabase();
+    const FontFamily* const found = database.Find(family);
+    const QString path = found != nullptr ? found->Path(style) : QString();
+    if (!path.isEmpty())
+        return {path, found->FaceIndex(style)};
+
+    QString hint;
+    if (found != nullptr) {
+        hint = u"Its styles are: %1"_s.arg(found->StyleNames().join(u", "_s));
+    } else {
+        QStringList families;
+        for (const auto& other : database.Families())
+            families.append(other->Name());
+        hint = families.isEmpty() ? u"There are no fonts in the font directories."_s
+                                  : u"Families with a similar name: %1"_s.arg(
+                                        Nearest(families, family).join(u", "_s));
+    }
+    throw CriticalException(u"Font %1 %2 could not be found!"_s.arg(family, style) + u'\n' + hint);
+}
+
+QString InstalledFontTable()
+{
+    const FontDatabase& database = BuiltDatabase();
+    const QString heading = u"Font family"_s;
+    qsizetype width = heading.size();
+    for (const auto& family : database.Families())
+        width = std::max(width, family->Name().size());
+    const auto row = [width](const QString& name, const QString& styles) {
+        return name.leftJustified(width + 2) + styles + u'\n';
+    };
+    QString table = row(heading, u"Styles"_s);
+    for (const auto& family : database.Families())
+        table += row(family->Name(), family->StyleNames().join(u", "_s));
+    return table;
+}
+
+} // namespace Glyphor
