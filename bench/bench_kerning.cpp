@@ -20,7 +20,7 @@ int main(int argc, char** argv)
     face.SetPixelSize({32, false});
 
     std::vector<quint16> codes;
-    face.WalkCharmap([&](quint16 code) {
+    face.WalkCharmap([&](quint16 code, FT_UInt) {
         codes.push_back(code);
         return true;
     });

@@ -46,7 +46,7 @@ public:
     [[nodiscard]] ActionType Type() const { return type_; }
     [[nodiscard]] int Repeat() const { return repeat_; }
 
-    // For an action that has not run yet.
+    // For an action that has not run yet. Actions whose undo data hold one step set it back to 1.
     void SetRepeat(int repeat) { repeat_ = repeat; }
 
     // How many elementary steps are in force: 0 or the repeat count.

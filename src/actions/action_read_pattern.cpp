@@ -7,6 +7,7 @@ namespace Glyphor {
 
 bool ActionReadPattern::Execute()
 {
+    SetRepeat(1);
     if (CurrentFont() == nullptr || !QFile::exists(Args().path))
         return false;
     pattern_ = PatternFile(Args().path).Read();

@@ -133,6 +133,14 @@ void ActionChar::ForEachChar(Visit visit)
         visit(static_cast<quint16>(code), *font.FindChar(static_cast<quint16>(code)));
 }
 
+bool ActionChar::Execute()
+{
+    if (CurrentFont() == nullptr)
+        return false;
+    target_ = !CurrentFont()->IsEnabled(Args().first);
+    return true;
+}
+
 void ActionChar::RedoOnce()
 {
     if (Type() == ActionType::Toggle) {
@@ -182,7 +190,12 @@ bool ActionFont::Execute()
         Type() == ActionType::FontInsertRowTop || Type() == ActionType::FontInsertRowBottom;
     const int height = font->Metrics().height;
     const int minimum = IsLegacyFormat(font->Metrics().format) ? 1 : 0;
-    const int possible = isInsertion ? CharInfo::MaxSize - height : height - minimum;
+    int possible = isInsertion ? CharInfo::MaxSize - height : height - minimum;
+    const int baseline = font->Metrics().baseline;
+    if (Type() == ActionType::FontInsertRowTop)
+        possible = std::min(possible, CharInfo::MaxSize - baseline);
+    if (Type() == ActionType::FontDeleteRowTop)
+        possible = std::min(possible, baseline);
     SetRepeat(std::min(Repeat(), possible));
     return possible > 0;
 }
@@ -213,6 +226,7 @@ CharBitmap& ActionPixelIndex::Bitmap() const
 
 bool ActionPixelIndex::Execute()
 {
+    SetRepeat(1);
     if (CurrentFont() == nullptr || CurrentFont()->FindChar(Args().code) == nullptr)
         return false;
     return !IsSet() || Bitmap().GetPixelIndex(Args().x, Args().y) != IndexToSet();
@@ -248,11 +262,9 @@ void ActionPixelIndex::UndoOnce()
 // The messages begin at %2, so the code fills that, x comes next, and the index finds no place.
 QString ActionPixelIndex::LogText() const
 {
-    QString text = MessageFor(IsSet() ? ActionType::SetPixelIndex0 : Type())
-                       .arg(Args().code)
-                       .arg(Args().x)
-                       .arg(Args().y);
-    return text;
+    const QString text =
+        MessageFor(IsSet() ? ActionType::SetPixelIndex0 : Type()).arg(Args().code).arg(Args().x);
+    return IsSet() ? text.arg(Args().y) : text;
 }
 
 ActionCharState::ActionCharState(Session& session, ActionType type) : ActionWithArgs(session, type)
@@ -263,6 +275,7 @@ ActionCharState::ActionCharState(Session& session, ActionType type) : ActionWith
 
 bool ActionCharState::Execute()
 {
+    SetRepeat(1);
     const Font* const font = CurrentFont();
     if (font == nullptr)
         return false;
@@ -304,6 +317,7 @@ QString ActionCharState::LogText() const
 
 bool ActionCharDelete::Execute()
 {
+    SetRepeat(1);
     if (CurrentFont() == nullptr)
         return false;
     codes_ &= CurrentFont()->ExistingCodes();

@@ -28,7 +28,7 @@ public:
     // For a range, which the arguments give.
     ActionChar(Session& session, ActionType type) : ActionWithArgs(session, type) {}
 
-    bool Execute() override { return CurrentFont() != nullptr; }
+    bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] QString LogText() const override;
@@ -40,6 +40,8 @@ private:
     // How many steps the character of a code refused. Undo leaves as many out on it, so it never
     // becomes larger than it was. A character that refuses a step refuses all that follow.
     QHash<quint16, int> refused_;
+
+    bool target_ = false; // of the first character's toggle
 };
 
 // Inserts or deletes rows of the whole font: types 26 to 29.

@@ -23,11 +23,12 @@ void AppendUnit(QByteArray& bytes, quint16 unit)
 
 CodeSet PatternFile::Read()
 {
-    if (!open(QIODevice::ReadOnly))
+    const bool isOpen = open(QIODevice::ReadOnly);
+    const QByteArray bytes = isOpen ? readAll() : QByteArray();
+    if (!isOpen || error() != QFileDevice::NoError)
         throw CriticalException(
             u"Error opening file!"_s,
             u"The pattern file %1 could not be read: %2"_s.arg(fileName(), errorString()));
-    const QByteArray bytes = readAll();
     close();
     const auto unit = [&bytes](qsizetype offset) {
         return qFromLittleEndian<quint16>(bytes.constData() + offset);

@@ -18,12 +18,18 @@ namespace {
 // FreeType counts pixels per em in 16 bits.
 constexpr int MaxHeight = 0xFFFF;
 
+// Metrics wrap long before, and every step is a line of the log.
+constexpr int MaxCount = 0xFFFF;
+
 void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
 {
-    if (std::holds_alternative<int>(occurrence.values[parameter]) &&
-        occurrence.Get<int>(parameter) < 1)
-        throw CriticalException(u"The %1 of -%2 has to be 1 or more."_s.arg(
-            occurrence.option->parameters[parameter].placeholder, occurrence.option->longName));
+    if (!std::holds_alternative<int>(occurrence.values[parameter]))
+        return;
+    const int count = occurrence.Get<int>(parameter);
+    if (count < 1 || count > MaxCount)
+        throw CriticalException(u"The %1 of -%2 has to be from 1 to %3."_s.arg(
+            occurrence.option->parameters[parameter].placeholder, occurrence.option->longName,
+            QString::number(MaxCount)));
 }
 
 void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)

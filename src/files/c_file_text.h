@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QStringList>
 
+#include <algorithm>
+#include <array>
 #include <optional>
 
 namespace Glyphor {
@@ -27,21 +29,27 @@ class CFileText
 public:
     CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName);
 
-    void Reserve(qsizetype size) { bytes_.reserve(size); }
+    // Makes room for a text that is composed at once.
+    void Reserve(qsizetype size);
 
     // Adds the texts, one behind the other, and a line ending. Nothing is composed on the way: a
     // font has tens of thousands of lines.
     template <typename... Texts>
     void Line(const Texts&... texts)
     {
-        Add(texts...);
-        bytes_.append(options_.lineEnding);
+        Add(texts..., options_.lineEnding);
     }
 
     template <typename... Texts>
     void Add(const Texts&... texts)
     {
-        (bytes_.append(QByteArrayView(texts)), ...);
+        const std::array<QByteArrayView, sizeof...(texts)> views = {QByteArrayView(texts)...};
+        qsizetype size = bytes_.size();
+        for (const QByteArrayView view : views)
+            size += view.size();
+        char* to = Extend(size);
+        for (const QByteArrayView view : views)
+            to = std::copy_n(view.data(), view.size(), to);
     }
 
     // The box at the head of the file.
@@ -70,6 +78,14 @@ public:
     [[nodiscard]] QByteArrayView LineEnding() const { return options_.lineEnding; }
 
 private:
+    // Makes the text so long and returns its former end.
+    char* Extend(qsizetype size)
+    {
+        const qsizetype end = bytes_.size();
+        bytes_.resize(size);
+        return bytes_.data() + end;
+    }
+
     void BoxLine(const QString& text);
     void BoxRule();
     void BoxActionLog(const QStringList& log);

@@ -78,8 +78,8 @@ void FontWriter::Reserve()
     const qsizetype namesPerChar = 6 * identifier_.size() + 400;
     qsizetype size = 0x4000 + qsizetype(runs_.size()) * namesPerChar;
     ForEachChar([&](quint16, const Character& character) {
-        const qsizetype line = 4 + byteText * character.info.bytesPerLine;
-        size += namesPerChar + 2 * line * character.info.Rows();
+        const qsizetype line = 4 + byteText * font_.CharDataWidth(character);
+        size += namesPerChar + line * character.info.Rows();
     });
     text_.Reserve(size);
 }

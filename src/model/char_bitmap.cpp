@@ -142,6 +142,7 @@ bool CharBitmap::ReadData(std::span<const uchar> source)
     if (source.size() < size)
         return false;
     data_ = QByteArray(reinterpret_cast<const char*>(source.data()), Layout().Size());
+    PixelPlane::ClearPadding(data_, Layout());
     return true;
 }
 
@@ -153,6 +154,7 @@ void CharBitmap::RenderData(const RenderedGlyph& glyph, const GlyphPlacement& pl
 void CharBitmap::AdjustData()
 {
     data_ = Resized(std::move(data_), Layout().Size());
+    PixelPlane::ClearPadding(data_, Layout());
 }
 
 void CharBitmap::Clear()

@@ -65,6 +65,7 @@ bool CharBitmapFramed::ReadData(std::span<const uchar> source)
     if (source.size() < 2 * size || !CharBitmap::ReadData(source))
         return false;
     frame_ = QByteArray(reinterpret_cast<const char*>(source.data() + size), Layout().Size());
+    PixelPlane::ClearPadding(frame_, Layout());
     return true;
 }
 

@@ -11,6 +11,21 @@ namespace {
 constexpr int MinOffset = std::numeric_limits<qint8>::min();
 constexpr int MaxOffset = std::numeric_limits<qint8>::max();
 
+// True where the top row can go without a change of the picture.
+bool HasEmptyTopRow(const Character& character)
+{
+    const int length = character.info.bytesPerLine;
+    const int planeSize = length * character.info.Rows();
+    if (character.info.height <= 1 || planeSize == 0)
+        return false;
+    const QByteArray bytes = character.bitmap->DataAsList();
+    for (qsizetype row = 0; row < bytes.size(); row += planeSize) {
+        if (bytes.mid(row, length).count('\0') != length)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 Character::Character(const FontMetrics& font) : info{font}
@@ -179,9 +194,15 @@ void Font::MoveDown(int rows)
         return;
     ForEachChar([rows](Character& character) {
         CharInfo& info = character.info;
-        // At the largest offset an empty row above the picture moves it.
-        if (info.yPos + rows > MaxOffset && !character.bitmap->InsertRowTop())
+        // At the largest offset an empty row above the picture comes and goes instead.
+        if (info.yPos == MaxOffset && rows > 0) {
+            if (!character.bitmap->InsertRowTop())
+                return;
+        } else if (info.yPos == MaxOffset && HasEmptyTopRow(character)) {
+            --info.yPos;
+            character.bitmap->DeleteRowTop();
             return;
+        }
         info.yPos = static_cast<qint8>(info.yPos + rows);
     });
 }
@@ -202,7 +223,8 @@ bool Font::EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)())
             character.info.height = static_cast<quint8>(height);
         });
     }
-    SetHeight(static_cast<quint8>(height));
+    metrics_.height = static_cast<quint8>(height);
+    metrics_.verticalSpace = static_cast<quint8>(metrics_.verticalSpace + change);
     if (atTop)
         MoveDown(change);
     return true;

@@ -49,6 +49,26 @@ QByteArray Repacked(const QByteArray& bytes, const PixelLayout& from, const Pixe
     return result;
 }
 
+// The depth is a constant so that the compiler unrolls the loop over a byte's pixels.
+template <int Bits>
+void PackPixels(const quint8* indices, int width, uchar* row)
+{
+    constexpr int perByte = 8 / Bits;
+    int x = 0;
+    for (; x + perByte <= width; x += perByte) {
+        int packed = 0;
+        for (int i = 0; i < perByte; ++i)
+            packed = packed << Bits | indices[x + i];
+        *row++ = static_cast<uchar>(packed);
+    }
+    if (x < width) {
+        int packed = 0;
+        for (int i = 0; i < perByte; ++i)
+            packed = packed << Bits | (x + i < width ? indices[x + i] : 0);
+        *row = static_cast<uchar>(packed);
+    }
+}
+
 } // namespace
 
 int GetPixel(const QByteArray& bytes, const PixelLayout& layout, int x, int y)
@@ -72,20 +92,20 @@ void SetPixel(QByteArray& bytes, const PixelLayout& layout, int x, int y, int in
 
 void PackRow(const quint8* indices, const PixelLayout& layout, uchar* row)
 {
-    const int bits = layout.bitsPerPixel;
-    unsigned packed = 0;
-    int used = 0;
-    for (int x = 0; x < layout.width; ++x) {
-        packed = packed << bits | indices[x];
-        used += bits;
-        if (used == 8) {
-            *row++ = static_cast<uchar>(packed);
-            packed = 0;
-            used = 0;
-        }
+    switch (layout.bitsPerPixel) {
+    case 1:
+        PackPixels<1>(indices, layout.width, row);
+        break;
+    case 2:
+        PackPixels<2>(indices, layout.width, row);
+        break;
+    case 4:
+        PackPixels<4>(indices, layout.width, row);
+        break;
+    default:
+        std::copy_n(indices, layout.width, row);
+        break;
     }
-    if (used != 0)
-        *row = static_cast<uchar>(packed << (8 - used));
 }
 
 void InsertColumnRight(QByteArray& bytes, const PixelLayout& layout)
@@ -139,6 +159,17 @@ void DeleteRowTop(QByteArray& bytes, const PixelLayout& layout)
 void DeleteRowBottom(QByteArray& bytes, const PixelLayout& layout)
 {
     bytes.chop(layout.BytesPerLine());
+}
+
+void ClearPadding(QByteArray& bytes, const PixelLayout& layout)
+{
+    const int length = layout.BytesPerLine();
+    const int unused = length * 8 - layout.width * layout.bitsPerPixel;
+    if (unused == 0)
+        return;
+    uchar* last = Row(bytes, layout, 0) + length - 1;
+    for (int y = 0; y < layout.rows; ++y, last += length)
+        *last = static_cast<uchar>(*last & 0xFF << unused);
 }
 
 void ShiftRight(QByteArray& bytes, const PixelLayout& layout)

@@ -38,6 +38,9 @@ void DeleteColumnLeft(QByteArray& bytes, const PixelLayout& layout);
 void DeleteRowTop(QByteArray& bytes, const PixelLayout& layout);
 void DeleteRowBottom(QByteArray& bytes, const PixelLayout& layout);
 
+// Sets the unused bits at the end of every row to 0.
+void ClearPadding(QByteArray& bytes, const PixelLayout& layout);
+
 // Rotations: what leaves at one edge comes back at the other.
 void ShiftRight(QByteArray& bytes, const PixelLayout& layout);
 void ShiftLeft(QByteArray& bytes, const PixelLayout& layout);

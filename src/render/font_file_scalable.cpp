@@ -90,7 +90,7 @@ void FontFileScalable::RenderCharmap(Font& font)
     std::size_t pairCount = 0;
     CodeSet visited; // a code that comes up again gives the same glyph again
     int notVisited = CodeSet::Count;
-    face_.WalkCharmap([&](quint16 faceCode) {
+    face_.WalkCharmap([&](quint16 faceCode, FT_UInt glyphIndex) {
         if (visited.Test(faceCode))
             return true;
         visited.Set(faceCode, true);
@@ -98,7 +98,7 @@ void FontFileScalable::RenderCharmap(Font& font)
         quint16 code = faceCode;
         const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
         if (isWanted && unicode.Convert(options_.encoding, code) &&
-            face_.RenderGlyph(faceCode, glyph) && AddGlyph(font, code, glyph)) {
+            face_.RenderIndex(glyphIndex, glyph) && AddGlyph(font, code, glyph)) {
             if (kerning && pairCount < MaxKerningPairs) {
                 auto& pairs = font.FindChar(code)->kerning;
                 pairs = Encoded(kerning->PairsOf(faceCode), options_.encoding);

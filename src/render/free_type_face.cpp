@@ -341,17 +341,29 @@ void FreeTypeFace::SetPixelSize(const FontSize& size)
     FT_Request_Size(face_, &request);
 }
 
-bool FreeTypeFace::LoadGlyph(quint16 code, FT_Int32 loadFlags) const
+// Without a charmap the code is the index.
+FT_UInt FreeTypeFace::GlyphIndex(quint16 code) const
 {
     if (!IsOpen())
-        return false;
-    const FT_UInt index = face_->charmap != nullptr ? FT_Get_Char_Index(face_, code) : code;
+        return 0;
+    return face_->charmap != nullptr ? FT_Get_Char_Index(face_, code) : code;
+}
+
+bool FreeTypeFace::LoadGlyph(quint16 code, FT_Int32 loadFlags) const
+{
+    const FT_UInt index = GlyphIndex(code);
     return index != 0 && FT_Load_Glyph(face_, index, loadFlags) == 0;
 }
 
 bool FreeTypeFace::RenderGlyph(quint16 code, RenderedGlyph& glyph) const
 {
-    if (!LoadGlyph(code, monochrome_ ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT))
+    return RenderIndex(GlyphIndex(code), glyph);
+}
+
+bool FreeTypeFace::RenderIndex(FT_UInt index, RenderedGlyph& glyph) const
+{
+    const FT_Int32 loadFlags = monochrome_ ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT;
+    if (index == 0 || FT_Load_Glyph(face_, index, loadFlags) != 0)
         return false;
     if ((effects_ & BoldEffect) != 0)
         FT_GlyphSlot_Embolden(face_->glyph);
@@ -406,7 +418,7 @@ std::vector<KerningPair> FreeTypeFace::KerningPairs(quint16 left) const
     std::vector<KerningPair> pairs;
     if (!HasKerning())
         return pairs;
-    WalkCharmap([&](quint16 right) {
+    WalkCharmap([&](quint16 right, FT_UInt) {
         if (const int distance = Kerning(left, right); distance != 0)
             pairs.push_back({right, distance});
         return true;

@@ -104,14 +104,18 @@ public:
     // call.
     bool RenderGlyph(quint16 code, RenderedGlyph& glyph) const;
 
+    // The same for a glyph whose index is known; 0 fails.
+    bool RenderIndex(FT_UInt index, RenderedGlyph& glyph) const;
+
     // By how many whole pixels a pair stands closer (negative) or further apart.
     [[nodiscard]] int Kerning(quint16 left, quint16 right) const;
 
     // The pairs of one character, found by asking for every character of the charmap.
     [[nodiscard]] std::vector<KerningPair> KerningPairs(quint16 left) const;
 
-    // Calls visit(code) for the characters of the charmap, in its order, until it returns false.
-    // The code is the low 16 bits of the charmap's, so one can come up more than once.
+    // Calls visit(code, glyph) for the characters of the charmap, in its order, until it returns
+    // false. The code is the low 16 bits of the charmap's, so one can come up more than once; the
+    // glyph is that of these 16 bits.
     template <typename Visit>
     void WalkCharmap(Visit visit) const;
 
@@ -121,6 +125,7 @@ public:
     [[nodiscard]] FT_Face Handle() const { return face_; }
 
 private:
+    [[nodiscard]] FT_UInt GlyphIndex(quint16 code) const;
     bool SelectStrike(qint64 pixelHeight);
     void FillGlyph(RenderedGlyph& glyph) const;
 
@@ -142,7 +147,8 @@ void FreeTypeFace::WalkCharmap(Visit visit) const
         return;
     for (FT_ULong code = FT_Get_First_Char(face_, &glyph); glyph != 0 && code <= lastCharacter;
          code = FT_Get_Next_Char(face_, code, &glyph)) {
-        if (!visit(static_cast<quint16>(code)))
+        const auto code16 = static_cast<quint16>(code);
+        if (!visit(code16, code16 == code ? glyph : FT_Get_Char_Index(face_, code16)))
             return;
     }
 }

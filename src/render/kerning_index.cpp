@@ -105,8 +105,8 @@ void KerningIndex::ReadCharmap()
     std::vector<quint16> glyphs;
     glyphs.reserve(expected);
     codes_.reserve(expected);
-    face_.WalkCharmap([&](quint16 code) {
-        glyphs.push_back(static_cast<quint16>(FT_Get_Char_Index(face_.Handle(), code)));
+    face_.WalkCharmap([&](quint16 code, FT_UInt glyph) {
+        glyphs.push_back(static_cast<quint16>(glyph));
         codes_.push_back(code);
         return true;
     });
@@ -131,8 +131,19 @@ std::vector<KerningPair> KerningIndex::PairsOf(quint16 left) const
         return face_.KerningPairs(left);
 
     const auto leftGlyph = static_cast<quint16>(FT_Get_Char_Index(face_.Handle(), left));
+    const auto [first, end] = EntriesOf(firstPair_, leftGlyph);
+    if (first == end)
+        return {};
+    const auto [answer, isNew] = answers_.try_emplace(leftGlyph);
+    if (isNew)
+        answer->second = PairsOfGlyph(leftGlyph, first, end);
+    return answer->second;
+}
+
+std::vector<KerningPair> KerningIndex::PairsOfGlyph(quint16 leftGlyph, quint32 firstPair,
+                                                    quint32 endPair) const
+{
     std::vector<std::pair<quint32, int>> found; // position in the charmap, distance
-    const auto [firstPair, endPair] = EntriesOf(firstPair_, leftGlyph);
     for (quint32 index = firstPair; index < endPair; ++index) {
         const quint16 right = pairs_[index].right;
         const auto [first, end] = EntriesOf(firstPosition_, right);

@@ -2,6 +2,7 @@
 
 #include "render/free_type_face.h"
 
+#include <unordered_map>
 #include <vector>
 
 namespace Glyphor {
@@ -26,6 +27,8 @@ private:
         auto operator<=>(const GlyphPair&) const = default;
     };
 
+    [[nodiscard]] std::vector<KerningPair> PairsOfGlyph(quint16 leftGlyph, quint32 firstPair,
+                                                        quint32 endPair) const;
     void ReadKernTable(const std::vector<quint8>& table);
     void ReadCharmap();
     [[nodiscard]] int Distance(FT_UInt left, FT_UInt right) const;
@@ -40,6 +43,9 @@ private:
     std::vector<quint32> firstPosition_;
 
     std::vector<quint16> codes_; // in charmap order
+
+    // Answers by glyph: characters can share one, and each question costs.
+    mutable std::unordered_map<quint16, std::vector<KerningPair>> answers_;
 };
 
 } // namespace Glyphor

@@ -104,11 +104,14 @@ private Q_SLOTS:
         QVERIFY(font.InsertRowTop()); // the picture moves in its bitmap
         QCOMPARE(int(low.info.yPos), 127);
         QCOMPARE(int(low.info.height), 2);
+        QVERIFY(font.DeleteRowTop()); // and back again
+        QCOMPARE(int(low.info.yPos), 127);
+        QCOMPARE(int(low.info.height), 1);
         QVERIFY(font.DeleteRowTop());
         QCOMPARE(int(low.info.yPos), 126);
         low.info.yPos = -128;
         QVERIFY(!font.DeleteRowTop());
-        QCOMPARE(int(font.Metrics().baseline), 5);
+        QCOMPARE(int(font.Metrics().baseline), 4);
 
         Font legacy(FontFormat::Legacy, EncodingType::Unicode);
         legacy.SetHeight(1);

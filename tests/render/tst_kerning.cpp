@@ -32,7 +32,7 @@ private Q_SLOTS:
         face.SetPixelSize({height, false});
         const KerningIndex index(face);
         int place = 0;
-        face.WalkCharmap([&](quint16 left) {
+        face.WalkCharmap([&](quint16 left, FT_UInt) {
             if (place++ % step != 0)
                 return true;
             [&] { QCOMPARE(index.PairsOf(left), face.KerningPairs(left)); }();
