@@ -70,9 +70,8 @@ InstalledFont FindInstalledFont(const QString& family, const QString& style)
 {
     const FontDatabase& database = BuiltDatabase();
     const FontFamily* const found = database.Find(family);
-    const QString path = found != nullptr ? found->Path(style) : QString();
-    if (!path.isEmpty())
-        return {path, found->FaceIndex(style)};
+    if (found != nullptr && !found->Path(style).isEmpty())
+        return {found->Path(style), found->FaceIndex(style)};
 
     QString hint;
     if (found != nullptr) {
