@@ -86,7 +86,7 @@ CFileText::CFileText(const CFileOptions& options, const QString& filePath, const
         guardSymbol_ = CSymbol(CName(fontName).toUpper() + "_H");
 }
 
-void CFileText::Reserve(qsizetype size)
+void CFileText::Reserve(qsizetype size, qsizetype certain)
 {
     bytes_.reserve(size);
 #ifdef Q_OS_LINUX
@@ -95,7 +95,7 @@ void CFileText::Reserve(qsizetype size)
     constexpr quintptr page = 4096;
     const auto start = reinterpret_cast<quintptr>(bytes_.data());
     const quintptr first = (start + page - 1) & ~(page - 1);
-    const quintptr end = (start + static_cast<quintptr>(size)) & ~(page - 1);
+    const quintptr end = (start + static_cast<quintptr>(certain)) & ~(page - 1);
     if (first < end) {
         madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
         madvise(reinterpret_cast<void*>(first), end - first, MADV_POPULATE_WRITE);

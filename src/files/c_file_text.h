@@ -29,8 +29,8 @@ class CFileText
 public:
     CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName);
 
-    // Makes room for a text that is composed at once.
-    void Reserve(qsizetype size);
+    // Makes room for a text that is composed at once: at most `size` bytes, `certain` ones surely.
+    void Reserve(qsizetype size, qsizetype certain);
 
     // Adds the texts, one behind the other, and a line ending. Nothing is composed on the way: a
     // font has tens of thousands of lines.

@@ -77,11 +77,13 @@ void FontWriter::Reserve()
     const qsizetype byteText = font_.Metrics().bitsPerPixel == 1 ? 10 : 6;
     const qsizetype namesPerChar = 6 * identifier_.size() + 400;
     qsizetype size = 0x4000 + qsizetype(runs_.size()) * namesPerChar;
+    qsizetype bitmaps = 0;
     ForEachChar([&](quint16, const Character& character) {
         const qsizetype line = 4 + byteText * font_.CharDataWidth(character);
-        size += namesPerChar + line * character.info.Rows();
+        size += namesPerChar;
+        bitmaps += line * character.info.Rows();
     });
-    text_.Reserve(size);
+    text_.Reserve(size + bitmaps, bitmaps);
 }
 
 void FontWriter::EndWithCodeComment(quint16 code)
