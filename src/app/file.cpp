@@ -13,12 +13,11 @@ namespace {
 
 // The device must be unbuffered: a buffer is written when the file is closed or renamed, where a
 // failure would go unnoticed. Writing on after a short count tells the reason for it.
-bool WriteWhole(QIODevice& device, const QByteArray& contents)
+bool WriteWhole(QIODevice& device, QByteArrayView contents)
 {
     qsizetype written = 0;
     while (written < contents.size()) {
-        const qint64 count =
-            device.write(contents.constData() + written, contents.size() - written);
+        const qint64 count = device.write(contents.data() + written, contents.size() - written);
         if (count <= 0)
             return false;
         written += count;
@@ -28,30 +27,38 @@ bool WriteWhole(QIODevice& device, const QByteArray& contents)
 
 } // namespace
 
-void File::Replace(const QByteArray& contents)
+File::Sink File::SinkInto(QIODevice& device) const
 {
+    return [this, &device](QByteArrayView bytes) {
+        if (!WriteWhole(device, bytes))
+            Fail(device.errorString());
+    };
+}
+
+void File::Replace(const std::function<void(const Sink&)>& compose)
+{
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     const QFileInfo target(fileName());
     if (target.isDir())
         Fail(u"It is a directory."_s);
-    if (target.exists() && !target.isFile())
-        WriteToDevice(contents);
-    else
-        WriteToTemporary(contents);
-}
-
-void File::WriteToDevice(const QByteArray& contents)
-{
-    if (!open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !WriteWhole(*this, contents))
-        Fail(errorString());
-    close();
-}
-
-void File::WriteToTemporary(const QByteArray& contents)
-{
+    if (target.exists() && !target.isFile()) {
+        if (!open(mode))
+            Fail(errorString());
+        compose(SinkInto(*this));
+        close();
+        return;
+    }
     QSaveFile file(fileName());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !WriteWhole(file, contents) ||
-        !file.commit())
+    if (!file.open(mode))
         Fail(file.errorString());
+    compose(SinkInto(file));
+    if (!file.commit())
+        Fail(file.errorString());
+}
+
+void File::Replace(const QByteArray& contents)
+{
+    Replace([&contents](const Sink& sink) { sink(contents); });
 }
 
 void File::Fail(const QString& reason) const

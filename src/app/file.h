@@ -2,12 +2,17 @@
 
 #include <QFile>
 
+#include <functional>
+
 namespace Glyphor {
 
 // A file on disk, known by the name that the user gave.
 class File : public QFile
 {
 public:
+    // Takes the next bytes of the contents.
+    using Sink = std::function<void(QByteArrayView)>;
+
     using QFile::QFile;
 
     // Puts the contents in the file's place, as a whole or not at all: on any error the old file
@@ -15,9 +20,11 @@ public:
     // permissions, and writes to devices and pipes directly.
     void Replace(const QByteArray& contents);
 
+    // The same for contents that are composed piece by piece.
+    void Replace(const std::function<void(const Sink&)>& compose);
+
 private:
-    void WriteToDevice(const QByteArray& contents);
-    void WriteToTemporary(const QByteArray& contents);
+    [[nodiscard]] Sink SinkInto(QIODevice& device) const;
     [[noreturn]] void Fail(const QString& reason) const;
 };
 

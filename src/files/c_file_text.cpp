@@ -6,10 +6,6 @@
 
 #include <algorithm>
 
-#ifdef Q_OS_LINUX
-#include <sys/mman.h>
-#endif
-
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
@@ -79,28 +75,19 @@ QByteArray CSymbol(const QByteArray& name)
     return beginsWithDigit ? '_' + name : name;
 }
 
-CFileText::CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName)
-    : options_(options), fileName_(QFileInfo(filePath).fileName()), fontName_(fontName)
+CFileText::CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName,
+                     const File::Sink& sink)
+    : options_(options), fileName_(QFileInfo(filePath).fileName()), fontName_(fontName), sink_(sink)
 {
+    bytes_.reserve(2 * PieceSize);
     if (IsHeaderName(fileName_))
         guardSymbol_ = CSymbol(CName(fontName).toUpper() + "_H");
 }
 
-void CFileText::Reserve(qsizetype size, qsizetype certain)
+void CFileText::Flush()
 {
-    bytes_.reserve(size);
-#ifdef Q_OS_LINUX
-    // All of the text is about to be touched for the first time: that costs less in large pages,
-    // and less at once than page by page. Only advice: a failure changes nothing.
-    constexpr quintptr page = 4096;
-    const auto start = reinterpret_cast<quintptr>(bytes_.data());
-    const quintptr first = (start + page - 1) & ~(page - 1);
-    const quintptr end = (start + static_cast<quintptr>(certain)) & ~(page - 1);
-    if (first < end) {
-        madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
-        madvise(reinterpret_cast<void*>(first), end - first, MADV_POPULATE_WRITE);
-    }
-#endif
+    sink_(bytes_);
+    bytes_.resize(0);
 }
 
 void CFileText::BoxLine(const QString& text)
@@ -188,6 +175,7 @@ void CFileText::StorageClassBlock()
 void CFileText::EndLine()
 {
     Line("/*************************** End of file ****************************/");
+    Flush();
 }
 
 } // namespace Glyphor

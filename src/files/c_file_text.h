@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/file.h"
+
 #include <QByteArray>
 #include <QStringList>
 
@@ -24,13 +26,12 @@ struct CFileOptions
 [[nodiscard]] QByteArray CSymbol(const QByteArray& name);
 
 // The text of a generated C file while it is composed, with the pieces that all such files share.
+// It goes into the sink in pieces: the text of a large font is several times the font's size.
 class CFileText
 {
 public:
-    CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName);
-
-    // Makes room for a text that is composed at once: at most `size` bytes, `certain` ones surely.
-    void Reserve(qsizetype size, qsizetype certain);
+    CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName,
+              const File::Sink& sink);
 
     // Adds the texts, one behind the other, and a line ending. Nothing is composed on the way: a
     // font has tens of thousands of lines.
@@ -38,6 +39,8 @@ public:
     void Line(const Texts&... texts)
     {
         Add(texts..., options_.lineEnding);
+        if (bytes_.size() > PieceSize)
+            Flush();
     }
 
     template <typename... Texts>
@@ -71,6 +74,7 @@ public:
         Line("//");
     }
 
+    // The last line; nothing may follow it.
     void EndLine();
 
     // For text that is written straight into the file.
@@ -78,6 +82,10 @@ public:
     [[nodiscard]] QByteArrayView LineEnding() const { return options_.lineEnding; }
 
 private:
+    static constexpr qsizetype PieceSize = 0x10000; // stays in the processor's cache
+
+    void Flush();
+
     // Makes the text so long and returns its former end.
     char* Extend(qsizetype size)
     {
@@ -94,7 +102,8 @@ private:
     QString fileName_;
     QString fontName_;
     QByteArray guardSymbol_; // empty where the file has no guard
-    QByteArray bytes_;
+    QByteArray bytes_;       // not in the sink yet
+    File::Sink sink_;
 };
 
 } // namespace Glyphor

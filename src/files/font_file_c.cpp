@@ -17,7 +17,6 @@ class FontWriter
 public:
     FontWriter(const Font& font, CFileText& text);
 
-    void Reserve();
     void Hint();
     void Bitmaps();
     void CharInfoTable();
@@ -71,21 +70,6 @@ FontWriter::FontWriter(const Font& font, CFileText& text)
         count_ += run.Size();
 }
 
-// Room for everything at once: growing a large text step by step would copy it and double the peak.
-void FontWriter::Reserve()
-{
-    const qsizetype byteText = font_.Metrics().bitsPerPixel == 1 ? 10 : 6;
-    const qsizetype namesPerChar = 6 * identifier_.size() + 400;
-    qsizetype size = 0x4000 + qsizetype(runs_.size()) * namesPerChar;
-    qsizetype bitmaps = 0;
-    ForEachChar([&](quint16, const Character& character) {
-        const qsizetype line = 4 + byteText * font_.CharDataWidth(character);
-        size += namesPerChar;
-        bitmaps += line * character.info.Rows();
-    });
-    text_.Reserve(size + bitmaps, bitmaps);
-}
-
 void FontWriter::EndWithCodeComment(quint16 code)
 {
     const QLatin1StringView name = isUnicode_ ? encoding_.CharName(code) : QLatin1StringView();
@@ -131,15 +115,13 @@ void FontWriter::Bitmaps()
 
 void FontWriter::CharInfoRow(quint16 code, const CharInfo& info)
 {
-    constexpr int width = 4;
-    text_.Add("  { ");
+    const auto column = [](int value) { return Decimal(value, 4); };
     if (isLegacy_) {
-        for (const int value : {info.width, info.cursorDistance, info.bytesPerLine})
-            text_.Add(Decimal(value, width), ", ");
+        text_.Add("  { ", column(info.width), ", ", column(info.cursorDistance), ", ",
+                  column(info.bytesPerLine), ", ");
     } else {
-        for (const int value : {int(info.width), int(info.height), int(info.xPos), int(info.yPos),
-                                int(info.cursorDistance)})
-            text_.Add(Decimal(value, width), ", ");
+        text_.Add("  { ", column(info.width), ", ", column(info.height), ", ", column(info.xPos),
+                  ", ", column(info.yPos), ", ", column(info.cursorDistance), ", ");
     }
     text_.Add(arrayPrefix_, Hex4(code), " }, ");
     EndWithCodeComment(code);
@@ -212,11 +194,10 @@ FontFileC::FontFileC(const QString& path, const CFileOptions& options)
     : FontFile(path), options_(options)
 {}
 
-QByteArray FontFileC::Compose(const Font& font) const
+void FontFileC::Compose(const Font& font, const Sink& sink) const
 {
-    CFileText text(options_, fileName(), font.Name());
+    CFileText text(options_, fileName(), font.Name(), sink);
     FontWriter writer(font, text);
-    writer.Reserve();
     text.CommentBox(font.Metrics().height, "Font data");
     text.IncludeGuardStart();
     text.IncludeLine();
@@ -228,12 +209,11 @@ QByteArray FontFileC::Compose(const Font& font) const
     writer.FontStructure();
     text.IncludeGuardEnd();
     text.EndLine();
-    return std::move(text.Bytes());
 }
 
 void FontFileC::Write(const Font& font)
 {
-    Replace(Compose(font));
+    Replace([&](const Sink& sink) { Compose(font, sink); });
 }
 
 } // namespace Glyphor

@@ -14,8 +14,7 @@ public:
 
     void Write(const Font& font) override;
 
-    // The whole text of the file.
-    [[nodiscard]] QByteArray Compose(const Font& font) const;
+    void Compose(const Font& font, const Sink& sink) const;
 
 private:
     CFileOptions options_;

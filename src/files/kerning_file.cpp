@@ -55,11 +55,12 @@ KerningFileC::KerningFileC(const QString& path, const CFileOptions& options)
     : KerningFile(path), options_(options)
 {}
 
-QByteArray KerningFileC::Compose(const std::vector<KerningEntry>& pairs, const Font& font) const
+void KerningFileC::Compose(const std::vector<KerningEntry>& pairs, const Font& font,
+                           const Sink& sink) const
 {
     const QByteArray array = 'a' + CName(font.Name());
     const QByteArray count = CSymbol(CName(font.Name()) + "_NumPairs");
-    CFileText text(options_, fileName(), font.Name());
+    CFileText text(options_, fileName(), font.Name(), sink);
     text.CommentBox(font.Metrics().height, "Kerning data");
     text.IncludeGuardStart();
     text.IncludeLine();
@@ -78,17 +79,16 @@ QByteArray KerningFileC::Compose(const std::vector<KerningEntry>& pairs, const F
     text.Line();
     text.IncludeGuardEnd();
     text.EndLine();
-    return std::move(text.Bytes());
 }
 
 void KerningFileC::Write(const std::vector<KerningEntry>& pairs, const Font& font)
 {
-    Replace(Compose(pairs, font));
+    Replace([&](const Sink& sink) { Compose(pairs, font, sink); });
 }
 
 void KerningFileBinary::Write(const std::vector<KerningEntry>&, const Font&)
 {
-    Replace({});
+    Replace(QByteArray());
 }
 
 std::unique_ptr<KerningFile> MakeKerningFile(const QString& path, const CFileOptions& options)

@@ -38,11 +38,9 @@ public:
 
     void Write(const std::vector<KerningEntry>& pairs, const Font& font) override;
 
-    // The whole text of the file.
-    [[nodiscard]] QByteArray Compose(const std::vector<KerningEntry>& pairs,
-                                     const Font& font) const;
-
 private:
+    void Compose(const std::vector<KerningEntry>& pairs, const Font& font, const Sink& sink) const;
+
     CFileOptions options_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <limits>
 
 namespace Glyphor {
@@ -11,13 +12,17 @@ namespace {
 constexpr int MinOffset = std::numeric_limits<qint8>::min();
 constexpr int MaxOffset = std::numeric_limits<qint8>::max();
 
-// The C text of every byte value, with the comma and the blank behind it.
+// The C text of every byte value, with the comma and the blank behind it: Length characters, padded
+// to a size that is copied in one move.
 template <std::size_t Length>
-using ByteTexts = std::array<std::array<char, Length>, 256>;
+using ByteTexts = std::array<std::array<char, (Length + 7) / 8 * 8>, 256>;
 
-constexpr ByteTexts<10> MakePatternTexts()
+constexpr std::size_t PatternLength = 10;
+constexpr std::size_t HexLength = 6;
+
+constexpr ByteTexts<PatternLength> MakePatternTexts()
 {
-    ByteTexts<10> texts{};
+    ByteTexts<PatternLength> texts{};
     for (std::size_t byte = 0; byte < texts.size(); ++byte) {
         for (std::size_t bit = 0; bit < 8; ++bit)
             texts[byte][bit] = (byte >> (7 - bit) & 1) != 0 ? 'X' : '_';
@@ -27,37 +32,40 @@ constexpr ByteTexts<10> MakePatternTexts()
     return texts;
 }
 
-constexpr ByteTexts<6> MakeHexTexts()
+constexpr ByteTexts<HexLength> MakeHexTexts()
 {
     constexpr char digits[] = "0123456789ABCDEF";
-    ByteTexts<6> texts{};
+    ByteTexts<HexLength> texts{};
     for (std::size_t byte = 0; byte < texts.size(); ++byte)
         texts[byte] = {'0', 'x', digits[byte >> 4], digits[byte & 15], ',', ' '};
     return texts;
 }
 
-constexpr ByteTexts<10> PatternTexts = MakePatternTexts();
-constexpr ByteTexts<6> HexTexts = MakeHexTexts();
+constexpr ByteTexts<PatternLength> PatternTexts = MakePatternTexts();
+constexpr ByteTexts<HexLength> HexTexts = MakeHexTexts();
 
 template <std::size_t Length>
 void AppendRows(const QByteArray& plane, const PixelLayout& layout, const ByteTexts<Length>& texts,
                 QByteArray& out, QByteArrayView lineEnding)
 {
-    const qsizetype lineLength =
-        2 + qsizetype(layout.BytesPerLine()) * qsizetype(Length) + lineEnding.size();
+    const int bytesPerLine = layout.BytesPerLine();
+    const qsizetype lineLength = 2 + bytesPerLine * qsizetype(Length) + lineEnding.size();
     const qsizetype start = out.size();
-    out.resize(start + lineLength * layout.rows);
+    const qsizetype end = start + lineLength * layout.rows;
+    constexpr qsizetype padding = sizeof(texts[0]) - Length;
+    out.resize(end + padding);
     char* to = out.data() + start;
     const char* from = plane.constData();
     for (int y = 0; y < layout.rows; ++y) {
         *to++ = ' ';
         *to++ = ' ';
-        for (int i = 0; i < layout.BytesPerLine(); ++i) {
+        for (int i = 0; i < bytesPerLine; ++i, to += Length) {
             const auto& text = texts[static_cast<uchar>(*from++)];
-            to = std::copy(text.begin(), text.end(), to);
+            std::memcpy(to, text.data(), text.size()); // what follows overwrites the padding
         }
         to = std::copy(lineEnding.begin(), lineEnding.end(), to);
     }
+    out.resize(end);
 }
 
 } // namespace
@@ -288,9 +296,9 @@ void CharBitmap::WritePlaneBytes(const QByteArray& plane, const PixelLayout& lay
                                  QByteArray& text, QByteArrayView lineEnding)
 {
     if (layout.bitsPerPixel == 1)
-        AppendRows(plane, layout, PatternTexts, text, lineEnding);
+        AppendRows<PatternLength>(plane, layout, PatternTexts, text, lineEnding);
     else
-        AppendRows(plane, layout, HexTexts, text, lineEnding);
+        AppendRows<HexLength>(plane, layout, HexTexts, text, lineEnding);
 }
 
 } // namespace Glyphor

@@ -16,62 +16,99 @@ using QuantiseTable = std::array<quint8, 256>;
 
 // A coverage is an opaque grey with three equal channels. The divisors are those of the sum of the
 // channels, so that every depth rounds as it would for a colour.
-constexpr quint8 Quantise(int coverage, int bitsPerPixel)
+template <int Bits>
+constexpr quint8 Quantise(int coverage)
 {
     const int sum = 3 * coverage;
-    switch (bitsPerPixel) {
-    case 1:
+    if constexpr (Bits == 1)
         return static_cast<quint8>((sum + 383) / 765);
-    case 2:
+    else if constexpr (Bits == 2)
         return static_cast<quint8>((sum + 127) / 255);
-    case 4:
+    else if constexpr (Bits == 4)
         return static_cast<quint8>((3 * (coverage >> 4) + 1) / 3);
-    default:
+    else
         return static_cast<quint8>(sum / 3);
-    }
 }
 
-constexpr QuantiseTable MakeTable(int bitsPerPixel)
+template <int Bits>
+constexpr QuantiseTable MakeTable()
 {
     QuantiseTable table{};
     for (int coverage = 0; coverage < 256; ++coverage)
-        table[static_cast<std::size_t>(coverage)] = Quantise(coverage, bitsPerPixel);
+        table[static_cast<std::size_t>(coverage)] = Quantise<Bits>(coverage);
     return table;
 }
 
-constexpr QuantiseTable Table1 = MakeTable(1);
-constexpr QuantiseTable Table2 = MakeTable(2);
-constexpr QuantiseTable Table4 = MakeTable(4);
-constexpr QuantiseTable Table8 = MakeTable(8);
+template <int Bits>
+constexpr QuantiseTable Table = MakeTable<Bits>();
 
 const QuantiseTable& TableFor(int bitsPerPixel)
 {
     switch (bitsPerPixel) {
     case 1:
-        return Table1;
+        return Table<1>;
     case 2:
-        return Table2;
+        return Table<2>;
     case 4:
-        return Table4;
+        return Table<4>;
     default:
-        return Table8;
+        return Table<8>;
     }
 }
 
-// Writes one palette index per pixel of a glyph's row.
-void QuantiseRow(const RenderedGlyph& glyph, int y, const QuantiseTable& table, quint8* indices)
+// Writes one coverage per pixel of a glyph's row.
+void ExpandRow(const RenderedGlyph& glyph, int y, quint8* coverages)
 {
     const quint8* const source = glyph.pixels.data() + std::ptrdiff_t(y) * glyph.pitch;
-    if (glyph.bitsPerPixel == 8) {
-        std::transform(source, source + glyph.width, indices,
-                       [&table](quint8 coverage) { return table[coverage]; });
+    const int bits = glyph.bitsPerPixel;
+    if (bits == 8) {
+        std::copy_n(source, glyph.width, coverages);
         return;
     }
-    const int bits = glyph.bitsPerPixel;
     const int maximum = (1 << bits) - 1;
     for (int x = 0; x < glyph.width; ++x) {
         const int value = source[x * bits / 8] >> (8 - bits - x * bits % 8) & maximum;
-        indices[x] = table[static_cast<std::size_t>(value * 255 / maximum)];
+        coverages[x] = static_cast<quint8>(value * 255 / maximum);
+    }
+}
+
+// Writes the indices of a row of coverages as packed bytes. The depth is a constant so that the
+// compiler unrolls the loop over a byte's pixels.
+template <int Bits>
+void PackRow(const quint8* coverages, int width, uchar* row)
+{
+    constexpr int perByte = 8 / Bits;
+    int x = 0;
+    for (; x + perByte <= width; x += perByte) {
+        int packed = 0;
+        for (int i = 0; i < perByte; ++i)
+            packed = packed << Bits | Table<Bits>[coverages[x + i]];
+        *row++ = static_cast<uchar>(packed);
+    }
+    if (x < width) {
+        int packed = 0;
+        for (int i = 0; i < perByte; ++i)
+            packed = packed << Bits | (x + i < width ? Table<Bits>[coverages[x + i]] : 0);
+        *row = static_cast<uchar>(packed);
+    }
+}
+
+template <int Bits>
+void PackRows(const RenderedGlyph& glyph, const GlyphPlacement& placement, uchar* bytes)
+{
+    const int length = PixelLayout{placement.width, placement.height, Bits}.BytesPerLine();
+    const int firstRow = std::max(0, -placement.row);
+    const int endRow = std::min(glyph.rows, placement.height - placement.row);
+    const bool isWhole = glyph.bitsPerPixel == 8 && glyph.width == placement.width;
+    std::array<quint8, CharInfo::MaxSize> coverages{};
+    for (int y = firstRow; y < endRow; ++y) {
+        uchar* const row = bytes + std::ptrdiff_t(placement.row + y) * length;
+        if (isWhole) {
+            PackRow<Bits>(glyph.pixels.data() + std::ptrdiff_t(y) * glyph.pitch, glyph.width, row);
+        } else {
+            ExpandRow(glyph, y, coverages.data() + placement.column);
+            PackRow<Bits>(coverages.data(), placement.width, row);
+        }
     }
 }
 
@@ -82,14 +119,15 @@ void GrowForFrame(const RenderedGlyph& glyph, GlyphPlacement& placement)
     bool bottom = false;
     bool left = false;
     bool right = false;
-    std::vector<quint8> indices(static_cast<std::size_t>(glyph.width));
+    std::vector<quint8> coverages(static_cast<std::size_t>(glyph.width));
+    const auto isInk = [](quint8 coverage) { return Table<1>[coverage] != 0; };
     for (int y = 0; y < glyph.rows && !glyph.pixels.empty(); ++y) {
-        QuantiseRow(glyph, y, Table1, indices.data());
-        const bool ink = std::ranges::find(indices, 1) != indices.end();
+        ExpandRow(glyph, y, coverages.data());
+        const bool ink = std::ranges::any_of(coverages, isInk);
         top |= ink && y == 0;
         bottom |= ink && y == glyph.rows - 1;
-        left |= indices.front() != 0;
-        right |= indices.back() != 0;
+        left |= isInk(coverages.front());
+        right |= isInk(coverages.back());
     }
     placement.column = left ? 1 : 0;
     placement.row = top ? 1 : 0;
@@ -183,15 +221,20 @@ QByteArray ConvertGlyph(const RenderedGlyph& glyph, const GlyphPlacement& placem
     if (glyph.pixels.empty())
         return bytes;
 
-    const QuantiseTable& table = TableFor(bitsPerPixel);
-    std::array<quint8, CharInfo::MaxSize> indices{};
-    const int firstRow = std::max(0, -placement.row);
-    const int endRow = std::min(glyph.rows, placement.height - placement.row);
-    for (int y = firstRow; y < endRow; ++y) {
-        QuantiseRow(glyph, y, table, indices.data() + placement.column);
-        auto* const row = reinterpret_cast<uchar*>(bytes.data()) +
-                          std::ptrdiff_t(placement.row + y) * layout.BytesPerLine();
-        PixelPlane::PackRow(indices.data(), layout, row);
+    auto* const rows = reinterpret_cast<uchar*>(bytes.data());
+    switch (bitsPerPixel) {
+    case 1:
+        PackRows<1>(glyph, placement, rows);
+        break;
+    case 2:
+        PackRows<2>(glyph, placement, rows);
+        break;
+    case 4:
+        PackRows<4>(glyph, placement, rows);
+        break;
+    default:
+        PackRows<8>(glyph, placement, rows);
+        break;
     }
     return bytes;
 }

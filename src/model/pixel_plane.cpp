@@ -49,26 +49,6 @@ QByteArray Repacked(const QByteArray& bytes, const PixelLayout& from, const Pixe
     return result;
 }
 
-// The depth is a constant so that the compiler unrolls the loop over a byte's pixels.
-template <int Bits>
-void PackPixels(const quint8* indices, int width, uchar* row)
-{
-    constexpr int perByte = 8 / Bits;
-    int x = 0;
-    for (; x + perByte <= width; x += perByte) {
-        int packed = 0;
-        for (int i = 0; i < perByte; ++i)
-            packed = packed << Bits | indices[x + i];
-        *row++ = static_cast<uchar>(packed);
-    }
-    if (x < width) {
-        int packed = 0;
-        for (int i = 0; i < perByte; ++i)
-            packed = packed << Bits | (x + i < width ? indices[x + i] : 0);
-        *row = static_cast<uchar>(packed);
-    }
-}
-
 } // namespace
 
 int GetPixel(const QByteArray& bytes, const PixelLayout& layout, int x, int y)
@@ -88,24 +68,6 @@ void SetPixel(QByteArray& bytes, const PixelLayout& layout, int x, int y, int in
     if (x < 0 || y < 0 || x >= layout.width || y >= layout.rows)
         return;
     SetInRow(Row(bytes, layout, y), layout, x, index);
-}
-
-void PackRow(const quint8* indices, const PixelLayout& layout, uchar* row)
-{
-    switch (layout.bitsPerPixel) {
-    case 1:
-        PackPixels<1>(indices, layout.width, row);
-        break;
-    case 2:
-        PackPixels<2>(indices, layout.width, row);
-        break;
-    case 4:
-        PackPixels<4>(indices, layout.width, row);
-        break;
-    default:
-        std::copy_n(indices, layout.width, row);
-        break;
-    }
 }
 
 void InsertColumnRight(QByteArray& bytes, const PixelLayout& layout)

@@ -26,9 +26,6 @@ namespace PixelPlane {
 [[nodiscard]] int GetPixel(const QByteArray& bytes, const PixelLayout& layout, int x, int y);
 void SetPixel(QByteArray& bytes, const PixelLayout& layout, int x, int y, int index);
 
-// Packs one index per byte into a row of packed bytes.
-void PackRow(const quint8* indices, const PixelLayout& layout, uchar* row);
-
 void InsertColumnRight(QByteArray& bytes, const PixelLayout& layout);
 void InsertColumnLeft(QByteArray& bytes, const PixelLayout& layout);
 void InsertRowTop(QByteArray& bytes, const PixelLayout& layout);

@@ -80,6 +80,13 @@ QByteArray Dump(const Font& font)
     return text;
 }
 
+QByteArray Compose(const Font& font, const QString& path, const CFileOptions& options)
+{
+    QByteArray text;
+    FontFileC(path, options).Compose(font, [&text](QByteArrayView piece) { text.append(piece); });
+    return text;
+}
+
 } // namespace
 
 class TestFontFileC : public QObject
@@ -145,15 +152,15 @@ private Q_SLOTS:
             options.actionLog = {u"[Font]: Opened font file: a/*/\u202e\nb.ttf"_s,
                                  QString(70, u'x')};
         const auto font = MakeFont(FontFormat(format), EncodingType(encoding));
-        const QByteArray text = FontFileC(u"some/dir/"_s + fileName, options).Compose(*font);
+        const QByteArray text = Compose(*font, u"some/dir/"_s + fileName, options);
         Test::CompareWithGolden(text, fileName);
     }
 
     void LineEndingsAndLog()
     {
         const auto font = MakeFont(FontFormat::AA4);
-        const QByteArray lines = FontFileC(u"a.c"_s, {"\n", std::nullopt}).Compose(*font);
-        const QByteArray log = FontFileC(u"a.c"_s, {"\n", QStringList()}).Compose(*font);
+        const QByteArray lines = Compose(*font, u"a.c"_s, {"\n", std::nullopt});
+        const QByteArray log = Compose(*font, u"a.c"_s, {"\n", QStringList()});
         QVERIFY(!lines.contains('\r'));
         // An empty log still has its three separating lines.
         QCOMPARE(log.count('\n'), lines.count('\n') + 3);
@@ -173,7 +180,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, name);
         QFETCH(const bool, hasGuard);
-        const QByteArray text = FontFileC(name, {}).Compose(*MakeFont(FontFormat::AA2));
+        const QByteArray text = Compose(*MakeFont(FontFormat::AA2), name, {});
         QCOMPARE(text.contains("#ifndef _8_TESTS_PLAIN_1_H\r\n#define _8_TESTS_PLAIN_1_H\r\n\r\n"),
                  hasGuard);
         QCOMPARE(text.contains("};\r\n\r\n#endif // _8_TESTS_PLAIN_1_H\r\n\r\n/****"), hasGuard);
