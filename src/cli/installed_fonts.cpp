@@ -37,6 +37,21 @@ const FontDatabase& BuiltDatabase()
     return database;
 }
 
+// Names come from fonts; none may break a line of the table or command the terminal.
+QString Printable(QString name)
+{
+    for (QChar& character : name) {
+        if (!character.isPrint() && !character.isSurrogate())
+            character = u' ';
+    }
+    return name;
+}
+
+QString StylesOf(const FontFamily& family)
+{
+    return Printable(family.StyleNames().join(u", "_s));
+}
+
 // How many letters have to be inserted, deleted or replaced to get from one name to the other.
 qsizetype EditDistance(const QString& from, const QString& to)
 {
@@ -75,11 +90,11 @@ InstalledFont FindInstalledFont(const QString& family, const QString& style)
 
     QString hint;
     if (found != nullptr) {
-        hint = u"Its styles are: %1"_s.arg(found->StyleNames().join(u", "_s));
+        hint = u"Its styles are: %1"_s.arg(StylesOf(*found));
     } else {
         QStringList families;
         for (const auto& other : database.Families())
-            families.append(other->Name());
+            families.append(Printable(other->Name()));
         hint = families.isEmpty() ? u"There are no fonts in the font directories."_s
                                   : u"Families with a similar name: %1"_s.arg(
                                         Nearest(families, family).join(u", "_s));
@@ -99,7 +114,7 @@ QString InstalledFontTable()
     };
     QString table = row(heading, u"Styles"_s);
     for (const auto& family : database.Families())
-        table += row(family->Name(), family->StyleNames().join(u", "_s));
+        table += row(Printable(family->Name()), StylesOf(*family));
     return table;
 }
 

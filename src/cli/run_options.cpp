@@ -101,10 +101,17 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences)
 {
     RunOptions options;
     bool needsHeight = false;
+    bool hasFace = false;
+    bool createsByName = false;
     for (const OptionOccurrence& occurrence : occurrences) {
         ReadOption(occurrence, options);
         needsHeight = needsHeight || OpensScalableFont(occurrence);
+        hasFace = hasFace || occurrence.Id() == OptionId::Face;
+        createsByName = createsByName || occurrence.Id() == OptionId::Create;
     }
+    if (hasFace && createsByName)
+        CurrentInterface().warning(u"Face"_s,
+                                   u"-face is not used with -create: the style tells the face."_s);
     if (needsHeight && options.open.size.value == 0)
         throw CriticalException(
             u"A scalable font needs a height: give -height (e.g. -height 24px)."_s);

@@ -32,7 +32,7 @@ public:
     void Enter(const QString& path)
     {
         const QString canonical = QDir(path).canonicalPath();
-        if (canonical.isEmpty() || seen_.contains(canonical))
+        if (canonical.isEmpty() || seen_.contains(canonical) || !QFileInfo(canonical).isDir())
             return;
         seen_.insert(canonical);
         entered_.append(path);
@@ -69,7 +69,9 @@ std::vector<FontFileEntry> FontFilesIn(const QStringList& directories)
     for (const QString& directory : directories) {
         for (const QFileInfo& file :
              QDir(directory).entryInfoList(patterns, QDir::Files | QDir::Readable, QDir::Name)) {
-            if (const auto type = FileTypeOf(file.fileName()))
+            // A link may lead to a pipe, which would never open.
+            const auto type = FileTypeOf(file.fileName());
+            if (type && file.isFile())
                 files.push_back({file.filePath(), *type});
         }
     }
@@ -142,17 +144,18 @@ QStringList ExpandDirectories(const QStringList& directories, bool recursively)
     return walk.Entered();
 }
 
-QStringList FontSearchList()
+QStringList FontSearchList(const QStringList& additional, bool recursively)
 {
-    const Settings& settings = Settings::Instance();
     QStringList list = ExpandDirectories(SystemFontDirectories(), true);
-    list += ExpandDirectories(settings.additionalFontDirs.value(),
-                              settings.searchDirsRecursively.value());
+    list += ExpandDirectories(additional, recursively);
     list.removeDuplicates();
     return list;
 }
 
-FontDatabaseThread::FontDatabaseThread(QObject* parent) : QThread(parent)
+FontDatabaseThread::FontDatabaseThread(QObject* parent)
+    : QThread(parent),
+      additionalDirectories_(Settings::Instance().additionalFontDirs.value()),
+      recursively_(Settings::Instance().searchDirsRecursively.value())
 {
     setStackSize(ThreadStackSize);
 }
@@ -160,7 +163,8 @@ FontDatabaseThread::FontDatabaseThread(QObject* parent) : QThread(parent)
 void FontDatabaseThread::run()
 {
     FontDatabase::Instance().Build(
-        FontSearchList(), [this](int count) { Q_EMIT initFileCount(count); },
+        FontSearchList(additionalDirectories_, recursively_),
+        [this](int count) { Q_EMIT initFileCount(count); },
         [this](int done) { Q_EMIT fileDone(done); });
     Q_EMIT hasFinished();
 }

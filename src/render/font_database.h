@@ -31,14 +31,15 @@ private:
     FontFamilies families_;
 };
 
-// The directories to index: the system's with those below them, and those of the settings.
-[[nodiscard]] QStringList FontSearchList();
+// The directories to index: the system's with those below them, and the user's own.
+[[nodiscard]] QStringList FontSearchList(const QStringList& additional, bool recursively);
 
 // The directories in order, each followed by those below it if asked for. Ten directories at most
 // are entered from others for the whole list.
 [[nodiscard]] QStringList ExpandDirectories(const QStringList& directories, bool recursively);
 
-// Rebuilds the process-wide database in the background.
+// Rebuilds the process-wide database in the background, with the directories that the settings have
+// when it is made.
 class FontDatabaseThread : public QThread
 {
     Q_OBJECT
@@ -53,6 +54,10 @@ Q_SIGNALS:
 
 protected:
     void run() override;
+
+private:
+    QStringList additionalDirectories_;
+    bool recursively_;
 };
 
 } // namespace Glyphor

@@ -5,6 +5,19 @@
 
 namespace Glyphor {
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Variable faces do not tell the slant of their instances.
+bool SoundsItalic(const QString& style)
+{
+    return style.contains("italic"_L1, Qt::CaseInsensitive) ||
+           style.contains("oblique"_L1, Qt::CaseInsensitive);
+}
+
+} // namespace
+
 FontFamily::FontFamily(const FreeTypeFace& face)
     : name_(face.FamilyName()), unicodeRanges_(face.UnicodeRanges())
 {}
@@ -57,7 +70,7 @@ QStringList FontFamily::StyleNames() const
         names.append(name);
     std::ranges::stable_sort(names, {}, [this](const QString& name) {
         const FaceStyle style = Style(name);
-        return std::tuple(style.weight, style.width, style.italic);
+        return std::tuple(style.weight, style.width, style.italic || SoundsItalic(name));
     });
     return names;
 }
@@ -78,20 +91,20 @@ FontFamilyTTC::FontFamilyTTC(const FreeTypeFace& face, int faceIndex) : FontFami
     AddStyle(face.StyleName(), face.Path(), faceIndex, false, face.Style());
 }
 
-FontFamilyTTF_MM::FontFamilyTTF_MM(FreeTypeFace& face) : FontFamily(face)
+FontFamilyTTF_MM::FontFamilyTTF_MM(const FreeTypeFace& face) : FontFamily(face)
 {
-    for (int index = 1; index <= face.NamedInstanceCount(); ++index) {
-        const QString name = face.NamedInstanceName(index);
-        face.SetNamedInstance(index);
-        if (!name.isEmpty())
-            AddStyle(name, face.Path(), index, true, face.Style());
+    int index = 0;
+    for (const NamedInstance& instance : face.NamedInstances()) {
+        ++index;
+        if (!instance.name.isEmpty())
+            AddStyle(instance.name, face.Path(), index, true, instance.style);
     }
 }
 
 FontFamilies ListFamilies(const QString& path, FileType type, FT_Library library)
 {
     FontFamilies families;
-    FreeTypeFace face(path, 0, library);
+    const FreeTypeFace face(path, 0, library);
     if (type == FileType::TrueTypeCollection) {
         for (int index = 0; index < face.FaceCount(); ++index) {
             const FreeTypeFace member(path, index, library);

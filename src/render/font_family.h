@@ -77,11 +77,11 @@ public:
     FontFamilyTTC(const FreeTypeFace& face, int faceIndex);
 };
 
-// The named instances of a multi-master face, which is left at the last of them.
+// The named instances of a multi-master face.
 class FontFamilyTTF_MM final : public FontFamily
 {
 public:
-    explicit FontFamilyTTF_MM(FreeTypeFace& face);
+    explicit FontFamilyTTF_MM(const FreeTypeFace& face);
 };
 
 using FontFamilies = std::vector<std::unique_ptr<FontFamily>>;

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QHash>
 #include <QScreen>
 #include <QtEndian>
 
@@ -92,6 +93,34 @@ QString FindName(FT_Face face, FT_UInt nameId)
             return DecodeName(name);
     }
     return {};
+}
+
+// The first name of each number.
+QHash<FT_UInt, QString> AllNames(FT_Face face)
+{
+    QHash<FT_UInt, QString> names;
+    const FT_UInt count = FT_Get_Sfnt_Name_Count(face);
+    for (FT_UInt index = 0; index < count; ++index) {
+        FT_SfntName name{};
+        if (FT_Get_Sfnt_Name(face, index, &name) == 0 && !names.contains(name.name_id))
+            names.insert(name.name_id, DecodeName(name));
+    }
+    return names;
+}
+
+// The place of a named instance on the weight axis; 0 without such an axis.
+quint32 InstanceWeight(const FT_MM_Var& variations, FT_UInt instance)
+{
+    const std::span axes(variations.axis, variations.num_axis);
+    const auto weight = std::ranges::find_if(axes, [](const FT_Var_Axis& axis) {
+        const QLatin1StringView name(axis.name);
+        return name.compare("Weight"_L1, Qt::CaseInsensitive) == 0 ||
+               name.compare("wght"_L1, Qt::CaseInsensitive) == 0;
+    });
+    if (weight == axes.end())
+        return 0;
+    const FT_Fixed place = variations.namedstyle[instance].coords[weight - axes.begin()];
+    return static_cast<quint32>(place >> 16);
 }
 
 int BitsOf(const FT_Bitmap& bitmap)
@@ -264,13 +293,25 @@ QString FreeTypeFace::NamedInstanceName(int index) const
     return FindName(face_, variations->namedstyle[index - 1].strid);
 }
 
+std::vector<NamedInstance> FreeTypeFace::NamedInstances() const
+{
+    const Variations variations = VariationsOf(library_, face_);
+    if (!variations)
+        return {};
+    const QHash<FT_UInt, QString> names = AllNames(face_);
+    std::vector<NamedInstance> instances;
+    for (FT_UInt index = 0; index < variations->num_namedstyles; ++index)
+        instances.push_back({names.value(variations->namedstyle[index].strid),
+                             {.weight = InstanceWeight(*variations, index)}});
+    return instances;
+}
+
 QStringList FreeTypeFace::NamedInstanceNames() const
 {
     QStringList names;
-    for (int index = 1; index <= NamedInstanceCount(); ++index) {
-        const QString name = NamedInstanceName(index);
-        if (!name.isEmpty())
-            names.append(name);
+    for (const NamedInstance& instance : NamedInstances()) {
+        if (!instance.name.isEmpty())
+            names.append(instance.name);
     }
     return names;
 }
@@ -285,19 +326,9 @@ FaceStyle FreeTypeFace::Style() const
 {
     FaceStyle style;
     if (const Variations variations = VariationsOf(library_, face_)) {
-        const std::span axes(variations->axis, variations->num_axis);
-        const auto weight = std::ranges::find_if(axes, [](const FT_Var_Axis& axis) {
-            const QLatin1StringView name(axis.name);
-            return name.compare("Weight"_L1, Qt::CaseInsensitive) == 0 ||
-                   name.compare("wght"_L1, Qt::CaseInsensitive) == 0;
-        });
         const FT_Long instance = (face_->face_index >> 16) - 1;
-        if (weight != axes.end() && instance >= 0 &&
-            instance < FT_Long(variations->num_namedstyles)) {
-            const FT_Fixed coordinate =
-                variations->namedstyle[instance].coords[weight - axes.begin()];
-            style.weight = static_cast<quint32>(coordinate >> 16);
-        }
+        if (instance >= 0 && instance < FT_Long(variations->num_namedstyles))
+            style.weight = InstanceWeight(*variations, static_cast<FT_UInt>(instance));
         return style;
     }
     if (const TT_OS2* const os2 = Os2Table(face_)) {

@@ -27,6 +27,12 @@ struct FaceStyle
     bool operator==(const FaceStyle&) const = default;
 };
 
+struct NamedInstance
+{
+    QString name; // empty where it can't be read
+    FaceStyle style;
+};
+
 // What is done to every outline before it is rendered; bits of a flag word.
 enum FaceEffect : quint32 { BoldEffect = 1, ItalicEffect = 2 };
 
@@ -81,6 +87,9 @@ public:
 
     [[nodiscard]] bool IsMultiMaster() const;
     [[nodiscard]] QStringList NamedInstanceNames() const;
+
+    // All of them, the first one with the index 1. Cheaper than asking one by one.
+    [[nodiscard]] std::vector<NamedInstance> NamedInstances() const;
 
     // The name of one of them, counted from 1; empty where it has none.
     [[nodiscard]] QString NamedInstanceName(int index) const;

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,8 @@ private Q_SLOTS:
         Test::WriteAll(folder.filePath(u"a_cut.otf"_s),
                        Test::ReadAll(Test::FontPath("outlines.ttf")).left(300));
         Test::WriteAll(folder.filePath(u"readme.txt"_s), "not looked at");
+        QCOMPARE(::mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)).constData(), 0600), 0);
+        QVERIFY(QFile::link(folder.filePath(u"pipe"_s), folder.filePath(u"a_link.ttf"_s)));
 
         FontDatabase database;
         QList<int> reports;
