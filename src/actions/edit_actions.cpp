@@ -87,17 +87,21 @@ const CharStep& StepOf(ActionType type)
     return CharSteps.at(static_cast<std::size_t>(index));
 }
 
-bool ApplyFontStep(ActionType type, Font& font)
+void ApplyFontStep(ActionType type, Font& font)
 {
     switch (type) {
     case ActionType::FontInsertRowTop:
-        return font.InsertRowTop();
+        font.InsertRowTop();
+        break;
     case ActionType::FontInsertRowBottom:
-        return font.InsertRowBottom();
+        font.InsertRowBottom();
+        break;
     case ActionType::FontDeleteRowTop:
-        return font.DeleteRowTop();
+        font.DeleteRowTop();
+        break;
     default:
-        return font.DeleteRowBottom();
+        font.DeleteRowBottom();
+        break;
     }
 }
 
@@ -176,8 +180,7 @@ QString ActionChar::LogText() const
 {
     QString message = MessageFor();
     if (Type() == ActionType::Toggle)
-        message =
-            message.arg(CurrentFont()->IsEnabled(Args().first) ? u"Enabled"_s : u"Disabled"_s);
+        message = message.arg(target_ ? u"Enabled"_s : u"Disabled"_s);
     return RangePrefix(Args().first, Args().last) + message;
 }
 
@@ -190,28 +193,23 @@ bool ActionFont::Execute()
         Type() == ActionType::FontInsertRowTop || Type() == ActionType::FontInsertRowBottom;
     const int height = font->Metrics().height;
     const int minimum = IsLegacyFormat(font->Metrics().format) ? 1 : 0;
+    const bool atTop =
+        Type() == ActionType::FontInsertRowTop || Type() == ActionType::FontDeleteRowTop;
     int possible = isInsertion ? CharInfo::MaxSize - height : height - minimum;
-    const int baseline = font->Metrics().baseline;
-    if (Type() == ActionType::FontInsertRowTop)
-        possible = std::min(possible, CharInfo::MaxSize - baseline);
-    if (Type() == ActionType::FontDeleteRowTop)
-        possible = std::min(possible, baseline);
+    if (atTop)
+        possible = std::min(possible, font->TopRowRoom(isInsertion));
     SetRepeat(std::min(Repeat(), possible));
     return possible > 0;
 }
 
 void ActionFont::RedoOnce()
 {
-    if (!ApplyFontStep(Type(), *CurrentFont()))
-        ++refused_;
+    ApplyFontStep(Type(), *CurrentFont());
 }
 
 void ActionFont::UndoOnce()
 {
-    if (refused_ > 0)
-        --refused_;
-    else
-        ApplyFontStep(OppositeFontStep(Type()), *CurrentFont());
+    ApplyFontStep(OppositeFontStep(Type()), *CurrentFont());
 }
 
 int ActionPixelIndex::IndexToSet() const

@@ -50,15 +50,12 @@ class ActionFont final : public Action
 public:
     ActionFont(Session& session, ActionType type) : Action(session, type) {}
 
-    // Cuts the count where the font's height reaches its limit. False where it stands there
+    // Cuts the count where the font's height, or an offset, reaches its limit. False where it stands there
     // already.
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] QString LogText() const override { return MessageFor(); }
-
-private:
-    int refused_ = 0;
 };
 
 struct ActionPixelIndexArgs

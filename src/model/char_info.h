@@ -4,6 +4,25 @@
 
 namespace Glyphor {
 
+// What a source says about a character, in pixels, before it is known to fit.
+struct CharMetrics
+{
+    int width = 0;
+    int height = 0;
+    int xPos = 0;
+    int yPos = 0;
+    int cursorDistance = 0;
+
+    // True where every value fits its field of a character.
+    [[nodiscard]] constexpr bool FitFields() const
+    {
+        const auto isByte = [](int value) { return value >= 0 && value <= 255; };
+        const auto isOffset = [](int value) { return value >= -128 && value <= 127; };
+        return isByte(width) && isByte(height) && isByte(cursorDistance) && isOffset(xPos) &&
+               isOffset(yPos);
+    }
+};
+
 // The metrics of one character, in pixels.
 struct CharInfo
 {
@@ -24,6 +43,16 @@ struct CharInfo
     {
         width = value;
         bytesPerLine = static_cast<quint8>((font.bitsPerPixel * value + 7) / 8);
+    }
+
+    // They must fit.
+    void Set(const CharMetrics& metrics)
+    {
+        SetWidth(static_cast<quint8>(metrics.width));
+        height = static_cast<quint8>(metrics.height);
+        xPos = static_cast<qint8>(metrics.xPos);
+        yPos = static_cast<qint8>(metrics.yPos);
+        cursorDistance = static_cast<quint8>(metrics.cursorDistance);
     }
 };
 

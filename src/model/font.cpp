@@ -2,6 +2,7 @@
 
 #include "model/char_bitmap_framed.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace Glyphor {
@@ -86,6 +87,8 @@ Character& Font::Create(quint16 code)
 
 std::unique_ptr<Character> Font::RemoveChar(quint16 code)
 {
+    if (!existing_.Test(code))
+        return nullptr;
     existing_.Set(code, false);
     return std::move(Place(code));
 }
@@ -114,13 +117,17 @@ Font::AddResult Font::AddChar(quint16 code, const RenderedGlyph& glyph)
         return AddResult::DoesNotFit;
 
     Character& character = Create(code);
-    character.info.SetWidth(static_cast<quint8>(placement->width));
-    character.info.height = static_cast<quint8>(placement->height);
-    character.info.xPos = static_cast<qint8>(placement->xPos);
-    character.info.yPos = static_cast<qint8>(placement->yPos);
-    character.info.cursorDistance = static_cast<quint8>(placement->cursorDistance);
+    character.info.Set(*placement);
     character.bitmap->RenderData(glyph, *placement);
     return AddResult::Added;
+}
+
+Character& Font::AddChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes)
+{
+    Character& character = Create(code);
+    character.info.Set(metrics);
+    character.bitmap->ReadData(bytes);
+    return character;
 }
 
 bool Font::IsEnabled(quint16 code) const
@@ -159,8 +166,7 @@ std::vector<CodeRun> Font::EnabledRuns() const
 
 int Font::CharDataWidth(const Character& character) const
 {
-    const int planes = metrics_.format == FontFormat::Framed ? 2 : 1;
-    return planes * character.info.bytesPerLine;
+    return PlaneCount(metrics_.format) * character.info.bytesPerLine;
 }
 
 template <typename Edit>
@@ -172,18 +178,18 @@ void Font::ForEachChar(Edit edit) const
     }
 }
 
-bool Font::CanMoveDown(int rows) const
+int Font::TopRowRoom(bool insert) const
 {
-    const int baseline = metrics_.baseline + rows;
-    bool canMove = baseline >= 0 && baseline <= std::numeric_limits<quint8>::max();
-    if (!IsLegacyFormat(metrics_.format)) {
-        ForEachChar([&canMove, rows](const Character& character) {
-            const int yPos = character.info.yPos + rows;
-            const bool hasRoom = character.info.height < CharInfo::MaxSize;
-            canMove = canMove && yPos >= MinOffset && (yPos <= MaxOffset || hasRoom);
-        });
-    }
-    return canMove;
+    int room = CharInfo::MaxSize;
+    if (IsLegacyFormat(metrics_.format))
+        return room;
+    ForEachChar([&](const Character& character) {
+        const CharInfo& info = character.info;
+        // Beyond the largest offset empty rows are added to the bitmap.
+        const int down = MaxOffset - info.yPos + CharInfo::MaxSize - info.height;
+        room = std::min(room, insert ? down : info.yPos - MinOffset);
+    });
+    return room;
 }
 
 void Font::MoveDown(int rows)
@@ -196,8 +202,7 @@ void Font::MoveDown(int rows)
         CharInfo& info = character.info;
         // At the largest offset an empty row above the picture comes and goes instead.
         if (info.yPos == MaxOffset && rows > 0) {
-            if (!character.bitmap->InsertRowTop())
-                return;
+            (void)character.bitmap->InsertRowTop(); // which moves it up
         } else if (info.yPos == MaxOffset && HasEmptyTopRow(character)) {
             --info.yPos;
             character.bitmap->DeleteRowTop();
@@ -212,9 +217,9 @@ bool Font::EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)())
     const bool isLegacy = IsLegacyFormat(metrics_.format);
     const int height = metrics_.height + change;
     const bool atTop = edge == RowEdge::Top;
-    if (height < (isLegacy ? 1 : 0) || height > CharInfo::MaxSize)
+    if (atTop && TopRowRoom(change > 0) == 0)
         return false;
-    if (atTop && !CanMoveDown(change))
+    if (height < (isLegacy ? 1 : 0) || height > CharInfo::MaxSize)
         return false;
 
     if (isLegacy) {

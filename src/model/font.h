@@ -78,6 +78,10 @@ public:
     // Adds and enables a rendered character, unless the code exists or a field can't hold it.
     AddResult AddChar(quint16 code, const RenderedGlyph& glyph);
 
+    // Adds and enables a character with its packed bytes, all planes one behind the other, in the
+    // place of one that exists. The metrics must fit and the bytes have the size they ask for.
+    Character& AddChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes);
+
     // Takes a character out of the font, or gives it one that was taken out of it. Its enabled bit
     // stays as it is.
     std::unique_ptr<Character> RemoveChar(quint16 code);
@@ -97,6 +101,16 @@ public:
 
     [[nodiscard]] bool HasEnabledChars() const;
 
+    // Calls visit(code, character) for the enabled characters in ascending order.
+    template <typename Visit>
+    void ForEachEnabled(Visit visit) const
+    {
+        CodeSet codes = enabled_;
+        codes &= existing_;
+        for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1))
+            visit(static_cast<quint16>(code), *FindChar(static_cast<quint16>(code)));
+    }
+
     // The enabled characters as maximal runs of consecutive codes, in ascending order.
     [[nodiscard]] std::vector<CodeRun> EnabledRuns() const;
 
@@ -104,12 +118,15 @@ public:
     [[nodiscard]] int CharDataWidth(const Character& character) const;
 
     // Rows of the whole font, which legacy characters gain or lose in their pixels. Refused,
-    // without a change, where a metric would leave its range or legacy characters would become
-    // empty.
+    // without a change, where the height or an offset would leave its range or legacy characters
+    // would become empty; the baseline wraps.
     bool InsertRowTop();
     bool InsertRowBottom();
     bool DeleteRowTop();
     bool DeleteRowBottom();
+
+    // How many rows can come (or go) at the top before an offset leaves its range.
+    [[nodiscard]] int TopRowRoom(bool insert) const;
 
 private:
     static constexpr std::size_t PageSize = 256;
@@ -120,7 +137,6 @@ private:
     std::unique_ptr<Character>& Place(quint16 code);
     Character& Create(quint16 code);
     bool EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)());
-    [[nodiscard]] bool CanMoveDown(int rows) const;
     void MoveDown(int rows);
     template <typename Edit>
     void ForEachChar(Edit edit) const;

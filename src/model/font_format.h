@@ -69,6 +69,12 @@ extern const std::array<EncodingKeywordRow, 6> EncodingKeywordTable;
     return format <= FontFormat::LegacyAA4;
 }
 
+// Pixel planes of a character: framed ones have a second one for the frame.
+[[nodiscard]] constexpr int PlaneCount(FontFormat format)
+{
+    return format == FontFormat::Framed ? 2 : 1;
+}
+
 // Bits of one pixel of one plane: 1, 2 or 4; 0 for an unknown format.
 [[nodiscard]] constexpr int BitsPerPixel(FontFormat format)
 {

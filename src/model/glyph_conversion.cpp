@@ -151,19 +151,6 @@ void PadOffset(int& offset, int& start, int& size, bool isEmpty)
     size += padding;
 }
 
-bool FitsByte(int value)
-{
-    return value >= 0 && value <= CharInfo::MaxSize;
-}
-
-bool FitsFields(const GlyphPlacement& placement)
-{
-    constexpr int minimum = std::numeric_limits<qint8>::min();
-    return FitsByte(placement.width) && FitsByte(placement.height) &&
-           FitsByte(placement.cursorDistance) && placement.xPos >= minimum &&
-           placement.yPos >= minimum;
-}
-
 // Legacy characters have no offsets: the picture stands at its place in a cell of the font's
 // height.
 GlyphPlacement PlaceLegacy(const RenderedGlyph& glyph, const FontMetrics& font)
@@ -210,7 +197,7 @@ std::optional<GlyphPlacement> PlaceGlyph(const RenderedGlyph& glyph, const FontM
     }
     const GlyphPlacement placement =
         IsLegacyFormat(font.format) ? PlaceLegacy(glyph, font) : PlaceStandard(glyph, font);
-    return FitsFields(placement) ? std::optional(placement) : std::nullopt;
+    return placement.FitFields() ? std::optional(placement) : std::nullopt;
 }
 
 QByteArray ConvertGlyph(const RenderedGlyph& glyph, const GlyphPlacement& placement,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/font_metrics.h"
+#include "model/char_info.h"
 #include "model/rendered_glyph.h"
 
 #include <QByteArray>
@@ -10,13 +10,8 @@
 namespace Glyphor {
 
 // Where a rendered glyph goes in the bitmap of its character, and that character's metrics.
-struct GlyphPlacement
+struct GlyphPlacement : CharMetrics
 {
-    int width = 0;
-    int height = 0;
-    int xPos = 0;
-    int yPos = 0;
-    int cursorDistance = 0;
     int column = 0; // of the glyph's first column in the bitmap
     int row = 0;    // of the glyph's first row; rows outside the bitmap are dropped
 };

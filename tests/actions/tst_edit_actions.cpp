@@ -122,6 +122,16 @@ private Q_SLOTS:
         }
     }
 
+    void TogglesTellTheirTarget()
+    {
+        Session session;
+        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        for (int round = 0; round < 2; ++round)
+            std::make_shared<ActionChar>(session, ActionType::Toggle, quint16('A'))->Run();
+        QCOMPARE(session.Stack().LogLines(),
+                 (QStringList{u"[Char 0x0041]: Disabled."_s, u"[Char 0x0041]: Enabled."_s}));
+    }
+
     void FontEdits_data()
     {
         QTest::addColumn<int>("format");
@@ -169,6 +179,14 @@ private Q_SLOTS:
         QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontInsertRowTop)->Run());
         session.CurrentFont()->SetHeight(0);
         QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontDeleteRowBottom)->Run());
+        // Steps that an offset has no room for are not taken, and not told.
+        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        session.CurrentFont()->FindChar('A')->info.yPos = -126;
+        const auto top = std::make_shared<ActionFont>(session, ActionType::FontDeleteRowTop);
+        top->SetRepeat(3);
+        QVERIFY(top->Run());
+        QCOMPARE(int(session.CurrentFont()->Metrics().height), 2);
+        QCOMPARE(session.Stack().LogLines().size(), 2);
         // The pixels of a legacy character must not vanish.
         session.ReplaceFont(MakeFont(FontFormat::Legacy), {});
         const auto deletion = std::make_shared<ActionFont>(session, ActionType::FontDeleteRowTop);
