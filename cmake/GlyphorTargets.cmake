@@ -15,6 +15,11 @@ if(GLYPHOR_SANITIZE)
     target_link_options(glyphor_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(GLYPHOR_FUZZ)
+    target_compile_options(glyphor_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(glyphor_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # glyphor_floor(NAME SOURCES file... USES library...)
 #
 # Makes the static library of one floor. USES names the floors below it and the outside libraries

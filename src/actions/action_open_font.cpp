@@ -2,6 +2,7 @@
 
 #include "actions/font_files.h"
 #include "actions/session.h"
+#include "app/critical_exception.h"
 #include "app/user_interface.h"
 #include "render/font_file_scalable.h"
 
@@ -36,17 +37,78 @@ QString MissingFace(const QString& path, int index, int faceCount)
                                                                    faces);
 }
 
+[[noreturn]] void Fail(const QString& title, const QString& text)
+{
+    throw CriticalException(title, text);
+}
+
+void CheckCombination(FontFormat format, EncodingType encoding)
+{
+    if (!IsValidCombination(format, encoding))
+        Fail(u"Invalid combination of encoding and font format!"_s,
+             u"SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."_s);
+}
+
+std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
+{
+    const RenderOptions options{
+        .format = args.format.value_or(FontFormat::Standard),
+        .encoding = args.encoding.value_or(EncodingType::Unicode),
+        .size = args.size,
+        .effects = args.effects,
+        .faceIndex = args.faceIndex,
+    };
+    const auto file = MakeScalableFontFile(args.path, options);
+    const int faceCount = file->FaceCount();
+    if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
+        Fail(CreationFailed(), MissingFace(args.path, options.faceIndex, faceCount));
+    if (!file->OpenFault().isEmpty())
+        Fail(CreationFailed(),
+             u"The font file %1 can't be used: %2"_s.arg(args.path, file->OpenFault()));
+    WarnOfPoints(options.size);
+    file->SetCharacterFilter(args.selection);
+    return file->Read();
+}
+
+// Files other than those that are rendered have a format of their own.
+std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
+{
+    auto font = MakeInputFile(args.path, {args.format, args.encoding})->Read();
+    if (font == nullptr)
+        return nullptr;
+    const FontMetrics& metrics = font->Metrics();
+    CheckCombination(metrics.format, metrics.encoding);
+    if (args.format && *args.format != metrics.format)
+        CurrentInterface().warning(
+            u"Font format"_s,
+            u"The file %1 has the format \"%2\"; the format \"%3\" was not used."_s.arg(
+                args.path, FormatDisplayName(metrics.format), FormatDisplayName(*args.format)));
+    if (args.selection) {
+        CodeSet enabled = font->EnabledCodes();
+        enabled &= *args.selection;
+        font->SetEnabledCodes(enabled);
+    }
+    return font;
+}
+
 } // namespace
+
+std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
+{
+    const auto namedType = FileTypeOf(args.path);
+    if (args.format || (namedType && IsScalable(*namedType)))
+        CheckCombination(args.format.value_or(FontFormat::Standard),
+                         args.encoding.value_or(EncodingType::Unicode));
+    auto font = IsScalable(CheckInputFile(args.path)) ? Render(args) : ReadFile(args);
+    if (font != nullptr && font->Metrics().height == 0)
+        Fail(CreationFailed(), u"Font has invalid metrics."_s);
+    return font;
+}
 
 bool ActionOpenFont::Execute()
 {
-    const FontFormat format = Args().format.value_or(FontFormat::Standard);
-    if (!IsValidCombination(format, Args().encoding.value_or(EncodingType::Unicode)))
-        ThrowActionError(
-            u"Invalid combination of encoding and font format!"_s,
-            u"SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."_s);
-    font_ = IsScalable(CheckInputFile(Args().path)) ? Render() : ReadFile();
-    return true;
+    font_ = ReadFont(Args());
+    return font_ != nullptr;
 }
 
 void ActionOpenFont::RedoOnce()
@@ -59,41 +121,6 @@ QString ActionOpenFont::LogText() const
     if (Type() == ActionType::CreateFont)
         return MessageFor().arg(Args().size.PixelHeight());
     return MessageFor().arg(Args().path);
-}
-
-std::unique_ptr<Font> ActionOpenFont::Render() const
-{
-    const RenderOptions options{
-        .format = Args().format.value_or(FontFormat::Standard),
-        .encoding = Args().encoding.value_or(EncodingType::Unicode),
-        .size = Args().size,
-        .effects = Args().effects,
-        .faceIndex = Args().faceIndex,
-    };
-    const auto file = MakeScalableFontFile(Args().path, options);
-    const int faceCount = file->FaceCount();
-    if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
-        ThrowActionError(CreationFailed(), MissingFace(Args().path, options.faceIndex, faceCount));
-    if (!file->OpenFault().isEmpty())
-        ThrowActionError(CreationFailed(), u"The font file %1 can't be used: %2"_s.arg(
-                                               Args().path, file->OpenFault()));
-    WarnOfPoints(options.size);
-    file->SetCharacterFilter(Args().selection);
-    auto font = file->Read();
-    if (font->Metrics().height == 0)
-        ThrowActionError(CreationFailed(), u"Font has invalid metrics."_s);
-    return font;
-}
-
-std::unique_ptr<Font> ActionOpenFont::ReadFile() const
-{
-    auto font = MakeFontFile(Args().path)->Read();
-    if (Args().selection) {
-        CodeSet enabled = font->EnabledCodes();
-        enabled &= *Args().selection;
-        font->SetEnabledCodes(enabled);
-    }
-    return font;
 }
 
 } // namespace Glyphor

@@ -38,10 +38,11 @@ public:
     [[nodiscard]] bool IsUndoable() const override { return false; }
 
 private:
-    [[nodiscard]] std::unique_ptr<Font> Render() const;
-    [[nodiscard]] std::unique_ptr<Font> ReadFile() const;
-
     std::unique_ptr<Font> font_; // between Execute and the first step
 };
+
+// The font of a file of any kind: read, or rendered as the arguments say. Null where the user gave
+// no answer to a question about it. Throws a CriticalException on failure.
+[[nodiscard]] std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args);
 
 } // namespace Glyphor

@@ -27,7 +27,7 @@ bool ActionSaveFile::Execute()
         SaveKerning(*font, actionLog);
         return true;
     }
-    MakeFontFile(Args().path, actionLog)->Write(*font);
+    MakeOutputFile(Args().path, actionLog)->Write(*font);
     WriteLogFile(actionLog);
     return true;
 }

@@ -3,6 +3,9 @@
 #include "app/critical_exception.h"
 #include "app/settings.h"
 #include "files/font_file_c.h"
+#include "files/font_file_sif.h"
+#include "files/font_file_xbf.h"
+#include "render/font_file_bdf.h"
 
 #include <QFileInfo>
 
@@ -56,16 +59,30 @@ std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
     return std::make_unique<FontFileTTF>(path, options);
 }
 
-std::unique_ptr<FontFile> MakeFontFile(const QString& path, const QStringList& actionLog)
+std::unique_ptr<FontFile> MakeInputFile(const QString& path, const FormatAnswer& answer)
 {
     const auto type = FileTypeOf(path);
-    if (!type || IsScalable(*type))
-        ThrowUnsupportedFormat();
-    if (*type != FileType::C)
-        throw CriticalException(
-            u"Unsupported format!"_s,
-            u"The file kind of %1 is not available in this version yet."_s.arg(path));
-    return std::make_unique<FontFileC>(path, CFileOptionsOfSettings(actionLog));
+    if (type == FileType::Bdf)
+        return std::make_unique<FontFileBDF>(path);
+    if (type == FileType::C)
+        return std::make_unique<FontFileC>(path, CFileOptions());
+    if (type == FileType::Xbf)
+        return std::make_unique<FontFileXBF>(path, answer);
+    if (type == FileType::Sif)
+        return std::make_unique<FontFileSIF>(path, answer);
+    ThrowUnsupportedFormat();
+}
+
+std::unique_ptr<FontFile> MakeOutputFile(const QString& path, const QStringList& actionLog)
+{
+    const auto type = FileTypeOf(path);
+    if (type == FileType::C)
+        return std::make_unique<FontFileC>(path, CFileOptionsOfSettings(actionLog));
+    if (type == FileType::Xbf)
+        return std::make_unique<FontFileXBF>(path);
+    if (type == FileType::Sif)
+        return std::make_unique<FontFileSIF>(path);
+    ThrowUnsupportedFormat();
 }
 
 } // namespace Glyphor

@@ -21,9 +21,14 @@ FileType CheckInputFile(const QString& path);
 [[nodiscard]] std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
                                                                      const RenderOptions& options);
 
-// The file object for a kind of the program's own. The log is what text files tell of the font's
-// history, if the settings want it told. Throws a CriticalException for any other kind.
-[[nodiscard]] std::unique_ptr<FontFile> MakeFontFile(const QString& path,
-                                                     const QStringList& actionLog = {});
+// The file object for a kind that has a size of its own, to be read. Throws a CriticalException for
+// any other kind.
+[[nodiscard]] std::unique_ptr<FontFile> MakeInputFile(const QString& path,
+                                                      const FormatAnswer& answer);
+
+// The file object for a font to be written. The log is what text files tell of the font's history,
+// if the settings want it told. Throws a CriticalException for a kind that is never written.
+[[nodiscard]] std::unique_ptr<FontFile> MakeOutputFile(const QString& path,
+                                                       const QStringList& actionLog);
 
 } // namespace Glyphor

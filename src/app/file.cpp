@@ -27,6 +27,28 @@ bool WriteWhole(QIODevice& device, QByteArrayView contents)
 
 } // namespace
 
+QByteArray File::Contents()
+{
+    constexpr qint64 limit = 0x7FFFFFFF;
+    const auto fail = [this](const QString& reason) {
+        throw CriticalException(u"Error opening file!"_s,
+                                u"The file %1 could not be read: %2"_s.arg(fileName(), reason));
+    };
+    if (!open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        fail(errorString());
+    if (size() > limit)
+        fail(u"It is too large."_s);
+    QByteArray contents(size(), Qt::Uninitialized);
+    qint64 count = 0;
+    for (qint64 part = 1; part > 0 && count < contents.size(); count += part)
+        part = read(contents.data() + count, contents.size() - count);
+    if (error() != QFileDevice::NoError)
+        fail(errorString());
+    close();
+    contents.truncate(count);
+    return contents;
+}
+
 File::Sink File::SinkInto(QIODevice& device) const
 {
     return [this, &device](QByteArrayView bytes) {

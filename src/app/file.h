@@ -15,6 +15,10 @@ public:
 
     using QFile::QFile;
 
+    // The whole contents. Throws a CriticalException where they can't be read or are larger than
+    // any font.
+    [[nodiscard]] QByteArray Contents();
+
     // Puts the contents in the file's place, as a whole or not at all: on any error the old file
     // stays and a CriticalException names the file and the reason. Follows symbolic links, keeps
     // permissions, and writes to devices and pipes directly.

@@ -1,11 +1,13 @@
 #include "cli/command_line.h"
 
+#include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
 #include "actions/edit_actions.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/error_file.h"
 #include "cli/installed_fonts.h"
+#include "files/file_types.h"
 
 #include <QScopeGuard>
 
@@ -45,6 +47,8 @@ ActionType KindOf(const OptionOccurrence& occurrence)
     case OptionId::EditFont:
     case OptionId::EditChar:
         return static_cast<ActionType>(occurrence.Get<int>(0));
+    case OptionId::Merge:
+        return ActionType::MergeFont;
     case OptionId::Save:
         return ActionType::SaveFont;
     case OptionId::Exit:
@@ -75,6 +79,8 @@ std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
     case ActionType::CreateFont:
     case ActionType::OpenFont:
         return std::make_shared<ActionOpenFont>(session, kind);
+    case ActionType::MergeFont:
+        return std::make_shared<ActionMergeFont>(session);
     case ActionType::SaveFont:
         return std::make_shared<ActionSaveFile>(session, kind);
     default:
@@ -82,18 +88,19 @@ std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
     }
 }
 
-// Options that this version checks but can't run yet must not look as if they had run.
-void RefuseUnavailable(const std::vector<OptionOccurrence>& occurrences)
+// The options that say how a font is opened speak of the other font where its file asks for them.
+// The character selection is that of the opened font alone.
+ActionMergeFontArgs MergeArgs(const OptionOccurrence& occurrence, const RunOptions& options)
 {
-    for (const OptionOccurrence& occurrence : occurrences) {
-        switch (occurrence.Id()) {
-        case OptionId::Merge:
-            throw CriticalException(u"The option -%1 is not available in this version yet."_s.arg(
-                occurrence.option->longName));
-        default:
-            break;
-        }
-    }
+    ActionMergeFontArgs args{.source = options.open};
+    args.source.path = occurrence.Get<QString>(0);
+    args.source.selection.reset();
+    if (std::holds_alternative<int>(occurrence.values[1]))
+        args.mode = static_cast<MergeMode>(occurrence.Get<int>(1));
+    const auto type = FileTypeOf(args.source.path);
+    if (type && IsScalable(*type))
+        throw CriticalException(u"Unsupported format!"_s, u"Only C, XBF, SIF and BDF allowed."_s);
+    return args;
 }
 
 } // namespace
@@ -138,7 +145,6 @@ void CommandLine::run(int argc, const char* const* argv, Session& session)
     std::vector<OptionOccurrence> occurrences = parser_.parse(ArgumentList(argc, argv));
     if (!parser_.check(occurrences))
         ReorderOccurrences(occurrences);
-    RefuseUnavailable(occurrences);
     options_ = ReadRunOptions(occurrences);
     for (const OptionOccurrence& occurrence : occurrences)
         execute(occurrence, session);
@@ -229,6 +235,10 @@ bool CommandLine::requestAction(Action& action)
             open->Args().path = font.path;
             open->Args().faceIndex = font.faceIndex;
         }
+        return true;
+    }
+    if (auto* const merge = dynamic_cast<ActionMergeFont*>(&action)) {
+        merge->Args() = MergeArgs(*current_, options_);
         return true;
     }
     if (auto* const save = dynamic_cast<ActionSaveFile*>(&action)) {

@@ -11,15 +11,16 @@ void ThrowUnsupportedFormat()
     throw CriticalException(u"Unsupported format!"_s, u"Given file format is not supported!"_s);
 }
 
-std::unique_ptr<Font> FontFile::Read()
-{
-    throw CriticalException(u"Unsupported format!"_s,
-                            u"Reading %1 is not available in this version yet."_s.arg(fileName()));
-}
-
 void FontFile::Write(const Font&)
 {
     ThrowUnsupportedFormat();
+}
+
+qint64 BitmapSize(const CharMetrics& metrics, const FontMetrics& font)
+{
+    const qint64 bytesPerLine = (qint64(font.bitsPerPixel) * metrics.width + 7) / 8;
+    const int rows = IsLegacyFormat(font.format) ? font.height : metrics.height;
+    return bytesPerLine * rows * PlaneCount(font.format);
 }
 
 } // namespace Glyphor

@@ -5,8 +5,16 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 
 namespace Glyphor {
+
+// What the user says about files that do not tell it themselves.
+struct FormatAnswer
+{
+    std::optional<FontFormat> format;
+    std::optional<EncodingType> encoding;
+};
 
 // A file that holds a font. Each kind opens its device itself; a kind that can't be read or written
 // says so with a CriticalException.
@@ -16,13 +24,13 @@ public:
     using File::File;
 
     // Throws a CriticalException where the file doesn't hold a font.
-    virtual std::unique_ptr<Font> Read();
+    virtual std::unique_ptr<Font> Read() = 0;
 
     // Writes the enabled characters, of which there must be some. Throws a CriticalException where
     // the file can't be written.
     virtual void Write(const Font& font);
 
-    // Where set, reading leaves out the characters that are not in it.
+    // Where set, rendering leaves out the characters that are not in it.
     void SetCharacterFilter(const std::optional<CodeSet>& filter) { filter_ = filter; }
 
 protected:
@@ -34,5 +42,9 @@ private:
 
 // Throws the failure of a file kind that can't do what is asked.
 [[noreturn]] void ThrowUnsupportedFormat();
+
+// Bytes that a character with these metrics has in a file, all planes together. Any values give a
+// size, so that it can be compared before the metrics are checked.
+[[nodiscard]] qint64 BitmapSize(const CharMetrics& metrics, const FontMetrics& font);
 
 } // namespace Glyphor

@@ -1,6 +1,7 @@
 #include "files/font_file_c.h"
 
 #include "app/progress.h"
+#include "files/c_font_reader.h"
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
@@ -32,15 +33,6 @@ private:
 
     // Adds "// Code 0041, LATIN CAPITAL LETTER A" and ends the line.
     void EndWithCodeComment(quint16 code);
-
-    template <typename Visit>
-    void ForEachChar(Visit visit) const
-    {
-        for (const CodeRun& run : runs_) {
-            for (int code = run.first; code <= run.last; ++code)
-                visit(static_cast<quint16>(code), *font_.FindChar(static_cast<quint16>(code)));
-        }
-    }
 
     const Font& font_;
     const Encoding& encoding_;
@@ -107,7 +99,7 @@ void FontWriter::Bitmap(quint16 code, const Character& character)
 void FontWriter::Bitmaps()
 {
     Progress progress(u"Saving C file..."_s, count_);
-    ForEachChar([&](quint16 code, const Character& character) {
+    font_.ForEachEnabled([&](quint16 code, const Character& character) {
         Bitmap(code, character);
         progress.Advance();
     });
@@ -131,7 +123,7 @@ void FontWriter::CharInfoTable()
 {
     text_.Line("static GUI_CONST_STORAGE GUI_CHARINFO", tableSuffix_, " ", identifier_,
                "_CharInfo[", Decimal(count_), "] = {");
-    ForEachChar(
+    font_.ForEachEnabled(
         [this](quint16 code, const Character& character) { CharInfoRow(code, character.info); });
     text_.Line("};");
     text_.Line();
@@ -209,6 +201,11 @@ void FontFileC::Compose(const Font& font, const Sink& sink) const
     writer.FontStructure();
     text.IncludeGuardEnd();
     text.EndLine();
+}
+
+std::unique_ptr<Font> FontFileC::Read()
+{
+    return CFontReader(Contents()).Read();
 }
 
 void FontFileC::Write(const Font& font)

@@ -12,6 +12,7 @@ class FontFileC final : public FontFile
 public:
     FontFileC(const QString& path, const CFileOptions& options);
 
+    std::unique_ptr<Font> Read() override;
     void Write(const Font& font) override;
 
     void Compose(const Font& font, const Sink& sink) const;

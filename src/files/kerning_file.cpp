@@ -39,15 +39,12 @@ void WritePairs(CFileText& text, const std::vector<KerningEntry>& pairs)
 std::vector<KerningEntry> EnabledKerning(const Font& font)
 {
     std::vector<KerningEntry> pairs;
-    for (const CodeRun& run : font.EnabledRuns()) {
-        for (int code = run.first; code <= run.last; ++code) {
-            const auto left = static_cast<quint16>(code);
-            for (const KerningPair& pair : font.FindChar(left)->kerning) {
-                if (font.IsEnabled(pair.right))
-                    pairs.push_back({left, pair.right, pair.distance});
-            }
+    font.ForEachEnabled([&](quint16 left, const Character& character) {
+        for (const KerningPair& pair : character.kerning) {
+            if (font.IsEnabled(pair.right))
+                pairs.push_back({left, pair.right, pair.distance});
         }
-    }
+    });
     return pairs;
 }
 

@@ -174,10 +174,39 @@ def hostile(folder):
     font.save(os.path.join(folder, "hostile.ttf"))
 
 
+def bdf_text(properties, characters):
+    lines = ["STARTFONT 2.1", "FONT -test-Bitmap-Bold-R-Normal--12-120-75-75-C-80-ISO10646-1",
+             "SIZE 12 75 75", "FONTBOUNDINGBOX 8 12 0 -3", f"STARTPROPERTIES {len(properties)}"]
+    lines += properties + ["ENDPROPERTIES", f"CHARS {len(characters)}"]
+    for code, advance, box, rows in characters:
+        lines += [f"STARTCHAR c{code}", f"ENCODING {code}", "SWIDTH 500 0", f"DWIDTH {advance} 0",
+                  "BBX " + " ".join(map(str, box)), "BITMAP", *rows, "ENDCHAR"]
+    return "\n".join(lines + ["ENDFONT", ""])
+
+
+def bitmap(folder):
+    """A BDF font: letters, a blank that moves the cursor, one that does not, a code above 16 bits."""
+    properties = ['FAMILY_NAME "Test Bitmap"', 'WEIGHT_NAME "Bold"', 'CHARSET_REGISTRY "ISO10646"',
+                  'CHARSET_ENCODING "1"']
+    characters = [
+        (0x20, 4, (0, 0, 0, 0), []),
+        (0x21, 0, (0, 0, 0, 0), []),
+        (0x41, 8, (7, 9, 0, 0), "10 28 28 44 44 7C 82 82 82".split()),
+        (0x61, 7, (5, 6, 1, 0), "70 08 78 88 88 78".split()),
+        (0x67, 7, (6, 9, -1, -3), "74 8C 84 84 8C 74 04 88 70".split()),
+        (0x1F600, 8, (2, 1, 0, 0), ["C0"]),
+    ]
+    ascents = {"bitmap": ["FONT_ASCENT 9", "FONT_DESCENT 3"], "text_ascent": ['FONT_ASCENT "9"'],
+               "no_ascent": []}
+    for name, ascent in ascents.items():
+        with open(os.path.join(folder, f"{name}.bdf"), "w", encoding="ascii") as out:
+            out.write(bdf_text(properties + ascent, characters))
+
+
 def main():
     folder = sys.argv[1]
     os.makedirs(folder, exist_ok=True)
-    for make in (outlines, variable, collection, strike, hostile):
+    for make in (outlines, variable, collection, strike, hostile, bitmap):
         make(folder)
 
 

@@ -86,7 +86,10 @@ private Q_SLOTS:
             u"Font is empty!\nThe font has no enabled characters that could be saved."_s);
         row("faulty option", Arguments(font) + QStringList{u"-nonsense"_s},
             u"Invalid argument -nonsense entered!"_s);
-        row("later option", Arguments(font) + QStringList{u"-merge"_s, u"b.c"_s}, u"-merge"_s);
+        row("scalable font to merge", Arguments(font) + QStringList{u"-merge"_s, font},
+            u"Only C, XBF, SIF and BDF allowed."_s);
+        row("merging a missing file", Arguments(font) + QStringList{u"-merge"_s, u"none.c"_s},
+            u"Given file does not exist!"_s);
     }
 
     void BadInput()

@@ -1,0 +1,102 @@
+#include "actions/action_merge_font.h"
+
+#include "actions/font_files.h"
+#include "actions/session.h"
+#include "app/user_interface.h"
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString& MergeNotPossible()
+{
+    static const QString title = u"Font merging not possible!"_s;
+    return title;
+}
+
+// A character refers to the metrics of its font, so that it can't move to another one.
+std::unique_ptr<Character> CopyInto(const Font& font, const Character& character)
+{
+    auto copy = std::make_unique<Character>(font.Metrics());
+    const CharInfo& info = character.info;
+    copy->info.Set({info.width, info.height, info.xPos, info.yPos, info.cursorDistance});
+    const QByteArray bytes = character.bitmap->DataAsList();
+    copy->bitmap->ReadData(
+        {reinterpret_cast<const uchar*>(bytes.constData()), std::size_t(bytes.size())});
+    copy->kerning = character.kerning;
+    return copy;
+}
+
+} // namespace
+
+void ActionMergeFont::CheckFonts(const Font& font, const Font& other) const
+{
+    const FontMetrics& own = font.Metrics();
+    const FontMetrics& theirs = other.Metrics();
+    if (own.format != theirs.format)
+        ThrowActionError(
+            MergeNotPossible(),
+            u"The two fonts do not have the same format!\nThe current font with the format \"%1\" "
+            "cannot be merged with the other font of the format \"%2\"."_s.arg(
+                FormatDisplayName(own.format), FormatDisplayName(theirs.format)));
+    if (own.encoding != theirs.encoding)
+        ThrowActionError(MergeNotPossible(),
+                         u"One of the two fonts is encoded in Unicode and the other one in Shift "
+                         "JIS: a code means different characters in them."_s);
+    if (IsLegacyFormat(own.format) && own.height != theirs.height)
+        ThrowActionError(
+            MergeNotPossible(),
+            u"All characters of a font in a legacy format have the font's height: the current font "
+            "is %1 pixels high and the other one %2."_s.arg(QString::number(own.height),
+                                                            QString::number(theirs.height)));
+}
+
+bool ActionMergeFont::Execute()
+{
+    SetRepeat(1);
+    const Font* const font = CurrentFont();
+    if (font == nullptr)
+        ThrowActionError(MergeNotPossible(), u"There is no font to merge with."_s);
+    const std::unique_ptr<Font> other = ReadFont(Args().source);
+    if (other == nullptr)
+        return false;
+    CheckFonts(*font, *other);
+
+    CodeSet incoming = other->EnabledCodes();
+    incoming &= other->ExistingCodes();
+    CodeSet duplicates = incoming;
+    duplicates &= font->ExistingCodes();
+    if (duplicates.Next(0) < CodeSet::Count) {
+        MergeMode mode = Args().mode;
+        if (mode == MergeMode::Ask)
+            mode = static_cast<MergeMode>(CurrentInterface().askMergeMode());
+        if (mode == MergeMode::Keep)
+            incoming -= duplicates;
+        else if (mode != MergeMode::Replace)
+            return false;
+    }
+    for (int code = incoming.Next(0); code < CodeSet::Count; code = incoming.Next(code + 1)) {
+        const auto code16 = static_cast<quint16>(code);
+        characters_[code16] = CopyInto(*font, *other->FindChar(code16));
+    }
+    enabled_ = font->EnabledCodes();
+    enabled_ |= incoming;
+    return !characters_.empty();
+}
+
+void ActionMergeFont::Swap()
+{
+    Font& font = *CurrentFont();
+    for (auto& [code, character] : characters_) {
+        std::unique_ptr<Character> previous = font.RemoveChar(code);
+        font.InsertChar(code, std::move(character));
+        character = std::move(previous);
+    }
+    const CodeSet previous = font.EnabledCodes();
+    font.SetEnabledCodes(enabled_);
+    enabled_ = previous;
+}
+
+} // namespace Glyphor

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "actions/action.h"
+#include "actions/action_open_font.h"
+#include "model/font.h"
+
+#include <map>
+#include <memory>
+
+namespace Glyphor {
+
+// What becomes of characters that both fonts have. The numbers are those of the user interfaces.
+enum class MergeMode { Ask = 0, Replace = 2, Keep = 3 };
+
+struct ActionMergeFontArgs
+{
+    ActionOpenFontArgs source;
+    MergeMode mode = MergeMode::Ask;
+};
+
+// Adds the enabled characters of another font to the font of the session, whose own metrics stay.
+class ActionMergeFont final : public ActionWithArgs<ActionMergeFontArgs>
+{
+public:
+    explicit ActionMergeFont(Session& session) : ActionWithArgs(session, ActionType::MergeFont) {}
+
+    // False where the user gave no answer, or the other font brings nothing new.
+    bool Execute() override;
+    void UndoOnce() override { Swap(); }
+    void RedoOnce() override { Swap(); }
+    [[nodiscard]] QString LogText() const override { return MessageFor().arg(Args().source.path); }
+
+private:
+    void CheckFonts(const Font& font, const Font& other) const;
+    void Swap();
+
+    // The state that the next step puts into the font, by code; null for no character.
+    std::map<quint16, std::unique_ptr<Character>> characters_;
+    CodeSet enabled_;
+};
+
+} // namespace Glyphor

@@ -1,0 +1,444 @@
+#include "files/c_font_reader.h"
+
+#include "app/progress.h"
+#include "app/user_interface.h"
+#include "model/code_text.h"
+
+#include <array>
+#include <cstring>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString ToText(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+constexpr quint8 NoDigit = 0xFF;
+
+constexpr std::array<quint8, 256> MakeHexDigits()
+{
+    std::array<quint8, 256> digits{};
+    digits.fill(NoDigit);
+    for (quint8 value = 0; value < 10; ++value)
+        digits[static_cast<std::size_t>('0' + value)] = value;
+    for (quint8 value = 10; value < 16; ++value) {
+        digits[static_cast<std::size_t>('A' + value - 10)] = value;
+        digits[static_cast<std::size_t>('a' + value - 10)] = value;
+    }
+    return digits;
+}
+
+constexpr std::array<quint8, 256> HexDigits = MakeHexDigits();
+
+quint8 HexDigit(char character)
+{
+    return HexDigits[static_cast<uchar>(character)];
+}
+
+// The value of an element that is written as generated files write it, "0x5A"; -1 for any other.
+int ShortHex(std::string_view element)
+{
+    if (element.size() != 4 || element[0] != '0' || element[1] != 'x')
+        return -1;
+    const int value = HexDigit(element[2]) << 4 | HexDigit(element[3]);
+    return value <= 0xFF ? value : -1;
+}
+
+// "X" at the place of each set bit, from the most significant one on.
+uchar PatternByte(std::string_view element)
+{
+    int value = 0;
+    for (std::size_t index = 0; index < 8; ++index)
+        value = value << 1 | int(index < element.size() && element[index] == 'X');
+    return static_cast<uchar>(value);
+}
+
+// The four hexadecimal digits that end the name of an array; -1 where they are missing.
+int CodeInName(std::string_view name)
+{
+    if (name.size() < 4)
+        return -1;
+    int code = 0;
+    for (const char character : name.substr(name.size() - 4)) {
+        const quint8 digit = HexDigit(character);
+        if (digit == NoDigit)
+            return -1;
+        code = code << 4 | digit;
+    }
+    return code;
+}
+
+// The elements of a list between braces. Only as many are kept as any list of a font has.
+struct ElementList
+{
+    std::array<std::string_view, 6> elements;
+    std::size_t count = 0;
+};
+
+ElementList SplitElements(std::string_view list)
+{
+    ElementList result;
+    for (std::size_t start = 0; start <= list.size(); ++result.count) {
+        const std::size_t comma = std::min(list.find(',', start), list.size());
+        if (result.count < result.elements.size())
+            result.elements[result.count] = Trimmed(list.substr(start, comma - start));
+        start = comma + 1;
+    }
+    return result;
+}
+
+// The identifier that ends an element, behind casts and operators.
+std::string_view LastIdentifier(std::string_view element)
+{
+    std::size_t start = element.size();
+    while (start > 0 && IsIdentifierCharacter(element[start - 1]))
+        --start;
+    return element.substr(start);
+}
+
+} // namespace
+
+std::unique_ptr<Font> CFontReader::Read()
+{
+    const QString name = ReadName();
+    FontFormat format = FontFormat::Unknown;
+    EncodingType encoding = EncodingType::Unicode;
+    ReadType(format, encoding);
+    auto font = std::make_unique<Font>(format, encoding);
+    font->SetName(name);
+    ReadMetrics(*font);
+    const char* const suffix = IsLegacyFormat(format) ? "" : "_EXT";
+    tableType_ = std::string("GUI_CHARINFO") + suffix;
+    blockType_ = std::string("GUI_FONT_PROP") + suffix;
+    ReadTable(font->Metrics());
+    ReadCodes();
+    FindArrays();
+    ReadBitmaps(*font);
+    return font;
+}
+
+// The first line with the type may be a declaration: it has the identifier as well.
+QString CFontReader::ReadName()
+{
+    if (!scanner_.FindText(" GUI_FONT "))
+        scanner_.Fail(u"GUI_FONT structure not found!"_s);
+    scanner_.SkipBlanks();
+    const std::string_view identifier = scanner_.Identifier();
+    if (identifier.empty())
+        scanner_.Fail(u"Array identifier of GUI_FONT structure expected but not found!"_s);
+    const QString name = ToText(identifier);
+    constexpr auto prefix = "GUI_Font"_L1;
+    return name.startsWith(prefix, Qt::CaseInsensitive) ? name.mid(prefix.size()) : name;
+}
+
+void CFontReader::ReadType(FontFormat& format, EncodingType& encoding)
+{
+    constexpr std::string_view prefix = "GUI_FONTTYPE";
+    do {
+        if (!scanner_.FindText(prefix))
+            scanner_.Fail(u"GUI_FONTTYPE not found!"_s);
+    } while (IsIdentifierCharacter(scanner_.Text()[scanner_.Position() - prefix.size() - 1]));
+    const std::size_t start = scanner_.Position() - prefix.size();
+    scanner_.SetPosition(start);
+    FormatFromFontTypeName(ToText(scanner_.Identifier()), format, encoding);
+    if (format == FontFormat::Unknown)
+        scanner_.FailAt(start, u"Invalid font format!"_s);
+}
+
+quint8 CFontReader::ReadMetric()
+{
+    const int value = scanner_.Integer();
+    if (value < 0 || value > CharInfo::MaxSize)
+        scanner_.Fail(u"A font metric of %1 is not possible: 0 to 255 are."_s.arg(value));
+    return static_cast<quint8>(value);
+}
+
+void CFontReader::ReadMetrics(Font& font)
+{
+    font.SetHeight(ReadMetric());
+    constexpr int ignoredCount = 3; // the vertical space and the magnifications
+    for (int ignored = 0; ignored < ignoredCount; ++ignored)
+        (void)scanner_.Integer();
+    font.SetBaseline(ReadMetric());
+    const quint8 lowercase = ReadMetric();
+    font.SetReferenceHeights(lowercase, ReadMetric());
+}
+
+// Moves behind the brace that opens the table; declarations of it have none.
+void CFontReader::FindTable()
+{
+    scanner_.SetPosition(0);
+    while (scanner_.FindWord(tableType_)) {
+        const std::size_t open = scanner_.Text().find_first_of("{;", scanner_.Position());
+        if (open != std::string_view::npos && scanner_.Text()[open] == '{') {
+            scanner_.SetPosition(open + 1);
+            return;
+        }
+    }
+    scanner_.Fail(ToText(tableType_) + u" structure not found!"_s);
+}
+
+void CFontReader::ReadTable(const FontMetrics& font)
+{
+    FindTable();
+    Progress progress(u"Reading character table..."_s, static_cast<int>(scanner_.Text().size()));
+    for (;;) {
+        while (IsWhitespace(scanner_.Current()) || scanner_.Current() == ',')
+            scanner_.SetPosition(scanner_.Position() + 1);
+        if (scanner_.Current() == '}')
+            return;
+        if (scanner_.Current() != '{' || entries_.size() == CodeSet::Count)
+            scanner_.Fail(ToText(tableType_) + u" entry not found!"_s);
+        scanner_.SetPosition(scanner_.Position() + 1);
+        const std::string_view entry = scanner_.Until('}', "\r\n{");
+        if (entry.data() == nullptr)
+            scanner_.Fail(ToText(tableType_) + u" entry did not end in the same line!"_s);
+        ReadEntry(entry, font);
+        progress.SetValue(static_cast<int>(scanner_.Position()));
+    }
+}
+
+int CFontReader::Field(std::string_view element) const
+{
+    if (element.empty())
+        scanner_.Fail(u"Error parsing integer!"_s);
+    return scanner_.Number(element);
+}
+
+void CFontReader::ReadEntry(std::string_view text, const FontMetrics& font)
+{
+    const auto [elements, count] = SplitElements(text);
+    const bool isLegacy = IsLegacyFormat(font.format);
+    if (count != (isLegacy ? 4 : 6))
+        scanner_.FailAt(scanner_.PositionOf(text),
+                        u"Invalid number of elements (%1) found in structure %2!"_s.arg(
+                            QString::number(count), ToText(tableType_)));
+    Entry entry;
+    entry.metrics.width = Field(elements[0]);
+    entry.arrayName = LastIdentifier(elements[count - 1]);
+    if (isLegacy) {
+        entry.metrics.height = font.height;
+        entry.metrics.cursorDistance = Field(elements[1]);
+    } else {
+        entry.metrics.height = Field(elements[1]);
+        entry.metrics.xPos = Field(elements[2]);
+        entry.metrics.yPos = Field(elements[3]);
+        entry.metrics.cursorDistance = Field(elements[4]);
+    }
+    if (!entry.metrics.FitFields())
+        scanner_.FailAt(scanner_.PositionOf(text),
+                        u"No character can have such a size or offset."_s);
+    if (isLegacy && Field(elements[2]) != (font.bitsPerPixel * entry.metrics.width + 7) / 8)
+        scanner_.FailAt(scanner_.PositionOf(text),
+                        u"The bytes per line are not what the width needs."_s);
+    entries_.push_back(entry);
+}
+
+void CFontReader::ReadCodes()
+{
+    scanner_.SetPosition(0);
+    while (scanner_.FindWord(blockType_))
+        ReadBlock();
+    CheckCodes();
+}
+
+// Declarations and casts name the type too; a block has an identifier, "=" and a brace behind it.
+void CFontReader::ReadBlock()
+{
+    scanner_.SkipWhitespace();
+    const std::size_t start = scanner_.Position();
+    if (scanner_.Identifier().empty())
+        return;
+    scanner_.SkipWhitespace();
+    if (scanner_.Current() != '=')
+        return;
+    scanner_.SetPosition(scanner_.Position() + 1);
+    scanner_.SkipWhitespace();
+    if (scanner_.Current() != '{')
+        return;
+    scanner_.SetPosition(scanner_.Position() + 1);
+    const std::string_view text = scanner_.Until('}', "{");
+    const auto [elements, count] = SplitElements(text);
+    if (count < 4)
+        scanner_.FailAt(start, u"Invalid number of elements (%1) found in structure %2!"_s.arg(
+                                   QString::number(count), ToText(blockType_)));
+    const std::string_view address = elements[2];
+    const std::size_t open = address.find('[');
+    const std::size_t close = address.find(']');
+    const bool hasIndex = open != std::string_view::npos && close != std::string_view::npos;
+    const int index =
+        hasIndex && open < close ? Field(Trimmed(address.substr(open + 1, close - open - 1))) : 0;
+    AssignBlock(start, Field(elements[0]), Field(elements[1]), index);
+}
+
+void CFontReader::AssignBlock(std::size_t at, int first, int last, int index)
+{
+    const auto size = static_cast<int>(entries_.size());
+    if (first < 0 || last < first || last >= CodeSet::Count || index < 0 || index >= size ||
+        last - first >= size - index)
+        scanner_.FailAt(at, u"The property block points outside the character table."_s);
+    for (int code = first; code <= last; ++code) {
+        Entry& entry = entries_[static_cast<std::size_t>(index + code - first)];
+        if (entry.code >= 0 || codes_.Test(static_cast<quint16>(code)))
+            scanner_.FailAt(at, u"The property block has characters of another block."_s);
+        entry.code = code;
+        codes_.Set(static_cast<quint16>(code), true);
+    }
+}
+
+// The blocks are what firmware goes by. The names of the arrays should say the same, and stand in
+// for blocks that are missing.
+void CFontReader::CheckCodes()
+{
+    int differences = 0;
+    QString example;
+    for (Entry& entry : entries_) {
+        const int named = CodeInName(entry.arrayName);
+        if (entry.code == named && named >= 0)
+            continue;
+        if (entry.code < 0) {
+            if (named < 0 || codes_.Test(static_cast<quint16>(named)))
+                scanner_.FailAt(scanner_.PositionOf(entry.arrayName),
+                                u"No property block tells the code of the character."_s);
+            entry.code = named;
+            codes_.Set(static_cast<quint16>(named), true);
+        }
+        if (++differences == 1)
+            example = u"0x%1 has the array %2"_s.arg(Hex4Text(static_cast<quint16>(entry.code)),
+                                                     ToText(entry.arrayName));
+    }
+    if (differences > 0)
+        CurrentInterface().warning(
+            u"Codes of characters"_s,
+            u"The property blocks and the array names do not agree on the codes of %1 "
+            "characters (%2). Codes were taken from the blocks where there are any."_s.arg(
+                QString::number(differences), example));
+}
+
+// The name in front of "[...] = {"; empty where something else has the brace.
+std::string_view CFontReader::ArrayNameBefore(std::size_t brace) const
+{
+    const std::string_view text = scanner_.Text();
+    std::size_t at = brace;
+    const auto skipBlanks = [&] {
+        while (at > 0 && IsWhitespace(text[at - 1]))
+            --at;
+    };
+    const auto take = [&](char character) {
+        skipBlanks();
+        const bool found = at > 0 && text[at - 1] == character;
+        at -= found ? 1 : 0;
+        return found;
+    };
+    if (!take('=') || !take(']'))
+        return {};
+    while (at > 0 && (IsIdentifierCharacter(text[at - 1]) || text[at - 1] == ' '))
+        --at;
+    if (!take('['))
+        return {};
+    skipBlanks();
+    return LastIdentifier(text.substr(0, at));
+}
+
+void CFontReader::FindArrays()
+{
+    const std::string_view text = scanner_.Text();
+    std::size_t at = 0;
+    while ((at = text.find('{', at)) != std::string_view::npos) {
+        const std::string_view name = ArrayNameBefore(at);
+        ++at;
+        if (name.empty())
+            continue;
+        const std::size_t close = text.find('}', at);
+        if (close == std::string_view::npos)
+            return;
+        arrays_.push_back({name, text.substr(at, close - at)});
+        at = close;
+    }
+}
+
+const CFontReader::Array* CFontReader::FindArray(std::string_view name, std::size_t expected)
+{
+    if (expected < arrays_.size() && arrays_[expected].name == name)
+        return &arrays_[expected];
+    if (arraysByName_.empty()) {
+        for (const Array& array : arrays_)
+            arraysByName_.emplace(array.name, &array);
+    }
+    const auto found = arraysByName_.find(name);
+    return found == arraysByName_.end() ? nullptr : found->second;
+}
+
+// Takes at most `size` bytes and counts them all.
+void CFontReader::ReadBytes(std::string_view values, int bitsPerPixel, std::size_t size)
+{
+    bytes_.resize(size);
+    byteCount_ = 0;
+    const char* const end = values.data() + values.size();
+    const char* at = values.data();
+    while (at < end) {
+        if (*at == ',' || IsWhitespace(*at)) {
+            ++at;
+            continue;
+        }
+        const auto left = static_cast<std::size_t>(end - at);
+        // Most elements have a known length.
+        const std::size_t usual = bitsPerPixel == 1 ? 8 : 4;
+        std::size_t length = usual < left && at[usual] == ',' ? usual : left;
+        const auto* const comma = static_cast<const char*>(std::memchr(at, ',', length));
+        if (comma != nullptr)
+            length = static_cast<std::size_t>(comma - at);
+        const std::string_view element = Trimmed({at, length});
+        at += length;
+        int value = ShortHex(element);
+        if (value < 0 && element[0] >= '0' && element[0] <= '9')
+            value = scanner_.Number(element);
+        else if (value < 0 && bitsPerPixel == 1)
+            value = PatternByte(element);
+        if (value < 0 || value > 0xFF)
+            scanner_.FailAt(scanner_.PositionOf(element), u"Error parsing integer!"_s);
+        if (byteCount_ < size)
+            bytes_[byteCount_] = static_cast<uchar>(value);
+        ++byteCount_;
+    }
+}
+
+void CFontReader::ReadBitmaps(Font& font)
+{
+    Progress progress(u"Reading characters..."_s, static_cast<int>(entries_.size()));
+    const auto textSize = static_cast<qint64>(scanner_.Text().size());
+    qint64 byteCount = 0;
+    qint64 scanned = 0;
+    std::size_t index = 0;
+    for (const Entry& entry : entries_) {
+        const Array* const array = FindArray(entry.arrayName, index++);
+        if (array == nullptr) {
+            scanner_.SetPosition(scanner_.Text().size());
+            scanner_.Fail(u"File ended before all character data could be read!"_s);
+        }
+        const auto code = static_cast<quint16>(entry.code);
+        const qint64 size = BitmapSize(entry.metrics, font.Metrics());
+        // A byte takes more than one character of text. More of them come from arrays that are
+        // named again and again, which could make a huge font of a small file.
+        constexpr qint64 shares = 16;
+        byteCount += size;
+        scanned += qint64(array->values.size());
+        if (byteCount > textSize || scanned > shares * textSize)
+            scanner_.FailAt(scanner_.PositionOf(entry.arrayName),
+                            u"The array belongs to too many characters."_s);
+        ReadBytes(array->values, font.Metrics().bitsPerPixel, static_cast<std::size_t>(size));
+        if (byteCount_ != static_cast<std::size_t>(size))
+            scanner_.FailAt(
+                scanner_.PositionOf(array->values),
+                u"Invalid amount of bytes read from character bitmap 0x%1"_s.arg(Hex4Text(code)));
+        font.AddChar(code, entry.metrics, bytes_);
+        progress.Advance();
+    }
+}
+
+} // namespace Glyphor

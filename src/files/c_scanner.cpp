@@ -1,0 +1,196 @@
+#include "files/c_scanner.h"
+
+#include "app/critical_exception.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool IsLineEnd(char character)
+{
+    return character == '\n' || character == '\r';
+}
+
+void Blank(char* first, const char* last)
+{
+    std::replace_if(
+        first, const_cast<char*>(last), [](char character) { return !IsLineEnd(character); }, ' ');
+}
+
+// The end of the comment that begins at `start`, or `start` where none does.
+char* CommentEnd(char* start, char* end)
+{
+    if (end - start < 2)
+        return start;
+    if (start[1] == '/')
+        return std::find_if(start, end, IsLineEnd);
+    if (start[1] != '*')
+        return start;
+    constexpr std::string_view mark = "*/";
+    char* const close = std::search(start + 2, end, mark.begin(), mark.end());
+    return close == end ? end : close + mark.size();
+}
+
+void BlankComments(QByteArray& text)
+{
+    char* const end = text.data() + text.size();
+    char* at = text.data();
+    while ((at = static_cast<char*>(std::memchr(at, '/', static_cast<std::size_t>(end - at))))) {
+        char* const commentEnd = CommentEnd(at, end);
+        Blank(at, commentEnd);
+        at = std::max(at + 1, commentEnd);
+    }
+}
+
+void BlankTabs(QByteArray& text)
+{
+    for (const char character : {'\t', '\v', '\f'})
+        text.replace(character, ' ');
+}
+
+} // namespace
+
+std::string_view Trimmed(std::string_view text)
+{
+    while (!text.empty() && IsWhitespace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && IsWhitespace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+bool ParseInteger(std::string_view text, int& value)
+{
+    const bool isNegative = text.starts_with('-');
+    std::string_view digits = text.substr(isNegative ? 1 : 0);
+    int base = 10;
+    if (digits.starts_with("0x") || digits.starts_with("0X")) {
+        base = 16;
+        digits.remove_prefix(2);
+    } else if (digits.size() > 1 && digits.starts_with('0')) {
+        base = 8;
+    }
+    while (!digits.empty() && std::strchr("uUlL", digits.back()) != nullptr)
+        digits.remove_suffix(1);
+    if (digits.starts_with('-'))
+        return false;
+    const char* const end = digits.data() + digits.size();
+    const auto result = std::from_chars(digits.data(), end, value, base);
+    value = isNegative ? -value : value;
+    return result.ec == std::errc() && result.ptr == end;
+}
+
+CScanner::CScanner(QByteArray text) : text_(std::move(text))
+{
+    BlankComments(text_);
+    BlankTabs(text_);
+    view_ = {text_.constData(), static_cast<std::size_t>(text_.size())};
+}
+
+bool CScanner::FindText(std::string_view text)
+{
+    const std::size_t found = view_.find(text, position_);
+    if (found == std::string_view::npos)
+        return false;
+    position_ = found + text.size();
+    return true;
+}
+
+bool CScanner::FindWord(std::string_view word)
+{
+    const std::size_t before = position_;
+    while (FindText(word)) {
+        const std::size_t start = position_ - word.size();
+        const bool beginsWord = start == 0 || !IsIdentifierCharacter(view_[start - 1]);
+        if (beginsWord && !IsIdentifierCharacter(Current()))
+            return true;
+    }
+    position_ = before;
+    return false;
+}
+
+std::string_view CScanner::Identifier()
+{
+    const std::size_t start = position_;
+    while (IsIdentifierCharacter(Current()))
+        ++position_;
+    return view_.substr(start, position_ - start);
+}
+
+void CScanner::SkipBlanks()
+{
+    while (Current() == ' ')
+        ++position_;
+}
+
+void CScanner::SkipWhitespace()
+{
+    while (IsWhitespace(Current()))
+        ++position_;
+}
+
+int CScanner::Integer()
+{
+    const auto startsInteger = [](char character) {
+        return (character >= '0' && character <= '9') || character == '-';
+    };
+    char previous = position_ > 0 ? view_[position_ - 1] : ' ';
+    while (!(startsInteger(Current()) && (IsWhitespace(previous) || previous == ','))) {
+        if (position_ >= view_.size())
+            Fail(u"Integer not found!"_s);
+        previous = view_[position_++];
+    }
+    const std::size_t start = position_;
+    while (Current() == '-' || IsIdentifierCharacter(Current()))
+        ++position_;
+    int value = 0;
+    if (!ParseInteger(view_.substr(start, position_ - start), value))
+        FailAt(start, u"Error parsing integer!"_s);
+    return value;
+}
+
+std::string_view CScanner::Until(char end, std::string_view limits)
+{
+    std::size_t at = position_;
+    while (at < view_.size() && view_[at] != end &&
+           limits.find(view_[at]) == std::string_view::npos)
+        ++at;
+    if (at >= view_.size() || view_[at] != end)
+        return {};
+    const std::string_view part = view_.substr(position_, at - position_);
+    position_ = at + 1;
+    return part;
+}
+
+int CScanner::Number(std::string_view element) const
+{
+    int value = 0;
+    if (!ParseInteger(element, value))
+        FailAt(PositionOf(element), u"Error parsing integer!"_s);
+    return value;
+}
+
+void CScanner::FailAt(std::size_t position, const QString& message) const
+{
+    int line = 1;
+    std::size_t lineStart = 0;
+    for (std::size_t at = 0; at < std::min(position, view_.size()); ++at) {
+        const bool isPair = view_[at] == '\r' && at + 1 < view_.size() && view_[at + 1] == '\n';
+        if (IsLineEnd(view_[at]) && !isPair) {
+            ++line;
+            lineStart = at + 1;
+        }
+    }
+    throw CriticalException(
+        u"Error reading C file!"_s,
+        message + u"\n\nError occured in:\nLine: %1\nColumn: %2"_s.arg(line).arg(position -
+                                                                                 lineStart + 1));
+}
+
+} // namespace Glyphor

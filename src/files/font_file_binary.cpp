@@ -1,0 +1,153 @@
+#include "files/font_file_binary.h"
+
+#include "app/critical_exception.h"
+#include "model/code_text.h"
+
+#include <QFileInfo>
+#include <QtEndian>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum HeaderOffset : qint64 {
+    HeightOffset = 4,
+    BaselineOffset = 8,
+    LowercaseOffset = 10,
+    CapitalOffset = 12
+};
+
+template <typename Number>
+void AppendNumber(QByteArray& bytes, Number value)
+{
+    const Number ordered = qToLittleEndian(value);
+    bytes.append(reinterpret_cast<const char*>(&ordered), sizeof ordered);
+}
+
+} // namespace
+
+bool LittleEndianBytes::Holds(qint64 offset, qint64 size) const
+{
+    return offset >= 0 && size >= 0 && offset <= Size() && size <= Size() - offset;
+}
+
+quint8 LittleEndianBytes::U8(qint64 offset) const
+{
+    return Holds(offset, 1) ? static_cast<quint8>(bytes_[offset]) : quint8(0);
+}
+
+quint16 LittleEndianBytes::U16(qint64 offset) const
+{
+    if (!Holds(offset, 2))
+        return U8(offset);
+    return qFromLittleEndian<quint16>(bytes_.data() + offset);
+}
+
+qint16 LittleEndianBytes::I16(qint64 offset) const
+{
+    return static_cast<qint16>(U16(offset));
+}
+
+quint32 LittleEndianBytes::U32(qint64 offset) const
+{
+    return U16(offset) | quint32(U16(offset + 2)) << 16;
+}
+
+QByteArrayView LittleEndianBytes::Part(qint64 offset, qint64 size) const
+{
+    return bytes_.sliced(offset, size);
+}
+
+FontFileBinary::FontFileBinary(const QString& path, const FormatAnswer& answer)
+    : FontFile(path), answer_(answer)
+{}
+
+void FontFileBinary::Append16(QByteArray& bytes, int value)
+{
+    AppendNumber(bytes, static_cast<quint16>(value));
+}
+
+void FontFileBinary::Append32(QByteArray& bytes, quint32 value)
+{
+    AppendNumber(bytes, value);
+}
+
+void FontFileBinary::AppendHeader(QByteArray& bytes, QByteArrayView magic,
+                                  const FontMetrics& metrics)
+{
+    bytes.append(magic);
+    for (const int value : {metrics.height, metrics.height, metrics.baseline,
+                            metrics.lowercaseHeight, metrics.capitalHeight})
+        Append16(bytes, value);
+}
+
+void FontFileBinary::AppendTrailer(QByteArray& bytes, QByteArrayView name, FontFormat format)
+{
+    bytes.append(name);
+    bytes.append(static_cast<char>(format));
+}
+
+std::unique_ptr<Font> FontFileBinary::MakeFont(const LittleEndianBytes& bytes, FontFormat format,
+                                               EncodingType encoding) const
+{
+    const auto metric = [&](HeaderOffset offset) {
+        const int value = bytes.U16(offset);
+        if (value > CharInfo::MaxSize)
+            Fail(u"Its header has a height of %1 pixels; 255 are possible."_s.arg(value));
+        return static_cast<quint8>(value);
+    };
+    auto font = std::make_unique<Font>(format, encoding);
+    font->SetName(QFileInfo(fileName()).completeBaseName());
+    font->SetHeight(metric(HeightOffset));
+    font->SetBaseline(metric(BaselineOffset));
+    font->SetReferenceHeights(metric(LowercaseOffset), metric(CapitalOffset));
+    return font;
+}
+
+std::optional<FontFormat> FontFileBinary::TrailerFormat(const LittleEndianBytes& bytes,
+                                                        QByteArrayView name) const
+{
+    const qint64 offset = bytes.Size() - TrailerSize;
+    if (offset < 0 || bytes.Part(offset, name.size()) != name)
+        return std::nullopt;
+    const int format = bytes.U8(bytes.Size() - 1);
+    if (format >= FormatCount)
+        Fail(u"It ends with the number %1, which is no font format."_s.arg(format));
+    return static_cast<FontFormat>(format);
+}
+
+void FontFileBinary::AddChar(Font& font, quint16 code, const CharMetrics& metrics,
+                             const LittleEndianBytes& bytes, qint64 offset) const
+{
+    if (!metrics.FitFields())
+        FailAtChar(code, u"has a size or an offset that no character can have"_s);
+    const qint64 size = BitmapSize(metrics, font.Metrics());
+    if (!bytes.Holds(offset, size))
+        FailAtChar(code, u"has pixels outside the file"_s);
+    const QByteArrayView part = bytes.Part(offset, size);
+    font.AddChar(code, metrics,
+                 {reinterpret_cast<const uchar*>(part.data()), std::size_t(part.size())});
+}
+
+void FontFileBinary::CheckBytesPerLine(quint16 code, int bytesPerLine, int width,
+                                       const Font& font) const
+{
+    if (bytesPerLine != (font.Metrics().bitsPerPixel * width + 7) / 8)
+        FailAtChar(code, u"has rows of %1 bytes, which is not what its width of %2 needs"_s.arg(
+                             QString::number(bytesPerLine), QString::number(width)));
+}
+
+void FontFileBinary::Fail(const QString& reason) const
+{
+    throw CriticalException(FailureTitle(),
+                            u"The file %1 can't be used as a font. %2"_s.arg(fileName(), reason));
+}
+
+void FontFileBinary::FailAtChar(quint16 code, const QString& reason) const
+{
+    Fail(u"The character 0x%1 %2."_s.arg(Hex4Text(code), reason));
+}
+
+} // namespace Glyphor

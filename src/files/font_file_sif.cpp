@@ -1,0 +1,184 @@
+#include "files/font_file_sif.h"
+
+#include "app/critical_exception.h"
+#include "app/progress.h"
+#include "app/user_interface.h"
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QByteArrayView Magic = "GUIP";
+constexpr QByteArrayView TrailerName = "SIF";
+
+constexpr qint64 RunCountOffset = 14;
+constexpr qint64 HeaderSize = 16;
+constexpr qint64 RunSize = 4;
+
+constexpr int RecordSize(FontFormat format)
+{
+    return IsLegacyFormat(format) ? 12 : 16;
+}
+
+} // namespace
+
+QString FontFileSIF::FailureTitle() const
+{
+    return u"Reading of SIF file failed!"_s;
+}
+
+std::vector<CodeRun> FontFileSIF::ReadRuns(const LittleEndianBytes& bytes) const
+{
+    const int count = bytes.U16(RunCountOffset);
+    if (!bytes.Holds(HeaderSize, RunSize * count))
+        Fail(u"It is too short for its %1 ranges of characters."_s.arg(count));
+    std::vector<CodeRun> runs;
+    int next = 0;
+    for (int index = 0; index < count; ++index) {
+        const qint64 at = HeaderSize + RunSize * index;
+        const CodeRun run = {bytes.U16(at), bytes.U16(at + 2)};
+        if (run.first < next || run.last < run.first)
+            Fail(u"Its ranges of characters are not in ascending order."_s);
+        next = run.last + 1;
+        runs.push_back(run);
+    }
+    return runs;
+}
+
+FontFileSIF::CharRecord FontFileSIF::ReadRecord(const LittleEndianBytes& bytes, qint64 at,
+                                                quint16 code, const FontMetrics& font)
+{
+    const auto field = [&](int index) { return bytes.U16(at + 2 * index); };
+    const auto offset = [&](int index) { return bytes.I16(at + 2 * index); };
+    CharRecord record = {code, {}, 0, 0};
+    record.metrics.width = field(0);
+    if (IsLegacyFormat(font.format)) {
+        record.metrics.height = font.height;
+        record.metrics.cursorDistance = field(1);
+        record.bytesPerLine = field(2);
+        record.offset = bytes.U32(at + 8);
+    } else {
+        record.metrics.height = field(1);
+        record.metrics.xPos = offset(2);
+        record.metrics.yPos = offset(3);
+        record.metrics.cursorDistance = field(4);
+        record.offset = bytes.U32(at + 12);
+    }
+    return record;
+}
+
+std::vector<FontFileSIF::CharRecord> FontFileSIF::ReadRecords(const LittleEndianBytes& bytes,
+                                                              const std::vector<CodeRun>& runs,
+                                                              const FontMetrics& font)
+{
+    std::vector<CharRecord> records;
+    qint64 at = HeaderSize + RunSize * qint64(runs.size());
+    for (const CodeRun& run : runs) {
+        for (int code = run.first; code <= run.last; ++code) {
+            records.push_back(ReadRecord(bytes, at, static_cast<quint16>(code), font));
+            at += RecordSize(font.format);
+        }
+    }
+    return records;
+}
+
+// A format that was told wrongly shows here: its records have another size.
+void FontFileSIF::CheckSize(const LittleEndianBytes& bytes, qint64 expected, bool isAnswered) const
+{
+    if (bytes.Size() == expected)
+        return;
+    const QString sizes =
+        u"File size of input file: %1 bytes.\r\nFile size that was expected: %2 "
+        "bytes.\r\n\r\n"_s.arg(QString::number(bytes.Size()), QString::number(expected));
+    if (isAnswered)
+        throw CriticalException(
+            FailureTitle(),
+            sizes + u"The previously entered font format may not be correct or the file may be "
+                    "corrupted."_s);
+    Fail(u"It may be corrupted.\r\n"_s + sizes.trimmed());
+}
+
+void FontFileSIF::AddChars(const LittleEndianBytes& bytes, const std::vector<CharRecord>& records,
+                           qint64 bitmapOffset, Font& font) const
+{
+    Progress progress(u"Reading characters..."_s, static_cast<int>(records.size()));
+    for (const CharRecord& record : records) {
+        if (IsLegacyFormat(font.Metrics().format))
+            CheckBytesPerLine(record.code, record.bytesPerLine, record.metrics.width, font);
+        if (record.offset != bitmapOffset)
+            FailAtChar(record.code, u"points to other pixels than its own"_s);
+        AddChar(font, record.code, record.metrics, bytes, bitmapOffset);
+        bitmapOffset += BitmapSize(record.metrics, font.Metrics());
+        progress.Advance();
+    }
+}
+
+std::unique_ptr<Font> FontFileSIF::Read()
+{
+    const QByteArray contents = Contents();
+    const LittleEndianBytes bytes(contents);
+    if (!contents.startsWith(Magic) || bytes.Size() < HeaderSize)
+        Fail(u"It does not begin with \"GUIP\" and a header."_s);
+    std::optional<FontFormat> format = TrailerFormat(bytes, TrailerName);
+    const bool isAnswered = !format;
+    if (!format)
+        format = Answer().format;
+    if (!format) {
+        const int answer = CurrentInterface().askFontFormat();
+        if (answer < 0 || answer >= FormatCount)
+            return nullptr;
+        format = static_cast<FontFormat>(answer);
+    }
+    auto font = MakeFont(bytes, *format, Answer().encoding.value_or(EncodingType::Unicode));
+    const std::vector<CodeRun> runs = ReadRuns(bytes);
+    const std::vector<CharRecord> records = ReadRecords(bytes, runs, font->Metrics());
+    const qint64 bitmapOffset =
+        HeaderSize + RunSize * qint64(runs.size()) + RecordSize(*format) * qint64(records.size());
+    qint64 expected = bitmapOffset + (isAnswered ? 0 : TrailerSize);
+    for (const CharRecord& record : records)
+        expected += BitmapSize(record.metrics, font->Metrics());
+    CheckSize(bytes, expected, isAnswered);
+    AddChars(bytes, records, bitmapOffset, *font);
+    return font;
+}
+
+void FontFileSIF::Write(const Font& font)
+{
+    const FontMetrics& metrics = font.Metrics();
+    const std::vector<CodeRun> runs = font.EnabledRuns();
+    qint64 count = 0;
+    for (const CodeRun& run : runs)
+        count += run.Size();
+
+    QByteArray bytes;
+    AppendHeader(bytes, Magic, metrics);
+    Append16(bytes, static_cast<int>(runs.size()));
+    for (const CodeRun& run : runs) {
+        Append16(bytes, run.first);
+        Append16(bytes, run.last);
+    }
+    auto offset = static_cast<quint32>(bytes.size() + RecordSize(metrics.format) * count);
+    font.ForEachEnabled([&](quint16, const Character& character) {
+        const CharInfo& info = character.info;
+        if (IsLegacyFormat(metrics.format)) {
+            for (const int value :
+                 {int(info.width), int(info.cursorDistance), int(info.bytesPerLine), 0})
+                Append16(bytes, value);
+        } else {
+            for (const int value : {int(info.width), int(info.height), int(info.xPos),
+                                    int(info.yPos), int(info.cursorDistance), 0})
+                Append16(bytes, value);
+        }
+        Append32(bytes, offset);
+        offset += static_cast<quint32>(font.CharDataWidth(character) * info.Rows());
+    });
+    bytes.reserve(qsizetype(offset) + TrailerSize);
+    font.ForEachEnabled(
+        [&](quint16, const Character& character) { character.bitmap->Write(bytes); });
+    AppendTrailer(bytes, TrailerName, metrics.format);
+    Replace(bytes);
+}
+
+} // namespace Glyphor

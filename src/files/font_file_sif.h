@@ -1,0 +1,42 @@
+#pragma once
+
+#include "files/font_file_binary.h"
+
+namespace Glyphor {
+
+// A system independent font, which firmware uses straight from memory: a header, the runs of
+// consecutive codes, a record for each character, and their pixels. Files of an older kind do not
+// say their format; the answer or else the user tells it.
+class FontFileSIF final : public FontFileBinary
+{
+public:
+    using FontFileBinary::FontFileBinary;
+
+    // Null where the user gave no answer.
+    std::unique_ptr<Font> Read() override;
+    void Write(const Font& font) override;
+
+protected:
+    [[nodiscard]] QString FailureTitle() const override;
+
+private:
+    struct CharRecord
+    {
+        quint16 code;
+        CharMetrics metrics;
+        int bytesPerLine; // of plain records; they are checked
+        qint64 offset;    // of the bitmap
+    };
+
+    [[nodiscard]] std::vector<CodeRun> ReadRuns(const LittleEndianBytes& bytes) const;
+    [[nodiscard]] static CharRecord ReadRecord(const LittleEndianBytes& bytes, qint64 at,
+                                               quint16 code, const FontMetrics& font);
+    [[nodiscard]] static std::vector<CharRecord> ReadRecords(const LittleEndianBytes& bytes,
+                                                             const std::vector<CodeRun>& runs,
+                                                             const FontMetrics& font);
+    void CheckSize(const LittleEndianBytes& bytes, qint64 expected, bool isAnswered) const;
+    void AddChars(const LittleEndianBytes& bytes, const std::vector<CharRecord>& records,
+                  qint64 bitmapOffset, Font& font) const;
+};
+
+} // namespace Glyphor

@@ -1,0 +1,169 @@
+#include "files/font_file_xbf.h"
+
+#include "app/progress.h"
+#include "model/code_text.h"
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QByteArrayView Magic = "GUIX";
+constexpr QByteArrayView TrailerName = "XBF";
+constexpr QByteArrayView ToolTag = "KSTX";
+
+constexpr qint64 FirstCodeOffset = 14;
+constexpr qint64 LastCodeOffset = 16;
+constexpr qint64 HeaderSize = 18;
+constexpr qint64 EntrySize = 6;
+
+// Longer tool texts are not looked for.
+constexpr int ToolTextLimit = 512;
+
+constexpr int RecordSize(FontFormat format)
+{
+    return IsLegacyFormat(format) ? 4 : 12;
+}
+
+// In front of the trailer there may be a text, a tag and the length of the text. The tag is not
+// compared: firmware tools do not do so either.
+QString ReadToolText(const LittleEndianBytes& bytes)
+{
+    const int length = bytes.U16(bytes.Size() - 6);
+    const qint64 offset = bytes.Size() - 10 - length;
+    if (length >= ToolTextLimit || !bytes.Holds(offset, length))
+        return {};
+    return QString::fromLatin1(bytes.Part(offset, length));
+}
+
+} // namespace
+
+QString FontFileXBF::FailureTitle() const
+{
+    return u"Error reading XBF file!"_s;
+}
+
+std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBytes& bytes) const
+{
+    const int first = bytes.U16(FirstCodeOffset);
+    const int last = bytes.U16(LastCodeOffset);
+    const qint64 dataOffset = HeaderSize + EntrySize * (last - first + 1);
+    const qint64 dataEnd = bytes.Size() - TrailerSize;
+    if (last < first || dataOffset > dataEnd)
+        Fail(u"It is too short for its table of the codes 0x%1 to 0x%2."_s.arg(
+            Hex4Text(static_cast<quint16>(first)), Hex4Text(static_cast<quint16>(last))));
+    std::vector<TableEntry> entries;
+    qint64 total = 0;
+    for (int code = first; code <= last; ++code) {
+        const qint64 at = HeaderSize + EntrySize * (code - first);
+        const TableEntry entry = {static_cast<quint16>(code), bytes.U32(at), bytes.U16(at + 4)};
+        if (entry.offset == 0)
+            continue;
+        if (entry.offset < dataOffset || entry.offset + entry.size > dataEnd)
+            FailAtChar(entry.code, u"lies outside the file"_s);
+        total += entry.size;
+        entries.push_back(entry);
+    }
+    // Also keeps a small file from becoming a huge font.
+    if (total > dataEnd - dataOffset)
+        Fail(u"Its characters overlap."_s);
+    return entries;
+}
+
+void FontFileXBF::ReadChar(const LittleEndianBytes& bytes, const TableEntry& entry,
+                           Font& font) const
+{
+    const FontFormat format = font.Metrics().format;
+    if (entry.size < RecordSize(format))
+        FailAtChar(entry.code, u"is too small"_s);
+    const auto field = [&](int index) { return bytes.U16(entry.offset + 2 * index); };
+    const auto offset = [&](int index) { return bytes.I16(entry.offset + 2 * index); };
+    CharMetrics metrics;
+    int bytesPerLine = 0;
+    if (IsLegacyFormat(format)) {
+        metrics.width = field(0);
+        metrics.height = font.Metrics().height;
+        metrics.cursorDistance = metrics.width;
+        bytesPerLine = field(1);
+    } else {
+        metrics.cursorDistance = field(0);
+        metrics.width = field(1);
+        metrics.height = field(2);
+        metrics.xPos = offset(3);
+        metrics.yPos = offset(4);
+        bytesPerLine = field(5);
+    }
+    CheckBytesPerLine(entry.code, bytesPerLine, metrics.width, font);
+    if (RecordSize(format) + BitmapSize(metrics, font.Metrics()) != entry.size)
+        FailAtChar(entry.code, u"has a size in the table that is not the size of its pixels"_s);
+    AddChar(font, entry.code, metrics, bytes, entry.offset + RecordSize(format));
+}
+
+std::unique_ptr<Font> FontFileXBF::Read()
+{
+    const QByteArray contents = Contents();
+    const LittleEndianBytes bytes(contents);
+    if (!contents.startsWith(Magic))
+        Fail(u"It does not begin with \"GUIX\"."_s);
+    const std::optional<FontFormat> format = TrailerFormat(bytes, TrailerName);
+    if (!format || bytes.Size() < HeaderSize + TrailerSize)
+        Fail(
+            u"It does not end with \"XBF\" and the font's format, so some of it may be missing."_s);
+    auto font = MakeFont(bytes, *format, Answer().encoding.value_or(EncodingType::Unicode));
+    font->SetToolText(ReadToolText(bytes));
+    const std::vector<TableEntry> entries = ReadTable(bytes);
+    Progress progress(u"Reading characters..."_s, static_cast<int>(entries.size()));
+    for (const TableEntry& entry : entries) {
+        ReadChar(bytes, entry, *font);
+        progress.Advance();
+    }
+    return font;
+}
+
+void FontFileXBF::Write(const Font& font)
+{
+    const FontMetrics& metrics = font.Metrics();
+    const std::vector<CodeRun> runs = font.EnabledRuns();
+    const int first = runs.front().first;
+    const int last = runs.back().last;
+    const auto sizeOf = [&](const Character& character) {
+        return RecordSize(metrics.format) + font.CharDataWidth(character) * character.info.Rows();
+    };
+
+    QByteArray bytes;
+    AppendHeader(bytes, Magic, metrics);
+    Append16(bytes, first);
+    Append16(bytes, last);
+    auto offset = static_cast<quint32>(HeaderSize + EntrySize * (last - first + 1));
+    for (int code = first; code <= last; ++code) {
+        const bool isEnabled = font.IsEnabled(static_cast<quint16>(code));
+        const int size = isEnabled ? sizeOf(*font.FindChar(static_cast<quint16>(code))) : 0;
+        Append32(bytes, isEnabled ? offset : 0);
+        Append16(bytes, size);
+        offset += static_cast<quint16>(size);
+    }
+    bytes.reserve(qsizetype(offset) + 1024);
+    font.ForEachEnabled([&](quint16, const Character& character) {
+        const CharInfo& info = character.info;
+        if (IsLegacyFormat(metrics.format)) {
+            for (const int value : {int(info.width), int(info.bytesPerLine)})
+                Append16(bytes, value);
+        } else {
+            for (const int value : {int(info.cursorDistance), int(info.width), int(info.height),
+                                    int(info.xPos), int(info.yPos), int(info.bytesPerLine)})
+                Append16(bytes, value);
+        }
+        character.bitmap->Write(bytes);
+    });
+    AppendTrailer(bytes, TrailerName, metrics.format);
+    if (const QByteArray text = font.ToolText().toLatin1(); !text.isEmpty()) {
+        bytes.append(text);
+        bytes.append(ToolTag);
+        Append16(bytes, static_cast<int>(text.size()));
+        AppendTrailer(bytes, TrailerName, metrics.format);
+    }
+    Replace(bytes);
+}
+
+} // namespace Glyphor

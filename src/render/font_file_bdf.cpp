@@ -1,0 +1,82 @@
+#include "render/font_file_bdf.h"
+
+#include "app/critical_exception.h"
+#include "app/progress.h"
+
+#include FT_BDF_H
+#include FT_FONT_FORMATS_H
+
+#include <algorithm>
+#include <cstring>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The suffix alone says that a file is of this kind; FreeType opens any.
+bool IsBdf(const FreeTypeFace& face)
+{
+    const char* const format = face.IsOpen() ? FT_Get_Font_Format(face.Handle()) : nullptr;
+    return format != nullptr && std::strcmp(format, "BDF") == 0;
+}
+
+} // namespace
+
+int FreeTypeFace_BDF::Ascent() const
+{
+    BDF_PropertyRec property{};
+    const bool isInteger = IsOpen() &&
+                           FT_Get_BDF_Property(Handle(), "FONT_ASCENT", &property) == 0 &&
+                           property.type == BDF_PROPERTY_TYPE_INTEGER;
+    return isInteger ? property.u.integer : -1;
+}
+
+// Some releases of FreeType know it before a glyph is loaded, others only from then on.
+int FreeTypeFace_BDF::VerticalAdvance() const
+{
+    const FT_Pos& advance = Handle()->glyph->metrics.vertAdvance;
+    if (advance == 0)
+        (void)FT_Load_Glyph(Handle(), 0, FT_LOAD_DEFAULT);
+    return static_cast<int>(advance >> 6);
+}
+
+FontFileBDF::FontFileBDF(const QString& path) : FontFileFT(path), face_(path, 0, FreeTypeLibrary())
+{
+    if (!IsBdf(face_))
+        return;
+    if (face_.Handle()->num_charmaps > 0)
+        FT_Set_Charmap(face_.Handle(), face_.Handle()->charmaps[0]);
+    face_.SetMonochrome(true);
+}
+
+std::unique_ptr<Font> FontFileBDF::Read()
+{
+    if (!IsBdf(face_))
+        throw CriticalException(u"Error reading file"_s, u"BDF font file could not be read!"_s);
+    auto font = std::make_unique<Font>(FontFormat::Standard, EncodingType::Unicode);
+    font->SetName(u"%1 %2"_s.arg(face_.FamilyName(), face_.StyleName()));
+    font->SetHeight(static_cast<quint8>(face_.VerticalAdvance()));
+    font->SetBaseline(static_cast<quint8>(face_.Ascent()));
+    MeasureReferenceHeights(face_, *font);
+    RenderCodes(*font);
+    WarnOfMisfits();
+    return font;
+}
+
+void FontFileBDF::RenderCodes(Font& font)
+{
+    Progress progress(u"Loading font..."_s, CodeSet::Count - 1);
+    RenderedGlyph glyph;
+    quint8 maxWidth = 0;
+    for (int index = 0; index < CodeSet::Count; ++index) {
+        progress.SetValue(index);
+        const auto code = static_cast<quint16>(index);
+        if (face_.RenderGlyph(code, glyph) && AddGlyph(font, code, glyph))
+            maxWidth = std::max(maxWidth, font.FindChar(code)->info.width);
+    }
+    font.SetMaxWidth(maxWidth);
+}
+
+} // namespace Glyphor
