@@ -50,8 +50,8 @@ class ActionFont final : public Action
 public:
     ActionFont(Session& session, ActionType type) : Action(session, type) {}
 
-    // Cuts the count where the font's height, or an offset, reaches its limit. False where it stands there
-    // already.
+    // Cuts the count where the font's height, or an offset, reaches its limit. False where it
+    // stands there already.
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;

@@ -1,5 +1,6 @@
 #include "actions/edit_actions.h"
 #include "actions/session.h"
+#include "support/sample_font.h"
 #include "support/test_main.h"
 
 #include <QTest>
@@ -29,27 +30,6 @@ std::unique_ptr<Font> MakeFont(FontFormat format)
     return font;
 }
 
-// Everything about a font that an edit may change.
-QByteArray Snapshot(const Font& font)
-{
-    const FontMetrics& metrics = font.Metrics();
-    QByteArray text = QByteArray::number(metrics.height) + ' ' +
-                      QByteArray::number(metrics.verticalSpace) + ' ' +
-                      QByteArray::number(metrics.baseline);
-    const CodeSet& codes = font.ExistingCodes();
-    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1)) {
-        const Character& character = *font.FindChar(quint16(code));
-        text += '\n' + QByteArray::number(code);
-        for (const int value :
-             {int(character.info.width), int(character.info.height), int(character.info.xPos),
-              int(character.info.yPos), int(character.info.cursorDistance),
-              int(font.IsEnabled(quint16(code)))})
-            text += ' ' + QByteArray::number(value);
-        text += ' ' + character.bitmap->DataAsList().toHex();
-    }
-    return text;
-}
-
 } // namespace
 
 class TestEditActions : public QObject
@@ -75,13 +55,13 @@ private Q_SLOTS:
         Session session;
         session.ReplaceFont(MakeFont(FontFormat(format)), {});
         const Font& font = *session.CurrentFont();
-        const QByteArray before = Snapshot(font);
+        const QByteArray before = Test::Snapshot(font);
         const QByteArray lastBefore = before.mid(before.lastIndexOf('\n'));
         const auto action = std::make_shared<ActionChar>(session, ActionType(type));
         action->Args() = {'A', 'C'};
         action->SetRepeat(2);
         QVERIFY(action->Run());
-        const QByteArray after = Snapshot(font);
+        const QByteArray after = Test::Snapshot(font);
         const bool isRowEdit = type == 10 || type == 11 || type == 24 || type == 25;
         const bool isRefused = isRowEdit && IsLegacyFormat(FontFormat(format));
         QCOMPARE(after == before, isRefused);
@@ -90,16 +70,16 @@ private Q_SLOTS:
                  QStringList(2, u"[Range 0x0041-0x0043]: "_s + LogMessage(ActionType(type))));
 
         session.Stack().undo();
-        const QByteArray undone = Snapshot(font);
+        const QByteArray undone = Test::Snapshot(font);
         if (type < 22)
             QCOMPARE(undone, before);
         QCOMPARE(font.FindChar('A')->info.width, quint8(5));
         QCOMPARE(font.FindChar('A')->info.height, quint8(4));
         QVERIFY(session.Stack().LogLines().isEmpty());
         session.Stack().redo();
-        QCOMPARE(Snapshot(font), after);
+        QCOMPARE(Test::Snapshot(font), after);
         session.Stack().undo();
-        QCOMPARE(Snapshot(font), undone);
+        QCOMPARE(Test::Snapshot(font), undone);
     }
 
     void RefusedStepsAreNotReverted()
@@ -158,7 +138,7 @@ private Q_SLOTS:
         Session session;
         session.ReplaceFont(MakeFont(FontFormat(format)), {});
         const Font& font = *session.CurrentFont();
-        const QByteArray before = Snapshot(font);
+        const QByteArray before = Test::Snapshot(font);
         const auto action = std::make_shared<ActionFont>(session, ActionType(type));
         action->SetRepeat(count);
         QVERIFY(action->Run());
@@ -168,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(session.Stack().LogLines().contains(LogMessage(ActionType(type))));
         session.Stack().undo();
         QCOMPARE(int(font.Metrics().height), 4);
-        QCOMPARE(Snapshot(font) == before, sign > 0 || !IsLegacyFormat(FontFormat(format)));
+        QCOMPARE(Test::Snapshot(font) == before, sign > 0 || !IsLegacyFormat(FontFormat(format)));
     }
 
     void FontAtItsLimit()
@@ -263,7 +243,7 @@ private Q_SLOTS:
         session.ReplaceFont(MakeFont(FontFormat::AA2), {});
         Font& font = *session.CurrentFont();
         font.SetEnabled('B', 'B', false);
-        const QByteArray before = Snapshot(font);
+        const QByteArray before = Test::Snapshot(font);
         const auto action = std::make_shared<ActionCharState>(session, ActionType(type));
         if (type != 32)
             action->Args() = {.first = quint16(first), .last = quint16(last), .previousCodes = {}};
@@ -279,7 +259,7 @@ private Q_SLOTS:
             if (log.isEmpty())
                 return;
             session.Stack().undo();
-            QCOMPARE(Snapshot(font), before);
+            QCOMPARE(Test::Snapshot(font), before);
             session.Stack().redo();
         }
         CodeSet others;
@@ -292,14 +272,14 @@ private Q_SLOTS:
         Session session;
         session.ReplaceFont(MakeFont(FontFormat::Framed), {});
         Font& font = *session.CurrentFont();
-        const QByteArray before = Snapshot(font);
+        const QByteArray before = Test::Snapshot(font);
         CodeSet codes;
         codes.SetRange('B', 'Z', true);
         QVERIFY(std::make_shared<ActionCharDelete>(session, codes)->Run());
         QVERIFY(font.FindChar('B') == nullptr && !font.EnabledCodes().Test('D'));
         QCOMPARE(session.Stack().LogLines(), QStringList{u"[Range 0x0042-0x0044]: Deleted."_s});
         session.Stack().undo();
-        QCOMPARE(Snapshot(font), before);
+        QCOMPARE(Test::Snapshot(font), before);
         session.Stack().redo();
         QVERIFY(!std::make_shared<ActionCharDelete>(session, codes)->Run());
     }

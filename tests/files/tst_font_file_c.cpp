@@ -2,6 +2,7 @@
 #include "files/font_file_c.h"
 #include "model/code_text.h"
 #include "support/c_files.h"
+#include "support/sample_font.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -11,39 +12,6 @@ namespace Glyphor {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Characters in two runs and three areas, an empty one among them, no two alike.
-std::unique_ptr<Font> MakeFont(FontFormat format, EncodingType encoding = EncodingType::Unicode)
-{
-    auto font = std::make_unique<Font>(format, encoding);
-    font->SetName(u"8 Tests/Plain 1.5"_s);
-    font->SetHeight(3);
-    font->SetBaseline(2);
-    font->SetReferenceHeights(1, 2);
-    int width = 1;
-    for (const quint16 code : std::initializer_list<quint16>{0x41, 0x42, 0x7F, 0x80, 0x81}) {
-        Character& character = font->AddChar(code);
-        character.info.height = 2;
-        character.info.SetWidth(quint8(width));
-        character.info.xPos = qint8(-width);
-        character.info.yPos = qint8(width - 2);
-        character.info.cursorDistance = quint8(width + 1);
-        QByteArray data(character.info.bytesPerLine * character.info.Rows(), '\0');
-        character.bitmap->AssignData(data);
-        for (int x = 0; x < width; ++x)
-            character.bitmap->SetPixelIndex(x, x % 2, width + x);
-        width += 4;
-    }
-    if (!IsLegacyFormat(format)) {
-        Character& empty = font->AddChar(0x43);
-        empty.info.SetWidth(0);
-        empty.info.height = 0;
-        empty.bitmap->AdjustData();
-    }
-    font->AddChar(0x7E);
-    font->SetEnabled(0x7E, 0x7E, false);
-    return font;
-}
 
 QByteArray DumpBytes(const Character& character)
 {
@@ -151,14 +119,14 @@ private Q_SLOTS:
         if (encoding == 0)
             options.actionLog = {u"[Font]: Opened font file: a/*/\u202e\nb.ttf"_s,
                                  QString(70, u'x')};
-        const auto font = MakeFont(FontFormat(format), EncodingType(encoding));
+        const auto font = Test::MakeSampleFont(FontFormat(format), EncodingType(encoding));
         const QByteArray text = Compose(*font, u"some/dir/"_s + fileName, options);
         Test::CompareWithGolden(text, fileName);
     }
 
     void LineEndingsAndLog()
     {
-        const auto font = MakeFont(FontFormat::AA4);
+        const auto font = Test::MakeSampleFont(FontFormat::AA4);
         const QByteArray lines = Compose(*font, u"a.c"_s, {"\n", std::nullopt});
         const QByteArray log = Compose(*font, u"a.c"_s, {"\n", QStringList()});
         QVERIFY(!lines.contains('\r'));
@@ -180,7 +148,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, name);
         QFETCH(const bool, hasGuard);
-        const QByteArray text = Compose(*MakeFont(FontFormat::AA2), name, {});
+        const QByteArray text = Compose(*Test::MakeSampleFont(FontFormat::AA2), name, {});
         QCOMPARE(text.contains("#ifndef _8_TESTS_PLAIN_1_H\r\n#define _8_TESTS_PLAIN_1_H\r\n\r\n"),
                  hasGuard);
         QCOMPARE(text.contains("};\r\n\r\n#endif // _8_TESTS_PLAIN_1_H\r\n\r\n/****"), hasGuard);
@@ -201,7 +169,7 @@ private Q_SLOTS:
         QFETCH(const int, format);
         QFETCH(const QString, fileName);
         const QTemporaryDir folder;
-        const auto font = MakeFont(FontFormat(format));
+        const auto font = Test::MakeSampleFont(FontFormat(format));
         FontFileC(folder.filePath(fileName), {}).Write(*font);
 
         const QString program = folder.filePath(u"dump"_s);

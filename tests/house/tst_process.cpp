@@ -137,6 +137,35 @@ private Q_SLOTS:
         }
     }
 
+    void MergesAndAsks()
+    {
+        const QString font = Test::FontPath("strike.ttf");
+        const QStringList letters = {u"-enable"_s, u"0x41-0x61"_s};
+        QVERIFY(Run(Arguments(font, u"one.sif"_s) + letters).output.contains(u"Saved"_s));
+        QVERIFY(Run(Arguments(font, u"two.c"_s) + QStringList{u"-e"_s, u"0x56"_s})
+                    .output.contains(u"Saved"_s));
+        const auto merge = [this](const QStringList& more) {
+            return Run(QStringList{u"one.sif"_s, u"-hide"_s, u"-merge"_s, u"two.c"_s} + more +
+                       QStringList{u"-save"_s, u"out.c"_s, u"-verbose"_s})
+                .output;
+        };
+        QCOMPARE(merge({u"replaceold"_s}), u"Opened font file: one.sif\n"
+                                           "[Font]: Font merged with: two.c\n"
+                                           "Saved font file: out.c\n"_s);
+        // Nobody answers the questions here.
+        const QString question = merge({});
+        QVERIFY2(
+            question.contains(u"Duplicate characters have been found in both fonts. How should "
+                              "duplicate characters be handled?\nPlease select a merge mode "
+                              "that should be used:\n"_s) &&
+                question.endsWith(u"Standard input ended before a merge mode was "
+                                  "selected.\n"_s),
+            qUtf8Printable(question));
+        Test::WriteAll(File(u"one.sif"_s), Test::ReadAll(File(u"one.sif"_s)).chopped(4));
+        QVERIFY(merge({u"KEEP"_s}).startsWith(u"Font format not found in the file.\n"_s));
+        QVERIFY(merge({u"KEEP"_s, u"-format"_s, u"AA4"_s}).contains(u"Saved font file: out.c"_s));
+    }
+
     void PatternsSelect()
     {
         Test::WriteAll(File(u"one.txt"_s), QByteArray::fromHex("fffe 4100 9c4e"));

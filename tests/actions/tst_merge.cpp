@@ -1,0 +1,246 @@
+#include "actions/action_merge_font.h"
+#include "actions/action_save_file.h"
+#include "actions/session.h"
+#include "support/sample_font.h"
+#include "support/test_main.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MergeInterface final : public Test::RecordingInterface
+{
+public:
+    int askMergeMode() override
+    {
+        ++questions;
+        return answer;
+    }
+
+    int answer = 0;
+    int questions = 0;
+};
+
+// Every character is filled with the index.
+std::unique_ptr<Font> MakeFilled(const QByteArray& codes, int index,
+                                 FontFormat format = FontFormat::Framed)
+{
+    auto font = std::make_unique<Font>(format, EncodingType::Unicode);
+    font->SetHeight(4);
+    for (const char code : codes) {
+        Character& character = font->AddChar(quint16(code));
+        character.info.SetWidth(3);
+        character.bitmap->AdjustData();
+        character.bitmap->SetPixelIndex(index, 0, 1);
+    }
+    return font;
+}
+
+ActionOpenFontArgs Source(const QString& path)
+{
+    ActionOpenFontArgs args;
+    args.path = path;
+    return args;
+}
+
+} // namespace
+
+class TestMerge : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+
+    [[nodiscard]] QString Path(const char* name) const
+    {
+        return folder_.filePath(QString::fromUtf8(name));
+    }
+
+    static void SaveAs(Session& session, const QString& path)
+    {
+        const auto save = std::make_shared<ActionSaveFile>(session, ActionType::SaveFont);
+        save->Args().path = path;
+        save->Run();
+    }
+
+    void WriteFont(std::unique_ptr<Font> font, const QString& path) const
+    {
+        Session session;
+        session.ReplaceFont(std::move(font), {});
+        SaveAs(session, path);
+    }
+
+    [[nodiscard]] static std::unique_ptr<Font> Open(const QString& path)
+    {
+        return ReadFont(Source(path));
+    }
+
+private Q_SLOTS:
+    void Merges_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QByteArray>("other");
+        QTest::addColumn<bool>("merged");
+        QTest::addColumn<int>("questions");
+        QTest::addColumn<QByteArray>("indices"); // of A, B, C, D; "-" for none
+        QTest::newRow("replace") << 2 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0111");
+        QTest::newRow("keep") << 3 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0011");
+        QTest::newRow("ask, replace")
+            << 0 << 2 << QByteArray("BC") << true << 1 << QByteArray("011-");
+        QTest::newRow("ask, keep") << 0 << 3 << QByteArray("BC") << true << 1 << QByteArray("001-");
+        QTest::newRow("ask, cancel")
+            << 0 << 0 << QByteArray("BC") << false << 1 << QByteArray("00--");
+        QTest::newRow("no duplicates")
+            << 0 << 0 << QByteArray("CD") << true << 0 << QByteArray("0011");
+        QTest::newRow("nothing new")
+            << 3 << 0 << QByteArray("AB") << false << 0 << QByteArray("00--");
+    }
+
+    void Merges()
+    {
+        QFETCH(const int, mode);
+        QFETCH(const int, answer);
+        QFETCH(const QByteArray, other);
+        QFETCH(const bool, merged);
+        QFETCH(const int, questions);
+        QFETCH(const QByteArray, indices);
+        MergeInterface interface;
+        interface.answer = answer;
+        WriteFont(MakeFilled(other, 1), Path("other.sif"));
+        Session session;
+        session.ReplaceFont(MakeFilled("AB", 0), {});
+        const Font& font = *session.CurrentFont();
+        const QByteArray before = Test::Snapshot(font);
+
+        const auto action = std::make_shared<ActionMergeFont>(session);
+        action->Args() = {Source(Path("other.sif")), MergeMode(mode)};
+        QCOMPARE(action->Run(), merged);
+        QCOMPARE(interface.questions, questions);
+        for (int code = 'A'; code <= 'D'; ++code) {
+            const Character* const character = font.FindChar(quint16(code));
+            const char index = indices[code - 'A'];
+            QCOMPARE(character == nullptr, index == '-');
+            if (character != nullptr)
+                QCOMPARE(character->bitmap->GetPixelIndex(index - '0', 0), 1);
+        }
+        if (!merged) {
+            QCOMPARE(session.Stack().count(), 0);
+            return;
+        }
+        QCOMPARE(session.Stack().LogLines(),
+                 QStringList{u"[Font]: Font merged with: "_s + Path("other.sif")});
+        const QByteArray after = Test::Snapshot(font);
+        session.Stack().undo();
+        QCOMPARE(Test::Snapshot(font), before);
+        session.Stack().redo();
+        QCOMPARE(Test::Snapshot(font), after);
+    }
+
+    void Refusals_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("height");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("format") << int(FontFormat::AA2) << 4
+                                << u"The two fonts do not have the same format!\nThe current font "
+                                   "with the format \"%1\" cannot be merged with the other font of "
+                                   "the format \"%2\"."_s.arg(FormatDisplayName(FontFormat::Legacy),
+                                                              FormatDisplayName(FontFormat::AA2));
+        QTest::newRow("height") << int(FontFormat::Legacy) << 5
+                                << u"All characters of a font in a legacy format have the font's "
+                                   "height: the current font is 4 pixels high and the other one "
+                                   "5."_s;
+    }
+
+    void Refusals()
+    {
+        QFETCH(const int, format);
+        QFETCH(const int, height);
+        QFETCH(const QString, text);
+        auto other = std::make_unique<Font>(FontFormat(format), EncodingType::Unicode);
+        other->SetHeight(quint8(height));
+        other->AddChar('C');
+        WriteFont(std::move(other), Path("other.c"));
+        Session session;
+        session.ReplaceFont(MakeFilled("AB", 0, FontFormat::Legacy), {});
+        const QByteArray before = Test::Snapshot(*session.CurrentFont());
+        const auto action = std::make_shared<ActionMergeFont>(session);
+        action->Args().source.path = Path("other.c");
+        QCOMPARE(Test::FailureOf([&] { action->Run(); }), u"Font merging not possible!: "_s + text);
+        QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
+    }
+
+    // From every kind to every other one, and back.
+    void KindsKeepTheFont_data()
+    {
+        QTest::addColumn<int>("format");
+        for (int format = 0; format < FormatCount; ++format)
+            QTest::addRow("format %d", format) << format;
+    }
+
+    void KindsKeepTheFont()
+    {
+        QFETCH(const int, format);
+        QStringList kinds = {Path("a.c"), Path("a.sif")};
+        if (!IsLegacyFormat(FontFormat(format)))
+            kinds.append(Path("a.xbf"));
+        const auto sample = Test::MakeSampleFont(FontFormat(format));
+        const QByteArray expected = Test::Snapshot(*sample, true);
+        for (const QString& from : kinds) {
+            WriteFont(Test::MakeSampleFont(FontFormat(format)), from);
+            const QByteArray bytes = Test::ReadAll(from);
+            for (const QString& to : kinds) {
+                WriteFont(Open(from), to);
+                QCOMPARE(Test::Snapshot(*Open(to)), expected);
+                // Pixels may look like a text at the end of an XBF file, which is then kept.
+                if (to == from && !from.endsWith(u".c"_s))
+                    QVERIFY(Test::ReadAll(to).startsWith(bytes));
+            }
+        }
+    }
+
+    void OpeningFiles()
+    {
+        Test::RecordingInterface interface;
+        WriteFont(MakeFilled("ABC", 0, FontFormat::AA2), Path("font.sif"));
+        CodeSet selection;
+        selection.SetRange('B', 'Z', true);
+        ActionOpenFontArgs args = Source(Path("font.sif"));
+        args.format = FontFormat::AA4;
+        args.selection = selection;
+        const auto font = ReadFont(args);
+        QCOMPARE(font->Metrics().format, FontFormat::AA2);
+        QCOMPARE(interface.warnings.size(), 1); // the format is that of the file
+        QVERIFY(!font->IsEnabled('A') && font->FindChar('A') != nullptr);
+        QVERIFY(font->IsEnabled('C') && font->FindChar('D') == nullptr);
+
+        const auto failure = [](const ActionOpenFontArgs& bad) {
+            return Test::FailureOf([&bad] { (void)ReadFont(bad); });
+        };
+        args.format.reset();
+        args.encoding = EncodingType::ShiftJis;
+        QVERIFY(failure(args).startsWith(u"Invalid combination of encoding and font format!"_s));
+        auto flat = MakeFilled("A", 0);
+        flat->SetHeight(0);
+        WriteFont(std::move(flat), Path("flat.xbf"));
+        QCOMPARE(failure(Source(Path("flat.xbf"))),
+                 u"Font creation failed!: Font has invalid metrics."_s);
+        // Over the file that was opened.
+        Session session;
+        session.ReplaceFont(Open(Path("font.sif")), Path("font.sif"));
+        SaveAs(session, Path("font.sif"));
+        QVERIFY(Open(Path("font.sif"))->FindChar('C') != nullptr);
+    }
+};
+
+GLYPHOR_TEST(TestMerge)
+
+} // namespace Glyphor
+
+#include "tst_merge.moc"

@@ -1,0 +1,93 @@
+#include "render/font_file_bdf.h"
+#include "support/sample_font.h"
+#include "support/test_main.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+class TestBdf : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Reads()
+    {
+        const auto font = FontFileBDF(Test::FontPath("bitmap.bdf")).Read();
+        const FontMetrics& metrics = font->Metrics();
+        QCOMPARE(font->Name(), u"Test Bitmap Bold"_s);
+        QCOMPARE(metrics.format, FontFormat::Standard);
+        QCOMPARE(metrics.encoding, EncodingType::Unicode);
+        QCOMPARE(int(metrics.height), 12);
+        QCOMPARE(int(metrics.verticalSpace), 12);
+        QCOMPARE(int(metrics.baseline), 9);
+        QCOMPARE(int(metrics.capitalHeight), 9);
+        QCOMPARE(int(metrics.lowercaseHeight), 6);
+        QCOMPARE(int(metrics.maxWidth), 7);
+        QVERIFY(!font->HasKerning());
+
+        // A blank that does not move the cursor is no character; codes beyond 16 bits are not met.
+        QList<int> codes;
+        font->ForEachEnabled([&codes](quint16 code, const Character&) { codes.append(code); });
+        QCOMPARE(codes, (QList<int>{' ', 'A', 'a', 'g'}));
+        QCOMPARE(int(font->FindChar(' ')->info.cursorDistance), 4);
+        const Character& letter = *font->FindChar('g');
+        QCOMPARE(int(letter.info.width), 6);
+        QCOMPARE(int(letter.info.height), 9);
+        QCOMPARE(int(letter.info.xPos), -1);
+        QCOMPARE(int(letter.info.yPos), 3);
+        QCOMPARE(int(letter.info.cursorDistance), 7);
+        QCOMPARE(letter.bitmap->Data(), QByteArray::fromHex("748c84848c74048870"));
+    }
+
+    void BaselineIsTheProperty_data()
+    {
+        QTest::addColumn<QByteArray>("from");
+        QTest::addColumn<QByteArray>("to");
+        QTest::addColumn<int>("baseline");
+        const QByteArray ascent = "FONT_ASCENT 9\n";
+        QTest::newRow("there") << ascent << ascent << 9;
+        QTest::newRow("another value") << ascent << QByteArray("FONT_ASCENT 200\n") << 200;
+        QTest::newRow("from the box") << ascent << QByteArray("OTHER 1\n") << 9;
+        QTest::newRow("more than a byte") << ascent << QByteArray("FONT_ASCENT 258\n") << 2;
+    }
+
+    void BaselineIsTheProperty()
+    {
+        QFETCH(const QByteArray, from);
+        QFETCH(const QByteArray, to);
+        QFETCH(const int, baseline);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"font.bdf"_s);
+        Test::WriteAll(path, Test::ReadAll(Test::FontPath("bitmap.bdf")).replace(from, to));
+        QCOMPARE(int(FontFileBDF(path).Read()->Metrics().baseline), baseline);
+    }
+
+    void Refuses_data()
+    {
+        QTest::addColumn<QByteArray>("contents");
+        const QByteArray whole = Test::ReadAll(Test::FontPath("bitmap.bdf"));
+        QTest::newRow("text") << QByteArray("no font\n");
+        QTest::newRow("cut") << whole.left(whole.indexOf("STARTCHAR"));
+        QTest::newRow("another kind") << Test::ReadAll(Test::FontPath("outlines.ttf"));
+    }
+
+    void Refuses()
+    {
+        QFETCH(const QByteArray, contents);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"font.bdf"_s);
+        Test::WriteAll(path, contents);
+        QCOMPARE(Test::FailureOf([&path] { (void)FontFileBDF(path).Read(); }),
+                 u"Error reading file: BDF font file could not be read!"_s);
+    }
+};
+
+GLYPHOR_TEST(TestBdf)
+
+} // namespace Glyphor
+
+#include "tst_bdf.moc"
