@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QtEndian>
 
+#include <array>
+
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
@@ -18,13 +20,6 @@ enum HeaderOffset : qint64 {
     LowercaseOffset = 10,
     CapitalOffset = 12
 };
-
-template <typename Number>
-void AppendNumber(QByteArray& bytes, Number value)
-{
-    const Number ordered = qToLittleEndian(value);
-    bytes.append(reinterpret_cast<const char*>(&ordered), sizeof ordered);
-}
 
 } // namespace
 
@@ -64,23 +59,37 @@ FontFileBinary::FontFileBinary(const QString& path, const FormatAnswer& answer)
     : FontFile(path), answer_(answer)
 {}
 
-void FontFileBinary::Append16(QByteArray& bytes, int value)
+// One append for all of them: fonts have tens of thousands of records.
+void FontFileBinary::Append16(QByteArray& bytes, std::initializer_list<int> values)
 {
-    AppendNumber(bytes, static_cast<quint16>(value));
+    std::array<uchar, 16> ordered{};
+    uchar* to = ordered.data();
+    for (const int value : values) {
+        qToLittleEndian(static_cast<quint16>(value), to);
+        to += sizeof(quint16);
+    }
+    bytes.append(reinterpret_cast<const char*>(ordered.data()), to - ordered.data());
 }
 
 void FontFileBinary::Append32(QByteArray& bytes, quint32 value)
 {
-    AppendNumber(bytes, value);
+    Append16(bytes, {static_cast<int>(value & 0xFFFF), static_cast<int>(value >> 16)});
 }
 
 void FontFileBinary::AppendHeader(QByteArray& bytes, QByteArrayView magic,
                                   const FontMetrics& metrics)
 {
     bytes.append(magic);
-    for (const int value : {metrics.height, metrics.height, metrics.baseline,
-                            metrics.lowercaseHeight, metrics.capitalHeight})
-        Append16(bytes, value);
+    Append16(bytes, {metrics.height, metrics.height, metrics.baseline, metrics.lowercaseHeight,
+                     metrics.capitalHeight});
+}
+
+void FontFileBinary::PassOn(QByteArray& bytes, const Sink& sink, qsizetype enough)
+{
+    if (bytes.size() < enough)
+        return;
+    sink(bytes);
+    bytes.resize(0);
 }
 
 void FontFileBinary::AppendTrailer(QByteArray& bytes, QByteArrayView name, FontFormat format)

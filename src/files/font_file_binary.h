@@ -2,7 +2,7 @@
 
 #include "files/font_file.h"
 
-#include <array>
+#include <initializer_list>
 #include <vector>
 
 namespace Glyphor {
@@ -42,8 +42,13 @@ protected:
     // The magic and the metrics that all kinds begin with.
     static void AppendHeader(QByteArray& bytes, QByteArrayView magic, const FontMetrics& metrics);
     static void AppendTrailer(QByteArray& bytes, QByteArrayView name, FontFormat format);
-    static void Append16(QByteArray& bytes, int value);
+
+    // Numbers of 16 bits, eight at most, and one of 32 bits.
+    static void Append16(QByteArray& bytes, std::initializer_list<int> values);
     static void Append32(QByteArray& bytes, quint32 value);
+
+    // Hands the bytes over where there are enough of them to be worth it, and keeps their room.
+    static void PassOn(QByteArray& bytes, const Sink& sink, qsizetype enough = 0x10000);
 
     // An empty font with the metrics of the header.
     [[nodiscard]] std::unique_ptr<Font> MakeFont(const LittleEndianBytes& bytes, FontFormat format,

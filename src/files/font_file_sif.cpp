@@ -144,41 +144,45 @@ std::unique_ptr<Font> FontFileSIF::Read()
     return font;
 }
 
-void FontFileSIF::Write(const Font& font)
+void FontFileSIF::AppendRecords(const Font& font, quint32 bitmapOffset, QByteArray& bytes,
+                                const Sink& sink)
 {
-    const FontMetrics& metrics = font.Metrics();
-    const std::vector<CodeRun> runs = font.EnabledRuns();
-    qint64 count = 0;
-    for (const CodeRun& run : runs)
-        count += run.Size();
-
-    QByteArray bytes;
-    AppendHeader(bytes, Magic, metrics);
-    Append16(bytes, static_cast<int>(runs.size()));
-    for (const CodeRun& run : runs) {
-        Append16(bytes, run.first);
-        Append16(bytes, run.last);
-    }
-    auto offset = static_cast<quint32>(bytes.size() + RecordSize(metrics.format) * count);
+    const bool isLegacy = IsLegacyFormat(font.Metrics().format);
     font.ForEachEnabled([&](quint16, const Character& character) {
         const CharInfo& info = character.info;
-        if (IsLegacyFormat(metrics.format)) {
-            for (const int value :
-                 {int(info.width), int(info.cursorDistance), int(info.bytesPerLine), 0})
-                Append16(bytes, value);
-        } else {
-            for (const int value : {int(info.width), int(info.height), int(info.xPos),
-                                    int(info.yPos), int(info.cursorDistance), 0})
-                Append16(bytes, value);
-        }
-        Append32(bytes, offset);
-        offset += static_cast<quint32>(font.CharDataWidth(character) * info.Rows());
+        if (isLegacy)
+            Append16(bytes, {info.width, info.cursorDistance, info.bytesPerLine, 0});
+        else
+            Append16(bytes,
+                     {info.width, info.height, info.xPos, info.yPos, info.cursorDistance, 0});
+        Append32(bytes, bitmapOffset);
+        bitmapOffset += static_cast<quint32>(font.CharDataWidth(character) * info.Rows());
+        PassOn(bytes, sink);
     });
-    bytes.reserve(qsizetype(offset) + TrailerSize);
-    font.ForEachEnabled(
-        [&](quint16, const Character& character) { character.bitmap->Write(bytes); });
-    AppendTrailer(bytes, TrailerName, metrics.format);
-    Replace(bytes);
+}
+
+void FontFileSIF::Write(const Font& font)
+{
+    const FontFormat format = font.Metrics().format;
+    Replace([&](const Sink& sink) {
+        QByteArray bytes;
+        AppendHeader(bytes, Magic, font.Metrics());
+        const std::vector<CodeRun> runs = font.EnabledRuns();
+        Append16(bytes, {static_cast<int>(runs.size())});
+        qint64 count = 0;
+        for (const CodeRun& run : runs) {
+            Append16(bytes, {run.first, run.last});
+            count += run.Size();
+        }
+        const qint64 bitmapOffset = bytes.size() + RecordSize(format) * count;
+        AppendRecords(font, static_cast<quint32>(bitmapOffset), bytes, sink);
+        font.ForEachEnabled([&](quint16, const Character& character) {
+            character.bitmap->Write(bytes);
+            PassOn(bytes, sink);
+        });
+        AppendTrailer(bytes, TrailerName, format);
+        PassOn(bytes, sink, 0);
+    });
 }
 
 } // namespace Glyphor

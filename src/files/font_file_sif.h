@@ -28,6 +28,10 @@ private:
         qint64 offset;    // of the bitmap
     };
 
+    // The records of the characters, whose bitmaps follow from the offset on.
+    static void AppendRecords(const Font& font, quint32 bitmapOffset, QByteArray& bytes,
+                              const Sink& sink);
+
     [[nodiscard]] std::vector<CodeRun> ReadRuns(const LittleEndianBytes& bytes) const;
     [[nodiscard]] static CharRecord ReadRecord(const LittleEndianBytes& bytes, qint64 at,
                                                quint16 code, const FontMetrics& font);

@@ -121,49 +121,56 @@ std::unique_ptr<Font> FontFileXBF::Read()
     return font;
 }
 
-void FontFileXBF::Write(const Font& font)
+void FontFileXBF::AppendTable(const Font& font, QByteArray& bytes, const Sink& sink)
 {
-    const FontMetrics& metrics = font.Metrics();
     const std::vector<CodeRun> runs = font.EnabledRuns();
     const int first = runs.front().first;
     const int last = runs.back().last;
-    const auto sizeOf = [&](const Character& character) {
-        return RecordSize(metrics.format) + font.CharDataWidth(character) * character.info.Rows();
-    };
-
-    QByteArray bytes;
-    AppendHeader(bytes, Magic, metrics);
-    Append16(bytes, first);
-    Append16(bytes, last);
+    Append16(bytes, {first, last});
+    const int recordSize = RecordSize(font.Metrics().format);
     auto offset = static_cast<quint32>(HeaderSize + EntrySize * (last - first + 1));
-    for (int code = first; code <= last; ++code) {
-        const bool isEnabled = font.IsEnabled(static_cast<quint16>(code));
-        const int size = isEnabled ? sizeOf(*font.FindChar(static_cast<quint16>(code))) : 0;
-        Append32(bytes, isEnabled ? offset : 0);
-        Append16(bytes, size);
+    int next = first;
+    font.ForEachEnabled([&](quint16 code, const Character& character) {
+        bytes.append(EntrySize * (code - next), '\0');
+        next = code + 1;
+        const int size = recordSize + font.CharDataWidth(character) * character.info.Rows();
+        Append16(bytes, {int(offset & 0xFFFF), int(offset >> 16), size});
         offset += static_cast<quint16>(size);
-    }
-    bytes.reserve(qsizetype(offset) + 1024);
-    font.ForEachEnabled([&](quint16, const Character& character) {
-        const CharInfo& info = character.info;
-        if (IsLegacyFormat(metrics.format)) {
-            for (const int value : {int(info.width), int(info.bytesPerLine)})
-                Append16(bytes, value);
-        } else {
-            for (const int value : {int(info.cursorDistance), int(info.width), int(info.height),
-                                    int(info.xPos), int(info.yPos), int(info.bytesPerLine)})
-                Append16(bytes, value);
-        }
-        character.bitmap->Write(bytes);
+        PassOn(bytes, sink);
     });
-    AppendTrailer(bytes, TrailerName, metrics.format);
-    if (const QByteArray text = font.ToolText().toLatin1(); !text.isEmpty()) {
-        bytes.append(text);
-        bytes.append(ToolTag);
-        Append16(bytes, static_cast<int>(text.size()));
-        AppendTrailer(bytes, TrailerName, metrics.format);
-    }
-    Replace(bytes);
+}
+
+void FontFileXBF::AppendChar(const Character& character, QByteArray& bytes)
+{
+    const CharInfo& info = character.info;
+    if (IsLegacyFormat(info.font.format))
+        Append16(bytes, {info.width, info.bytesPerLine});
+    else
+        Append16(bytes, {info.cursorDistance, info.width, info.height, info.xPos, info.yPos,
+                         info.bytesPerLine});
+    character.bitmap->Write(bytes);
+}
+
+void FontFileXBF::Write(const Font& font)
+{
+    const FontFormat format = font.Metrics().format;
+    Replace([&](const Sink& sink) {
+        QByteArray bytes;
+        AppendHeader(bytes, Magic, font.Metrics());
+        AppendTable(font, bytes, sink);
+        font.ForEachEnabled([&](quint16, const Character& character) {
+            AppendChar(character, bytes);
+            PassOn(bytes, sink);
+        });
+        AppendTrailer(bytes, TrailerName, format);
+        if (const QByteArray text = font.ToolText().toLatin1(); !text.isEmpty()) {
+            bytes.append(text);
+            bytes.append(ToolTag);
+            Append16(bytes, {static_cast<int>(text.size())});
+            AppendTrailer(bytes, TrailerName, format);
+        }
+        PassOn(bytes, sink, 0);
+    });
 }
 
 } // namespace Glyphor

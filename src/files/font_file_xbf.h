@@ -26,6 +26,9 @@ private:
         qint64 size;
     };
 
+    static void AppendTable(const Font& font, QByteArray& bytes, const Sink& sink);
+    static void AppendChar(const Character& character, QByteArray& bytes);
+
     [[nodiscard]] std::vector<TableEntry> ReadTable(const LittleEndianBytes& bytes) const;
     void ReadChar(const LittleEndianBytes& bytes, const TableEntry& entry, Font& font) const;
 };
