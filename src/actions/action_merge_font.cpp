@@ -60,14 +60,13 @@ bool ActionMergeFont::Execute()
     if (font == nullptr)
         ThrowActionError(MergeNotPossible(), u"There is no font to merge with."_s);
     const std::unique_ptr<Font> other = ReadFont(Args().source);
-    if (other == nullptr)
-        return false;
     CheckFonts(*font, *other);
 
     CodeSet incoming = other->EnabledCodes();
     incoming &= other->ExistingCodes();
     CodeSet duplicates = incoming;
     duplicates &= font->ExistingCodes();
+    duplicates &= font->EnabledCodes(); // what is disabled is not missed
     if (duplicates.Next(0) < CodeSet::Count) {
         MergeMode mode = Args().mode;
         if (mode == MergeMode::Ask)
@@ -83,7 +82,7 @@ bool ActionMergeFont::Execute()
     }
     enabled_ = font->EnabledCodes();
     enabled_ |= incoming;
-    return !characters_.empty();
+    return true;
 }
 
 void ActionMergeFont::Swap()

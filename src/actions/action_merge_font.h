@@ -24,7 +24,7 @@ class ActionMergeFont final : public ActionWithArgs<ActionMergeFontArgs>
 public:
     explicit ActionMergeFont(Session& session) : ActionWithArgs(session, ActionType::MergeFont) {}
 
-    // False where the user gave no answer, or the other font brings nothing new.
+    // False where the user gave no answer.
     bool Execute() override;
     void UndoOnce() override { Swap(); }
     void RedoOnce() override { Swap(); }

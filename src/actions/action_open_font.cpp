@@ -75,7 +75,8 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
 {
     auto font = MakeInputFile(args.path, {args.format, args.encoding})->Read();
     if (font == nullptr)
-        return nullptr;
+        Fail(u"Error opening file!"_s,
+             u"The format of the font in %1 was not told, so it was not opened."_s.arg(args.path));
     const FontMetrics& metrics = font->Metrics();
     CheckCombination(metrics.format, metrics.encoding);
     if (args.format && *args.format != metrics.format)
@@ -83,6 +84,11 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
             u"Font format"_s,
             u"The file %1 has the format \"%2\"; the format \"%3\" was not used."_s.arg(
                 args.path, FormatDisplayName(metrics.format), FormatDisplayName(*args.format)));
+    if (args.encoding && *args.encoding != metrics.encoding)
+        CurrentInterface().warning(
+            u"Encoding"_s,
+            u"The file %1 has an encoding of its own; the one given was not used."_s.arg(
+                args.path));
     if (args.selection) {
         CodeSet enabled = font->EnabledCodes();
         enabled &= *args.selection;
@@ -100,7 +106,7 @@ std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
         CheckCombination(args.format.value_or(FontFormat::Standard),
                          args.encoding.value_or(EncodingType::Unicode));
     auto font = IsScalable(CheckInputFile(args.path)) ? Render(args) : ReadFile(args);
-    if (font != nullptr && font->Metrics().height == 0)
+    if (font->Metrics().height == 0)
         Fail(CreationFailed(), u"Font has invalid metrics."_s);
     return font;
 }

@@ -41,8 +41,8 @@ private:
     std::unique_ptr<Font> font_; // between Execute and the first step
 };
 
-// The font of a file of any kind: read, or rendered as the arguments say. Null where the user gave
-// no answer to a question about it. Throws a CriticalException on failure.
+// The font of a file of any kind: read, or rendered as the arguments say. Throws a
+// CriticalException on failure.
 [[nodiscard]] std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args);
 
 } // namespace Glyphor

@@ -88,6 +88,21 @@ std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
     }
 }
 
+// A line of standard input, of which the first characters matter; nothing at its end.
+std::optional<QString> ReadLine()
+{
+    constexpr std::size_t longest = 200;
+    std::string line;
+    int character = std::cin.get();
+    if (character == EOF)
+        return std::nullopt;
+    for (; character != EOF && character != '\n'; character = std::cin.get()) {
+        if (line.size() < longest)
+            line += static_cast<char>(character);
+    }
+    return QString::fromLocal8Bit(line);
+}
+
 // The options that say how a font is opened speak of the other font where its file asks for them.
 // The character selection is that of the opened font alone.
 ActionMergeFontArgs MergeArgs(const OptionOccurrence& occurrence, const RunOptions& options)
@@ -145,7 +160,7 @@ void CommandLine::run(int argc, const char* const* argv, Session& session)
     std::vector<OptionOccurrence> occurrences = parser_.parse(ArgumentList(argc, argv));
     if (!parser_.check(occurrences))
         ReorderOccurrences(occurrences);
-    options_ = ReadRunOptions(occurrences);
+    options_ = ReadRunOptions(occurrences, &CurrentInterface() != this);
     for (const OptionOccurrence& occurrence : occurrences)
         execute(occurrence, session);
 }
@@ -290,11 +305,11 @@ int CommandLine::ask(const QString& reason, const QString& subject,
     for (;;) {
         console_.PrintLine(u"Please select a %1 that should be used:"_s.arg(subject));
         console_.Print(parser_.keywordList(keywords));
-        std::string line;
-        if (!std::getline(std::cin, line))
+        const std::optional<QString> line = ReadLine();
+        if (!line)
             throw CriticalException(
                 u"Standard input ended before a %1 was selected."_s.arg(subject));
-        const QString answer = QString::fromLocal8Bit(line).trimmed();
+        const QString answer = line->trimmed();
         if (const auto* const entry = keywords.Find(answer))
             return entry->value;
         console_.PrintLine(u"Invalid %1 \"%2\""_s.arg(subject, answer), ConsoleColour::Red);

@@ -92,6 +92,12 @@ ElementList SplitElements(std::string_view list)
     return result;
 }
 
+// Whether an element is made of "X" and "_" alone, as a byte of 1 bit per pixel is.
+bool IsPattern(std::string_view element)
+{
+    return element.size() <= 8 && element.find_first_not_of("X_") == std::string_view::npos;
+}
+
 // The identifier that ends an element, behind casts and operators.
 std::string_view LastIdentifier(std::string_view element)
 {
@@ -99,6 +105,15 @@ std::string_view LastIdentifier(std::string_view element)
     while (start > 0 && IsIdentifierCharacter(element[start - 1]))
         --start;
     return element.substr(start);
+}
+
+// The identifier in front of the first bracket of a declaration; empty where there is none.
+std::string_view ArrayName(std::string_view declaration)
+{
+    const std::size_t bracket = declaration.find('[');
+    return bracket == std::string_view::npos
+               ? std::string_view()
+               : LastIdentifier(Trimmed(declaration.substr(0, bracket)));
 }
 
 } // namespace
@@ -122,13 +137,20 @@ std::unique_ptr<Font> CFontReader::Read()
     return font;
 }
 
-// The first line with the type may be a declaration: it has the identifier as well.
+// The first line with the type may be a declaration: it has the identifier as well, behind any
+// qualifiers of the type.
 QString CFontReader::ReadName()
 {
     if (!scanner_.FindText(" GUI_FONT "))
-        scanner_.Fail(u"GUI_FONT structure not found!"_s);
-    scanner_.SkipBlanks();
-    const std::string_view identifier = scanner_.Identifier();
+        scanner_.FailAtEnd(u"GUI_FONT structure not found!"_s);
+    std::string_view identifier;
+    for (;;) {
+        scanner_.SkipBlanks();
+        const std::string_view word = scanner_.Identifier();
+        if (word.empty())
+            break;
+        identifier = word;
+    }
     if (identifier.empty())
         scanner_.Fail(u"Array identifier of GUI_FONT structure expected but not found!"_s);
     const QString name = ToText(identifier);
@@ -141,7 +163,7 @@ void CFontReader::ReadType(FontFormat& format, EncodingType& encoding)
     constexpr std::string_view prefix = "GUI_FONTTYPE";
     do {
         if (!scanner_.FindText(prefix))
-            scanner_.Fail(u"GUI_FONTTYPE not found!"_s);
+            scanner_.FailAtEnd(u"GUI_FONTTYPE not found!"_s);
     } while (IsIdentifierCharacter(scanner_.Text()[scanner_.Position() - prefix.size() - 1]));
     const std::size_t start = scanner_.Position() - prefix.size();
     scanner_.SetPosition(start);
@@ -174,13 +196,17 @@ void CFontReader::FindTable()
 {
     scanner_.SetPosition(0);
     while (scanner_.FindWord(tableType_)) {
-        const std::size_t open = scanner_.Text().find_first_of("{;", scanner_.Position());
-        if (open != std::string_view::npos && scanner_.Text()[open] == '{') {
-            scanner_.SetPosition(open + 1);
+        const std::size_t start = scanner_.Position();
+        const std::size_t end = scanner_.Text().find_first_of("{;", start);
+        if (end == std::string_view::npos)
+            break;
+        scanner_.SetPosition(end + 1);
+        if (scanner_.Text()[end] == '{') {
+            tableName_ = ArrayName(scanner_.Text().substr(start, end - start));
             return;
         }
     }
-    scanner_.Fail(ToText(tableType_) + u" structure not found!"_s);
+    scanner_.FailAtEnd(ToText(tableType_) + u" structure not found!"_s);
 }
 
 void CFontReader::ReadTable(const FontMetrics& font)
@@ -247,32 +273,33 @@ void CFontReader::ReadCodes()
     CheckCodes();
 }
 
-// Declarations and casts name the type too; a block has an identifier, "=" and a brace behind it.
+// Declarations and casts name the type too; a block has "=" and a brace behind it.
 void CFontReader::ReadBlock()
 {
-    scanner_.SkipWhitespace();
     const std::size_t start = scanner_.Position();
-    if (scanner_.Identifier().empty())
+    const std::size_t end = scanner_.Text().find_first_of("=;{)", start);
+    if (end == std::string_view::npos || scanner_.Text()[end] != '=')
         return;
-    scanner_.SkipWhitespace();
-    if (scanner_.Current() != '=')
-        return;
-    scanner_.SetPosition(scanner_.Position() + 1);
+    scanner_.SetPosition(end + 1);
     scanner_.SkipWhitespace();
     if (scanner_.Current() != '{')
         return;
     scanner_.SetPosition(scanner_.Position() + 1);
-    const std::string_view text = scanner_.Until('}', "{");
-    const auto [elements, count] = SplitElements(text);
+    const auto [elements, count] = SplitElements(scanner_.Until('}', "{"));
     if (count < 4)
         scanner_.FailAt(start, u"Invalid number of elements (%1) found in structure %2!"_s.arg(
                                    QString::number(count), ToText(blockType_)));
     const std::string_view address = elements[2];
-    const std::size_t open = address.find('[');
-    const std::size_t close = address.find(']');
-    const bool hasIndex = open != std::string_view::npos && close != std::string_view::npos;
-    const int index =
-        hasIndex && open < close ? Field(Trimmed(address.substr(open + 1, close - open - 1))) : 0;
+    const std::size_t mark = std::min(address.find_first_of("[+"), address.size());
+    // A file may hold more fonts than the first.
+    const std::string_view name = LastIdentifier(Trimmed(address.substr(0, mark)));
+    if (!tableName_.empty() && name != tableName_)
+        return;
+    int index = 0;
+    if (mark < address.size()) {
+        const std::size_t close = std::min(address.find(']'), address.size());
+        index = Field(Trimmed(address.substr(mark + 1, close - mark - 1)));
+    }
     AssignBlock(start, Field(elements[0]), Field(elements[1]), index);
 }
 
@@ -320,58 +347,41 @@ void CFontReader::CheckCodes()
                 QString::number(differences), example));
 }
 
-// The name in front of "[...] = {"; empty where something else has the brace.
-std::string_view CFontReader::ArrayNameBefore(std::size_t brace) const
+// The declaration that the brace of a value ends; empty where something else has the brace. Only as
+// much is looked at as any declaration has.
+std::string_view CFontReader::DeclarationBefore(std::size_t brace) const
 {
+    constexpr std::size_t longest = 1000;
     const std::string_view text = scanner_.Text();
-    std::size_t at = brace;
-    const auto skipBlanks = [&] {
-        while (at > 0 && IsWhitespace(text[at - 1]))
-            --at;
-    };
-    const auto take = [&](char character) {
-        skipBlanks();
-        const bool found = at > 0 && text[at - 1] == character;
-        at -= found ? 1 : 0;
-        return found;
-    };
-    if (!take('=') || !take(']'))
+    std::size_t end = brace;
+    while (end > 0 && IsWhitespace(text[end - 1]))
+        --end;
+    if (end == 0 || text[end - 1] != '=')
         return {};
-    while (at > 0 && (IsIdentifierCharacter(text[at - 1]) || text[at - 1] == ' '))
-        --at;
-    if (!take('['))
-        return {};
-    skipBlanks();
-    return LastIdentifier(text.substr(0, at));
+    const std::size_t first = end > longest ? end - longest : 0;
+    const std::string_view before = text.substr(first, end - 1 - first);
+    const std::size_t start = before.find_last_of(";{}");
+    return start == std::string_view::npos ? before : before.substr(start + 1);
 }
 
+// Finds the values of the arrays that the table names; the first of a name counts.
 void CFontReader::FindArrays()
 {
+    for (const Entry& entry : entries_)
+        arrays_.emplace(entry.arrayName, std::string_view());
     const std::string_view text = scanner_.Text();
     std::size_t at = 0;
     while ((at = text.find('{', at)) != std::string_view::npos) {
-        const std::string_view name = ArrayNameBefore(at);
+        const auto array = arrays_.find(ArrayName(DeclarationBefore(at)));
         ++at;
-        if (name.empty())
+        if (array == arrays_.end() || array->second.data() != nullptr)
             continue;
         const std::size_t close = text.find('}', at);
         if (close == std::string_view::npos)
             return;
-        arrays_.push_back({name, text.substr(at, close - at)});
+        array->second = text.substr(at, close - at);
         at = close;
     }
-}
-
-const CFontReader::Array* CFontReader::FindArray(std::string_view name, std::size_t expected)
-{
-    if (expected < arrays_.size() && arrays_[expected].name == name)
-        return &arrays_[expected];
-    if (arraysByName_.empty()) {
-        for (const Array& array : arrays_)
-            arraysByName_.emplace(array.name, &array);
-    }
-    const auto found = arraysByName_.find(name);
-    return found == arraysByName_.end() ? nullptr : found->second;
 }
 
 // Takes at most `size` bytes and counts them all.
@@ -398,8 +408,10 @@ void CFontReader::ReadBytes(std::string_view values, int bitsPerPixel, std::size
         int value = ShortHex(element);
         if (value < 0 && element[0] >= '0' && element[0] <= '9')
             value = scanner_.Number(element);
-        else if (value < 0 && bitsPerPixel == 1)
+        else if (value < 0 && bitsPerPixel == 1) {
             value = PatternByte(element);
+            strangeBytes_ += IsPattern(element) ? 0 : 1;
+        }
         if (value < 0 || value > 0xFF)
             scanner_.FailAt(scanner_.PositionOf(element), u"Error parsing integer!"_s);
         if (byteCount_ < size)
@@ -414,31 +426,33 @@ void CFontReader::ReadBitmaps(Font& font)
     const auto textSize = static_cast<qint64>(scanner_.Text().size());
     qint64 byteCount = 0;
     qint64 scanned = 0;
-    std::size_t index = 0;
     for (const Entry& entry : entries_) {
-        const Array* const array = FindArray(entry.arrayName, index++);
-        if (array == nullptr) {
-            scanner_.SetPosition(scanner_.Text().size());
-            scanner_.Fail(u"File ended before all character data could be read!"_s);
-        }
+        const std::string_view values = arrays_[entry.arrayName];
+        if (values.data() == nullptr)
+            scanner_.FailAtEnd(u"File ended before all character data could be read!"_s);
         const auto code = static_cast<quint16>(entry.code);
         const qint64 size = BitmapSize(entry.metrics, font.Metrics());
-        // A byte takes more than one character of text. More of them come from arrays that are
-        // named again and again, which could make a huge font of a small file.
+        // Arrays may be named again and again, but that must not make a huge font of a small file.
         constexpr qint64 shares = 16;
+        constexpr qint64 harmless = 16'000'000;
         byteCount += size;
-        scanned += qint64(array->values.size());
-        if (byteCount > textSize || scanned > shares * textSize)
+        scanned += qint64(values.size());
+        if (byteCount > textSize + harmless || scanned > shares * textSize + harmless)
             scanner_.FailAt(scanner_.PositionOf(entry.arrayName),
                             u"The array belongs to too many characters."_s);
-        ReadBytes(array->values, font.Metrics().bitsPerPixel, static_cast<std::size_t>(size));
+        ReadBytes(values, font.Metrics().bitsPerPixel, static_cast<std::size_t>(size));
         if (byteCount_ != static_cast<std::size_t>(size))
             scanner_.FailAt(
-                scanner_.PositionOf(array->values),
+                scanner_.PositionOf(values),
                 u"Invalid amount of bytes read from character bitmap 0x%1"_s.arg(Hex4Text(code)));
         font.AddChar(code, entry.metrics, bytes_);
         progress.Advance();
     }
+    if (strangeBytes_ > 0)
+        CurrentInterface().warning(u"Pixels of characters"_s,
+                                   u"Bytes that are neither numbers nor patterns of \"X\" and "
+                                   u"\"_\": %1. What is not \"X\" in "
+                                   "them was taken for an empty pixel."_s.arg(strangeBytes_));
 }
 
 } // namespace Glyphor

@@ -29,13 +29,6 @@ private:
         int code = -1; // from the property blocks
     };
 
-    // The values of an array, between its braces.
-    struct Array
-    {
-        std::string_view name;
-        std::string_view values;
-    };
-
     QString ReadName();
     void ReadType(FontFormat& format, EncodingType& encoding);
     void ReadMetrics(Font& font);
@@ -52,20 +45,20 @@ private:
     void CheckCodes();
 
     void FindArrays();
-    [[nodiscard]] std::string_view ArrayNameBefore(std::size_t brace) const;
-    [[nodiscard]] const Array* FindArray(std::string_view name, std::size_t expected);
+    [[nodiscard]] std::string_view DeclarationBefore(std::size_t brace) const;
     void ReadBitmaps(Font& font);
     void ReadBytes(std::string_view values, int bitsPerPixel, std::size_t size);
 
     CScanner scanner_;
     std::string tableType_; // "GUI_CHARINFO" or "GUI_CHARINFO_EXT"
+    std::string_view tableName_;
     std::string blockType_;
     std::vector<Entry> entries_;
-    CodeSet codes_; // of the blocks
-    std::vector<Array> arrays_;
-    std::unordered_map<std::string_view, const Array*> arraysByName_; // once they are out of order
+    CodeSet codes_;                                                 // of the blocks
+    std::unordered_map<std::string_view, std::string_view> arrays_; // name to values
     std::vector<uchar> bytes_;
     std::size_t byteCount_ = 0; // of the last array, even those that were too many
+    int strangeBytes_ = 0;      // neither numbers nor patterns
 };
 
 } // namespace Glyphor

@@ -143,7 +143,7 @@ int CScanner::Integer()
     char previous = position_ > 0 ? view_[position_ - 1] : ' ';
     while (!(startsInteger(Current()) && (IsWhitespace(previous) || previous == ','))) {
         if (position_ >= view_.size())
-            Fail(u"Integer not found!"_s);
+            FailAtEnd(u"Integer not found!"_s);
         previous = view_[position_++];
     }
     const std::size_t start = position_;

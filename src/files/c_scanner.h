@@ -49,6 +49,7 @@ public:
     [[nodiscard]] int Number(std::string_view element) const;
 
     [[noreturn]] void Fail(const QString& message) const { FailAt(position_, message); }
+    [[noreturn]] void FailAtEnd(const QString& message) const { FailAt(view_.size(), message); }
     [[noreturn]] void FailAt(std::size_t position, const QString& message) const;
     [[nodiscard]] std::size_t PositionOf(std::string_view part) const
     {

@@ -1,6 +1,9 @@
 #include "files/file_types.h"
 
+#include <QStringList>
+
 #include <algorithm>
+#include <utility>
 
 namespace Glyphor {
 
@@ -27,6 +30,18 @@ constexpr std::array<FileTypeRow, 6> FileTypeTable = {{
     {FileType::Sif, "System Independent Fonts"_L1, SifSuffixes},
 }};
 
+namespace {
+
+QStringList Patterns(std::span<const QLatin1StringView> suffixes)
+{
+    QStringList patterns;
+    for (const QLatin1StringView suffix : suffixes)
+        patterns.append(u'*' + suffix);
+    return patterns;
+}
+
+} // namespace
+
 std::optional<FileType> FileTypeOf(QStringView fileName)
 {
     const auto row = std::ranges::find_if(FileTypeTable, [fileName](const FileTypeRow& entry) {
@@ -35,6 +50,32 @@ std::optional<FileType> FileTypeOf(QStringView fileName)
         });
     });
     return row == FileTypeTable.end() ? std::nullopt : std::optional(row->type);
+}
+
+QString FontFileFilter(bool forSaving)
+{
+    QStringList entries;
+    QString all;
+    for (std::size_t index = 0; index < FileTypeTable.size();) {
+        const FileTypeRow& group = FileTypeTable[index];
+        QStringList patterns;
+        for (;
+             index < FileTypeTable.size() && FileTypeTable[index].description == group.description;
+             ++index)
+            patterns += Patterns(FileTypeTable[index].suffixes);
+        if (forSaving && !IsWritten(group.type))
+            continue;
+        entries.append(u"%1 (%2)"_s.arg(group.description, patterns.join(u' ')));
+        for (const QString& pattern : std::as_const(patterns))
+            all += pattern + u' ';
+    }
+    entries.append(u"All supported file types (%1)"_s.arg(all));
+    return entries.join(u";;"_s);
+}
+
+QString KerningFileFilter()
+{
+    return u"Kerning C files (%1)"_s.arg(Patterns(CSuffixes).join(u' '));
 }
 
 bool IsBinaryKerningName(QStringView fileName)

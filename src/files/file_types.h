@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLatin1StringView>
+#include <QString>
 #include <QStringView>
 
 #include <array>
@@ -25,8 +26,18 @@ extern const std::array<FileTypeRow, 6> FileTypeTable;
 // The first kind one of whose suffixes ends the name, in any letter case.
 [[nodiscard]] std::optional<FileType> FileTypeOf(QStringView fileName);
 
+// What file dialogs offer: an entry for each group of kinds, then one for all of them.
+[[nodiscard]] QString FontFileFilter(bool forSaving);
+[[nodiscard]] QString KerningFileFilter();
+
 // True for ".kern", in any letter case.
 [[nodiscard]] bool IsBinaryKerningName(QStringView fileName);
+
+// True for the kinds that are written.
+[[nodiscard]] constexpr bool IsWritten(FileType type)
+{
+    return type == FileType::C || type == FileType::Xbf || type == FileType::Sif;
+}
 
 // True for the kinds that are rendered at a height.
 [[nodiscard]] constexpr bool IsScalable(FileType type)

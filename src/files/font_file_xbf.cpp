@@ -58,7 +58,7 @@ std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBy
     for (int code = first; code <= last; ++code) {
         const qint64 at = HeaderSize + EntrySize * (code - first);
         const TableEntry entry = {static_cast<quint16>(code), bytes.U32(at), bytes.U16(at + 4)};
-        if (entry.offset == 0)
+        if (entry.offset == 0 && entry.size == 0)
             continue;
         if (entry.offset < dataOffset || entry.offset + entry.size > dataEnd)
             FailAtChar(entry.code, u"lies outside the file"_s);

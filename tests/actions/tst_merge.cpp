@@ -99,7 +99,7 @@ private Q_SLOTS:
         QTest::newRow("no duplicates")
             << 0 << 0 << QByteArray("CD") << true << 0 << QByteArray("0011");
         QTest::newRow("nothing new")
-            << 3 << 0 << QByteArray("AB") << false << 0 << QByteArray("00--");
+            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("00--");
     }
 
     void Merges()

@@ -167,6 +167,7 @@ private Q_SLOTS:
         QTest::newRow("offset") << 18 << QByteArray("ffffff7f") << u"0x0041 lies outside"_s;
         QTest::newRow("into the table") << 18 << QByteArray("12000000") << u"0x0041 lies outside"_s;
         QTest::newRow("size") << 22 << QByteArray("0d00") << u"0x0041 has a size in the table"_s;
+        QTest::newRow("no offset") << 18 << QByteArray("00000000") << u"0x0041 lies outside"_s;
         QTest::newRow("tiny size") << 22 << QByteArray("0100") << u"0x0041 is too small"_s;
         QTest::newRow("overlap") << 28 << QByteArray("2800") << u"overlap"_s;
         QTest::newRow("width") << 410 << QByteArray("0001") << u"0x0041 has rows of 1 bytes"_s;

@@ -90,6 +90,12 @@ private Q_SLOTS:
         row("table declared before", "#include",
             "extern const GUI_CHARINFO_EXT GUI_Font8_Tests_Plain_1_CharInfo[];\n#include");
         row("no index", "_CharInfo[0],", "_CharInfo,");
+        row("added index", "_CharInfo[3],", "_CharInfo + 3,");
+        row("qualified name", " GUI_FONT GUI", " GUI_FONT const GUI");
+        row("qualified block", "GUI_FONT_PROP_EXT GUI", "GUI_FONT_PROP_EXT const GUI");
+        row("attribute", "[2] = {", "[(1 + 1)] __attribute__((section(\".f\"))) = {");
+        row("another font behind", "/*************************** End",
+            "const GUI_FONT_PROP_EXT Other = { 0x41, 0x42, &Other_CharInfo[0], 0 };\n/****");
     }
 
     void OtherLayouts()
@@ -192,6 +198,24 @@ private Q_SLOTS:
         QCOMPARE(interface.warnings.size(), warns ? 1 : 0);
         QCOMPARE(font->ExistingCodes().Next(0), code);
         QCOMPARE(Test::Snapshot(*font), Test::Snapshot(*Read(Text())));
+    }
+
+    void StrangePatterns()
+    {
+        Test::RecordingInterface interface;
+        const auto font = Read(Text().replace("X_X_X___,", "(X_X_X__),"));
+        QCOMPARE(interface.warnings.size(), 1);
+        QCOMPARE(font->FindChar('B')->bitmap->Data()[0], '\x50');
+    }
+
+    // Many places to begin the search for the table must not make it slow.
+    void ManyTableNames()
+    {
+        for (const QByteArray& ending : {QByteArray(), QByteArray(";")}) {
+            const QByteArray text = Text().replace("GUI_CHARINFO_EXT", "X") +
+                                    QByteArray("GUI_CHARINFO_EXT ").repeated(200000) + ending;
+            QVERIFY(Test::FailureOf([&] { (void)Read(text); }).contains(u"structure not found"_s));
+        }
     }
 
     // A small file must not make a huge font, nor be read for minutes.

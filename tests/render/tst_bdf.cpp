@@ -72,6 +72,12 @@ private Q_SLOTS:
         const QByteArray whole = Test::ReadAll(Test::FontPath("bitmap.bdf"));
         QTest::newRow("text") << QByteArray("no font\n");
         QTest::newRow("cut") << whole.left(whole.indexOf("STARTCHAR"));
+        QTest::newRow("boxes without rows")
+            << whole.left(whole.indexOf("STARTCHAR")) +
+                   QByteArray("STARTCHAR a\nENCODING 65\nSWIDTH 1 0\nDWIDTH 8 0\nBBX 500 1000 0 0\n"
+                              "BITMAP\nENDCHAR\n")
+                       .repeated(50) +
+                   "ENDFONT\n";
         QTest::newRow("another kind") << Test::ReadAll(Test::FontPath("outlines.ttf"));
     }
 
