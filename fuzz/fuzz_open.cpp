@@ -40,9 +40,12 @@ void Open(const QString& path)
         (void)PatternFile(path).Read();
         return;
     }
-    const auto font = ReadFont({.path = path, .size = {16, false}});
-    if (font == nullptr)
-        return;
+    // A charmap may name a glyph for every code: a part of them shows as much, in less time.
+    ActionOpenFontArgs args;
+    args.path = path;
+    args.size = {16, false};
+    args.selection.emplace().SetRange(0, 0x2FF, true);
+    const auto font = ReadFont(args);
     qsizetype size = 0;
     const CFileOptions options;
     FontFileC(QStringLiteral("font.c"), options).Compose(*font, [&size](QByteArrayView piece) {
