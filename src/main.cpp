@@ -2,8 +2,41 @@
 #include "app/core_application.h"
 #include "cli/command_line.h"
 
+#include <QFile>
+#include <QProcess>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 #include <csignal>
 #include <cstdio>
+
+namespace {
+
+// The window is a program beside this one, so that a headless run loads no widgets.
+void BecomeWindow(int argc, char** argv)
+{
+    const QString program = [&] {
+        const Glyphor::CoreApplication application(argc, argv);
+        return QCoreApplication::applicationDirPath() + QStringLiteral("/Glyphor-window");
+    }();
+#ifdef Q_OS_UNIX
+    ::execv(QFile::encodeName(program).constData(), argv);
+#else
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(QString::fromLocal8Bit(argv[index]));
+    if (QProcess::startDetached(program, arguments))
+        return;
+#endif
+    std::fprintf(stderr,
+                 "Glyphor's window, %s, can't be started: add -hide to run the options without "
+                 "it.\n",
+                 qUtf8Printable(program));
+}
+
+} // namespace
 
 // The exit status is 0 whatever happens: callers tell a failure by the console text or by the error
 // file.
@@ -20,8 +53,7 @@ int main(int argc, char** argv)
 #endif
 
     if (!CommandLine::isCommandLineMode(argc, argv)) {
-        std::fputs("Glyphor has no window yet: add -hide to run its options without one.\n",
-                   stderr);
+        BecomeWindow(argc, argv);
         return 0;
     }
 

@@ -97,7 +97,7 @@ FontSize ParseHeight(const QString& text)
     return {height, inPoints};
 }
 
-RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences)
+RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool canAsk)
 {
     RunOptions options;
     bool needsHeight = false;
@@ -112,7 +112,7 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences)
     if (hasFace && createsByName)
         CurrentInterface().warning(u"Face"_s,
                                    u"-face is not used with -create: the style tells the face."_s);
-    if (needsHeight && options.open.size.value == 0)
+    if (needsHeight && !canAsk && options.open.size.value == 0)
         throw CriticalException(
             u"A scalable font needs a height: give -height (e.g. -height 24px)."_s);
     return options;

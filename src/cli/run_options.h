@@ -13,9 +13,11 @@ struct RunOptions
     bool verbose = false;
 };
 
-// Reads and checks these options. Throws a CriticalException for a height that is no height, or
-// that is missing where the font to open needs one; warns of a height without a unit.
-[[nodiscard]] RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences);
+// Reads and checks these options; a missing height may be asked for where somebody can. Throws a
+// CriticalException for a height that is no height, or that is missing where the font to open needs
+// one; warns of a height without a unit.
+[[nodiscard]] RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences,
+                                        bool canAsk = false);
 
 // "24px", "18pt", or a bare number of pixels, after a warning.
 [[nodiscard]] FontSize ParseHeight(const QString& text);

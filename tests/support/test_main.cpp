@@ -1,5 +1,8 @@
 #include "support/test_main.h"
 
+#if __has_include(<QApplication>)
+#include <QApplication>
+#endif
 #include <QFile>
 #include <QGuiApplication>
 #include <QSettings>

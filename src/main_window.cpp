@@ -1,0 +1,40 @@
+#include "ui/main_window.h"
+#include "actions/session.h"
+#include "cli/command_line.h"
+#include "ui/application.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+// The toolkit ends the program where it finds no display; this tells what to do instead of why.
+void HandleMessage(QtMsgType type, const QMessageLogContext&, const QString&)
+{
+    if (type != QtFatalMsg)
+        return;
+    std::fputs("Glyphor can't open a window here: add -hide to run its options without one.\n",
+               stderr);
+    std::_Exit(0);
+}
+
+} // namespace
+
+// The run with a window. The exit status is 0 whatever happens.
+int main(int argc, char** argv)
+{
+    using namespace Glyphor;
+
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    qInstallMessageHandler(HandleMessage);
+    Application application(argc, argv);
+    qInstallMessageHandler(nullptr);
+    Session session;
+    MainWindow window(session);
+    SetCurrentInterface(&window);
+    window.show();
+    CommandLine::instance().runGuarded(argc, argv, session);
+    Application::exec();
+    SetCurrentInterface(nullptr);
+    return 0;
+}

@@ -1,0 +1,150 @@
+#include "ui/char_pixel_item.h"
+
+#include "ui/char_bitmap_view.h"
+#include "ui/char_picture.h"
+
+#include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace Glyphor {
+
+CharPixelItem::CharPixelItem(CharBitmapView& view) : view_(view)
+{
+    setGraphicsItem(this);
+    setFlag(QGraphicsItem::ItemIsSelectable);
+    setFlag(QGraphicsItem::ItemIsFocusable);
+    setAcceptHoverEvents(true);
+    setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
+}
+
+void CharPixelItem::Place(int column, int row)
+{
+    column_ = column;
+    row_ = row;
+}
+
+void CharPixelItem::UpdateFrom(const Character& character)
+{
+    const CharInfo& info = character.info;
+    const bool isLegacy = IsLegacyFormat(info.font.format);
+    const int y = isLegacy ? row_ : row_ - info.yPos;
+    const int x = column_;
+    state_ = Pixel;
+    if (!isLegacy && (y < 0 || y >= info.height)) {
+        state_ = Outside;
+        colour_ = QColor(255, 255, 128);
+    } else if (HasFramePixel(character, x, y)) {
+        state_ = Frame;
+        colour_ = QColor(128, 255, 255);
+    } else {
+        colour_ = Qt::black;
+        colour_.setAlpha(IndexAlpha(character.bitmap->GetPixelIndex(x, y), info.font.bitsPerPixel));
+    }
+    setFlag(QGraphicsItem::ItemIsSelectable, state_ == Pixel);
+    update();
+}
+
+QPoint CharPixelItem::PixelPosition() const
+{
+    return state_ == Pixel ? QPoint(column_, row_ - view_.Top()) : QPoint(-1, -1);
+}
+
+void CharPixelItem::setGeometry(const QRectF& rect)
+{
+    QGraphicsLayoutItem::setGeometry(rect);
+    setRect(rect);
+}
+
+QSizeF CharPixelItem::sizeHint(Qt::SizeHint, const QSizeF&) const
+{
+    return {view_.CellSize(), view_.CellSize()};
+}
+
+int CharPixelItem::PenWidth() const
+{
+    const int rows = std::max(1, view_.RowCount());
+    const int size = static_cast<int>((scene()->height() + 1) / rows);
+    if (size < 3)
+        return 0;
+    return size < 7 ? 1 : 2;
+}
+
+void CharPixelItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*)
+{
+    painter->fillRect(rect(), Qt::white);
+    painter->fillRect(rect(), colour_);
+    const int width = PenWidth();
+    if (width > 0) {
+        painter->setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(rect());
+    }
+    if (isSelected()) {
+        const auto mode = painter->compositionMode();
+        // Inverts what is below, so that the mark shows on any grey.
+        painter->setCompositionMode(QPainter::RasterOp_NotSourceXorDestination);
+        painter->setPen(QPen(Qt::black, 2));
+        painter->drawRect(rect().adjusted(0, 0, -2, -2));
+        painter->setCompositionMode(mode);
+    }
+}
+
+void CharPixelItem::mousePressEvent(QGraphicsSceneMouseEvent*)
+{
+    view_.SelectItem(this);
+}
+
+void CharPixelItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
+{
+    if (view_.SelectItem(this))
+        Q_EMIT view_.MenuRequested(event->screenPos());
+}
+
+void CharPixelItem::hoverEnterEvent(QGraphicsSceneHoverEvent*)
+{
+    if (state_ != Pixel || view_.CurrentCharacter() == nullptr)
+        return;
+    const QPoint place = PixelPosition();
+    const int index = view_.CurrentCharacter()->bitmap->GetPixelIndex(place.x(), place.y());
+    Q_EMIT view_.StatusChanged(
+        CharBitmapView::tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index));
+}
+
+void CharPixelItem::hoverLeaveEvent(QGraphicsSceneHoverEvent*)
+{
+    Q_EMIT view_.StatusChanged({});
+}
+
+void CharPixelItem::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Left:
+        view_.SelectItem(view_.ItemAt(column_ - 1, row_));
+        break;
+    case Qt::Key_Right:
+        view_.SelectItem(view_.ItemAt(column_ + 1, row_));
+        break;
+    case Qt::Key_Up:
+        view_.SelectItem(view_.ItemAt(column_, row_ - 1));
+        break;
+    case Qt::Key_Down:
+        view_.SelectItem(view_.ItemAt(column_, row_ + 1));
+        break;
+    case Qt::Key_Space:
+        view_.InvertPixel(column_, row_);
+        break;
+    case Qt::Key_Menu:
+        Q_EMIT view_.MenuRequested(
+            view_.viewport()->mapToGlobal(view_.mapFromScene(rect().center())));
+        break;
+    default:
+        event->ignore();
+        break;
+    }
+}
+
+} // namespace Glyphor

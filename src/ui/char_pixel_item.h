@@ -1,0 +1,55 @@
+#pragma once
+
+#include "model/font.h"
+
+#include <QColor>
+#include <QGraphicsLayoutItem>
+#include <QGraphicsRectItem>
+
+namespace Glyphor {
+
+class CharBitmapView;
+
+// One cell of the pixel editor.
+class CharPixelItem final : public QGraphicsRectItem, public QGraphicsLayoutItem
+{
+public:
+    enum State { Pixel = 0, Outside = 1, Frame = 2 };
+
+    explicit CharPixelItem(CharBitmapView& view);
+
+    void Place(int column, int row);
+
+    // Takes state and colour from the character.
+    void UpdateFrom(const Character& character);
+
+    [[nodiscard]] State CellState() const { return state_; }
+    [[nodiscard]] const QColor& Colour() const { return colour_; }
+    [[nodiscard]] int Column() const { return column_; }
+    [[nodiscard]] int Row() const { return row_; }
+
+    // The place in the bitmap of the character; (-1, -1) for a cell that is no pixel of it.
+    [[nodiscard]] QPoint PixelPosition() const;
+
+    void setGeometry(const QRectF& rect) override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+protected:
+    [[nodiscard]] QSizeF sizeHint(Qt::SizeHint which, const QSizeF& constraint) const override;
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void contextMenuEvent(QGraphicsSceneContextMenuEvent* event) override;
+    void hoverEnterEvent(QGraphicsSceneHoverEvent* event) override;
+    void hoverLeaveEvent(QGraphicsSceneHoverEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    [[nodiscard]] int PenWidth() const;
+
+    CharBitmapView& view_;
+    State state_ = Pixel;
+    QColor colour_;
+    int column_ = -1;
+    int row_ = -1;
+};
+
+} // namespace Glyphor

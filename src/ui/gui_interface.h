@@ -1,0 +1,16 @@
+#pragma once
+
+#include "app/user_interface.h"
+
+namespace Glyphor {
+
+// The user interface of a run with windows: what there is to say is shown in boxes.
+class GuiInterface : public UserInterface
+{
+public:
+    void information(const QString& title, const QString& text) override;
+    void warning(const QString& title, const QString& text) override;
+    void critical(const QString& title, const QString& text) override;
+};
+
+} // namespace Glyphor

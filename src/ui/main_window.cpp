@@ -1,0 +1,394 @@
+#include "ui/main_window.h"
+
+#include "actions/edit_actions.h"
+#include "actions/session.h"
+#include "app/critical_exception.h"
+#include "app/settings.h"
+#include "app/version.h"
+#include "render/font_database.h"
+#include "ui/char_bitmap_view.h"
+#include "ui/char_table_view.h"
+#include "ui/info_panel.h"
+#include "ui/menu_bar.h"
+#include "ui/text_preview.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDataStream>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QProgressBar>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+
+// Outside of the namespace, as the macro needs it.
+static void InitResources()
+{
+    Q_INIT_RESOURCE(resources);
+}
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int ResizeDelay = 50; // milliseconds
+constexpr quint32 StateVersion = 1;
+
+QAction* AddTool(QToolBar& bar, QAction* command, const QString& icon)
+{
+    command->setIcon(QIcon(u":/icons/%1.svg"_s.arg(icon)));
+    bar.addAction(command);
+    return command;
+}
+
+} // namespace
+
+MainWindow::MainWindow(Session& session) : session_(session)
+{
+    InitResources();
+    setAcceptDrops(true);
+    BuildWidgets();
+    menus_ = new MenuBar(this, this);
+    setMenuBar(menus_);
+    BuildToolBar();
+    BuildStatusBar();
+    ConnectViews();
+    session_.Stack().AddUndoCommand(menus_->Command(quint32(WindowCommand::Undo)));
+    session_.Stack().AddRedoCommand(menus_->Command(quint32(WindowCommand::Redo)));
+    resizeTimer_.setSingleShot(true);
+    resizeTimer_.setInterval(ResizeDelay);
+    connect(&resizeTimer_, &QTimer::timeout, this, &MainWindow::OnTimerResize);
+    RestoreState();
+    ShowFont();
+}
+
+MainWindow::~MainWindow()
+{
+    if (indexing_ != nullptr)
+        indexing_->wait();
+    // These outlive what the slots use.
+    for (QObject* const sender : std::initializer_list<QObject*>{&session_.Stack(), qApp, table_,
+                                                                 editor_, splitter_, subSplitter_})
+        disconnect(sender, nullptr, this, nullptr);
+}
+
+void MainWindow::BuildWidgets()
+{
+    table_ = new CharTableView;
+    editor_ = new CharBitmapView;
+    info_ = new InfoPanel;
+    preview_ = new TextPreview;
+    auto* const infoArea = new QScrollArea;
+    infoArea->setWidget(info_);
+    infoArea->setWidgetResizable(true);
+    infoArea->setFrameShape(QFrame::NoFrame);
+    infoArea->setMinimumWidth(180);
+    infoArea->setFocusPolicy(Qt::NoFocus);
+
+    auto* const upper = new QSplitter(Qt::Horizontal);
+    upper->addWidget(editor_);
+    upper->addWidget(infoArea);
+    upper->setStretchFactor(0, 1);
+    upper->setSizes({360, 260});
+    subSplitter_ = new QSplitter(Qt::Vertical);
+    subSplitter_->addWidget(upper);
+    subSplitter_->addWidget(preview_);
+    subSplitter_->setStretchFactor(0, 1);
+    subSplitter_->setSizes({520, 130});
+    splitter_ = new QSplitter(Qt::Horizontal);
+    splitter_->addWidget(table_);
+    splitter_->addWidget(subSplitter_);
+    splitter_->setSizes({620, 620});
+    for (QSplitter* const splitter : {splitter_, subSplitter_, upper}) {
+        splitter->setStyleSheet(u"QSplitterHandle { background: #bbbbbb; }"_s);
+        splitter->setChildrenCollapsible(false);
+    }
+    setCentralWidget(splitter_);
+}
+
+void MainWindow::BuildToolBar()
+{
+    auto* const bar = addToolBar(tr("Tools"));
+    bar->setObjectName(u"tools"_s);
+    bar->setIconSize({20, 20});
+    const auto add = [&](quint32 id, const QString& icon) {
+        return AddTool(*bar, menus_->Command(id), icon);
+    };
+    add(quint32(ActionType::CreateFont), u"new"_s);
+    add(quint32(ActionType::OpenFont), u"open"_s);
+    openButton_ = qobject_cast<QToolButton*>(
+        bar->widgetForAction(menus_->Command(quint32(ActionType::OpenFont))));
+    recentMenu_ = new QMenu(this);
+    openButton_->setMenu(recentMenu_);
+    openButton_->setPopupMode(QToolButton::MenuButtonPopup);
+    add(quint32(ActionType::SaveFont), u"save"_s);
+    bar->addSeparator();
+    add(quint32(WindowCommand::Undo), u"undo"_s);
+    add(quint32(WindowCommand::Redo), u"redo"_s);
+    bar->addSeparator();
+    add(quint32(ActionType::Toggle), u"toggle"_s);
+    add(quint32(WindowCommand::GoToCharacter), u"goto"_s);
+    bar->addSeparator();
+    pencil_ = new QAction(QIcon(u":/icons/pencil.svg"_s), tr("Pencil"), this);
+    pencil_->setCheckable(true);
+    pencil_->setStatusTip(tr("Paint pixels by clicking and dragging (Ctrl inverts them)"));
+    bar->addAction(pencil_);
+    pencilIndex_ = new QSpinBox;
+    pencilIndex_->setToolTip(tr("Index that the pencil paints"));
+    pencilIndex_->setAccessibleName(pencilIndex_->toolTip());
+    bar->addWidget(pencilIndex_);
+}
+
+void MainWindow::BuildStatusBar()
+{
+    status_ = new QLabel(tr("Ready"));
+    pixelStatus_ = new QLabel;
+    progress_ = new QProgressBar;
+    progress_->setMaximumWidth(220);
+    progress_->setAccessibleName(tr("Progress"));
+    progress_->hide();
+    statusBar()->addWidget(status_, 1);
+    statusBar()->addPermanentWidget(pixelStatus_);
+    statusBar()->addPermanentWidget(progress_);
+}
+
+void MainWindow::ConnectViews()
+{
+    connect(splitter_, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterMoved);
+    connect(subSplitter_, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterSubMoved);
+    connect(table_, &CharTableView::CurrentChanged, this, &MainWindow::OnCurrentChanged);
+    connect(table_, &CharTableView::SelectionChanged, this, &MainWindow::UpdateCommands);
+    connect(table_, &CharTableView::Activated, this, [this] { editor_->setFocus(); });
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(table_, &QWidget::customContextMenuRequested, this,
+            [this](QPoint place) { ShowContextMenu(table_->viewport()->mapToGlobal(place)); });
+    connect(editor_, &CharBitmapView::PixelSelected, this, &MainWindow::OnPixelSelected);
+    connect(editor_, &CharBitmapView::StatusChanged, pixelStatus_, &QLabel::setText);
+    connect(editor_, &CharBitmapView::MenuRequested, this,
+            [this](QPoint place) { menus_->PixelIndexMenu()->exec(place); });
+    connect(editor_, &CharBitmapView::PixelInverted, this, &MainWindow::RefreshViews);
+    connect(editor_, &CharBitmapView::StrokeBegun, this, [this] { isStroking_ = true; });
+    connect(editor_, &CharBitmapView::PixelPainted, this, &MainWindow::PaintPixel);
+    connect(editor_, &CharBitmapView::StrokeEnded, this, &MainWindow::EndStroke);
+    connect(pencil_, &QAction::toggled, editor_, &CharBitmapView::SetPencil);
+    connect(recentMenu_, &QMenu::aboutToShow, this, &MainWindow::ShowRecentFiles);
+    connect(&session_.Stack(), &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::UpdateCommands);
+}
+
+// Everything that is remembered of the window but its geometry stands in one record.
+void MainWindow::RestoreState()
+{
+    const bool hexadecimal = Settings::Instance().numeralSystem.value() != 0;
+    table_->SetHexadecimal(hexadecimal);
+    info_->SetHexadecimal(hexadecimal);
+    resize(1240, 760);
+    const WindowData stored = Settings::Instance().mainWindow.load();
+    restoreGeometry(stored.geometry);
+    QDataStream stream(stored.state);
+    quint32 version = 0;
+    QByteArray window;
+    QByteArray splitter;
+    QByteArray subSplitter;
+    QStringList files;
+    stream >> version >> window >> splitter >> subSplitter >> files;
+    if (version != StateVersion || stream.status() != QDataStream::Ok)
+        return;
+    restoreState(window);
+    splitter_->restoreState(splitter);
+    subSplitter_->restoreState(subSplitter);
+    recentFiles_ = files;
+}
+
+void MainWindow::SaveState()
+{
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream << StateVersion << saveState() << splitter_->saveState() << subSplitter_->saveState()
+           << recentFiles_;
+    Settings::Instance().mainWindow.save({saveGeometry(), state});
+}
+
+void MainWindow::OnSplitterMoved(int, int)
+{
+    resizeTimer_.start();
+}
+
+void MainWindow::OnSplitterSubMoved(int, int)
+{
+    resizeTimer_.start();
+}
+
+void MainWindow::OnTimerResize()
+{
+    SaveState();
+}
+
+bool MainWindow::Guarded(const std::function<void()>& work)
+{
+    try {
+        work();
+        return true;
+    } catch (const CriticalException& error) {
+        critical(error.Title(), error.Text());
+    } catch (const std::bad_alloc&) {
+        critical(CriticalException::DefaultTitle(), tr("There is not enough memory."));
+    }
+    return false;
+}
+
+void MainWindow::OnCurrentChanged(int code)
+{
+    Font* const font = session_.CurrentFont();
+    Character* const character =
+        font != nullptr && code >= 0 ? font->FindChar(quint16(code)) : nullptr;
+    editor_->SetCharacter(character);
+    info_->Show(font, code);
+    UpdateCommands();
+}
+
+void MainWindow::OnPixelSelected(CharPixelItem* item)
+{
+    pixel_ = item != nullptr ? item->PixelPosition() : QPoint(-1, -1);
+    UpdateCommands();
+}
+
+// Another font is shown from its beginning, the same one where it was.
+void MainWindow::RefreshViews()
+{
+    Font* const font = session_.CurrentFont();
+    if (font != shownFont_) {
+        ShowFont();
+        return;
+    }
+    table_->Refresh();
+    OnCurrentChanged(table_->CurrentCode());
+    preview_->Refresh();
+    UpdateTitle();
+}
+
+void MainWindow::ShowFont()
+{
+    Font* const font = session_.CurrentFont();
+    shownFont_ = font;
+    editor_->SetCharacter(nullptr);
+    table_->SetFont(font);
+    info_->Show(font, table_->CurrentCode());
+    preview_->SetFont(font);
+    const int maximum = font != nullptr ? (1 << font->Metrics().bitsPerPixel) - 1 : 1;
+    pencilIndex_->setRange(0, maximum);
+    pencilIndex_->setValue(maximum);
+    UpdateTitle();
+    UpdateCommands();
+}
+
+void MainWindow::UpdateTitle()
+{
+    const QString name =
+        session_.Path().isEmpty() ? tr("No font") : QFileInfo(session_.Path()).fileName();
+    setWindowTitle(u"%1[*] – %2"_s.arg(name, QString(Program::Name)));
+    setWindowModified(session_.IsModified());
+    UpdateCommands();
+}
+
+// What can be done now.
+void MainWindow::UpdateCommands()
+{
+    const Font* const font = session_.CurrentFont();
+    const bool hasFont = font != nullptr;
+    CodeSet selected = table_->SelectedCodes();
+    if (hasFont)
+        selected &= font->ExistingCodes();
+    const bool hasCharacter = hasFont && selected.Next(0) < CodeSet::Count;
+    const bool hasPixel = hasFont && pixel_.x() >= 0;
+    const auto enable = [this](int id, bool state) {
+        menus_->Command(quint32(id))->setEnabled(state);
+    };
+    for (const ActionType id :
+         {ActionType::MergeFont, ActionType::SaveFontAs, ActionType::SavePattern,
+          ActionType::ReadPattern, ActionType::Enable, ActionType::Disable, ActionType::DisableAll,
+          ActionType::FontInsertRowTop, ActionType::FontInsertRowBottom,
+          ActionType::FontDeleteRowTop, ActionType::FontDeleteRowBottom})
+        enable(int(id), hasFont);
+    enable(int(ActionType::SaveFont), hasFont);
+    enable(int(ActionType::SaveKerning), hasFont && font->HasKerning());
+    enable(int(WindowCommand::AllCharacters), hasFont);
+    enable(int(WindowCommand::GoToCharacter), hasFont);
+    enable(int(ActionType::Toggle), hasCharacter);
+    for (int id = int(ActionType::InsertColumnRight); id <= int(ActionType::DeleteRowBottom); ++id)
+        enable(id, hasCharacter);
+    const int maximum = hasFont ? (1 << font->Metrics().bitsPerPixel) - 1 : -1;
+    for (int id = int(ActionType::IncreasePixelIndex); id <= int(ActionType::SetPixelIndex15); ++id)
+        enable(id, hasPixel && id - int(ActionType::SetPixelIndex0) <= maximum);
+    pencil_->setEnabled(hasFont);
+    pencilIndex_->setEnabled(hasFont);
+}
+
+bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QString& logText)
+{
+    if (action == nullptr)
+        return false;
+    status_->setText(logText.isEmpty() ? tr("Ready") : logText);
+    RefreshViews();
+    return true;
+}
+
+// Undo and redo bring the view back to what they changed.
+void MainWindow::actionChanged(const std::shared_ptr<Action>& action)
+{
+    if (isStroking_)
+        return;
+    RefreshViews();
+    if (!isMovingInHistory_)
+        return;
+    const int current = table_->CurrentCode();
+    if (const auto* const pixel = dynamic_cast<const ActionPixelIndex*>(action.get())) {
+        if (pixel->Args().code != current)
+            table_->SetCurrentCode(pixel->Args().code);
+    } else if (const auto* const edit = dynamic_cast<const ActionChar*>(action.get())) {
+        if (current < edit->Args().first || current > edit->Args().last)
+            table_->SetCurrentCode(edit->Args().first);
+    }
+}
+
+void MainWindow::progressChanged(const QString& text, int value, int maximum)
+{
+    if (!progress_->isVisible())
+        OnProgbarInitCnt(text.toUtf8().constData(), 0, maximum);
+    OnProgbarUpdateCnt(value);
+}
+
+void MainWindow::progressFinished()
+{
+    OnProgbarClose();
+}
+
+void MainWindow::OnProgbarInitCnt(const char* text, int minimum, int maximum)
+{
+    status_->setText(QString::fromUtf8(text));
+    progress_->setRange(minimum, maximum);
+    progress_->show();
+}
+
+void MainWindow::OnProgbarUpdateCnt(int value)
+{
+    progress_->setValue(value);
+    // Shows the bar without letting anything else happen in the middle of the work.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::ExcludeSocketNotifiers);
+}
+
+void MainWindow::OnProgbarClose()
+{
+    progress_->hide();
+    status_->setText(tr("Ready"));
+}
+
+} // namespace Glyphor

@@ -1,0 +1,374 @@
+// The commands of the main window that change the font, and those of its own.
+
+#include "ui/main_window.h"
+
+#include "actions/edit_actions.h"
+#include "actions/session.h"
+#include "app/settings.h"
+#include "app/version.h"
+#include "cli/command_line_parser.h"
+#include "render/font_database.h"
+#include "ui/char_bitmap_view.h"
+#include "ui/char_table_view.h"
+#include "ui/info_panel.h"
+#include "ui/menu_bar.h"
+#include "ui/preference_dialogs.h"
+#include "ui/small_dialogs.h"
+
+#include <QDesktopServices>
+#include <QEventLoop>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QSpinBox>
+#include <QUrl>
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The maximal runs of consecutive codes that are set.
+QList<CodeRun> RunsOf(const CodeSet& codes)
+{
+    QList<CodeRun> runs;
+    int end = 0;
+    for (int first = codes.Next(0); first < CodeSet::Count; first = codes.Next(end)) {
+        end = codes.Next(first, false);
+        runs.append({quint16(first), quint16(end - 1)});
+    }
+    return runs;
+}
+
+} // namespace
+
+void MainWindow::OnActionTriggered()
+{
+    if (const auto* const command = qobject_cast<QAction*>(sender()))
+        RunCommand(CommandId(*command));
+}
+
+void MainWindow::RunCommand(quint32 id)
+{
+    const auto type = ActionType(id);
+    if (type >= ActionType::InsertColumnRight && type <= ActionType::DeleteRowBottom) {
+        RunSelectionEdit(type);
+        return;
+    }
+    if (type >= ActionType::FontInsertRowTop && type <= ActionType::FontDeleteRowBottom) {
+        RunAction(std::make_shared<ActionFont>(session_, type));
+        return;
+    }
+    if (type >= ActionType::IncreasePixelIndex && type <= ActionType::SetPixelIndex15) {
+        RunPixelCommand(type);
+        return;
+    }
+    switch (type) {
+    case ActionType::CreateFont:
+        New();
+        break;
+    case ActionType::OpenFont:
+        Open();
+        break;
+    case ActionType::MergeFont:
+        Merge();
+        break;
+    case ActionType::SaveFont:
+        Save();
+        break;
+    case ActionType::SaveFontAs:
+        SaveAs();
+        break;
+    case ActionType::SaveKerning:
+        SaveKerning();
+        break;
+    case ActionType::SavePattern:
+        SavePattern();
+        break;
+    case ActionType::ReadPattern:
+        OpenPattern();
+        break;
+    case ActionType::Enable:
+    case ActionType::Disable:
+        ChangeRange(type);
+        break;
+    case ActionType::DisableAll:
+        RunAction(std::make_shared<ActionCharState>(session_, type));
+        break;
+    case ActionType::Toggle:
+        RunStateChange(type);
+        break;
+    case ActionType::ExitProgram:
+        close();
+        break;
+    default:
+        RunWindowCommand(id);
+        break;
+    }
+}
+
+void MainWindow::RunWindowCommand(quint32 id)
+{
+    switch (WindowCommand(id)) {
+    case WindowCommand::Undo:
+    case WindowCommand::Redo:
+        isMovingInHistory_ = true;
+        if (WindowCommand(id) == WindowCommand::Undo)
+            session_.Stack().undo();
+        else
+            session_.Stack().redo();
+        isMovingInHistory_ = false;
+        break;
+    case WindowCommand::AllCharacters:
+        table_->SetShowAll(menus_->Command(id)->isChecked());
+        break;
+    case WindowCommand::GoToCharacter:
+        GoToCharacter();
+        break;
+    case WindowCommand::IndexFonts:
+        IndexFonts();
+        break;
+    case WindowCommand::Preferences:
+        ShowPreferences();
+        break;
+    case WindowCommand::About:
+        ShowAbout();
+        break;
+    case WindowCommand::CommandLineOptions:
+        ShowCommandLineOptions();
+        break;
+    case WindowCommand::UserManual:
+        QDesktopServices::openUrl(QUrl(u"https://morvek.example.com/glyphor"_s));
+        break;
+    }
+}
+
+bool MainWindow::handleRequest(ActionType kind)
+{
+    if (kind == ActionType::PrintUsage)
+        ShowCommandLineOptions();
+    return kind == ActionType::PrintUsage || kind == ActionType::ExitProgram;
+}
+
+void MainWindow::RunAction(const std::shared_ptr<Action>& action)
+{
+    Guarded([&action] { action->Run(); });
+}
+
+// One action for each run of selected codes, undone as one.
+void MainWindow::RunSelectionEdit(ActionType type)
+{
+    CodeSet codes = table_->SelectedCodes();
+    codes &= session_.CurrentFont()->ExistingCodes();
+    const QList<CodeRun> runs = RunsOf(codes);
+    const bool isMacro = runs.size() > 1;
+    if (isMacro)
+        session_.Stack().beginMacro(tr("Edit of the selection"));
+    for (const CodeRun& run : runs) {
+        const auto action = std::make_shared<ActionChar>(session_, type);
+        action->Args() = {run.first, run.last};
+        RunAction(action);
+    }
+    if (isMacro)
+        session_.Stack().endMacro();
+}
+
+void MainWindow::RunStateChange(ActionType type)
+{
+    CodeSet codes = table_->SelectedCodes();
+    codes &= session_.CurrentFont()->ExistingCodes();
+    const QList<CodeRun> runs = RunsOf(codes);
+    if (runs.isEmpty())
+        return;
+    // All of the selection becomes the opposite of its first character.
+    const bool enables =
+        type == ActionType::Enable ||
+        (type == ActionType::Toggle && !session_.CurrentFont()->IsEnabled(runs.constFirst().first));
+    const ActionType change = runs.size() == 1 && runs.constFirst().Size() == 1 ? type
+                              : enables                                         ? ActionType::Enable
+                                        : ActionType::Disable;
+    const bool isMacro = runs.size() > 1;
+    if (isMacro)
+        session_.Stack().beginMacro(enables ? tr("Enabled.") : tr("Disabled."));
+    for (const CodeRun& run : runs) {
+        const auto action = std::make_shared<ActionCharState>(session_, change);
+        action->Args().first = run.first;
+        action->Args().last = run.last;
+        RunAction(action);
+    }
+    if (isMacro)
+        session_.Stack().endMacro();
+}
+
+void MainWindow::DeleteSelection()
+{
+    RunAction(std::make_shared<ActionCharDelete>(session_, table_->SelectedCodes()));
+}
+
+void MainWindow::RunPixelCommand(ActionType type)
+{
+    if (pixel_.x() < 0)
+        return;
+    const auto action = std::make_shared<ActionPixelIndex>(session_, type);
+    action->Args().code = quint16(table_->CurrentCode());
+    action->Args().x = pixel_.x();
+    action->Args().y = pixel_.y();
+    RunAction(action);
+}
+
+// The pixels of a stroke are undone as one. A stroke that changes nothing is no step.
+void MainWindow::PaintPixel(int x, int y, bool inverts)
+{
+    const ActionType type =
+        inverts ? ActionType::InvertPixelIndex
+                : ActionType(int(ActionType::SetPixelIndex0) + pencilIndex_->value());
+    const auto action = std::make_shared<ActionPixelIndex>(session_, type);
+    action->Args().code = quint16(table_->CurrentCode());
+    action->Args().x = x;
+    action->Args().y = y;
+    const Character* const character = editor_->CurrentCharacter();
+    if (!inverts && character->bitmap->GetPixelIndex(x, y) == pencilIndex_->value())
+        return;
+    if (isStroking_ && !strokeHasSteps_) {
+        strokeHasSteps_ = true;
+        session_.Stack().beginMacro(tr("Stroke"));
+    }
+    RunAction(action);
+}
+
+void MainWindow::EndStroke()
+{
+    isStroking_ = false;
+    if (strokeHasSteps_)
+        session_.Stack().endMacro();
+    strokeHasSteps_ = false;
+    RefreshViews();
+}
+
+void MainWindow::ChangeRange(ActionType type)
+{
+    const QString title = type == ActionType::Enable ? tr("Enable range of characters")
+                                                     : tr("Disable range of characters");
+    const int current = std::max(0, table_->CurrentCode());
+    RangeDialog dialog(title, current, current, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const auto action = std::make_shared<ActionCharState>(session_, type);
+    action->Args().first = dialog.First();
+    action->Args().last = dialog.Last();
+    RunAction(action);
+}
+
+void MainWindow::GoToCharacter()
+{
+    const std::optional<quint16> code = AskCode(this, tr("Go to character"));
+    if (!code)
+        return;
+    if (table_->SetCurrentCode(*code))
+        table_->setFocus();
+    else
+        information(tr("Go to character"), tr("The table does not show this character."));
+}
+
+void MainWindow::IndexFonts()
+{
+    if (indexing_ != nullptr)
+        return;
+    indexing_ = new FontDatabaseThread(this);
+    connect(indexing_, &FontDatabaseThread::initFileCount, this,
+            [this](int count) { OnProgbarInitCnt("Indexing font files...", 0, count); });
+    connect(indexing_, &FontDatabaseThread::fileDone, this, &MainWindow::OnDatabaseFileDone);
+    connect(indexing_, &FontDatabaseThread::hasFinished, this,
+            &MainWindow::OnDatabaseThreadFinished);
+    connect(indexing_, &QThread::finished, indexing_, &QObject::deleteLater);
+    indexing_->start();
+}
+
+void MainWindow::OnDatabaseFileDone(int done)
+{
+    progress_->setValue(done);
+}
+
+void MainWindow::OnDatabaseThreadFinished()
+{
+    indexing_->wait();
+    indexing_ = nullptr;
+    OnProgbarClose();
+    Q_EMIT FontsIndexed();
+}
+
+// The installed fonts are indexed when they are first asked for.
+void MainWindow::New()
+{
+    if (FontDatabase::Instance().Families().empty()) {
+        QEventLoop loop;
+        connect(this, &MainWindow::FontsIndexed, &loop, &QEventLoop::quit);
+        IndexFonts();
+        loop.exec();
+    }
+    FontDialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted || !AskToSave())
+        return;
+    Guarded([&] {
+        const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::CreateFont);
+        action->Args().path = dialog.Path();
+        action->Args().faceIndex = dialog.FaceIndex();
+        if (CompleteArgs(action->Args()))
+            action->Run();
+    });
+}
+
+void MainWindow::ShowPreferences()
+{
+    PreferencesDialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const bool hexadecimal = Settings::Instance().numeralSystem.value() != 0;
+    table_->SetHexadecimal(hexadecimal);
+    info_->SetHexadecimal(hexadecimal);
+    RefreshViews();
+}
+
+void MainWindow::ShowAbout()
+{
+    FT_Int major = 0;
+    FT_Int minor = 0;
+    FT_Int patch = 0;
+    FT_Library_Version(FreeTypeLibrary(), &major, &minor, &patch);
+    QMessageBox::about(
+        this, tr("About %1").arg(QString(Program::Name)),
+        tr("<h3>%1 %2</h3><p>Bitmap fonts for embedded displays.</p><p>Qt %3, FreeType "
+           "%4</p><p>© Morvek</p>")
+            .arg(QString(Program::Name), QString(Program::Version), QString::fromLatin1(qVersion()),
+                 u"%1.%2.%3"_s.arg(major).arg(minor).arg(patch)));
+}
+
+void MainWindow::ShowCommandLineOptions()
+{
+    CommandDialog(CommandLineParser().usage(), this).exec();
+}
+
+void MainWindow::ShowContextMenu(QPoint globalPosition)
+{
+    if (session_.CurrentFont() == nullptr || table_->CurrentCode() < 0)
+        return;
+    QMenu menu;
+    connect(menu.addAction(tr("&Enable")), &QAction::triggered, this,
+            [this] { RunStateChange(ActionType::Enable); });
+    connect(menu.addAction(tr("&Disable")), &QAction::triggered, this,
+            [this] { RunStateChange(ActionType::Disable); });
+    menu.addAction(menus_->Command(quint32(ActionType::Toggle)));
+    connect(menu.addAction(tr("De&lete")), &QAction::triggered, this, &MainWindow::DeleteSelection);
+    menu.addSeparator();
+    for (QAction* const action : menus_->EditMenu()->actions()) {
+        if (action->menu() != nullptr && action->menu() != menus_->PixelIndexMenu())
+            menu.addMenu(action->menu());
+    }
+    menu.exec(globalPosition);
+}
+
+} // namespace Glyphor

@@ -1,0 +1,99 @@
+#include "support/test_main.h"
+#include "ui/menu_bar.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Receiver final : public QObject
+{
+    Q_OBJECT
+
+public:
+    QList<quint32> triggered;
+
+public Q_SLOTS:
+    void OnActionTriggered() { triggered.append(CommandId(*qobject_cast<QAction*>(sender()))); }
+};
+
+// A line for each entry: indentation, text, shortcut, number and state.
+void Describe(const QList<QAction*>& actions, int depth, QStringList& lines)
+{
+    for (const QAction* const action : actions) {
+        QString line(depth * 2, u' ');
+        if (action->isSeparator()) {
+            line += u'-';
+        } else if (action->menu() != nullptr) {
+            line += action->text() + u':';
+        } else {
+            line += action->text() + u'|' + action->shortcut().toString() + u'|' +
+                    QString::number(CommandId(*action)) +
+                    (action->isEnabled() ? QString() : u"|off"_s) +
+                    (action->isChecked() ? u"|checked"_s : QString());
+        }
+        lines.append(line);
+        if (action->menu() != nullptr)
+            Describe(action->menu()->actions(), depth + 1, lines);
+    }
+}
+
+} // namespace
+
+class TestMenus : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Tree()
+    {
+        Receiver receiver;
+        const MenuBar bar(nullptr, &receiver);
+        QStringList lines;
+        Describe(bar.actions(), 0, lines);
+        QFile file(QStringLiteral(TEST_SOURCES "/ui/menus.txt"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QStringList expected = QString::fromUtf8(file.readAll()).trimmed().split(u'\n');
+        for (qsizetype index = 0; index < std::min(lines.size(), expected.size()); ++index)
+            QCOMPARE(lines[index], expected[index]);
+        QCOMPARE(lines.size(), expected.size());
+    }
+
+    void StatusTips()
+    {
+        Receiver receiver;
+        const MenuBar bar(nullptr, &receiver);
+        const QHash<quint32, QString> tips = {
+            {2, u"Open a font file of the type TTF, BDF, XBF, C or SIF"_s},
+            {14, u"Shift pixel data up"_s},
+            {18, u"Shift pixel data up"_s},
+            {53, u"Set the current pixel to index 15"_s},
+            {57, u"Show enabled characters only"_s},
+            {65, u"Open the user manual (will be opened in a web browser)"_s}};
+        for (auto tip = tips.begin(); tip != tips.end(); ++tip)
+            QCOMPARE(bar.Command(tip.key())->statusTip(), tip.value());
+        QCOMPARE(bar.PixelIndexMenu()->title(), u"Pi&xel index"_s);
+        QVERIFY(bar.Command(99) == nullptr);
+    }
+
+    void CommandsTellTheirNumber()
+    {
+        Receiver receiver;
+        const MenuBar bar(nullptr, &receiver);
+        bar.Command(1)->trigger();
+        bar.Command(3)->trigger(); // disabled
+        bar.Command(64)->trigger();
+        QCOMPARE(receiver.triggered, (QList<quint32>{1, 64}));
+    }
+};
+
+GLYPHOR_TEST(TestMenus)
+
+} // namespace Glyphor
+
+#include "tst_menus.moc"

@@ -1,0 +1,100 @@
+#include "support/sample_font.h"
+#include "support/test_main.h"
+#include "ui/info_panel.h"
+#include "ui/small_dialogs.h"
+#include "ui/text_preview.h"
+
+#include <QTest>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+class TestPreview : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void Positions()
+    {
+        const auto font = Test::MakeSampleFont(FontFormat::AA2);
+        font->FindChar('A')->kerning = {{'B', -1}};
+        TextStrip strip;
+        QCOMPARE(strip.Positions(), QList<int>{0});
+        strip.SetFont(font.get());
+        strip.SetText(u"AB~A"_s); // "~" is disabled
+        QCOMPARE(strip.Positions(), (QList<int>{0, 2, 8, 11, 13}));
+        strip.SetKerning(true);
+        QCOMPARE(strip.Positions(), (QList<int>{0, 1, 7, 10, 12}));
+    }
+
+    void Pixels()
+    {
+        const auto font = Test::MakeSampleFont(FontFormat::Standard);
+        Character& character = *font->FindChar('B');
+        character.info.xPos = 0;
+        character.info.yPos = 1;
+        TextStrip strip;
+        strip.SetFont(font.get());
+        strip.SetText(u"B"_s);
+        strip.SetZoom(3);
+        strip.SetColours(Qt::red, Qt::blue);
+        strip.resize(strip.sizeHint());
+        const QImage picture = strip.grab().toImage();
+        const int margin = (picture.width() - 6 * 3) / 2;
+        for (int y = 0; y < 2; ++y) {
+            for (int x = 0; x < 5; ++x) {
+                const QPoint place(margin + 3 * x + 1, margin + 3 * (y + 1) + 1);
+                const bool isInk = character.bitmap->GetPixelIndex(x, y) != 0;
+                QCOMPARE(picture.pixelColor(place), QColor(isInk ? Qt::red : Qt::blue));
+            }
+        }
+    }
+
+    void Information()
+    {
+        const auto font = Test::MakeSampleFont(FontFormat::Framed);
+        InfoPanel panel;
+        panel.Show(font.get(), 'B');
+        QCOMPARE(panel.Value(u"Code"_s), u"0x0042"_s);
+        QCOMPARE(panel.Value(u"Name"_s), u"LATIN CAPITAL LETTER B"_s);
+        QCOMPARE(panel.Value(u"Block"_s), u"Basic Latin"_s);
+        QCOMPARE(panel.Value(u"Size"_s), u"5 × 2 px"_s);
+        QCOMPARE(panel.Value(u"Offset"_s), u"-5, 3"_s);
+        QCOMPARE(panel.Value(u"Data"_s), u"1 bytes a line, 4 in all"_s);
+        QCOMPARE(panel.Value(u"Enabled characters"_s), u"6 of 7"_s);
+        // The structure, two blocks, six records, and two planes of all rows.
+        QCOMPARE(FlashSize(*font), 16 + 2 * 12 + 6 * 12 + 2 * 2 * (1 + 1 + 2 + 2 + 3));
+        panel.Show(font.get(), 'Z');
+        QCOMPARE(panel.Value(u"Enabled"_s), u"no character"_s);
+        panel.Show(nullptr, -1);
+        QCOMPARE(panel.Value(u"Height"_s), QString());
+    }
+
+    void Codes_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("code"); // -1: none
+        QTest::newRow("hexadecimal") << u" 0x41 "_s << 0x41;
+        QTest::newRow("Unicode") << u"u+20AC"_s << 0x20AC;
+        QTest::newRow("decimal") << u"65"_s << 65;
+        QTest::newRow("digit") << u"7"_s << 7;
+        QTest::newRow("character") << u"ä"_s << 0xE4;
+        QTest::newRow("too large") << u"65536"_s << -1;
+        QTest::newRow("word") << u"AB"_s << -1;
+        QTest::newRow("empty") << QString() << -1;
+    }
+
+    void Codes()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const int, code);
+        QCOMPARE(ParseCode(text) ? int(*ParseCode(text)) : -1, code);
+    }
+};
+
+GLYPHOR_TEST(TestPreview)
+
+} // namespace Glyphor
+
+#include "tst_preview.moc"

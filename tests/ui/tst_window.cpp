@@ -1,0 +1,320 @@
+#include "actions/session.h"
+#include "app/settings.h"
+#include "files/font_file_sif.h"
+#include "support/sample_font.h"
+#include "support/test_main.h"
+#include "ui/char_bitmap_view.h"
+#include "ui/char_table_view.h"
+#include "ui/main_window.h"
+#include "ui/menu_bar.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Answers the next box with a button, and tells its title and text.
+class BoxAnswer
+{
+public:
+    explicit BoxAnswer(QMessageBox::StandardButton button)
+    {
+        timer_.setInterval(10);
+        QObject::connect(&timer_, &QTimer::timeout, [this, button] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return;
+            timer_.stop();
+            text = box->windowTitle() + u": "_s + box->text();
+            box->button(button)->click();
+        });
+        timer_.start();
+    }
+
+    QString text;
+
+private:
+    QTimer timer_;
+};
+
+} // namespace
+
+class TestWindow : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+    std::unique_ptr<Session> session_;
+    std::unique_ptr<MainWindow> window_;
+
+    [[nodiscard]] QString Path(const char* name) const
+    {
+        return folder_.filePath(QString::fromUtf8(name));
+    }
+
+    [[nodiscard]] bool IsEnabled(int id) const
+    {
+        return window_->Menus().Command(quint32(id))->isEnabled();
+    }
+
+    void Trigger(int id) const { window_->Menus().Command(quint32(id))->trigger(); }
+
+    [[nodiscard]] Font& CurrentFont() const { return *session_->CurrentFont(); }
+
+    void OpenSample(FontFormat format = FontFormat::AA2)
+    {
+        const QString path = Path("sample.sif");
+        FontFileSample(format, path);
+        QVERIFY(window_->OpenFile(path));
+    }
+
+    static void FontFileSample(FontFormat format, const QString& path);
+
+    [[nodiscard]] bool Drop(const QString& path) const
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        event.setAccepted(false);
+        // Straight to the window: the application takes drops only from a drag of its own.
+        static_cast<QObject*>(window_.get())->event(&event);
+        return event.isAccepted();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        session_ = std::make_unique<Session>();
+        window_ = std::make_unique<MainWindow>(*session_);
+        SetCurrentInterface(window_.get());
+        window_->show();
+    }
+
+    void cleanup()
+    {
+        SetCurrentInterface(nullptr);
+        window_.reset();
+        session_.reset();
+    }
+
+    void EnablingRules()
+    {
+        for (const int id : {3, 4, 5, 6, 7, 8, 33, 34, 35, 30, 57, 58, 55, 56})
+            QVERIFY2(!IsEnabled(id), qPrintable(QString::number(id)));
+        QVERIFY(IsEnabled(1) && IsEnabled(2) && IsEnabled(62));
+        OpenSample();
+        for (const int id : {3, 4, 5, 7, 8, 25, 26, 30, 32, 33, 34, 57, 58})
+            QVERIFY2(IsEnabled(id), qPrintable(QString::number(id)));
+        QVERIFY(!IsEnabled(6)); // there is no kerning
+        QVERIFY(!IsEnabled(37));
+        window_->Table().SetCurrentCode('A');
+        QVERIFY(window_->Editor().SelectItem(window_->Editor().ItemAt(0, 0)));
+        for (int id = 35; id <= 53; ++id)
+            QCOMPARE(IsEnabled(id), id <= 38 + 3); // 2 bits per pixel
+        window_->Table().SetCurrentCode('D');      // there is no character
+        QVERIFY(!IsEnabled(8) && !IsEnabled(35));
+    }
+
+    void CommandsEditAndUndo_data()
+    {
+        QTest::addColumn<int>("id");
+        for (const int id : {8,  9,  10, 11, 12, 13, 14, 15, 16, 17, 18, 19,
+                             20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 32, 33})
+            QTest::addRow("command %d", id) << id;
+    }
+
+    void CommandsEditAndUndo()
+    {
+        QFETCH(const int, id);
+        OpenSample(FontFormat::AA4);
+        window_->Table().SetCurrentCode('B');
+        CurrentFont().FindChar('B')->info.yPos = 0;
+        const QByteArray before = Test::Snapshot(CurrentFont());
+        Trigger(id);
+        QVERIFY(Test::Snapshot(CurrentFont()) != before);
+        QVERIFY(window_->isWindowModified() && IsEnabled(55));
+        QVERIFY(window_->Menus().Command(55)->statusTip().startsWith(u"Undo last action: "_s));
+        const QByteArray after = Test::Snapshot(CurrentFont());
+        Trigger(55);
+        QVERIFY(!window_->isWindowModified());
+        // Deleted pixels do not come back.
+        if (id < 22 || id > 25)
+            QCOMPARE(Test::Snapshot(CurrentFont()), before);
+        Trigger(56);
+        QCOMPARE(Test::Snapshot(CurrentFont()).size(), after.size());
+    }
+
+    void SelectionsAreOneStep()
+    {
+        OpenSample();
+        QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
+        const QByteArray before = Test::Snapshot(CurrentFont());
+        Trigger(16);
+        QCOMPARE(int(CurrentFont().FindChar('B')->info.xPos), -4);
+        QCOMPARE(int(CurrentFont().FindChar(0x80)->info.xPos), -12);
+        Trigger(33);
+        QVERIFY(!CurrentFont().HasEnabledChars());
+        QCOMPARE(session_->Stack().count(), 2);
+        Trigger(55);
+        Trigger(55);
+        QCOMPARE(Test::Snapshot(CurrentFont()), before);
+    }
+
+    void PixelCommands()
+    {
+        OpenSample(FontFormat::AA4);
+        CurrentFont().FindChar('B')->info.yPos = 1;
+        window_->Table().SetCurrentCode('B');
+        CharBitmapView& editor = window_->Editor();
+        const int top = editor.Top();
+        QVERIFY(editor.SelectItem(editor.ItemAt(1, top)));
+        const CharBitmap& bitmap = *CurrentFont().FindChar('B')->bitmap;
+        Trigger(38 + 9);
+        QCOMPARE(bitmap.GetPixelIndex(1, 0), 9);
+        Trigger(35);
+        QCOMPARE(bitmap.GetPixelIndex(1, 0), 10);
+        Trigger(37);
+        QCOMPARE(bitmap.GetPixelIndex(1, 0), 5);
+        QCOMPARE(editor.CurrentPixel()->PixelPosition(), QPoint(1, 0)); // it stays selected
+        QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 85);
+        window_->Table().SetCurrentCode('A');
+        Trigger(55); // and back to the character
+        QCOMPARE(window_->Table().CurrentCode(), int('B'));
+        QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 170);
+    }
+
+    void StrokesAreOneStep()
+    {
+        OpenSample(FontFormat::AA4);
+        window_->Table().SetCurrentCode('B');
+        const QByteArray before = Test::Snapshot(CurrentFont());
+        CharBitmapView& editor = window_->Editor();
+        for (const bool inverts : {false, true}) {
+            Q_EMIT editor.StrokeBegun();
+            for (int x = 0; x < 4; ++x)
+                Q_EMIT editor.PixelPainted(x, 1, inverts);
+            Q_EMIT editor.StrokeEnded();
+        }
+        QCOMPARE(session_->Stack().count(), 2);
+        QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 0);
+        Trigger(55);
+        QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 15);
+        Trigger(55);
+        QCOMPARE(Test::Snapshot(CurrentFont()), before);
+        Q_EMIT editor.StrokeBegun();
+        Q_EMIT editor.StrokeEnded();
+        QVERIFY(!session_->Stack().canUndo());
+    }
+
+    void SavesAndTells()
+    {
+        OpenSample();
+        QVERIFY(window_->windowTitle().startsWith(u"sample.sif[*]"_s));
+        Trigger(26);
+        QVERIFY(window_->isWindowModified());
+        Trigger(3);
+        QVERIFY(!window_->isWindowModified());
+        Session other;
+        QVERIFY(session_->Path().endsWith(u"sample.sif"_s));
+        QVERIFY(window_->OpenFile(session_->Path()));
+        QCOMPARE(int(CurrentFont().Metrics().height), 4);
+    }
+
+    void FailuresKeepTheFont()
+    {
+        OpenSample();
+        Test::WriteAll(Path("bad.c"), "nothing");
+        const Font* const before = session_->CurrentFont();
+        BoxAnswer answer(QMessageBox::Ok);
+        QVERIFY(!window_->OpenFile(Path("bad.c")));
+        QVERIFY(answer.text.startsWith(u"Error reading C file!: GUI_FONT structure"_s));
+        QCOMPARE(session_->CurrentFont(), before);
+    }
+
+    void Closing_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("closes");
+        QTest::addColumn<bool>("saves");
+        QTest::newRow("yes") << int(QMessageBox::Yes) << true << true;
+        QTest::newRow("no") << int(QMessageBox::No) << true << false;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
+    }
+
+    void Closing()
+    {
+        QFETCH(const int, button);
+        QFETCH(const bool, closes);
+        QFETCH(const bool, saves);
+        OpenSample();
+        const QByteArray old = Test::ReadAll(Path("sample.sif"));
+        Trigger(26);
+        BoxAnswer answer{QMessageBox::StandardButton(button)};
+        QCOMPARE(window_->close(), closes);
+        QCOMPARE(answer.text, u"Save file?: Save current file?"_s);
+        QCOMPARE(Test::ReadAll(Path("sample.sif")) != old, saves);
+    }
+
+    void Drops()
+    {
+        FontFileSample(FontFormat::AA4, Path("drop.sif"));
+        QVERIFY(Drop(Path("drop.sif")));
+        QVERIFY(session_->CurrentFont() != nullptr);
+        QCOMPARE(MainWindow::CommandOfFile(u"a.TXT"_s), 34U);
+        QCOMPARE(MainWindow::CommandOfFile(u"a.png"_s), 0U);
+        Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe7e00"));
+        CurrentFont().SetEnabled(0x42, 0x42, false);
+        Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe4200"));
+        {
+            BoxAnswer answer(QMessageBox::No);
+            QVERIFY(!Drop(Path("pattern.txt")));
+            QCOMPARE(answer.text,
+                     u"Load pattern file?: Apply the pattern file pattern.txt to this font?"_s);
+            QVERIFY(!CurrentFont().IsEnabled(0x42));
+        }
+        BoxAnswer answer(QMessageBox::Yes);
+        QVERIFY(Drop(Path("pattern.txt")));
+        QVERIFY(CurrentFont().IsEnabled(0x42));
+    }
+
+    void StateIsRemembered()
+    {
+        OpenSample();
+        window_->resize(900, 500);
+        window_->close();
+        window_ = std::make_unique<MainWindow>(*session_);
+        SetCurrentInterface(window_.get());
+        window_->show();
+        QCOMPARE(window_->size(), QSize(900, 500));
+    }
+
+    void BrokenStateGivesTheDefaults()
+    {
+        Settings::Instance().mainWindow.save({"geometry", "state"});
+        const MainWindow other(*session_);
+        QCOMPARE(other.size(), QSize(1240, 760));
+    }
+};
+
+void TestWindow::FontFileSample(FontFormat format, const QString& path)
+{
+    FontFileSIF(path).Write(*Test::MakeSampleFont(format));
+}
+
+GLYPHOR_TEST(TestWindow)
+
+} // namespace Glyphor
+
+#include "tst_window.moc"
