@@ -1,5 +1,7 @@
 #include "ui/char_bitmap_view.h"
 
+#include "ui/char_picture.h"
+
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -53,8 +55,11 @@ void CharBitmapView::SetCharacter(Character* character)
         UpdateItems();
         PlaceItems();
     }
-    for (CharPixelItem* const item : items_)
-        item->UpdateFrom(*character_);
+    if (character_ != nullptr) {
+        const FramePlane frame(*character_);
+        for (CharPixelItem* const item : items_)
+            item->UpdateFrom(*character_, frame);
+    }
     if (isOther || isResized || (current_ != nullptr && current_->CellState() != 0)) {
         ClearPixel();
         CharPixelItem* const same = isOther ? nullptr : ItemAt(selected.x(), selected.y());

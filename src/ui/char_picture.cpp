@@ -7,15 +7,19 @@ int IndexAlpha(int index, int bitsPerPixel)
     return index * 255 / ((1 << bitsPerPixel) - 1);
 }
 
-bool HasFramePixel(const Character& character, int x, int y)
+FramePlane::FramePlane(const Character& character)
 {
     const CharInfo& info = character.info;
-    if (info.font.format != FontFormat::Framed || x < 0 || y < 0 || x >= info.width ||
-        y >= info.height)
-        return false;
-    const QByteArray planes = character.bitmap->DataAsList();
-    const PixelLayout layout{info.width, info.height, 1};
-    return PixelPlane::GetPixel(planes.sliced(layout.Size()), layout, x, y) != 0;
+    if (info.font.format != FontFormat::Framed)
+        return;
+    layout_ = {info.width, info.height, 1};
+    bytes_ = character.bitmap->DataAsList().sliced(layout_.Size());
+}
+
+bool FramePlane::HasPixel(int x, int y) const
+{
+    return x < layout_.width && y < layout_.rows &&
+           PixelPlane::GetPixel(bytes_, layout_, x, y) != 0;
 }
 
 QImage CharPicture(const Character& character, const QColor& ink, const QColor& paper)
@@ -23,14 +27,14 @@ QImage CharPicture(const Character& character, const QColor& ink, const QColor& 
     const CharInfo& info = character.info;
     QImage picture(info.width, info.Rows(), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
-    const bool isFramed = info.font.format == FontFormat::Framed;
+    const FramePlane frame(character);
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
             const int index = character.bitmap->GetPixelIndex(x, y);
             QColor colour = ink;
             if (index != 0)
                 colour.setAlpha(IndexAlpha(index, info.font.bitsPerPixel));
-            else if (isFramed && HasFramePixel(character, x, y))
+            else if (frame.HasPixel(x, y))
                 colour = paper;
             else
                 continue;

@@ -15,7 +15,19 @@ namespace Glyphor {
 // How opaque an index is drawn, 0 to 255.
 [[nodiscard]] int IndexAlpha(int index, int bitsPerPixel);
 
-// True where a framed character has a frame pixel; (0, 0) is the first pixel of its bitmap.
-[[nodiscard]] bool HasFramePixel(const Character& character, int x, int y);
+// The frame of a framed character. Takes the plane once, for many questions.
+class FramePlane
+{
+public:
+    // Of any other character there is no pixel.
+    explicit FramePlane(const Character& character);
+
+    // (0, 0) is the first pixel of the bitmap.
+    [[nodiscard]] bool HasPixel(int x, int y) const;
+
+private:
+    PixelLayout layout_;
+    QByteArray bytes_;
+};
 
 } // namespace Glyphor

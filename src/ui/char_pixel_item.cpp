@@ -27,7 +27,7 @@ void CharPixelItem::Place(int column, int row)
     row_ = row;
 }
 
-void CharPixelItem::UpdateFrom(const Character& character)
+void CharPixelItem::UpdateFrom(const Character& character, const FramePlane& frame)
 {
     const CharInfo& info = character.info;
     const bool isLegacy = IsLegacyFormat(info.font.format);
@@ -37,7 +37,7 @@ void CharPixelItem::UpdateFrom(const Character& character)
     if (!isLegacy && (y < 0 || y >= info.height)) {
         state_ = Outside;
         colour_ = QColor(255, 255, 128);
-    } else if (HasFramePixel(character, x, y)) {
+    } else if (frame.HasPixel(x, y)) {
         state_ = Frame;
         colour_ = QColor(128, 255, 255);
     } else {

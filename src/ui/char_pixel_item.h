@@ -9,6 +9,7 @@
 namespace Glyphor {
 
 class CharBitmapView;
+class FramePlane;
 
 // One cell of the pixel editor.
 class CharPixelItem final : public QGraphicsRectItem, public QGraphicsLayoutItem
@@ -20,8 +21,9 @@ public:
 
     void Place(int column, int row);
 
-    // Takes state and colour from the character.
-    void UpdateFrom(const Character& character);
+    // Takes state and colour from the character, whose frame is given apart: it is asked for every
+    // cell.
+    void UpdateFrom(const Character& character, const FramePlane& frame);
 
     [[nodiscard]] State CellState() const { return state_; }
     [[nodiscard]] const QColor& Colour() const { return colour_; }

@@ -198,13 +198,15 @@ void MainWindow::RestoreState()
     QByteArray splitter;
     QByteArray subSplitter;
     QStringList files;
-    stream >> version >> window >> splitter >> subSplitter >> files;
+    QByteArray preview;
+    stream >> version >> window >> splitter >> subSplitter >> files >> preview;
     if (version != StateVersion || stream.status() != QDataStream::Ok)
         return;
     restoreState(window);
     splitter_->restoreState(splitter);
     subSplitter_->restoreState(subSplitter);
     recentFiles_ = files;
+    preview_->RestoreState(preview);
 }
 
 void MainWindow::SaveState()
@@ -212,7 +214,7 @@ void MainWindow::SaveState()
     QByteArray state;
     QDataStream stream(&state, QIODevice::WriteOnly);
     stream << StateVersion << saveState() << splitter_->saveState() << subSplitter_->saveState()
-           << recentFiles_;
+           << recentFiles_ << preview_->State();
     Settings::Instance().mainWindow.save({saveGeometry(), state});
 }
 
@@ -317,7 +319,10 @@ void MainWindow::UpdateCommands()
           ActionType::FontInsertRowTop, ActionType::FontInsertRowBottom,
           ActionType::FontDeleteRowTop, ActionType::FontDeleteRowBottom})
         enable(int(id), hasFont);
-    enable(int(ActionType::SaveFont), hasFont);
+    // A font that was rendered has no file of its own yet.
+    const auto type = FileTypeOf(session_.Path());
+    const bool hasFile = type && IsWritten(*type);
+    enable(int(ActionType::SaveFont), hasFont && (session_.IsModified() || !hasFile));
     enable(int(ActionType::SaveKerning), hasFont && font->HasKerning());
     enable(int(WindowCommand::AllCharacters), hasFont);
     enable(int(WindowCommand::GoToCharacter), hasFont);

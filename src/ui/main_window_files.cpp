@@ -124,8 +124,7 @@ void MainWindow::Merge()
 bool MainWindow::Save()
 {
     const auto type = FileTypeOf(session_.Path());
-    const bool isOwn = type && !IsScalable(*type) && *type != FileType::Bdf;
-    return isOwn ? SaveTo(session_.Path(), ActionType::SaveFont) : SaveAs();
+    return type && IsWritten(*type) ? SaveTo(session_.Path(), ActionType::SaveFont) : SaveAs();
 }
 
 bool MainWindow::SaveAs()

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QDataStream>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -151,7 +152,9 @@ TextPreview::TextPreview(QWidget* parent)
       strip_(new TextStrip),
       field_(new QLineEdit(tr("The quick brown fox jumps over the lazy dog. 0123456789"))),
       zoom_(new QSpinBox),
-      kerning_(new QCheckBox(tr("&Kerning")))
+      kerning_(new QCheckBox(tr("&Kerning"))),
+      inkButton_(new QToolButton),
+      paperButton_(new QToolButton)
 {
     auto* const label = new QLabel(tr("Sa&mple:"));
     label->setBuddy(field_);
@@ -159,18 +162,16 @@ TextPreview::TextPreview(QWidget* parent)
     zoom_->setRange(1, 8);
     zoom_->setPrefix(tr("×"));
     zoom_->setAccessibleName(tr("Zoom of the sample"));
-    auto* const ink = new QToolButton;
-    auto* const paper = new QToolButton;
-    ShowColour(*ink, ink_);
-    ShowColour(*paper, paper_);
-    ink->setToolTip(tr("Colour of the ink"));
-    paper->setToolTip(tr("Colour of the paper"));
-    for (QToolButton* const button : {ink, paper})
+    ShowColour(*inkButton_, ink_);
+    ShowColour(*paperButton_, paper_);
+    inkButton_->setToolTip(tr("Colour of the ink"));
+    paperButton_->setToolTip(tr("Colour of the paper"));
+    for (QToolButton* const button : {inkButton_, paperButton_})
         button->setAccessibleName(button->toolTip());
 
     auto* const controls = new QHBoxLayout;
     for (QWidget* const widget :
-         std::initializer_list<QWidget*>{label, field_, zoom_, kerning_, ink, paper})
+         std::initializer_list<QWidget*>{label, field_, zoom_, kerning_, inkButton_, paperButton_})
         controls->addWidget(widget, widget == field_ ? 1 : 0);
     auto* const area = new QScrollArea;
     area->setWidget(strip_);
@@ -185,9 +186,10 @@ TextPreview::TextPreview(QWidget* parent)
     connect(field_, &QLineEdit::textChanged, strip_, &TextStrip::SetText);
     connect(zoom_, &QSpinBox::valueChanged, strip_, &TextStrip::SetZoom);
     connect(kerning_, &QCheckBox::toggled, strip_, &TextStrip::SetKerning);
-    connect(ink, &QToolButton::clicked, this, [this, ink] { ChooseColour(ink_, *ink, tr("Ink")); });
-    connect(paper, &QToolButton::clicked, this,
-            [this, paper] { ChooseColour(paper_, *paper, tr("Paper")); });
+    connect(inkButton_, &QToolButton::clicked, this,
+            [this] { ChooseColour(ink_, *inkButton_, tr("Ink")); });
+    connect(paperButton_, &QToolButton::clicked, this,
+            [this] { ChooseColour(paper_, *paperButton_, tr("Paper")); });
     zoom_->setValue(2);
     strip_->SetText(field_->text());
 }
@@ -196,6 +198,35 @@ void TextPreview::SetFont(const Font* font)
 {
     strip_->SetFont(font);
     kerning_->setEnabled(font != nullptr && font->HasKerning());
+}
+
+QByteArray TextPreview::State() const
+{
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream << field_->text() << qint32(zoom_->value()) << kerning_->isChecked() << ink_ << paper_;
+    return state;
+}
+
+void TextPreview::RestoreState(const QByteArray& state)
+{
+    QDataStream stream(state);
+    QString text;
+    qint32 zoom = 0;
+    bool hasKerning = false;
+    QColor ink;
+    QColor paper;
+    stream >> text >> zoom >> hasKerning >> ink >> paper;
+    if (stream.status() != QDataStream::Ok)
+        return;
+    field_->setText(text);
+    zoom_->setValue(zoom);
+    kerning_->setChecked(hasKerning);
+    ink_ = ink;
+    paper_ = paper;
+    ShowColour(*inkButton_, ink_);
+    ShowColour(*paperButton_, paper_);
+    strip_->SetColours(ink_, paper_);
 }
 
 void TextPreview::Refresh()

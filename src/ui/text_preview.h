@@ -61,6 +61,10 @@ public:
     void SetFont(const Font* font);
     void Refresh();
 
+    // The sample and how it is shown, to be remembered. An unknown state changes nothing.
+    [[nodiscard]] QByteArray State() const;
+    void RestoreState(const QByteArray& state);
+
     [[nodiscard]] TextStrip& Strip() const { return *strip_; }
 
 private:
@@ -71,6 +75,8 @@ private:
     QLineEdit* field_;
     QSpinBox* zoom_;
     QCheckBox* kerning_;
+    QToolButton* inkButton_;
+    QToolButton* paperButton_;
     QColor ink_ = Qt::black;
     QColor paper_ = Qt::white;
 };

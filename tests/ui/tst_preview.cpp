@@ -4,6 +4,7 @@
 #include "ui/small_dialogs.h"
 #include "ui/text_preview.h"
 
+#include <QLineEdit>
 #include <QTest>
 
 namespace Glyphor {
@@ -49,6 +50,20 @@ private Q_SLOTS:
                 QCOMPARE(picture.pixelColor(place), QColor(isInk ? Qt::red : Qt::blue));
             }
         }
+    }
+
+    void StateIsRemembered()
+    {
+        const auto font = Test::MakeSampleFont(FontFormat::AA2);
+        TextPreview first;
+        TextPreview second;
+        for (TextPreview* const preview : {&first, &second})
+            preview->SetFont(font.get());
+        first.findChild<QLineEdit*>()->setText(u"AB"_s);
+        second.RestoreState(first.State());
+        QCOMPARE(second.Strip().Positions(), (QList<int>{0, 2, 8}));
+        second.RestoreState("broken");
+        QCOMPARE(second.State(), first.State());
     }
 
     void Information()
