@@ -151,10 +151,8 @@ bool Font::HasEnabledChars() const
     return codes.Next(0) != CodeSet::Count;
 }
 
-std::vector<CodeRun> Font::EnabledRuns() const
+std::vector<CodeRun> RunsOf(const CodeSet& codes)
 {
-    CodeSet codes = enabled_;
-    codes &= existing_;
     std::vector<CodeRun> runs;
     int end = 0;
     for (int first = codes.Next(0); first < CodeSet::Count; first = codes.Next(end)) {
@@ -162,6 +160,13 @@ std::vector<CodeRun> Font::EnabledRuns() const
         runs.push_back({static_cast<quint16>(first), static_cast<quint16>(end - 1)});
     }
     return runs;
+}
+
+std::vector<CodeRun> Font::EnabledRuns() const
+{
+    CodeSet codes = enabled_;
+    codes &= existing_;
+    return RunsOf(codes);
 }
 
 int Font::CharDataWidth(const Character& character) const

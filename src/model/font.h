@@ -40,6 +40,9 @@ struct CodeRun
     bool operator==(const CodeRun&) const = default;
 };
 
+// The maximal runs of consecutive codes of a set, in ascending order.
+[[nodiscard]] std::vector<CodeRun> RunsOf(const CodeSet& codes);
+
 // One bitmap font: its metrics, its characters by code, and the codes that are enabled. Only
 // characters that exist and are enabled are saved.
 class Font

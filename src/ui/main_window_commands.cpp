@@ -30,22 +30,6 @@ namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// The maximal runs of consecutive codes that are set.
-QList<CodeRun> RunsOf(const CodeSet& codes)
-{
-    QList<CodeRun> runs;
-    int end = 0;
-    for (int first = codes.Next(0); first < CodeSet::Count; first = codes.Next(end)) {
-        end = codes.Next(first, false);
-        runs.append({quint16(first), quint16(end - 1)});
-    }
-    return runs;
-}
-
-} // namespace
-
 void MainWindow::OnActionTriggered()
 {
     if (const auto* const command = qobject_cast<QAction*>(sender()))
@@ -164,7 +148,7 @@ void MainWindow::RunSelectionEdit(ActionType type)
 {
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
-    const QList<CodeRun> runs = RunsOf(codes);
+    const std::vector<CodeRun> runs = RunsOf(codes);
     const bool isMacro = runs.size() > 1;
     if (isMacro)
         session_.Stack().beginMacro(tr("Edit of the selection"));
@@ -181,16 +165,16 @@ void MainWindow::RunStateChange(ActionType type)
 {
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
-    const QList<CodeRun> runs = RunsOf(codes);
-    if (runs.isEmpty())
+    const std::vector<CodeRun> runs = RunsOf(codes);
+    if (runs.empty())
         return;
     // All of the selection becomes the opposite of its first character.
     const bool enables =
         type == ActionType::Enable ||
-        (type == ActionType::Toggle && !session_.CurrentFont()->IsEnabled(runs.constFirst().first));
-    const ActionType change = runs.size() == 1 && runs.constFirst().Size() == 1 ? type
-                              : enables                                         ? ActionType::Enable
-                                        : ActionType::Disable;
+        (type == ActionType::Toggle && !session_.CurrentFont()->IsEnabled(runs.front().first));
+    const ActionType change = runs.size() == 1 && runs.front().Size() == 1 ? type
+                              : enables                                    ? ActionType::Enable
+                                                                           : ActionType::Disable;
     const bool isMacro = runs.size() > 1;
     if (isMacro)
         session_.Stack().beginMacro(enables ? tr("Enabled.") : tr("Disabled."));

@@ -22,16 +22,6 @@ namespace {
 
 constexpr int UsagePixelSize = 12;
 
-QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
-                             QDialogButtonBox::StandardButtons kinds)
-{
-    auto* const buttons = new QDialogButtonBox(kinds, Qt::Horizontal);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    layout.addWidget(buttons);
-    return buttons;
-}
-
 QCheckBox* Box(const QString& text, bool isOn)
 {
     auto* const box = new QCheckBox(text);

@@ -24,16 +24,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout)
-{
-    auto* const buttons =
-        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    layout.addWidget(buttons);
-    return buttons;
-}
-
 // For rows of more than one widget, which have no buddy of their own.
 QLabel* LabelFor(QWidget& buddy, const QString& text)
 {
@@ -49,6 +39,16 @@ QString CodeText(int code)
 }
 
 } // namespace
+
+QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
+                             QDialogButtonBox::StandardButtons kinds)
+{
+    auto* const buttons = new QDialogButtonBox(kinds, Qt::Horizontal, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout.addWidget(buttons);
+    return buttons;
+}
 
 std::optional<quint16> ParseCode(const QString& text)
 {

@@ -3,17 +3,23 @@
 #include "actions/action_open_font.h"
 
 #include <QDialog>
+#include <QDialogButtonBox>
 
 #include <optional>
 
-class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QSpinBox;
+class QVBoxLayout;
 
 namespace Glyphor {
+
+// Adds the buttons below a dialog and has them close it.
+QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
+                             QDialogButtonBox::StandardButtons kinds = QDialogButtonBox::Ok |
+                                                                       QDialogButtonBox::Cancel);
 
 // A code as the user writes it: 0x41, 65 or U+0041, or a single character; nothing for other texts.
 [[nodiscard]] std::optional<quint16> ParseCode(const QString& text);
