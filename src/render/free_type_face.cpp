@@ -84,17 +84,6 @@ QString DecodeName(const FT_SfntName& name)
     return text;
 }
 
-QString FindName(FT_Face face, FT_UInt nameId)
-{
-    const FT_UInt count = FT_Get_Sfnt_Name_Count(face);
-    for (FT_UInt index = 0; index < count; ++index) {
-        FT_SfntName name{};
-        if (FT_Get_Sfnt_Name(face, index, &name) == 0 && name.name_id == nameId)
-            return DecodeName(name);
-    }
-    return {};
-}
-
 // The first name of each number.
 QHash<FT_UInt, QString> AllNames(FT_Face face)
 {
@@ -283,14 +272,6 @@ int FreeTypeFace::NamedInstanceCount() const
 {
     const Variations variations = VariationsOf(library_, face_);
     return variations ? static_cast<int>(variations->num_namedstyles) : 0;
-}
-
-QString FreeTypeFace::NamedInstanceName(int index) const
-{
-    const Variations variations = VariationsOf(library_, face_);
-    if (!variations || index < 1 || index > static_cast<int>(variations->num_namedstyles))
-        return {};
-    return FindName(face_, variations->namedstyle[index - 1].strid);
 }
 
 std::vector<NamedInstance> FreeTypeFace::NamedInstances() const

@@ -91,9 +91,6 @@ public:
     // All of them, the first one with the index 1. Cheaper than asking one by one.
     [[nodiscard]] std::vector<NamedInstance> NamedInstances() const;
 
-    // The name of one of them, counted from 1; empty where it has none.
-    [[nodiscard]] QString NamedInstanceName(int index) const;
-
     // How many named instances there are, whether or not their names can be read.
     [[nodiscard]] int NamedInstanceCount() const;
 
