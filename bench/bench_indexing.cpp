@@ -29,7 +29,7 @@ int main(int argc, char** argv)
         indexing.push_back(Seconds([&] {
             FontDatabase database;
             database.Build(
-                directories, [&files](int count) { files = count; }, [](int) {});
+                directories, [&files](int count) { files = count; }, [](int) { return true; });
             families = database.Families().size();
         }));
         scanning.push_back(Seconds([&] {

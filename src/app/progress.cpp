@@ -19,14 +19,14 @@ Progress::~Progress()
 void Progress::SetValue(int value)
 {
     value_ = std::min(value, maximum_);
-    if (value_ >= nextReport_)
-        Report();
+    if (value_ >= nextReport_ && !Report())
+        throw WorkStopped();
 }
 
-void Progress::Report()
+bool Progress::Report()
 {
-    CurrentInterface().progressChanged(text_, value_, maximum_);
     nextReport_ = value_ + std::max(1, maximum_ / 100);
+    return CurrentInterface().progressChanged(text_, value_, maximum_);
 }
 
 } // namespace Glyphor

@@ -31,7 +31,10 @@ bool UserInterface::actionPerformed(const std::shared_ptr<Action>& action, const
 
 void UserInterface::actionChanged(const std::shared_ptr<Action>&) {}
 
-void UserInterface::progressChanged(const QString&, int, int) {}
+bool UserInterface::progressChanged(const QString&, int, int)
+{
+    return true;
+}
 
 void UserInterface::progressFinished() {}
 

@@ -35,8 +35,8 @@ public:
     // Tells that an action was undone or redone, so that views show the change.
     virtual void actionChanged(const std::shared_ptr<Action>& action) = 0;
 
-    // Long work: `value` runs from 0 to `maximum`, in steps worth showing.
-    virtual void progressChanged(const QString& text, int value, int maximum) = 0;
+    // Long work: `value` runs from 0 to `maximum`, in steps worth showing. False asks it to stop.
+    virtual bool progressChanged(const QString& text, int value, int maximum) = 0;
     virtual void progressFinished() = 0;
 
     // The number of the chosen font format, or -1.
@@ -59,7 +59,7 @@ public:
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
     void actionChanged(const std::shared_ptr<Action>& action) override;
-    void progressChanged(const QString& text, int value, int maximum) override;
+    bool progressChanged(const QString& text, int value, int maximum) override;
     void progressFinished() override;
     int askFontFormat() override;
     int askMergeMode() override;

@@ -6,6 +6,7 @@
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/error_file.h"
+#include "app/progress.h"
 #include "cli/installed_fonts.h"
 #include "files/file_types.h"
 
@@ -147,6 +148,8 @@ void CommandLine::runGuarded(int argc, const char* const* argv, Session& session
             fail(error.Title(), error.Text());
         } catch (const std::bad_alloc&) {
             fail(CriticalException::DefaultTitle(), u"There is not enough memory."_s);
+        } catch (const WorkStopped&) {
+            // The window told so.
         }
     } catch (const CriticalException& error) { // of the error file
         CurrentInterface().critical(error.Title(), error.Text());
@@ -286,10 +289,11 @@ bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const Q
     return true;
 }
 
-void CommandLine::progressChanged(const QString& text, int value, int maximum)
+bool CommandLine::progressChanged(const QString& text, int value, int maximum)
 {
     if (progressConsole_.IsTerminal())
         progressConsole_.Print(u"\r%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
+    return true;
 }
 
 void CommandLine::progressFinished()

@@ -37,7 +37,7 @@ public:
     bool handleRequest(ActionType kind) override;
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
-    void progressChanged(const QString& text, int value, int maximum) override;
+    bool progressChanged(const QString& text, int value, int maximum) override;
     void progressFinished() override;
 
     // Throw a CriticalException where standard input ends before an answer.

@@ -17,10 +17,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The database, built in the background while the progress is shown here.
-const FontDatabase& BuiltDatabase()
+std::shared_ptr<const FontDatabase> BuiltDatabase()
 {
-    const FontDatabase& database = FontDatabase::Instance();
-    if (!database.Families().empty())
+    if (auto database = FontDatabase::Current(); !database->Families().empty())
         return database;
     QEventLoop loop;
     FontDatabaseThread thread;
@@ -28,13 +27,23 @@ const FontDatabase& BuiltDatabase()
     QObject::connect(&thread, &FontDatabaseThread::initFileCount, &loop, [&progress](int count) {
         progress = std::make_unique<Progress>(u"Indexing font files..."_s, count);
     });
-    QObject::connect(&thread, &FontDatabaseThread::fileDone, &loop,
-                     [&progress](int done) { progress->SetValue(done); });
+    bool isStopped = false;
+    QObject::connect(&thread, &FontDatabaseThread::fileDone, &loop, [&](int done) {
+        try { // nothing may be thrown through the loop
+            if (!isStopped)
+                progress->SetValue(done);
+        } catch (const WorkStopped&) {
+            isStopped = true;
+            thread.requestInterruption();
+        }
+    });
     QObject::connect(&thread, &FontDatabaseThread::hasFinished, &loop, &QEventLoop::quit);
     thread.start();
-    loop.exec();
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
     thread.wait();
-    return database;
+    if (isStopped)
+        throw WorkStopped();
+    return FontDatabase::Current();
 }
 
 // Names come from fonts; none may break a line of the table or command the terminal.
@@ -83,8 +92,8 @@ QStringList Nearest(QStringList names, const QString& name)
 
 InstalledFont FindInstalledFont(const QString& family, const QString& style)
 {
-    const FontDatabase& database = BuiltDatabase();
-    const FontFamily* const found = database.Find(family);
+    const auto database = BuiltDatabase();
+    const FontFamily* const found = database->Find(family);
     if (found != nullptr && !found->Path(style).isEmpty())
         return {found->Path(style), found->FaceIndex(style)};
 
@@ -93,7 +102,7 @@ InstalledFont FindInstalledFont(const QString& family, const QString& style)
         hint = u"Its styles are: %1"_s.arg(StylesOf(*found));
     } else {
         QStringList families;
-        for (const auto& other : database.Families())
+        for (const auto& other : database->Families())
             families.append(Printable(other->Name()));
         hint = families.isEmpty() ? u"There are no fonts in the font directories."_s
                                   : u"Families with a similar name: %1"_s.arg(
@@ -104,16 +113,16 @@ InstalledFont FindInstalledFont(const QString& family, const QString& style)
 
 QString InstalledFontTable()
 {
-    const FontDatabase& database = BuiltDatabase();
+    const auto database = BuiltDatabase();
     const QString heading = u"Font family"_s;
     qsizetype width = heading.size();
-    for (const auto& family : database.Families())
+    for (const auto& family : database->Families())
         width = std::max(width, family->Name().size());
     const auto row = [width](const QString& name, const QString& styles) {
         return name.leftJustified(width + 2) + styles + u'\n';
     };
     QString table = row(heading, u"Styles"_s);
-    for (const auto& family : database.Families())
+    for (const auto& family : database->Families())
         table += row(Printable(family->Name()), StylesOf(*family));
     return table;
 }

@@ -8,6 +8,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <mutex>
 
 namespace Glyphor {
 
@@ -93,16 +94,26 @@ private:
     FT_Library library_ = nullptr;
 };
 
+std::mutex currentMutex;
+std::shared_ptr<const FontDatabase> current;
+
 } // namespace
 
-FontDatabase& FontDatabase::Instance()
+std::shared_ptr<const FontDatabase> FontDatabase::Current()
 {
-    static FontDatabase database;
-    return database;
+    const std::scoped_lock lock(currentMutex);
+    static const auto empty = std::make_shared<const FontDatabase>();
+    return current != nullptr ? current : empty;
 }
 
-void FontDatabase::Build(const QStringList& directories, const std::function<void(int)>& counted,
-                         const std::function<void(int)>& done)
+void FontDatabase::SetCurrent(std::shared_ptr<const FontDatabase> database)
+{
+    const std::scoped_lock lock(currentMutex);
+    current = std::move(database);
+}
+
+bool FontDatabase::Build(const QStringList& directories, const std::function<void(int)>& counted,
+                         const std::function<bool(int)>& done)
 {
     families_.clear();
     const std::vector<FontFileEntry> files = FontFilesIn(directories);
@@ -112,9 +123,11 @@ void FontDatabase::Build(const QStringList& directories, const std::function<voi
     for (const FontFileEntry& file : files) {
         for (auto& family : ListFamilies(file.path, file.type, library.Get()))
             Add(std::move(family));
-        done(++count);
+        if (!done(++count))
+            return false;
     }
     std::ranges::sort(families_, {}, [](const auto& family) { return family->Name(); });
+    return true;
 }
 
 void FontDatabase::Add(std::unique_ptr<FontFamily> family)
@@ -162,10 +175,16 @@ FontDatabaseThread::FontDatabaseThread(QObject* parent)
 
 void FontDatabaseThread::run()
 {
-    FontDatabase::Instance().Build(
+    auto database = std::make_shared<FontDatabase>();
+    const bool isComplete = database->Build(
         FontSearchList(additionalDirectories_, recursively_),
         [this](int count) { Q_EMIT initFileCount(count); },
-        [this](int done) { Q_EMIT fileDone(done); });
+        [this](int done) {
+            Q_EMIT fileDone(done);
+            return !isInterruptionRequested();
+        });
+    if (isComplete)
+        FontDatabase::SetCurrent(std::move(database));
     Q_EMIT hasFinished();
 }
 

@@ -5,6 +5,7 @@
 #include <QThread>
 
 #include <functional>
+#include <memory>
 
 namespace Glyphor {
 
@@ -12,13 +13,15 @@ namespace Glyphor {
 class FontDatabase
 {
 public:
-    // The process-wide one, empty until it was built.
-    static FontDatabase& Instance();
+    // The process-wide one, empty until one was built. It stays as it is and is replaced as a
+    // whole, so any thread may ask for it and keep it.
+    static std::shared_ptr<const FontDatabase> Current();
+    static void SetCurrent(std::shared_ptr<const FontDatabase> database);
 
     // Indexes the font files of the directories anew. `counted` hears the number of files, `done`
-    // after each how many are done.
-    void Build(const QStringList& directories, const std::function<void(int)>& counted,
-               const std::function<void(int)>& done);
+    // after each how many are done. False where `done` asked to stop by returning false.
+    bool Build(const QStringList& directories, const std::function<void(int)>& counted,
+               const std::function<bool(int)>& done);
 
     [[nodiscard]] const FontFamilies& Families() const { return families_; }
 
@@ -39,7 +42,7 @@ private:
 [[nodiscard]] QStringList ExpandDirectories(const QStringList& directories, bool recursively);
 
 // Rebuilds the process-wide database in the background, with the directories that the settings have
-// when it is made.
+// when it is made. Where it is interrupted the database stays as it was.
 class FontDatabaseThread : public QThread
 {
     Q_OBJECT

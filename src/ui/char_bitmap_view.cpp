@@ -22,6 +22,7 @@ constexpr int MaxZoom = 64;
 
 CharBitmapView::CharBitmapView(QWidget* parent) : QGraphicsView(parent)
 {
+    scene_.setItemIndexMethod(QGraphicsScene::NoIndex); // cells move all at once
     setScene(&scene_);
     setAccessibleName(tr("Pixels of the character"));
     setFrameShape(QFrame::NoFrame);
@@ -69,7 +70,19 @@ void CharBitmapView::SetCharacter(Character* character)
             Q_EMIT PixelSelected(current_);
         }
     }
-    viewport()->update();
+    const QPoint guides = GuidePlace();
+    if (guides != guides_)
+        viewport()->update();
+    guides_ = guides;
+}
+
+// Where the cursor goes and where the characters stand, in the grid.
+QPoint CharBitmapView::GuidePlace() const
+{
+    if (character_ == nullptr)
+        return {-1, -1};
+    const CharInfo& info = character_->info;
+    return {info.cursorDistance - info.xPos, info.font.baseline};
 }
 
 // There is one item for each cell: they are made or dropped until the number fits.
@@ -150,17 +163,16 @@ void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
 {
     if (character_ == nullptr)
         return;
-    const CharInfo& info = character_->info;
     QPen pen(QColor(220, 40, 40), 1, Qt::DashLine);
     pen.setCosmetic(true);
     painter->setPen(pen);
-    const qreal baseline = info.font.baseline * cellSize_;
-    if (info.font.baseline <= info.font.height)
+    const qreal baseline = guides_.y() * cellSize_;
+    if (guides_.y() <= rows_)
         painter->drawLine(QPointF(0, baseline), QPointF(scene_.width(), baseline));
     pen.setColor(QColor(40, 90, 220));
     painter->setPen(pen);
-    const qreal advance = (info.cursorDistance - info.xPos) * cellSize_;
-    if (advance >= 0 && advance <= scene_.width())
+    const qreal advance = guides_.x() * cellSize_;
+    if (guides_.x() >= 0 && guides_.x() <= columns_)
         painter->drawLine(QPointF(advance, 0), QPointF(advance, scene_.height()));
 }
 
@@ -172,6 +184,12 @@ void CharBitmapView::resizeEvent(QResizeEvent* event)
 
 void CharBitmapView::OnTimerResize()
 {
+    PlaceItems();
+}
+
+void CharBitmapView::SetZoom(int zoom)
+{
+    zoom_ = std::clamp(zoom, 0, MaxZoom);
     PlaceItems();
 }
 

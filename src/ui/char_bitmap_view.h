@@ -40,6 +40,10 @@ public:
     // The y of the first row of the character's bitmap.
     [[nodiscard]] int Top() const;
 
+    // The size of a cell in pixels; 0 where the grid fits the view.
+    [[nodiscard]] int Zoom() const { return zoom_; }
+    void SetZoom(int zoom);
+
     // In pencil mode a press and a drag paint instead of selecting.
     void SetPencil(bool isOn) { pencil_ = isOn; }
 
@@ -74,6 +78,7 @@ private:
     Q_SLOT void OnTimerResize();
     void UpdateItems();
     void PlaceItems();
+    [[nodiscard]] QPoint GuidePlace() const;
     void Paint(QPoint place);
 
     Character* character_ = nullptr;
@@ -83,6 +88,7 @@ private:
     CharPixelItem* current_ = nullptr;
     int columns_ = 0;
     int rows_ = 0;
+    QPoint guides_ = {-1, -1};
     qreal cellSize_ = 1;
     int zoom_ = 0; // size of a cell in pixels; 0 fits the view
     bool pencil_ = false;

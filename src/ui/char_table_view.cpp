@@ -186,10 +186,10 @@ void CharTableView::paintEvent(QPaintEvent*)
         for (int code = row * Columns; code < (row + 1) * Columns; ++code)
             PaintCell(painter, code, CellRect(code));
     }
-    PaintHeaders(painter);
+    PaintHeaders(painter, {rows_.begin() + first, rows_.begin() + last + 1});
 }
 
-void CharTableView::PaintHeaders(QPainter& painter) const
+void CharTableView::PaintHeaders(QPainter& painter, std::span<const int> rows) const
 {
     painter.fillRect(0, 0, viewport()->width(), HeaderHeight(), palette().button());
     painter.fillRect(0, 0, HeaderWidth(), viewport()->height(), palette().button());
@@ -201,13 +201,9 @@ void CharTableView::PaintHeaders(QPainter& painter) const
                              ColumnLabel(column));
     }
     painter.setClipRect(0, HeaderHeight(), HeaderWidth(), viewport()->height());
-    for (const int row : rows_) {
-        const QRect cell = CellRect(row * Columns);
-        if (cell.top() > viewport()->height())
-            break;
-        painter.drawText(QRect(0, cell.top(), HeaderWidth() - 6, cellHeight_),
+    for (const int row : rows)
+        painter.drawText(QRect(0, CellRect(row * Columns).top(), HeaderWidth() - 6, cellHeight_),
                          Qt::AlignRight | Qt::AlignVCenter, RowLabel(row));
-    }
     painter.setClipping(false);
 }
 

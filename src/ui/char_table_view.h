@@ -4,6 +4,7 @@
 
 #include <QAbstractScrollArea>
 
+#include <span>
 #include <vector>
 
 namespace Glyphor {
@@ -70,7 +71,7 @@ protected:
 private:
     void UpdateRows();
     void UpdateSizes();
-    void PaintHeaders(QPainter& painter) const;
+    void PaintHeaders(QPainter& painter, std::span<const int> rows) const;
     void PaintCell(QPainter& painter, int code, const QRect& cell) const;
     void Select(int code, Qt::KeyboardModifiers modifiers);
     void SelectSpan(int first, int last);

@@ -3,6 +3,7 @@
 #include "actions/edit_actions.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
+#include "app/progress.h"
 #include "app/settings.h"
 #include "app/version.h"
 #include "render/font_database.h"
@@ -10,6 +11,7 @@
 #include "ui/char_table_view.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
+#include "ui/progress_area.h"
 #include "ui/text_preview.h"
 
 #include <QAction>
@@ -18,7 +20,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
-#include <QProgressBar>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QSplitter>
@@ -38,8 +39,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int ResizeDelay = 50; // milliseconds
-constexpr quint32 StateVersion = 1;
+constexpr int ResizeDelay = 50;    // milliseconds
+constexpr int MessageDelay = 6000; // milliseconds
+constexpr quint32 StateVersion = 2;
 
 QAction* AddTool(QToolBar& bar, QAction* command, const QString& icon)
 {
@@ -71,11 +73,13 @@ MainWindow::MainWindow(Session& session) : session_(session)
 
 MainWindow::~MainWindow()
 {
-    if (indexing_ != nullptr)
+    if (indexing_ != nullptr) {
+        indexing_->requestInterruption();
         indexing_->wait();
+    }
     // These outlive what the slots use.
-    for (QObject* const sender : std::initializer_list<QObject*>{&session_.Stack(), qApp, table_,
-                                                                 editor_, splitter_, subSplitter_})
+    for (QObject* const sender : std::initializer_list<QObject*>{
+             &session_.Stack(), qApp, table_, editor_, splitter_, subSplitter_, upperSplitter_})
         disconnect(sender, nullptr, this, nullptr);
 }
 
@@ -92,13 +96,13 @@ void MainWindow::BuildWidgets()
     infoArea->setMinimumWidth(180);
     infoArea->setFocusPolicy(Qt::NoFocus);
 
-    auto* const upper = new QSplitter(Qt::Horizontal);
-    upper->addWidget(editor_);
-    upper->addWidget(infoArea);
-    upper->setStretchFactor(0, 1);
-    upper->setSizes({360, 260});
+    upperSplitter_ = new QSplitter(Qt::Horizontal);
+    upperSplitter_->addWidget(editor_);
+    upperSplitter_->addWidget(infoArea);
+    upperSplitter_->setStretchFactor(0, 1);
+    upperSplitter_->setSizes({360, 260});
     subSplitter_ = new QSplitter(Qt::Vertical);
-    subSplitter_->addWidget(upper);
+    subSplitter_->addWidget(upperSplitter_);
     subSplitter_->addWidget(preview_);
     subSplitter_->setStretchFactor(0, 1);
     subSplitter_->setSizes({520, 130});
@@ -106,7 +110,7 @@ void MainWindow::BuildWidgets()
     splitter_->addWidget(table_);
     splitter_->addWidget(subSplitter_);
     splitter_->setSizes({620, 620});
-    for (QSplitter* const splitter : {splitter_, subSplitter_, upper}) {
+    for (QSplitter* const splitter : {splitter_, subSplitter_, upperSplitter_}) {
         splitter->setStyleSheet(u"QSplitterHandle { background: #bbbbbb; }"_s);
         splitter->setChildrenCollapsible(false);
     }
@@ -150,10 +154,7 @@ void MainWindow::BuildStatusBar()
 {
     status_ = new QLabel(tr("Ready"));
     pixelStatus_ = new QLabel;
-    progress_ = new QProgressBar;
-    progress_->setMaximumWidth(220);
-    progress_->setAccessibleName(tr("Progress"));
-    progress_->hide();
+    progress_ = new ProgressArea;
     statusBar()->addWidget(status_, 1);
     statusBar()->addPermanentWidget(pixelStatus_);
     statusBar()->addPermanentWidget(progress_);
@@ -162,7 +163,14 @@ void MainWindow::BuildStatusBar()
 void MainWindow::ConnectViews()
 {
     connect(splitter_, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterMoved);
-    connect(subSplitter_, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterSubMoved);
+    for (QSplitter* const splitter : {subSplitter_, upperSplitter_})
+        connect(splitter, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterSubMoved);
+    connect(progress_, &ProgressArea::TextChanged, this, [this](const QString& text) {
+        if (!text.isEmpty())
+            statusBar()->clearMessage();
+        status_->setText(text.isEmpty() ? tr("Ready") : text);
+    });
+    connect(progress_, &ProgressArea::BackgroundStopped, this, &MainWindow::OnIndexingStopped);
     connect(table_, &CharTableView::CurrentChanged, this, &MainWindow::OnCurrentChanged);
     connect(table_, &CharTableView::SelectionChanged, this, &MainWindow::UpdateCommands);
     connect(table_, &CharTableView::Activated, this, [this] { editor_->setFocus(); });
@@ -186,9 +194,7 @@ void MainWindow::ConnectViews()
 // Everything that is remembered of the window but its geometry stands in one record.
 void MainWindow::RestoreState()
 {
-    const bool hexadecimal = Settings::Instance().numeralSystem.value() != 0;
-    table_->SetHexadecimal(hexadecimal);
-    info_->SetHexadecimal(hexadecimal);
+    ApplySettings();
     resize(1240, 760);
     const WindowData stored = Settings::Instance().mainWindow.load();
     restoreGeometry(stored.geometry);
@@ -197,16 +203,26 @@ void MainWindow::RestoreState()
     QByteArray window;
     QByteArray splitter;
     QByteArray subSplitter;
+    QByteArray upperSplitter;
     QStringList files;
     QByteArray preview;
-    stream >> version >> window >> splitter >> subSplitter >> files >> preview;
+    qint32 zoom = 0;
+    bool hasPencil = false;
+    bool showsAll = true;
+    stream >> version >> window >> splitter >> subSplitter >> upperSplitter >> files >> preview >>
+        zoom >> hasPencil >> showsAll;
     if (version != StateVersion || stream.status() != QDataStream::Ok)
         return;
     restoreState(window);
     splitter_->restoreState(splitter);
     subSplitter_->restoreState(subSplitter);
+    upperSplitter_->restoreState(upperSplitter);
     recentFiles_ = files;
     preview_->RestoreState(preview);
+    editor_->SetZoom(zoom);
+    pencil_->setChecked(hasPencil);
+    menus_->Command(quint32(WindowCommand::AllCharacters))->setChecked(showsAll);
+    table_->SetShowAll(showsAll);
 }
 
 void MainWindow::SaveState()
@@ -214,8 +230,17 @@ void MainWindow::SaveState()
     QByteArray state;
     QDataStream stream(&state, QIODevice::WriteOnly);
     stream << StateVersion << saveState() << splitter_->saveState() << subSplitter_->saveState()
-           << recentFiles_ << preview_->State();
+           << upperSplitter_->saveState() << recentFiles_ << preview_->State()
+           << qint32(editor_->Zoom()) << pencil_->isChecked()
+           << menus_->Command(quint32(WindowCommand::AllCharacters))->isChecked();
     Settings::Instance().mainWindow.save({saveGeometry(), state});
+}
+
+void MainWindow::ApplySettings()
+{
+    const bool hexadecimal = Settings::Instance().numeralSystem.value() != 0;
+    table_->SetHexadecimal(hexadecimal);
+    info_->SetHexadecimal(hexadecimal);
 }
 
 void MainWindow::OnSplitterMoved(int, int)
@@ -240,6 +265,8 @@ bool MainWindow::Guarded(const std::function<void()>& work)
         return true;
     } catch (const CriticalException& error) {
         critical(error.Title(), error.Text());
+    } catch (const WorkStopped&) {
+        statusBar()->showMessage(tr("Stopped."), MessageDelay);
     } catch (const std::bad_alloc&) {
         critical(CriticalException::DefaultTitle(), tr("There is not enough memory."));
     }
@@ -340,7 +367,7 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
 {
     if (action == nullptr)
         return false;
-    status_->setText(logText.isEmpty() ? tr("Ready") : logText);
+    statusBar()->showMessage(logText, MessageDelay);
     RefreshViews();
     return true;
 }
@@ -363,11 +390,12 @@ void MainWindow::actionChanged(const std::shared_ptr<Action>& action)
     }
 }
 
-void MainWindow::progressChanged(const QString& text, int value, int maximum)
+bool MainWindow::progressChanged(const QString& text, int value, int maximum)
 {
-    if (!progress_->isVisible())
+    if (!progress_->IsWorking())
         OnProgbarInitCnt(text.toUtf8().constData(), 0, maximum);
     OnProgbarUpdateCnt(value);
+    return !progress_->IsStopped();
 }
 
 void MainWindow::progressFinished()
@@ -375,25 +403,19 @@ void MainWindow::progressFinished()
     OnProgbarClose();
 }
 
-void MainWindow::OnProgbarInitCnt(const char* text, int minimum, int maximum)
+void MainWindow::OnProgbarInitCnt(const char* text, int, int maximum)
 {
-    status_->setText(QString::fromUtf8(text));
-    progress_->setRange(minimum, maximum);
-    progress_->show();
+    progress_->BeginWork(QString::fromUtf8(text), maximum);
 }
 
 void MainWindow::OnProgbarUpdateCnt(int value)
 {
-    progress_->setValue(value);
-    // Shows the bar without letting anything else happen in the middle of the work.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
-                                    QEventLoop::ExcludeSocketNotifiers);
+    progress_->SetWork(value);
 }
 
 void MainWindow::OnProgbarClose()
 {
-    progress_->hide();
-    status_->setText(tr("Ready"));
+    progress_->EndWork();
 }
 
 } // namespace Glyphor

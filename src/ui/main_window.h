@@ -12,7 +12,6 @@
 
 class QLabel;
 class QMenu;
-class QProgressBar;
 class QSpinBox;
 class QSplitter;
 class QToolButton;
@@ -25,6 +24,7 @@ class CharTableView;
 class FontDatabaseThread;
 class InfoPanel;
 class MenuBar;
+class ProgressArea;
 class Session;
 class TextPreview;
 
@@ -53,7 +53,7 @@ public:
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
     void actionChanged(const std::shared_ptr<Action>& action) override;
-    void progressChanged(const QString& text, int value, int maximum) override;
+    bool progressChanged(const QString& text, int value, int maximum) override;
     void progressFinished() override;
     int askFontFormat() override;
     int askMergeMode() override;
@@ -64,6 +64,7 @@ public:
     [[nodiscard]] CharBitmapView& Editor() const { return *editor_; }
     [[nodiscard]] InfoPanel& Info() const { return *info_; }
     [[nodiscard]] TextPreview& Preview() const { return *preview_; }
+    [[nodiscard]] ProgressArea& Progress() const { return *progress_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -83,6 +84,7 @@ private:
     Q_SLOT void OnProgbarClose();
     Q_SLOT void OnDatabaseFileDone(int done);
     Q_SLOT void OnDatabaseThreadFinished();
+    Q_SLOT void OnIndexingStopped();
     Q_SLOT void OnCurrentChanged(int code);
     Q_SLOT void OnPixelSelected(CharPixelItem* item);
 
@@ -92,6 +94,7 @@ private:
     void ConnectViews();
     void RestoreState();
     void SaveState();
+    void ApplySettings();
 
     // Runs work that may fail, and shows its failure. False where it failed.
     bool Guarded(const std::function<void()>& work);
@@ -139,9 +142,10 @@ private:
     CharBitmapView* editor_ = nullptr;
     InfoPanel* info_ = nullptr;
     TextPreview* preview_ = nullptr;
-    QSplitter* splitter_ = nullptr;    // the table, and all else
-    QSplitter* subSplitter_ = nullptr; // editor, information and sample
-    QProgressBar* progress_ = nullptr;
+    QSplitter* splitter_ = nullptr;      // the table, and all else
+    QSplitter* subSplitter_ = nullptr;   // editor, information and sample
+    QSplitter* upperSplitter_ = nullptr; // editor and information
+    ProgressArea* progress_ = nullptr;
     QLabel* status_ = nullptr;
     QLabel* pixelStatus_ = nullptr;
     QToolButton* openButton_ = nullptr;

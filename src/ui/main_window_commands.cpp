@@ -13,13 +13,13 @@
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
 #include "ui/preference_dialogs.h"
+#include "ui/progress_area.h"
 #include "ui/small_dialogs.h"
 
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProgressBar>
 #include <QSpinBox>
 #include <QUrl>
 
@@ -264,7 +264,7 @@ void MainWindow::IndexFonts()
         return;
     indexing_ = new FontDatabaseThread(this);
     connect(indexing_, &FontDatabaseThread::initFileCount, this,
-            [this](int count) { OnProgbarInitCnt("Indexing font files...", 0, count); });
+            [this](int count) { progress_->BeginBackground(tr("Indexing font files..."), count); });
     connect(indexing_, &FontDatabaseThread::fileDone, this, &MainWindow::OnDatabaseFileDone);
     connect(indexing_, &FontDatabaseThread::hasFinished, this,
             &MainWindow::OnDatabaseThreadFinished);
@@ -274,21 +274,27 @@ void MainWindow::IndexFonts()
 
 void MainWindow::OnDatabaseFileDone(int done)
 {
-    progress_->setValue(done);
+    progress_->SetBackground(done);
+}
+
+void MainWindow::OnIndexingStopped()
+{
+    if (indexing_ != nullptr)
+        indexing_->requestInterruption();
 }
 
 void MainWindow::OnDatabaseThreadFinished()
 {
     indexing_->wait();
     indexing_ = nullptr;
-    OnProgbarClose();
+    progress_->EndBackground();
     Q_EMIT FontsIndexed();
 }
 
 // The installed fonts are indexed when they are first asked for.
 void MainWindow::New()
 {
-    if (FontDatabase::Instance().Families().empty()) {
+    if (FontDatabase::Current()->Families().empty()) {
         QEventLoop loop;
         connect(this, &MainWindow::FontsIndexed, &loop, &QEventLoop::quit);
         IndexFonts();
@@ -311,9 +317,7 @@ void MainWindow::ShowPreferences()
     PreferencesDialog dialog(this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const bool hexadecimal = Settings::Instance().numeralSystem.value() != 0;
-    table_->SetHexadecimal(hexadecimal);
-    info_->SetHexadecimal(hexadecimal);
+    ApplySettings();
     RefreshViews();
 }
 

@@ -119,7 +119,7 @@ FontDialog::FontDialog(QWidget* parent)
     setWindowTitle(tr("New font"));
     family_->setEditable(true);
     family_->setInsertPolicy(QComboBox::NoInsert);
-    for (const auto& family : FontDatabase::Instance().Families())
+    for (const auto& family : FontDatabase::Current()->Families())
         family_->addItem(family->Name());
     family_->completer()->setCompletionMode(QCompleter::PopupCompletion);
     family_->completer()->setFilterMode(Qt::MatchContains);
@@ -137,7 +137,7 @@ FontDialog::FontDialog(QWidget* parent)
 void FontDialog::ShowStyles()
 {
     style_->clear();
-    const FontFamily* const family = FontDatabase::Instance().Find(family_->currentText());
+    const FontFamily* const family = FontDatabase::Current()->Find(family_->currentText());
     if (family != nullptr)
         style_->addItems(family->StyleNames());
     ok_->setEnabled(style_->count() > 0);
@@ -145,13 +145,13 @@ void FontDialog::ShowStyles()
 
 QString FontDialog::Path() const
 {
-    const FontFamily* const family = FontDatabase::Instance().Find(family_->currentText());
+    const FontFamily* const family = FontDatabase::Current()->Find(family_->currentText());
     return family != nullptr ? family->Path(style_->currentText()) : QString();
 }
 
 int FontDialog::FaceIndex() const
 {
-    const FontFamily* const family = FontDatabase::Instance().Find(family_->currentText());
+    const FontFamily* const family = FontDatabase::Current()->Find(family_->currentText());
     return family != nullptr ? family->FaceIndex(style_->currentText()) : 0;
 }
 

@@ -37,13 +37,15 @@ private Q_SLOTS:
     {
         struct : UserInterface
         {
-            void progressChanged(const QString&, int value, int maximum) override
+            bool progressChanged(const QString&, int value, int maximum) override
             {
                 values.append(value * 100 / maximum);
+                return value != stopsAt;
             }
             void progressFinished() override { ++finished; }
             QList<int> values;
             int finished = 0;
+            int stopsAt = -1;
         } interface;
         SetCurrentInterface(&interface);
         {
@@ -51,10 +53,17 @@ private Q_SLOTS:
             for (int step = 0; step < 100000; ++step)
                 progress.Advance();
         }
-        SetCurrentInterface(nullptr);
         QCOMPARE(interface.values.size(), 101);
         QCOMPARE(interface.values.last(), 100);
         QCOMPARE(interface.finished, 1);
+        interface.stopsAt = 50000;
+        const auto work = [] {
+            Progress progress(QStringLiteral("Work"), 100000);
+            progress.SetValue(50000);
+        };
+        QVERIFY_THROWS_EXCEPTION(WorkStopped, work());
+        SetCurrentInterface(nullptr);
+        QCOMPARE(interface.finished, 2);
     }
 };
 

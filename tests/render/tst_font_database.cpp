@@ -33,7 +33,10 @@ private Q_SLOTS:
         QList<int> reports;
         database.Build(
             {folder.path()}, [&](int count) { reports.append(count); },
-            [&](int done) { reports.append(done); });
+            [&](int done) {
+                reports.append(done);
+                return true;
+            });
         QCOMPARE(reports, (QList<int>{5, 1, 2, 3, 4, 5}));
         QStringList names;
         for (const auto& family : database.Families())
@@ -103,7 +106,7 @@ private Q_SLOTS:
         thread.wait();
         QCOMPARE(counted.size(), 1);
         QCOMPARE(done.size(), counted[0][0].toInt());
-        QVERIFY(FontDatabase::Instance().Find(u"DejaVu Sans"_s) != nullptr);
+        QVERIFY(FontDatabase::Current()->Find(u"DejaVu Sans"_s) != nullptr);
     }
 };
 

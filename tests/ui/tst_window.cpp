@@ -1,4 +1,5 @@
 #include "actions/session.h"
+#include "app/progress.h"
 #include "app/settings.h"
 #include "files/font_file_sif.h"
 #include "support/sample_font.h"
@@ -7,6 +8,7 @@
 #include "ui/char_table_view.h"
 #include "ui/main_window.h"
 #include "ui/menu_bar.h"
+#include "ui/progress_area.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -15,8 +17,10 @@
 #include <QDropEvent>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 namespace Glyphor {
@@ -290,15 +294,67 @@ private Q_SLOTS:
         QVERIFY(CurrentFont().IsEnabled(0x42));
     }
 
+    void WorkCanBeStopped_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::newRow("button") << 0;
+        QTest::newRow("escape") << 1;
+        QTest::newRow("closing") << 2;
+    }
+
+    // Whatever else is done in the meantime is dropped.
+    void WorkCanBeStopped()
+    {
+        QFETCH(const int, way);
+        OpenSample();
+        const int current = window_->Table().CurrentCode();
+        QTimer::singleShot(0, window_.get(), [&] {
+            QVERIFY(window_->Progress().isVisible());
+            QTest::keyClick(&window_->Table(), Qt::Key_Right);
+            if (way == 0)
+                QTest::mouseClick(window_->Progress().findChild<QAbstractButton*>(),
+                                  Qt::LeftButton);
+            else if (way == 1)
+                QTest::keyClick(&window_->Table(), Qt::Key_Escape);
+            else
+                QVERIFY(!window_->close());
+        });
+        const auto work = [] {
+            Progress progress(u"Work"_s, 5000);
+            for (int step = 0; step < 5000; ++step) {
+                QThread::msleep(1);
+                progress.Advance();
+            }
+        };
+        QVERIFY_THROWS_EXCEPTION(WorkStopped, work());
+        QVERIFY(!window_->Progress().isVisible() && window_->isVisible());
+        QCOMPARE(window_->Table().CurrentCode(), current);
+        QTest::keyClick(&window_->Table(), Qt::Key_Right);
+        QCOMPARE(window_->Table().CurrentCode(), current + 1);
+    }
+
+    void IndexingCanBeStopped()
+    {
+        QSignalSpy ends(window_.get(), &MainWindow::FontsIndexed);
+        Trigger(59);
+        window_->Progress().Stop();
+        QVERIFY(ends.wait(20000));
+        QVERIFY(!window_->Progress().isVisible());
+    }
+
     void StateIsRemembered()
     {
         OpenSample();
         window_->resize(900, 500);
+        window_->Editor().SetZoom(12);
+        Trigger(57);
         window_->close();
         window_ = std::make_unique<MainWindow>(*session_);
         SetCurrentInterface(window_.get());
         window_->show();
         QCOMPARE(window_->size(), QSize(900, 500));
+        QCOMPARE(window_->Editor().Zoom(), 12);
+        QVERIFY(!window_->Menus().Command(57)->isChecked());
     }
 
     void BrokenStateGivesTheDefaults()
