@@ -1,5 +1,7 @@
 #include "ui/char_picture.h"
 
+#include <array>
+
 namespace Glyphor {
 
 int IndexAlpha(int index, int bitsPerPixel)
@@ -26,19 +28,20 @@ QImage CharPicture(const Character& character, const QColor& ink, const QColor& 
 {
     const CharInfo& info = character.info;
     QImage picture(info.width, info.Rows(), QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
+    std::array<QRgb, 16> colours{};
+    for (int index = 1; index < 1 << info.font.bitsPerPixel; ++index) {
+        QColor colour = ink;
+        colour.setAlpha(IndexAlpha(index, info.font.bitsPerPixel));
+        colours[std::size_t(index)] = qPremultiply(colour.rgba());
+    }
+    const QRgb frameColour = paper.rgb();
     const FramePlane frame(character);
     for (int y = 0; y < picture.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(picture.scanLine(y));
         for (int x = 0; x < picture.width(); ++x) {
             const int index = character.bitmap->GetPixelIndex(x, y);
-            QColor colour = ink;
-            if (index != 0)
-                colour.setAlpha(IndexAlpha(index, info.font.bitsPerPixel));
-            else if (frame.HasPixel(x, y))
-                colour = paper;
-            else
-                continue;
-            picture.setPixelColor(x, y, colour);
+            line[x] =
+                index == 0 && frame.HasPixel(x, y) ? frameColour : colours[std::size_t(index)];
         }
     }
     return picture;

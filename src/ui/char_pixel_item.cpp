@@ -33,17 +33,21 @@ void CharPixelItem::UpdateFrom(const Character& character, const FramePlane& fra
     const bool isLegacy = IsLegacyFormat(info.font.format);
     const int y = isLegacy ? row_ : row_ - info.yPos;
     const int x = column_;
-    state_ = Pixel;
+    State state = Pixel;
+    QColor colour = Qt::black;
     if (!isLegacy && (y < 0 || y >= info.height)) {
-        state_ = Outside;
-        colour_ = QColor(255, 255, 128);
+        state = Outside;
+        colour = QColor(255, 255, 128);
     } else if (frame.HasPixel(x, y)) {
-        state_ = Frame;
-        colour_ = QColor(128, 255, 255);
+        state = Frame;
+        colour = QColor(128, 255, 255);
     } else {
-        colour_ = Qt::black;
-        colour_.setAlpha(IndexAlpha(character.bitmap->GetPixelIndex(x, y), info.font.bitsPerPixel));
+        colour.setAlpha(IndexAlpha(character.bitmap->GetPixelIndex(x, y), info.font.bitsPerPixel));
     }
+    if (state == state_ && colour == colour_)
+        return;
+    state_ = state;
+    colour_ = colour;
     setFlag(QGraphicsItem::ItemIsSelectable, state_ == Pixel);
     update();
 }

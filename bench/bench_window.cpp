@@ -1,0 +1,108 @@
+// Measures what the window does on fonts that are as large as they can be: 65,536 characters, and a
+// character of 255 x 255 pixels. Times are those of a user's one step, with the painting.
+//
+// Usage: bench_window
+
+#include "actions/session.h"
+#include "files/font_file.h"
+#include "timing.h"
+#include "ui/char_bitmap_view.h"
+#include "ui/char_table_view.h"
+#include "ui/main_window.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QStandardPaths>
+
+#include <cstdio>
+#include <vector>
+
+using namespace Glyphor;
+
+namespace {
+
+std::unique_ptr<Font> MakeFont(int count, int size)
+{
+    auto font = std::make_unique<Font>(FontFormat::AA4, EncodingType::Unicode);
+    font->SetHeight(quint8(size));
+    const auto extent = quint8(size);
+    const CharMetrics metrics = {extent, extent, 0, 0, extent};
+    std::vector<uchar> bytes(static_cast<std::size_t>(BitmapSize(metrics, font->Metrics())));
+    for (int code = 0; code < count; ++code) {
+        for (std::size_t at = 0; at < bytes.size(); ++at)
+            bytes[at] = static_cast<uchar>(std::size_t(code) * 31 + at * 7);
+        font->AddChar(static_cast<quint16>(code), metrics, bytes);
+    }
+    return font;
+}
+
+template <typename Step>
+void Measure(const char* what, Step step)
+{
+    std::vector<double> times;
+    for (int run = 0; run < 9; ++run)
+        times.push_back(Seconds([&] {
+            step();
+            QCoreApplication::processEvents();
+        }));
+    std::printf("  %-44s %7.1f ms\n", what, Median(times) * 1e3);
+}
+
+void MeasureTable()
+{
+    Session session;
+    MainWindow window(session);
+    SetCurrentInterface(&window);
+    window.show();
+    const auto show = [&] {
+        session.ReplaceFont(MakeFont(0x10000, 16), QStringLiteral("large.c"));
+        window.actionChanged(nullptr);
+    };
+    CharTableView& table = window.Table();
+    std::printf("A font of 65,536 characters\n");
+    Measure("making and showing it", show);
+    Measure("making it alone", [] { (void)MakeFont(0x10000, 16); });
+    int code = 0;
+    Measure("selecting a character far away", [&] { table.SetCurrentCode(code += 7001); });
+    Measure("scrolling by a page",
+            [&] { table.verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd); });
+    const auto run = [&](ActionType type) { window.RunCommand(quint32(type)); };
+    Measure("an edit of one character", [&] { run(ActionType::InsertColumnRight); });
+    Measure("an edit of the font", [&] { run(ActionType::FontInsertRowTop); });
+    SetCurrentInterface(nullptr);
+}
+
+void MeasureEditor()
+{
+    Session session;
+    MainWindow window(session);
+    SetCurrentInterface(&window);
+    window.show();
+    session.ReplaceFont(MakeFont(2, 255), QStringLiteral("tall.c"));
+    window.actionChanged(nullptr);
+    CharTableView& table = window.Table();
+    CharBitmapView& editor = window.Editor();
+    std::printf("A character of 255 x 255 pixels\n");
+    int code = 0;
+    Measure("showing it", [&] { table.SetCurrentCode(code = 1 - code); });
+    int column = 0;
+    Measure("selecting a pixel", [&] { editor.SelectItem(editor.ItemAt(++column, 100)); });
+    Measure("an edit of a pixel",
+            [&] { window.RunCommand(quint32(ActionType::InvertPixelIndex)); });
+    Measure("an edit of the character", [&] { window.RunCommand(quint32(ActionType::ShiftLeft)); });
+    Measure("a change of the width",
+            [&] { window.RunCommand(quint32(ActionType::DeleteColumnLeft)); });
+    Measure("painting all of it", [&] { (void)editor.grab(); });
+    SetCurrentInterface(nullptr);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
+    MeasureTable();
+    MeasureEditor();
+    return 0;
+}
