@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/action_type.h"
+#include "model/code_set.h"
 
 #include <QString>
 
@@ -33,6 +34,9 @@ public:
 
     // The action's line in the log; empty for none.
     [[nodiscard]] virtual QString LogText() const = 0;
+
+    // The codes that undo and redo change; empty where that is the font as a whole.
+    [[nodiscard]] virtual CodeSet AffectedCodes() const { return {}; }
 
     // False for actions that stay out of the undo stack and have their line in the log only.
     [[nodiscard]] virtual bool IsUndoable() const { return true; }

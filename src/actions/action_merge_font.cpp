@@ -82,6 +82,7 @@ bool ActionMergeFont::Execute()
     }
     enabled_ = font->EnabledCodes();
     enabled_ |= incoming;
+    hasKerning_ = font->HasKerning() || other->HasKerning();
     return true;
 }
 
@@ -96,6 +97,17 @@ void ActionMergeFont::Swap()
     const CodeSet previous = font.EnabledCodes();
     font.SetEnabledCodes(enabled_);
     enabled_ = previous;
+    const bool hadKerning = font.HasKerning();
+    font.SetHasKerning(hasKerning_);
+    hasKerning_ = hadKerning;
+}
+
+CodeSet ActionMergeFont::AffectedCodes() const
+{
+    CodeSet codes;
+    for (const auto& [code, character] : characters_)
+        codes.Set(code, true);
+    return codes;
 }
 
 } // namespace Glyphor

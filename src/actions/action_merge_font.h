@@ -28,6 +28,7 @@ public:
     bool Execute() override;
     void UndoOnce() override { Swap(); }
     void RedoOnce() override { Swap(); }
+    [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] QString LogText() const override { return MessageFor().arg(Args().source.path); }
 
 private:
@@ -37,6 +38,7 @@ private:
     // The state that the next step puts into the font, by code; null for no character.
     std::map<quint16, std::unique_ptr<Character>> characters_;
     CodeSet enabled_;
+    bool hasKerning_ = false; // of either font
 };
 
 } // namespace Glyphor

@@ -87,6 +87,13 @@ const CharStep& StepOf(ActionType type)
     return CharSteps.at(static_cast<std::size_t>(index));
 }
 
+CodeSet RangeOf(quint16 first, quint16 last)
+{
+    CodeSet codes;
+    codes.SetRange(first, last, true);
+    return codes;
+}
+
 void ApplyFontStep(ActionType type, Font& font)
 {
     switch (type) {
@@ -166,6 +173,8 @@ void ActionChar::UndoOnce()
         RedoOnce();
         return;
     }
+    if (Type() >= ActionType::DeleteColumnRight)
+        CurrentSession().MarkChanged(); // as deleted pixels come back empty
     const auto revert = StepOf(Type()).revert;
     ForEachChar([&](quint16 code, Character& character) {
         const auto refused = refused_.find(code);
@@ -174,6 +183,11 @@ void ActionChar::UndoOnce()
         else if (--*refused == 0)
             refused_.erase(refused);
     });
+}
+
+CodeSet ActionChar::AffectedCodes() const
+{
+    return RangeOf(Args().first, Args().last);
 }
 
 QString ActionChar::LogText() const
@@ -209,7 +223,14 @@ void ActionFont::RedoOnce()
 
 void ActionFont::UndoOnce()
 {
+    if (Type() >= ActionType::FontDeleteRowTop && IsLegacyFormat(CurrentFont()->Metrics().format))
+        CurrentSession().MarkChanged(); // as deleted pixels come back empty
     ApplyFontStep(OppositeFontStep(Type()), *CurrentFont());
+}
+
+CodeSet ActionPixelIndex::AffectedCodes() const
+{
+    return RangeOf(Args().code, Args().code);
 }
 
 int ActionPixelIndex::IndexToSet() const
@@ -298,6 +319,11 @@ void ActionCharState::UndoOnce()
     for (int code = created_.Next(0); code < CodeSet::Count; code = created_.Next(code + 1))
         font.RemoveChar(static_cast<quint16>(code));
     font.SetEnabledCodes(Args().previousCodes);
+}
+
+CodeSet ActionCharState::AffectedCodes() const
+{
+    return Type() == ActionType::DisableAll ? CodeSet() : RangeOf(Args().first, Args().last);
 }
 
 void ActionCharState::ApplyTo(CodeSet& codes) const

@@ -31,6 +31,7 @@ public:
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
+    [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] QString LogText() const override;
 
 private:
@@ -76,6 +77,7 @@ public:
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
+    [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] QString LogText() const override;
 
 private:
@@ -114,6 +116,7 @@ public:
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
+    [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] QString LogText() const override;
     void ApplyTo(CodeSet& codes) const override;
 
@@ -134,6 +137,7 @@ public:
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
+    [[nodiscard]] CodeSet AffectedCodes() const override { return codes_; };
     [[nodiscard]] QString LogText() const override;
 
 private:

@@ -7,11 +7,13 @@ void Session::ReplaceFont(std::unique_ptr<Font> font, const QString& path)
     stack_.Clear();
     font_ = std::move(font);
     path_ = path;
+    isChanged_ = false;
 }
 
 void Session::SetSaved(const QString& path)
 {
     path_ = path;
+    isChanged_ = false;
     stack_.setClean();
 }
 

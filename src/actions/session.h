@@ -20,7 +20,10 @@ public:
     [[nodiscard]] const QString& Path() const { return path_; }
 
     // True where the font has changes that are not in its file.
-    [[nodiscard]] bool IsModified() const { return !stack_.isClean(); }
+    [[nodiscard]] bool IsModified() const { return isChanged_ || !stack_.isClean(); }
+
+    // The font has a change that its history does not tell of.
+    void MarkChanged() { isChanged_ = true; }
 
     [[nodiscard]] UndoStack& Stack() { return stack_; }
 
@@ -33,6 +36,7 @@ private:
     std::unique_ptr<Font> font_;
     QString path_;
     UndoStack stack_;
+    bool isChanged_ = false;
 };
 
 } // namespace Glyphor

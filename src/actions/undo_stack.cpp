@@ -66,16 +66,25 @@ void UndoStack::Clear()
     ActionStack::Clear();
 }
 
+// A command keeps its own tip until there is more to say.
 void UndoStack::AddUndoCommand(QAction* command)
 {
     undoCommands_.append(command);
-    UpdateCommands();
+    if (command == nullptr)
+        return;
+    command->setEnabled(canUndo());
+    if (command->statusTip().isEmpty())
+        command->setStatusTip(StatusTip(u"Undo"_s, undoText()));
 }
 
 void UndoStack::AddRedoCommand(QAction* command)
 {
     redoCommands_.append(command);
-    UpdateCommands();
+    if (command == nullptr)
+        return;
+    command->setEnabled(canRedo());
+    if (command->statusTip().isEmpty())
+        command->setStatusTip(StatusTip(u"Redo"_s, redoText()));
 }
 
 void UndoStack::UpdateCommands()
