@@ -34,7 +34,8 @@ int main(int argc, char** argv)
     SetCurrentInterface(&window);
     window.show();
     CommandLine::instance().runGuarded(argc, argv, session);
-    Application::exec();
+    if (window.isVisible()) // not closed meanwhile
+        Application::exec();
     SetCurrentInterface(nullptr);
     return 0;
 }

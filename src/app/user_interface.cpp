@@ -38,7 +38,7 @@ bool UserInterface::progressChanged(const QString&, int, int)
 
 void UserInterface::progressFinished() {}
 
-int UserInterface::askFontFormat()
+int UserInterface::askFontFormat(EncodingType&)
 {
     return -1;
 }

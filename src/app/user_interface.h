@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/action_type.h"
+#include "model/font_format.h"
 
 #include <QString>
 
@@ -39,8 +40,8 @@ public:
     virtual bool progressChanged(const QString& text, int value, int maximum) = 0;
     virtual void progressFinished() = 0;
 
-    // The number of the chosen font format, or -1.
-    virtual int askFontFormat() = 0;
+    // The number of the chosen font format, or -1. Sets the encoding where that is chosen as well.
+    virtual int askFontFormat(EncodingType& encoding) = 0;
 
     // The number of the chosen merge mode, or 0.
     virtual int askMergeMode() = 0;
@@ -61,7 +62,7 @@ public:
     void actionChanged(const std::shared_ptr<Action>& action) override;
     bool progressChanged(const QString& text, int value, int maximum) override;
     void progressFinished() override;
-    int askFontFormat() override;
+    int askFontFormat(EncodingType& encoding) override;
     int askMergeMode() override;
 };
 

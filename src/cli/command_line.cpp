@@ -320,7 +320,7 @@ int CommandLine::ask(const QString& reason, const QString& subject,
     }
 }
 
-int CommandLine::askFontFormat()
+int CommandLine::askFontFormat(EncodingType&)
 {
     return ask(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
 }

@@ -41,7 +41,7 @@ public:
     void progressFinished() override;
 
     // Throw a CriticalException where standard input ends before an answer.
-    int askFontFormat() override;
+    int askFontFormat(EncodingType& encoding) override;
     int askMergeMode() override;
 
 private:

@@ -122,16 +122,17 @@ std::unique_ptr<Font> FontFileSIF::Read()
     if (!contents.startsWith(Magic) || bytes.Size() < HeaderSize)
         Fail(u"It does not begin with \"GUIP\" and a header."_s);
     std::optional<FontFormat> format = TrailerFormat(bytes, TrailerName);
+    EncodingType encoding = Answer().encoding.value_or(EncodingType::Unicode);
     const bool isAnswered = !format;
     if (!format)
         format = Answer().format;
     if (!format) {
-        const int answer = CurrentInterface().askFontFormat();
+        const int answer = CurrentInterface().askFontFormat(encoding);
         if (answer < 0 || answer >= FormatCount)
             return nullptr;
         format = static_cast<FontFormat>(answer);
     }
-    auto font = MakeFont(bytes, *format, Answer().encoding.value_or(EncodingType::Unicode));
+    auto font = MakeFont(bytes, *format, encoding);
     const std::vector<CodeRun> runs = ReadRuns(bytes);
     const std::vector<CharRecord> records = ReadRecords(bytes, runs, font->Metrics());
     const qint64 bitmapOffset =

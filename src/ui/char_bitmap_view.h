@@ -5,6 +5,7 @@
 #include <QGraphicsView>
 #include <QTimer>
 
+#include <set>
 #include <vector>
 
 namespace Glyphor {
@@ -29,13 +30,20 @@ public:
     // Null outside the grid.
     [[nodiscard]] CharPixelItem* ItemAt(int column, int row) const;
 
+    // In the character's bitmap; (-1, -1) where no pixel is selected.
+    [[nodiscard]] QPoint SelectedPixel() const;
+
     // Selects the cell and takes the focus to it; false where it can't be selected.
     bool SelectItem(CharPixelItem* item);
+    void SelectFirstPixel();
     void ClearPixel();
 
     [[nodiscard]] int ColumnCount() const { return columns_; }
     [[nodiscard]] int RowCount() const { return rows_; }
     [[nodiscard]] qreal CellSize() const { return cellSize_; }
+
+    // Tells the place and the index of a cell that is a pixel.
+    void ShowStatus(const CharPixelItem& item);
 
     // The y of the first row of the character's bitmap.
     [[nodiscard]] int Top() const;
@@ -46,6 +54,9 @@ public:
 
     // In pencil mode a press and a drag paint instead of selecting.
     void SetPencil(bool isOn) { pencil_ = isOn; }
+
+    // Ends the stroke of the pencil, if there is one.
+    void EndStroke();
 
     // A character that was changed without an action.
     void InvertPixel(int column, int row);
@@ -60,7 +71,7 @@ Q_SIGNALS:
     void MenuRequested(QPoint globalPosition);
     void PixelInverted();
 
-    // Positions are those of the character's bitmap.
+    // Positions are those of the character's bitmap, each once in a stroke.
     void StrokeBegun();
     void PixelPainted(int x, int y, bool inverts);
     void StrokeEnded();
@@ -70,6 +81,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -78,12 +94,18 @@ private:
     Q_SLOT void OnTimerResize();
     void UpdateItems();
     void PlaceItems();
+    void ForgetPixel();
     [[nodiscard]] QPoint GuidePlace() const;
-    void Paint(QPoint place);
+    void Paint(QPoint cell);
+    void PaintTo(QPoint place);
+    [[nodiscard]] QPoint CellAt(QPoint place) const;
+    [[nodiscard]] qreal FittingSize() const;
+    [[nodiscard]] int ShownColumns() const;
 
     Character* character_ = nullptr;
     QGraphicsScene scene_;
     QTimer resizeTimer_;
+    QGraphicsTextItem* hint_;           // where there are no pixels
     std::vector<CharPixelItem*> items_; // the scene's, row by row
     CharPixelItem* current_ = nullptr;
     int columns_ = 0;
@@ -93,7 +115,9 @@ private:
     int zoom_ = 0; // size of a cell in pixels; 0 fits the view
     bool pencil_ = false;
     bool isPainting_ = false;
-    CharPixelItem* lastPainted_ = nullptr;
+    QPoint lastCell_;                  // that the stroke passed
+    std::set<CharPixelItem*> painted_; // in the stroke
+    int wheelAngle_ = 0;               // that was turned and has not zoomed yet
 };
 
 } // namespace Glyphor

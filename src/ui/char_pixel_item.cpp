@@ -49,6 +49,7 @@ void CharPixelItem::UpdateFrom(const Character& character, const FramePlane& fra
     state_ = state;
     colour_ = colour;
     setFlag(QGraphicsItem::ItemIsSelectable, state_ == Pixel);
+    setFlag(QGraphicsItem::ItemIsFocusable, state_ == Pixel);
     update();
 }
 
@@ -91,8 +92,11 @@ void CharPixelItem::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QW
         const auto mode = painter->compositionMode();
         // Inverts what is below, so that the mark shows on any grey.
         painter->setCompositionMode(QPainter::RasterOp_NotSourceXorDestination);
-        painter->setPen(QPen(Qt::black, 2));
-        painter->drawRect(rect().adjusted(0, 0, -2, -2));
+        const qreal thickness = std::clamp(rect().width() / 8, 2.0, 5.0);
+        const qreal inset = thickness / 2;
+        painter->setPen(QPen(Qt::black, thickness, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(rect().adjusted(1 + inset, 1 + inset, -2 - inset, -2 - inset));
         painter->setCompositionMode(mode);
     }
 }
@@ -102,6 +106,9 @@ void CharPixelItem::mousePressEvent(QGraphicsSceneMouseEvent*)
     view_.SelectItem(this);
 }
 
+// The view alone says what is selected; the base class would toggle it.
+void CharPixelItem::mouseReleaseEvent(QGraphicsSceneMouseEvent*) {}
+
 void CharPixelItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
 {
     if (view_.SelectItem(this))
@@ -110,12 +117,7 @@ void CharPixelItem::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
 
 void CharPixelItem::hoverEnterEvent(QGraphicsSceneHoverEvent*)
 {
-    if (state_ != Pixel || view_.CurrentCharacter() == nullptr)
-        return;
-    const QPoint place = PixelPosition();
-    const int index = view_.CurrentCharacter()->bitmap->GetPixelIndex(place.x(), place.y());
-    Q_EMIT view_.StatusChanged(
-        CharBitmapView::tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index));
+    view_.ShowStatus(*this);
 }
 
 void CharPixelItem::hoverLeaveEvent(QGraphicsSceneHoverEvent*)

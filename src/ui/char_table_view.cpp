@@ -51,6 +51,7 @@ void CharTableView::SetFont(const Font* font)
 
 void CharTableView::Refresh()
 {
+    KeepShownSelected();
     UpdateRows();
     UpdateSizes();
     viewport()->update();
@@ -62,6 +63,7 @@ void CharTableView::SetShowAll(bool showAll)
     Refresh();
     if (current_ >= 0)
         ScrollTo(current_);
+    Q_EMIT SelectionChanged();
 }
 
 void CharTableView::SetHexadecimal(bool hexadecimal)
@@ -216,7 +218,9 @@ void CharTableView::PaintCell(QPainter& painter, int code, const QRect& cell) co
     const bool isShown = character != nullptr && (showAll_ || isEnabled);
     // Ink on paper looks as it will on the display, in dark themes as well.
     const QColor disabledPaper = palette().color(QPalette::Disabled, QPalette::Button);
-    if (isShown)
+    if (!isShown)
+        painter.fillRect(cell, palette().window());
+    else
         painter.fillRect(cell, isEnabled ? QColor(Qt::white) : disabledPaper);
     if (isShown) {
         const QColor ink =
@@ -266,6 +270,14 @@ void CharTableView::SelectSpan(int first, int last)
         if (from <= to)
             selected_.SetRange(quint16(from), quint16(to), true);
     }
+    KeepShownSelected();
+}
+
+// What can't be seen is not to be edited.
+void CharTableView::KeepShownSelected()
+{
+    if (!showAll_ && font_ != nullptr)
+        selected_ &= font_->EnabledCodes();
 }
 
 // Shift selects the span from the place where selecting began; Ctrl adds or takes away one code.
@@ -280,10 +292,12 @@ void CharTableView::Select(int code, Qt::KeyboardModifiers modifiers)
             selected_ = {};
             selected_.Set(quint16(code), true);
         }
+        KeepShownSelected();
         anchor_ = code;
     }
     const bool isOther = code != current_;
     current_ = code;
+    setAccessibleDescription(CodeDescription(code));
     ScrollTo(code);
     viewport()->update();
     if (isOther)
@@ -364,13 +378,16 @@ int CharTableView::CodeOfText(const QString& text) const
     return isEncoded && font_->FindChar(code) != nullptr ? code : -1;
 }
 
-// Typing jumps to a character, so it must not trigger the commands that have letters as shortcuts.
+// Typing jumps to a character, so it must not trigger the commands that have letters as shortcuts,
+// whether or not the font has the character.
 bool CharTableView::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto* const key = static_cast<QKeyEvent*>(event);
         const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-        if ((key->modifiers() & commands) == 0 && CodeOfText(key->text()) >= 0) {
+        const QString text = key->text();
+        const bool isTyped = text.size() == 1 && text[0].isPrint();
+        if (font_ != nullptr && (key->modifiers() & commands) == 0 && isTyped) {
             event->accept();
             return true;
         }
@@ -440,11 +457,15 @@ bool CharTableView::viewportEvent(QEvent* event)
         QToolTip::hideText();
         return true;
     }
+    QToolTip::showText(help->globalPos(), CodeDescription(code), this, CellRect(code));
+    return true;
+}
+
+QString CharTableView::CodeDescription(int code) const
+{
     const QLatin1StringView name = EncodingFor(font_->Metrics().encoding).CharName(quint16(code));
     const QString number = hexadecimal_ ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
-    QToolTip::showText(help->globalPos(), name.isEmpty() ? number : number + u' ' + name, this,
-                       CellRect(code));
-    return true;
+    return name.isEmpty() ? number : number + u' ' + name;
 }
 
 void CharTableView::resizeEvent(QResizeEvent*)

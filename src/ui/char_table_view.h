@@ -75,7 +75,9 @@ private:
     void PaintCell(QPainter& painter, int code, const QRect& cell) const;
     void Select(int code, Qt::KeyboardModifiers modifiers);
     void SelectSpan(int first, int last);
+    void KeepShownSelected();
     void ScrollTo(int code);
+    [[nodiscard]] QString CodeDescription(int code) const;
     [[nodiscard]] int RowIndexOf(int code) const;
     [[nodiscard]] int CodeAfterKey(int key, bool withControl) const;
     [[nodiscard]] int CodeOfText(const QString& text) const;

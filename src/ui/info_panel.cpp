@@ -56,26 +56,29 @@ void InfoPanel::AddRow(QFormLayout& form, const QString& caption)
     value->setWordWrap(true);
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    value->setAccessibleName(caption);
     values_.insert(caption, value);
     form.addRow(caption + u':', value);
 }
 
 void InfoPanel::Set(const QString& caption, const QString& value)
 {
-    values_.value(caption)->setText(value);
+    QLabel* const label = values_.value(caption);
+    QString shown = value;
+    // A place to break lines of long names.
+    label->setText(shown.replace(u'_', u"_\u200B"_s));
+    label->setAccessibleName(caption + u": "_s + value);
 }
 
 QString InfoPanel::Value(const QString& caption) const
 {
     const QLabel* const label = values_.value(caption);
-    return label != nullptr ? label->text() : QString();
+    return label != nullptr ? label->text().remove(QChar(0x200B)) : QString();
 }
 
 void InfoPanel::Show(const Font* font, int code)
 {
-    for (QLabel* const label : std::as_const(values_))
-        label->clear();
+    for (const QString& caption : values_.keys())
+        Set(caption, {});
     if (font == nullptr)
         return;
     ShowFont(*font);

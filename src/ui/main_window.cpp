@@ -20,6 +20,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QSplitter>
@@ -42,6 +43,15 @@ namespace {
 constexpr int ResizeDelay = 50;    // milliseconds
 constexpr int MessageDelay = 6000; // milliseconds
 constexpr quint32 StateVersion = 2;
+
+// Characters of legacy formats have the font's rows and no offset.
+bool NeedsRowsOfItsOwn(ActionType type)
+{
+    const bool isRowEdit = type == ActionType::InsertRowTop ||
+                           type == ActionType::InsertRowBottom ||
+                           type == ActionType::DeleteRowTop || type == ActionType::DeleteRowBottom;
+    return isRowEdit || (type >= ActionType::MoveRight && type <= ActionType::MoveDown);
+}
 
 QAction* AddTool(QToolBar& bar, QAction* command, const QString& icon)
 {
@@ -115,6 +125,7 @@ void MainWindow::BuildWidgets()
         splitter->setChildrenCollapsible(false);
     }
     setCentralWidget(splitter_);
+    setMinimumSize(640, 420);
 }
 
 void MainWindow::BuildToolBar()
@@ -148,6 +159,8 @@ void MainWindow::BuildToolBar()
     pencilIndex_->setToolTip(tr("Index that the pencil paints"));
     pencilIndex_->setAccessibleName(pencilIndex_->toolTip());
     bar->addWidget(pencilIndex_);
+    for (QToolButton* const button : bar->findChildren<QToolButton*>())
+        button->setFocusPolicy(Qt::TabFocus);
 }
 
 void MainWindow::BuildStatusBar()
@@ -173,18 +186,29 @@ void MainWindow::ConnectViews()
     connect(progress_, &ProgressArea::BackgroundStopped, this, &MainWindow::OnIndexingStopped);
     connect(table_, &CharTableView::CurrentChanged, this, &MainWindow::OnCurrentChanged);
     connect(table_, &CharTableView::SelectionChanged, this, &MainWindow::UpdateCommands);
-    connect(table_, &CharTableView::Activated, this, [this] { editor_->setFocus(); });
+    connect(table_, &CharTableView::Activated, this, [this] {
+        editor_->setFocus();
+        if (editor_->CurrentPixel() == nullptr)
+            editor_->SelectFirstPixel();
+    });
     table_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(table_, &QWidget::customContextMenuRequested, this,
             [this](QPoint place) { ShowContextMenu(table_->viewport()->mapToGlobal(place)); });
-    connect(editor_, &CharBitmapView::PixelSelected, this, &MainWindow::OnPixelSelected);
+    connect(editor_, &CharBitmapView::PixelSelected, this, &MainWindow::UpdateCommands);
     connect(editor_, &CharBitmapView::StatusChanged, pixelStatus_, &QLabel::setText);
     connect(editor_, &CharBitmapView::MenuRequested, this,
             [this](QPoint place) { menus_->PixelIndexMenu()->exec(place); });
-    connect(editor_, &CharBitmapView::PixelInverted, this, &MainWindow::RefreshViews);
+    connect(editor_, &CharBitmapView::PixelInverted, this, &MainWindow::OnPixelInverted);
     connect(editor_, &CharBitmapView::StrokeBegun, this, [this] { isStroking_ = true; });
     connect(editor_, &CharBitmapView::PixelPainted, this, &MainWindow::PaintPixel);
     connect(editor_, &CharBitmapView::StrokeEnded, this, &MainWindow::EndStroke);
+    // Elsewhere their keys mean something else.
+    for (int id = int(ActionType::IncreasePixelIndex); id <= int(ActionType::SetPixelIndex15);
+         ++id) {
+        QAction* const command = menus_->Command(quint32(id));
+        command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        editor_->addAction(command);
+    }
     connect(pencil_, &QAction::toggled, editor_, &CharBitmapView::SetPencil);
     connect(recentMenu_, &QMenu::aboutToShow, this, &MainWindow::ShowRecentFiles);
     connect(&session_.Stack(), &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
@@ -266,7 +290,7 @@ bool MainWindow::Guarded(const std::function<void()>& work)
     } catch (const CriticalException& error) {
         critical(error.Title(), error.Text());
     } catch (const WorkStopped&) {
-        statusBar()->showMessage(tr("Stopped."), MessageDelay);
+        ShowMessage(tr("Stopped."));
     } catch (const std::bad_alloc&) {
         critical(CriticalException::DefaultTitle(), tr("There is not enough memory."));
     }
@@ -283,15 +307,23 @@ void MainWindow::OnCurrentChanged(int code)
     UpdateCommands();
 }
 
-void MainWindow::OnPixelSelected(CharPixelItem* item)
+void MainWindow::ShowMessage(const QString& text)
 {
-    pixel_ = item != nullptr ? item->PixelPosition() : QPoint(-1, -1);
-    UpdateCommands();
+    statusBar()->showMessage(text, MessageDelay);
+}
+
+// By no action, so the history does not know of it.
+void MainWindow::OnPixelInverted()
+{
+    session_.MarkChanged();
+    RefreshViews();
 }
 
 // Another font is shown from its beginning, the same one where it was.
 void MainWindow::RefreshViews()
 {
+    if (holdsViews_)
+        return;
     Font* const font = session_.CurrentFont();
     if (font != shownFont_) {
         ShowFont();
@@ -301,6 +333,16 @@ void MainWindow::RefreshViews()
     OnCurrentChanged(table_->CurrentCode());
     preview_->Refresh();
     UpdateTitle();
+}
+
+// Shows what several actions have changed once, at their end.
+void MainWindow::RunTogether(const std::function<void()>& work)
+{
+    {
+        const QScopedValueRollback hold(holdsViews_, true);
+        Guarded(work);
+    }
+    RefreshViews();
 }
 
 void MainWindow::ShowFont()
@@ -336,7 +378,7 @@ void MainWindow::UpdateCommands()
     if (hasFont)
         selected &= font->ExistingCodes();
     const bool hasCharacter = hasFont && selected.Next(0) < CodeSet::Count;
-    const bool hasPixel = hasFont && pixel_.x() >= 0;
+    const bool hasPixel = hasFont && editor_->SelectedPixel().x() >= 0;
     const auto enable = [this](int id, bool state) {
         menus_->Command(quint32(id))->setEnabled(state);
     };
@@ -354,8 +396,9 @@ void MainWindow::UpdateCommands()
     enable(int(WindowCommand::AllCharacters), hasFont);
     enable(int(WindowCommand::GoToCharacter), hasFont);
     enable(int(ActionType::Toggle), hasCharacter);
+    const bool isLegacy = hasFont && IsLegacyFormat(font->Metrics().format);
     for (int id = int(ActionType::InsertColumnRight); id <= int(ActionType::DeleteRowBottom); ++id)
-        enable(id, hasCharacter);
+        enable(id, hasCharacter && !(isLegacy && NeedsRowsOfItsOwn(ActionType(id))));
     const int maximum = hasFont ? (1 << font->Metrics().bitsPerPixel) - 1 : -1;
     for (int id = int(ActionType::IncreasePixelIndex); id <= int(ActionType::SetPixelIndex15); ++id)
         enable(id, hasPixel && id - int(ActionType::SetPixelIndex0) <= maximum);
@@ -367,7 +410,9 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
 {
     if (action == nullptr)
         return false;
-    statusBar()->showMessage(logText, MessageDelay);
+    ShowMessage(logText);
+    if (action->Type() == ActionType::OpenFont)
+        AddRecentFile(session_.Path());
     RefreshViews();
     return true;
 }
@@ -375,19 +420,10 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
 // Undo and redo bring the view back to what they changed.
 void MainWindow::actionChanged(const std::shared_ptr<Action>& action)
 {
-    if (isStroking_)
-        return;
-    RefreshViews();
-    if (!isMovingInHistory_)
-        return;
-    const int current = table_->CurrentCode();
-    if (const auto* const pixel = dynamic_cast<const ActionPixelIndex*>(action.get())) {
-        if (pixel->Args().code != current)
-            table_->SetCurrentCode(pixel->Args().code);
-    } else if (const auto* const edit = dynamic_cast<const ActionChar*>(action.get())) {
-        if (current < edit->Args().first || current > edit->Args().last)
-            table_->SetCurrentCode(edit->Args().first);
-    }
+    if (isMovingInHistory_ && action != nullptr)
+        movedCodes_ |= action->AffectedCodes();
+    if (!isStroking_)
+        RefreshViews();
 }
 
 bool MainWindow::progressChanged(const QString& text, int value, int maximum)

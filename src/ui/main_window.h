@@ -55,7 +55,7 @@ public:
     void actionChanged(const std::shared_ptr<Action>& action) override;
     bool progressChanged(const QString& text, int value, int maximum) override;
     void progressFinished() override;
-    int askFontFormat() override;
+    int askFontFormat(EncodingType& encoding) override;
     int askMergeMode() override;
     bool handleRequest(ActionType kind) override;
 
@@ -86,7 +86,7 @@ private:
     Q_SLOT void OnDatabaseThreadFinished();
     Q_SLOT void OnIndexingStopped();
     Q_SLOT void OnCurrentChanged(int code);
-    Q_SLOT void OnPixelSelected(CharPixelItem* item);
+    Q_SLOT void OnPixelInverted();
 
     void BuildWidgets();
     void BuildToolBar();
@@ -121,7 +121,11 @@ private:
     [[nodiscard]] bool CompleteArgs(ActionOpenFontArgs& args);
     void AddRecentFile(const QString& path);
     void ShowRecentFiles();
+    [[nodiscard]] QString Folder() const;
     [[nodiscard]] QString ProposedName(const QString& suffix) const;
+    [[nodiscard]] QString AskOpenPath(const QString& title, const QString& filter);
+    [[nodiscard]] QString AskSavePath(const QString& title, const QString& proposed,
+                                      const QString& filter);
 
     void ChangeRange(ActionType type);
     void GoToCharacter();
@@ -131,7 +135,11 @@ private:
     void ShowCommandLineOptions();
     void ShowContextMenu(QPoint globalPosition);
 
+    void ShowMessage(const QString& text);
     void RefreshViews();
+    void RunTogether(const std::function<void()>& work);
+    void RunMacro(const QString& text, const std::function<void()>& work);
+    void MoveInHistory(bool isUndo);
     void ShowFont();
     void UpdateCommands();
     void UpdateTitle();
@@ -154,8 +162,10 @@ private:
     QSpinBox* pencilIndex_ = nullptr;
     QTimer resizeTimer_;
     QStringList recentFiles_;
-    QPoint pixel_ = {-1, -1};        // that is selected, in the bitmap
+    QString folder_;                 // that the user chose last
+    bool holdsViews_ = false;        // back while several actions run
     bool isMovingInHistory_ = false; // by undo or redo
+    CodeSet movedCodes_;             // that undo or redo changed
     bool isStroking_ = false;
     bool strokeHasSteps_ = false;
     FontDatabaseThread* indexing_ = nullptr;

@@ -7,6 +7,7 @@
 #include "app/settings.h"
 #include "app/version.h"
 #include "cli/command_line_parser.h"
+#include "cli/installed_fonts.h"
 #include "render/font_database.h"
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
@@ -15,16 +16,20 @@
 #include "ui/preference_dialogs.h"
 #include "ui/progress_area.h"
 #include "ui/small_dialogs.h"
+#include "ui/text_dialog.h"
 
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QSpinBox>
 #include <QUrl>
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
+
+#include <algorithm>
 
 namespace Glyphor {
 
@@ -38,6 +43,7 @@ void MainWindow::OnActionTriggered()
 
 void MainWindow::RunCommand(quint32 id)
 {
+    editor_->EndStroke();
     const auto type = ActionType(id);
     if (type >= ActionType::InsertColumnRight && type <= ActionType::DeleteRowBottom) {
         RunSelectionEdit(type);
@@ -100,12 +106,7 @@ void MainWindow::RunWindowCommand(quint32 id)
     switch (WindowCommand(id)) {
     case WindowCommand::Undo:
     case WindowCommand::Redo:
-        isMovingInHistory_ = true;
-        if (WindowCommand(id) == WindowCommand::Undo)
-            session_.Stack().undo();
-        else
-            session_.Stack().redo();
-        isMovingInHistory_ = false;
+        MoveInHistory(WindowCommand(id) == WindowCommand::Undo);
         break;
     case WindowCommand::AllCharacters:
         table_->SetShowAll(menus_->Command(id)->isChecked());
@@ -133,14 +134,51 @@ void MainWindow::RunWindowCommand(quint32 id)
 
 bool MainWindow::handleRequest(ActionType kind)
 {
-    if (kind == ActionType::PrintUsage)
+    switch (kind) {
+    case ActionType::PrintUsage:
         ShowCommandLineOptions();
-    return kind == ActionType::PrintUsage || kind == ActionType::ExitProgram;
+        return true;
+    case ActionType::ListFonts:
+        TextDialog(tr("Installed fonts"), InstalledFontTable(), this).exec();
+        return true;
+    case ActionType::ExitProgram:
+        // Once the options have run.
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+        return true;
+    default:
+        return false;
+    }
 }
 
 void MainWindow::RunAction(const std::shared_ptr<Action>& action)
 {
     Guarded([&action] { action->Run(); });
+}
+
+// Several actions that are undone as one.
+void MainWindow::RunMacro(const QString& text, const std::function<void()>& work)
+{
+    session_.Stack().beginMacro(text);
+    RunTogether(work);
+    session_.Stack().endMacro();
+    ShowMessage(text);
+    UpdateTitle();
+}
+
+void MainWindow::MoveInHistory(bool isUndo)
+{
+    UndoStack& stack = session_.Stack();
+    const QString text = isUndo ? stack.undoText() : stack.redoText();
+    movedCodes_ = {};
+    {
+        const QScopedValueRollback move(isMovingInHistory_, true);
+        RunTogether([&] { isUndo ? stack.undo() : stack.redo(); });
+    }
+    ShowMessage((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(text));
+    const int current = table_->CurrentCode();
+    const int first = movedCodes_.Next(0);
+    if (first < CodeSet::Count && (current < 0 || !movedCodes_.Test(quint16(current))))
+        table_->SetCurrentCode(first);
 }
 
 // One action for each run of selected codes, undone as one.
@@ -149,43 +187,47 @@ void MainWindow::RunSelectionEdit(ActionType type)
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
     const std::vector<CodeRun> runs = RunsOf(codes);
-    const bool isMacro = runs.size() > 1;
-    if (isMacro)
-        session_.Stack().beginMacro(tr("Edit of the selection"));
-    for (const CodeRun& run : runs) {
+    const auto edit = [&](const CodeRun& run) {
         const auto action = std::make_shared<ActionChar>(session_, type);
         action->Args() = {run.first, run.last};
-        RunAction(action);
-    }
-    if (isMacro)
-        session_.Stack().endMacro();
+        action->Run();
+    };
+    if (runs.size() == 1)
+        Guarded([&] { edit(runs.front()); });
+    else if (!runs.empty())
+        RunMacro(tr("Selection: %1").arg(LogMessage(type)),
+                 [&] { std::ranges::for_each(runs, edit); });
 }
 
 void MainWindow::RunStateChange(ActionType type)
 {
+    const Font& font = *session_.CurrentFont();
     CodeSet codes = table_->SelectedCodes();
-    codes &= session_.CurrentFont()->ExistingCodes();
-    const std::vector<CodeRun> runs = RunsOf(codes);
-    if (runs.empty())
+    codes &= font.ExistingCodes();
+    const int first = codes.Next(0);
+    if (first == CodeSet::Count)
         return;
     // All of the selection becomes the opposite of its first character.
-    const bool enables =
-        type == ActionType::Enable ||
-        (type == ActionType::Toggle && !session_.CurrentFont()->IsEnabled(runs.front().first));
-    const ActionType change = runs.size() == 1 && runs.front().Size() == 1 ? type
-                              : enables                                    ? ActionType::Enable
-                                                                           : ActionType::Disable;
-    const bool isMacro = runs.size() > 1;
-    if (isMacro)
-        session_.Stack().beginMacro(enables ? tr("Enabled.") : tr("Disabled."));
-    for (const CodeRun& run : runs) {
+    const bool enables = type == ActionType::Enable ||
+                         (type == ActionType::Toggle && !font.IsEnabled(quint16(first)));
+    if (enables)
+        codes -= font.EnabledCodes();
+    else
+        codes &= font.EnabledCodes();
+    const std::vector<CodeRun> runs = RunsOf(codes);
+    const bool isOne = runs.size() == 1 && runs.front().Size() == 1;
+    const ActionType change = isOne ? type : enables ? ActionType::Enable : ActionType::Disable;
+    const auto edit = [&](const CodeRun& run) {
         const auto action = std::make_shared<ActionCharState>(session_, change);
         action->Args().first = run.first;
         action->Args().last = run.last;
-        RunAction(action);
-    }
-    if (isMacro)
-        session_.Stack().endMacro();
+        action->Run();
+    };
+    if (runs.size() == 1)
+        Guarded([&] { edit(runs.front()); });
+    else if (!runs.empty())
+        RunMacro(tr("Selection: %1").arg(LogMessage(change)),
+                 [&] { std::ranges::for_each(runs, edit); });
 }
 
 void MainWindow::DeleteSelection()
@@ -195,12 +237,13 @@ void MainWindow::DeleteSelection()
 
 void MainWindow::RunPixelCommand(ActionType type)
 {
-    if (pixel_.x() < 0)
+    const QPoint pixel = editor_->SelectedPixel();
+    if (pixel.x() < 0)
         return;
     const auto action = std::make_shared<ActionPixelIndex>(session_, type);
     action->Args().code = quint16(table_->CurrentCode());
-    action->Args().x = pixel_.x();
-    action->Args().y = pixel_.y();
+    action->Args().x = pixel.x();
+    action->Args().y = pixel.y();
     RunAction(action);
 }
 
@@ -349,8 +392,11 @@ void MainWindow::ShowContextMenu(QPoint globalPosition)
             [this] { RunStateChange(ActionType::Enable); });
     connect(menu.addAction(tr("&Disable")), &QAction::triggered, this,
             [this] { RunStateChange(ActionType::Disable); });
-    menu.addAction(menus_->Command(quint32(ActionType::Toggle)));
+    QAction* const toggle = menus_->Command(quint32(ActionType::Toggle));
+    menu.addAction(toggle);
     connect(menu.addAction(tr("De&lete")), &QAction::triggered, this, &MainWindow::DeleteSelection);
+    for (QAction* const action : menu.actions())
+        action->setEnabled(toggle->isEnabled()); // they all need a character
     menu.addSeparator();
     for (QAction* const action : menus_->EditMenu()->actions()) {
         if (action->menu() != nullptr && action->menu() != menus_->PixelIndexMenu())

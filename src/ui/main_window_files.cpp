@@ -8,17 +8,20 @@
 #include "actions/font_files.h"
 #include "actions/pattern_file.h"
 #include "actions/session.h"
-#include "app/settings.h"
+#include "app/progress.h"
 #include "ui/char_table_view.h"
+#include "ui/format_box.h"
 #include "ui/small_dialogs.h"
 
 #include <QCloseEvent>
+#include <QDir>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QRegularExpression>
 
 namespace Glyphor {
 
@@ -30,7 +33,7 @@ constexpr qsizetype MaxRecentFiles = 10;
 
 QString PatternFilter()
 {
-    return MainWindow::tr("Pattern files (*.txt)");
+    return MainWindow::tr("Text files (*.txt)");
 }
 
 // The faces of a scalable font by name, in the order of their indices.
@@ -43,6 +46,8 @@ QStringList FaceNames(const QString& path)
         return names;
     }
     const FreeTypeFace face(path, 0, FreeTypeLibrary());
+    if (!face.IsOpen())
+        return names;
     names.append(face.StyleName());
     int index = 0;
     for (const NamedInstance& instance : face.NamedInstances()) {
@@ -74,7 +79,10 @@ bool MainWindow::CompleteArgs(ActionOpenFontArgs& args)
     if (!type || !IsScalable(*type) || args.size.value > 0)
         return true;
     CheckInputFile(args.path);
-    GenerationDialog dialog(args, FaceNames(args.path), this);
+    const QStringList faces = FaceNames(args.path);
+    if (faces.isEmpty())
+        return true; // opening it will tell what is wrong
+    GenerationDialog dialog(args, faces, this);
     if (dialog.exec() != QDialog::Accepted)
         return false;
     args = dialog.Args();
@@ -83,41 +91,77 @@ bool MainWindow::CompleteArgs(ActionOpenFontArgs& args)
 
 bool MainWindow::OpenFile(const QString& path)
 {
-    if (!AskToSave())
-        return false;
     bool isOpened = false;
-    Guarded([&] {
-        const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::OpenFont);
-        action->Args().path = path;
-        isOpened = CompleteArgs(action->Args()) && action->Run();
-    });
-    if (isOpened)
-        AddRecentFile(path);
+    if (AskToSave())
+        Guarded([&] {
+            const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::OpenFont);
+            action->Args().path = path;
+            isOpened = CompleteArgs(action->Args()) && action->Run();
+        });
     return isOpened;
 }
 
 void MainWindow::Open()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open font file"), QFileInfo(session_.Path()).path(), FontFileFilter(false));
+    const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
     if (!path.isEmpty())
         OpenFile(path);
 }
 
 void MainWindow::Merge()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open font file"), QFileInfo(session_.Path()).path(), FontFileFilter(false));
+    const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
     if (path.isEmpty())
         return;
     Guarded([&] {
         const auto action = std::make_shared<ActionMergeFont>(session_);
-        action->Args().source.path = path;
-        action->Args().source.format = session_.CurrentFont()->Metrics().format;
-        action->Args().source.encoding = session_.CurrentFont()->Metrics().encoding;
-        if (CompleteArgs(action->Args().source))
+        ActionOpenFontArgs& source = action->Args().source;
+        source.path = path;
+        if (const auto type = FileTypeOf(path); type && IsScalable(*type)) {
+            source.format = session_.CurrentFont()->Metrics().format;
+            source.encoding = session_.CurrentFont()->Metrics().encoding;
+        }
+        if (CompleteArgs(source))
             action->Run();
     });
+}
+
+// Files of all kinds are shown first, which the last filter is for.
+QString MainWindow::AskOpenPath(const QString& title, const QString& filter)
+{
+    QString selected = filter.section(u";;"_s, -1);
+    const QString path = QFileDialog::getOpenFileName(this, title, Folder(), filter, &selected);
+    if (!path.isEmpty())
+        folder_ = QFileInfo(path).path();
+    return path;
+}
+
+// A name without a suffix gets the first one of the filter that is chosen.
+QString MainWindow::AskSavePath(const QString& title, const QString& proposed,
+                                const QString& filter)
+{
+    QFileDialog dialog(this, title, Folder());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filter.split(u";;"_s));
+    const auto takeSuffix = [&dialog](const QString& chosen) {
+        static const QRegularExpression suffix(u"\\*\\.(\\w+)"_s);
+        dialog.setDefaultSuffix(suffix.match(chosen).captured(1));
+    };
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
+    const QString pattern = u"*."_s + QFileInfo(proposed).suffix();
+    for (const QString& name : dialog.nameFilters()) {
+        if (name.contains(pattern + u' ') || name.contains(pattern + u')')) {
+            dialog.selectNameFilter(name);
+            break;
+        }
+    }
+    takeSuffix(dialog.selectedNameFilter());
+    dialog.selectFile(proposed);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    const QString path = dialog.selectedFiles().constFirst();
+    folder_ = QFileInfo(path).path();
+    return path;
 }
 
 // Fonts are not saved over the scalable ones that they come from.
@@ -129,8 +173,11 @@ bool MainWindow::Save()
 
 bool MainWindow::SaveAs()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save font file"),
-                                                      ProposedName(u".c"_s), FontFileFilter(true));
+    const auto type = FileTypeOf(session_.Path());
+    const bool isKept = type && IsWritten(*type);
+    const QString suffix = isKept ? u'.' + QFileInfo(session_.Path()).suffix() : u".c"_s;
+    const QString path =
+        AskSavePath(tr("Save font file"), ProposedName(suffix), FontFileFilter(true));
     return !path.isEmpty() && SaveTo(path, ActionType::SaveFontAs);
 }
 
@@ -147,32 +194,41 @@ bool MainWindow::SaveTo(const QString& path, ActionType type)
     return isSaved;
 }
 
+// Where files are looked for and saved: the last folder that the user chose, or that of the font,
+// but not one for installed fonts.
+QString MainWindow::Folder() const
+{
+    if (!folder_.isEmpty())
+        return folder_;
+    const QFileInfo font(session_.Path());
+    const bool isOwn = !session_.Path().isEmpty() && QFileInfo(font.path()).isWritable();
+    return isOwn ? font.path() : QDir::homePath();
+}
+
 QString MainWindow::ProposedName(const QString& suffix) const
 {
-    const QFileInfo info(session_.Path());
-    return info.path() + u'/' + info.completeBaseName() + suffix;
+    return QFileInfo(session_.Path()).completeBaseName() + suffix;
 }
 
 void MainWindow::SaveKerning()
 {
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter());
+    const QString path =
+        AskSavePath(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter());
     if (!path.isEmpty())
         SaveTo(path, ActionType::SaveKerning);
 }
 
 void MainWindow::OpenPattern()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Read pattern file"), QFileInfo(session_.Path()).path(), PatternFilter());
+    const QString path = AskOpenPath(tr("Read pattern file"), PatternFilter());
     if (!path.isEmpty())
         ReadPattern(path);
 }
 
 void MainWindow::SavePattern()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save pattern file"),
-                                                      ProposedName(u".txt"_s), PatternFilter());
+    const QString path =
+        AskSavePath(tr("Save pattern file"), ProposedName(u".txt"_s), PatternFilter());
     if (path.isEmpty())
         return;
     Guarded([&] {
@@ -184,11 +240,15 @@ void MainWindow::SavePattern()
 
 bool MainWindow::ReadPattern(const QString& path)
 {
-    return Guarded([&] {
+    bool isRead = false;
+    Guarded([&] {
         const auto action = std::make_shared<ActionReadPattern>(session_);
         action->Args().path = path;
-        action->Run();
+        isRead = action->Run();
+        if (!isRead)
+            warning(tr("Read pattern file"), tr("The file %1 does not exist.").arg(path));
     });
+    return isRead;
 }
 
 quint32 MainWindow::CommandOfFile(const QString& path)
@@ -199,15 +259,13 @@ quint32 MainWindow::CommandOfFile(const QString& path)
     return quint32(isText ? ActionType::ReadPattern : ActionType::None);
 }
 
-int MainWindow::askFontFormat()
+int MainWindow::askFontFormat(EncodingType& encoding)
 {
-    QList<std::pair<QString, int>> choices;
-    for (const FormatNameRow& row : FormatNameTable)
-        choices.append({row.displayName, int(row.format)});
-    return AskChoice(this, tr("Select font format"),
-                     tr("Font format could not be read in file. Please select format and encoding "
-                        "manually."),
-                     choices);
+    FormatDialog dialog(this);
+    if (dialog.exec() != QDialog::Accepted)
+        throw WorkStopped();
+    encoding = dialog.Encoding();
+    return int(dialog.Format());
 }
 
 int MainWindow::askMergeMode()
@@ -227,13 +285,15 @@ void MainWindow::AddRecentFile(const QString& path)
     recentFiles_.removeAll(absolute);
     recentFiles_.prepend(absolute);
     recentFiles_ = recentFiles_.first(std::min(recentFiles_.size(), MaxRecentFiles));
+    SaveState();
 }
 
 void MainWindow::ShowRecentFiles()
 {
     recentMenu_->clear();
     for (const QString& path : std::as_const(recentFiles_)) {
-        QAction* const entry = recentMenu_->addAction(QFileInfo(path).fileName());
+        QAction* const entry =
+            recentMenu_->addAction(QFileInfo(path).fileName().replace(u'&', u"&&"_s));
         entry->setStatusTip(path);
         connect(entry, &QAction::triggered, this, [this, path] { OpenFile(path); });
     }

@@ -2,7 +2,7 @@
 
 #include "app/settings.h"
 #include "render/font_database.h"
-#include "ui/small_dialogs.h"
+#include "ui/dialog_parts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -20,8 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int UsagePixelSize = 12;
-
 QCheckBox* Box(const QString& text, bool isOn)
 {
     auto* const box = new QCheckBox(text);
@@ -30,32 +28,6 @@ QCheckBox* Box(const QString& text, bool isOn)
 }
 
 } // namespace
-
-CommandDialog::CommandDialog(const QString& usage, QWidget* parent) : QDialog(parent)
-{
-    setWindowTitle(tr("Command line options"));
-    auto* const view = new QPlainTextEdit(usage);
-    view->setReadOnly(true);
-    view->setLineWrapMode(QPlainTextEdit::NoWrap);
-    view->setAccessibleName(windowTitle());
-    QFont font(u"Consolas"_s);
-    font.setStyleHint(QFont::Monospace);
-    font.setPixelSize(UsagePixelSize);
-    view->setFont(font);
-    auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(view);
-    AddButtons(*this, *layout, QDialogButtonBox::Ok);
-    const QFontMetrics metrics(font);
-    const QSize text = metrics.size(0, usage);
-    const CommandDialogData stored = Settings::Instance().commandDialog.load();
-    resize(stored.width > 0 ? stored.width : std::min(text.width() + 60, 1100),
-           stored.height > 0 ? stored.height : std::min(text.height() + 90, 700));
-}
-
-CommandDialog::~CommandDialog()
-{
-    Settings::Instance().commandDialog.save({width(), height()});
-}
 
 PreferencesDialog::PreferencesDialog(QWidget* parent) : QDialog(parent)
 {

@@ -10,16 +10,6 @@ class QPlainTextEdit;
 
 namespace Glyphor {
 
-// Shows the usage text of the command line. Its size is remembered.
-class CommandDialog final : public QDialog
-{
-    Q_OBJECT
-
-public:
-    CommandDialog(const QString& usage, QWidget* parent);
-    ~CommandDialog() override;
-};
-
 // The preferences; Ok stores them.
 class PreferencesDialog final : public QDialog
 {

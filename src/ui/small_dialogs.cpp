@@ -1,7 +1,8 @@
 #include "ui/small_dialogs.h"
 
 #include "app/settings.h"
-#include "model/code_text.h"
+#include "ui/dialog_parts.h"
+#include "ui/format_box.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -21,47 +22,6 @@
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// For rows of more than one widget, which have no buddy of their own.
-QLabel* LabelFor(QWidget& buddy, const QString& text)
-{
-    auto* const label = new QLabel(text);
-    label->setBuddy(&buddy);
-    return label;
-}
-
-QString CodeText(int code)
-{
-    const bool hexadecimal = Settings::Instance().numeralSystem.value() != 0;
-    return hexadecimal ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
-}
-
-} // namespace
-
-QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
-                             QDialogButtonBox::StandardButtons kinds)
-{
-    auto* const buttons = new QDialogButtonBox(kinds, Qt::Horizontal, &dialog);
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    layout.addWidget(buttons);
-    return buttons;
-}
-
-std::optional<quint16> ParseCode(const QString& text)
-{
-    const QString trimmed = text.trimmed();
-    if (trimmed.size() == 1 && !trimmed[0].isDigit())
-        return trimmed[0].unicode();
-    const bool isHexadecimal = trimmed.startsWith(u"0x"_s, Qt::CaseInsensitive) ||
-                               trimmed.startsWith(u"U+"_s, Qt::CaseInsensitive);
-    bool isNumber = false;
-    const uint code =
-        isHexadecimal ? trimmed.mid(2).toUInt(&isNumber, 16) : trimmed.toUInt(&isNumber, 10);
-    return isNumber && code < CodeSet::Count ? std::optional(quint16(code)) : std::nullopt;
-}
 
 RangeDialog::RangeDialog(const QString& title, int first, int last, QWidget* parent)
     : QDialog(parent),
@@ -104,8 +64,8 @@ GenerationDialog::GenerationDialog(const ActionOpenFontArgs& args, const QString
       args_(args),
       height_(new QSpinBox),
       unit_(new QComboBox),
-      format_(new QComboBox),
-      encoding_(new QComboBox),
+      format_(new FormatBox),
+      encoding_(new EncodingBox),
       face_(new QComboBox),
       bold_(new QCheckBox(tr("&Bold"))),
       italic_(new QCheckBox(tr("&Italic"))),
@@ -116,17 +76,13 @@ GenerationDialog::GenerationDialog(const ActionOpenFontArgs& args, const QString
     height_->setRange(1, 1000);
     height_->setValue(args.size.value > 0 ? args.size.value : 16);
     unit_->addItems({tr("px"), tr("pt")});
-    const bool hidesLegacy = Settings::Instance().hideLegacy.value();
-    for (const FormatNameRow& row : FormatNameTable) {
-        if (!row.legacy || !hidesLegacy)
-            format_->addItem(row.displayName, int(row.format));
-    }
-    format_->setCurrentIndex(
-        std::max(0, format_->findData(int(args.format.value_or(FontFormat::Standard)))));
+    format_->Fill(!Settings::Instance().hideLegacy.value());
+    format_->SetFormat(args.format.value_or(FontFormat::Standard));
+    encoding_->SetFormat(format_->Format());
+    encoding_->SetEncoding(args.encoding.value_or(EncodingType::Unicode));
     face_->addItems(faces);
     face_->setCurrentIndex(std::clamp(args.faceIndex, 0, std::max(0, int(faces.size()) - 1)));
     face_->setEnabled(faces.size() > 1);
-    UpdateEncodings();
 
     auto* const heightRow = new QHBoxLayout;
     heightRow->addWidget(height_, 1);
@@ -154,28 +110,17 @@ GenerationDialog::GenerationDialog(const ActionOpenFontArgs& args, const QString
     };
     for (QLineEdit* const field : {first_, last_})
         connect(field, &QLineEdit::textChanged, this, validate);
-    connect(format_, &QComboBox::currentIndexChanged, this, &GenerationDialog::UpdateEncodings);
+    connect(format_, &QComboBox::currentIndexChanged, this,
+            [this] { encoding_->SetFormat(format_->Format()); });
     height_->selectAll();
-}
-
-// Shift JIS fonts exist in the legacy formats only.
-void GenerationDialog::UpdateEncodings()
-{
-    const auto format = FontFormat(format_->currentData().toInt());
-    encoding_->clear();
-    encoding_->addItem(tr("Unicode"), int(EncodingType::Unicode));
-    if (IsLegacyFormat(format))
-        encoding_->addItem(tr("Shift JIS"), int(EncodingType::ShiftJis));
-    const int wanted = encoding_->findData(int(args_.encoding.value_or(EncodingType::Unicode)));
-    encoding_->setCurrentIndex(std::max(0, wanted));
 }
 
 ActionOpenFontArgs GenerationDialog::Args() const
 {
     ActionOpenFontArgs args = args_;
     args.size = {height_->value(), unit_->currentIndex() == 1};
-    args.format = FontFormat(format_->currentData().toInt());
-    args.encoding = EncodingType(encoding_->currentData().toInt());
+    args.format = format_->Format();
+    args.encoding = encoding_->Encoding();
     args.faceIndex = std::max(0, face_->currentIndex());
     args.effects =
         (bold_->isChecked() ? BoldEffect : 0U) | (italic_->isChecked() ? ItalicEffect : 0U);

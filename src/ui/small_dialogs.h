@@ -3,26 +3,17 @@
 #include "actions/action_open_font.h"
 
 #include <QDialog>
-#include <QDialogButtonBox>
-
-#include <optional>
 
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QSpinBox;
-class QVBoxLayout;
 
 namespace Glyphor {
 
-// Adds the buttons below a dialog and has them close it.
-QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
-                             QDialogButtonBox::StandardButtons kinds = QDialogButtonBox::Ok |
-                                                                       QDialogButtonBox::Cancel);
-
-// A code as the user writes it: 0x41, 65 or U+0041, or a single character; nothing for other texts.
-[[nodiscard]] std::optional<quint16> ParseCode(const QString& text);
+class EncodingBox;
+class FormatBox;
 
 // Asks for a first and a last code.
 class RangeDialog final : public QDialog
@@ -57,13 +48,11 @@ public:
     [[nodiscard]] ActionOpenFontArgs Args() const;
 
 private:
-    void UpdateEncodings();
-
     ActionOpenFontArgs args_;
     QSpinBox* height_;
     QComboBox* unit_;
-    QComboBox* format_;
-    QComboBox* encoding_;
+    FormatBox* format_;
+    EncodingBox* encoding_;
     QComboBox* face_;
     QCheckBox* bold_;
     QCheckBox* italic_;

@@ -179,7 +179,7 @@ TextPreview::TextPreview(QWidget* parent)
     area->setFrameShape(QFrame::StyledPanel);
     area->setFocusPolicy(Qt::NoFocus);
     auto* const layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(6, 4, 6, 4);
     layout->addLayout(controls);
     layout->addWidget(area, 1);
 

@@ -106,13 +106,14 @@ private Q_SLOTS:
     void Questions()
     {
         CommandLine commandLine;
+        EncodingType encoding = EncodingType::Unicode;
         {
             const Answers answers("nonsense\n aa4 \nKEEP\n");
-            QCOMPARE(commandLine.askFontFormat(), 6);
+            QCOMPARE(commandLine.askFontFormat(encoding), 6);
             QCOMPARE(commandLine.askMergeMode(), 3);
         }
         const Answers none("nonsense\n");
-        QVERIFY_EXCEPTION_THROWN(commandLine.askFontFormat(), CriticalException);
+        QVERIFY_EXCEPTION_THROWN(commandLine.askFontFormat(encoding), CriticalException);
     }
 
     void Requests()

@@ -246,7 +246,12 @@ private Q_SLOTS:
         public:
             Asked() { SetCurrentInterface(this); }
             ~Asked() override { SetCurrentInterface(nullptr); }
-            int askFontFormat() override { return answer; }
+            int askFontFormat(EncodingType& encoding) override
+            {
+                encoding = answeredEncoding;
+                return answer;
+            }
+            EncodingType answeredEncoding = EncodingType::Unicode;
             int answer = -1;
         };
         const auto font = Test::MakeSampleFont(FontFormat::AA2);

@@ -2,6 +2,8 @@
 #include "support/test_main.h"
 #include "ui/char_bitmap_view.h"
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -102,6 +104,7 @@ private Q_SLOTS:
         QSignalSpy selections(view_.get(), &CharBitmapView::PixelSelected);
         QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(1, 0));
         QCOMPARE(CurrentCell(), QPoint(-1, -1)); // outside of the character
+        QVERIFY(view_->scene()->focusItem() == nullptr);
         QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(1, 1));
         QCOMPARE(CurrentCell(), QPoint(1, 1));
         QCOMPARE(view_->CurrentPixel()->PixelPosition(), QPoint(1, 0));
@@ -157,6 +160,35 @@ private Q_SLOTS:
         QCOMPARE(painted.count(), 2);
         QCOMPARE(painted[1], (QVariantList{1, 0, false}));
         QCOMPARE(ends.count(), 1);
+    }
+
+    // A fast mouse skips cells, and comes back to some.
+    void PencilPaintsTheWayOnce()
+    {
+        Show(FontFormat::AA4);
+        view_->SetPencil(true);
+        QSignalSpy painted(view_.get(), &CharBitmapView::PixelPainted);
+        QSignalSpy ends(view_.get(), &CharBitmapView::StrokeEnded);
+        const auto move = [this](QPoint place, Qt::MouseButtons buttons) {
+            QMouseEvent event(QEvent::MouseMove, place, view_->viewport()->mapToGlobal(place),
+                              Qt::NoButton, buttons, Qt::NoModifier);
+            QApplication::sendEvent(view_->viewport(), &event);
+        };
+        QTest::mousePress(view_->viewport(), Qt::LeftButton, {}, Place(0, 1));
+        move(Place(4, 1), Qt::LeftButton);
+        move(Place(0, 1), Qt::LeftButton);
+        QCOMPARE(painted.count(), 5);
+        move(Place(0, 2), Qt::NoButton); // the release went elsewhere
+        QCOMPARE(ends.count(), 1);
+        QCOMPARE(painted.count(), 5);
+    }
+
+    void KeysAloneSelect()
+    {
+        Show(FontFormat::AA4);
+        view_->setFocus();
+        QTest::keyClick(view_->viewport(), Qt::Key_Down);
+        QCOMPARE(CurrentCell(), QPoint(0, 1));
     }
 };
 

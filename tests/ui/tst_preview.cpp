@@ -1,7 +1,7 @@
 #include "support/sample_font.h"
 #include "support/test_main.h"
+#include "ui/dialog_parts.h"
 #include "ui/info_panel.h"
-#include "ui/small_dialogs.h"
 #include "ui/text_preview.h"
 
 #include <QLineEdit>

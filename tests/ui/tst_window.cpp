@@ -9,10 +9,12 @@
 #include "ui/main_window.h"
 #include "ui/menu_bar.h"
 #include "ui/progress_area.h"
+#include "ui/text_preview.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QMessageBox>
@@ -104,6 +106,8 @@ private Q_SLOTS:
         window_ = std::make_unique<MainWindow>(*session_);
         SetCurrentInterface(window_.get());
         window_->show();
+        window_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
     }
 
     void cleanup()
@@ -153,8 +157,8 @@ private Q_SLOTS:
         QVERIFY(window_->Menus().Command(55)->statusTip().startsWith(u"Undo last action: "_s));
         const QByteArray after = Test::Snapshot(CurrentFont());
         Trigger(55);
-        QVERIFY(!window_->isWindowModified());
-        // Deleted pixels do not come back.
+        // Deleted pixels do not come back, which is a change to save.
+        QCOMPARE(window_->isWindowModified(), id >= 22 && id <= 25);
         if (id < 22 || id > 25)
             QCOMPARE(Test::Snapshot(CurrentFont()), before);
         Trigger(56);
@@ -198,6 +202,109 @@ private Q_SLOTS:
         Trigger(55); // and back to the character
         QCOMPARE(window_->Table().CurrentCode(), int('B'));
         QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 170);
+    }
+
+    // The marked cell is the one that commands change, whatever happened to the rows.
+    void PixelCommandsFollowTheMark()
+    {
+        OpenSample(FontFormat::AA4);
+        CurrentFont().SetHeight(6);
+        CurrentFont().FindChar('B')->info.yPos = 2;
+        window_->Table().SetCurrentCode('B');
+        CharBitmapView& editor = window_->Editor();
+        QVERIFY(editor.SelectItem(editor.ItemAt(1, 2)));
+        Trigger(18); // up by a row
+        const QPoint marked = editor.SelectedPixel();
+        QCOMPARE(marked, QPoint(1, 1));
+        QCOMPARE(editor.CurrentPixel()->Row(), 2);
+        Trigger(38 + 9);
+        QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(1, 1), 9);
+        Trigger(8); // another column
+        QCOMPARE(editor.scene()->selectedItems().size(), 1);
+        window_->Table().SetCurrentCode('A');
+        QCOMPARE(editor.scene()->selectedItems().size(), 0);
+        QVERIFY(editor.scene()->focusItem() == nullptr);
+    }
+
+    void SpaceIsAChangeToSave()
+    {
+        OpenSample(FontFormat::Standard);
+        CurrentFont().FindChar('B')->info.yPos = 0;
+        window_->Table().SetCurrentCode('B');
+        CharBitmapView& editor = window_->Editor();
+        editor.setFocus();
+        editor.SelectFirstPixel();
+        QTest::keyClick(editor.viewport(), Qt::Key_Space);
+        QVERIFY(window_->isWindowModified() && IsEnabled(3));
+        QVERIFY(!session_->Stack().canUndo());
+        Trigger(3);
+        QVERIFY(!window_->isWindowModified());
+    }
+
+    // Letters are commands in the editor, and characters in the table.
+    void KeysMeanWhatTheFocusIsOn()
+    {
+        OpenSample(FontFormat::AA4);
+        CurrentFont().FindChar('B')->info.yPos = 0;
+        window_->Table().SetCurrentCode('B');
+        const QByteArray before = Test::Snapshot(CurrentFont());
+        window_->Table().setFocus();
+        QTest::keyClick(&window_->Table(), Qt::Key_R, Qt::ShiftModifier); // there is no such one
+        QTest::keyClick(&window_->Table(), Qt::Key_7);
+        QCOMPARE(Test::Snapshot(CurrentFont()), before);
+        QTest::keyClick(&window_->Table(), Qt::Key_Return);
+        QVERIFY(window_->Editor().hasFocus());
+        const QPoint pixel = window_->Editor().SelectedPixel();
+        QVERIFY(pixel.x() >= 0);
+        QTest::keyClick(window_->Editor().viewport(), Qt::Key_7);
+        QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(pixel.x(), pixel.y()), 7);
+        auto* const box = window_->Preview().findChild<QCheckBox*>();
+        box->setEnabled(true);
+        box->setFocus();
+        const QByteArray edited = Test::Snapshot(CurrentFont());
+        QTest::keyClick(box, Qt::Key_Space);
+        QVERIFY(box->isChecked());
+        QCOMPARE(Test::Snapshot(CurrentFont()), edited);
+    }
+
+    void HiddenCharactersAreNotEdited()
+    {
+        OpenSample(FontFormat::AA4);
+        window_->Table().SetCurrentCode('B');
+        Trigger(33);
+        QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
+        Trigger(57); // enabled ones only
+        Trigger(16);
+        QCOMPARE(int(CurrentFont().FindChar('B')->info.xPos), -5);
+        QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
+        Trigger(16);
+        QCOMPARE(int(CurrentFont().FindChar('B')->info.xPos), -5);
+        Trigger(57);
+    }
+
+    void UndoShowsWhatItChanged()
+    {
+        OpenSample(FontFormat::AA4);
+        window_->Table().SetCurrentCode('B');
+        Trigger(33);
+        window_->Table().SetCurrentCode('A');
+        Trigger(55);
+        QCOMPARE(window_->Table().CurrentCode(), int('B'));
+        QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
+        const CodeSet selected = window_->Table().SelectedCodes();
+        Trigger(16);
+        Trigger(55);
+        QCOMPARE(window_->Table().SelectedCodes(), selected);
+    }
+
+    void LegacyCharactersHaveTheRowsOfTheFont()
+    {
+        OpenSample(FontFormat::LegacyAA4);
+        window_->Table().SetCurrentCode('B');
+        for (const int id : {10, 11, 16, 17, 18, 19, 24, 25})
+            QVERIFY2(!IsEnabled(id), qPrintable(QString::number(id)));
+        for (const int id : {8, 9, 12, 15, 20, 21, 22, 23, 26, 29})
+            QVERIFY2(IsEnabled(id), qPrintable(QString::number(id)));
     }
 
     void StrokesAreOneStep()

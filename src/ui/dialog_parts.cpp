@@ -1,0 +1,51 @@
+#include "ui/dialog_parts.h"
+
+#include "app/settings.h"
+#include "model/code_set.h"
+#include "model/code_text.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
+                             QDialogButtonBox::StandardButtons kinds)
+{
+    auto* const buttons = new QDialogButtonBox(kinds, Qt::Horizontal, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout.addWidget(buttons);
+    return buttons;
+}
+
+QLabel* LabelFor(QWidget& buddy, const QString& text)
+{
+    auto* const label = new QLabel(text);
+    label->setBuddy(&buddy);
+    return label;
+}
+
+std::optional<quint16> ParseCode(const QString& text)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.size() == 1 && !trimmed[0].isDigit())
+        return trimmed[0].unicode();
+    const bool isHexadecimal = trimmed.startsWith(u"0x"_s, Qt::CaseInsensitive) ||
+                               trimmed.startsWith(u"U+"_s, Qt::CaseInsensitive);
+    bool isNumber = false;
+    const uint code =
+        isHexadecimal ? trimmed.mid(2).toUInt(&isNumber, 16) : trimmed.toUInt(&isNumber, 10);
+    return isNumber && code < CodeSet::Count ? std::optional(quint16(code)) : std::nullopt;
+}
+
+QString CodeText(int code)
+{
+    const bool isHexadecimal = Settings::Instance().numeralSystem.value() != 0;
+    return isHexadecimal ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
+}
+
+} // namespace Glyphor

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDialogButtonBox>
+#include <QString>
+
+#include <optional>
+
+class QDialog;
+class QLabel;
+class QVBoxLayout;
+
+namespace Glyphor {
+
+// Adds the buttons below a dialog and has them close it.
+QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
+                             QDialogButtonBox::StandardButtons kinds = QDialogButtonBox::Ok |
+                                                                       QDialogButtonBox::Cancel);
+
+// For rows of more than one widget, which have no buddy of their own.
+[[nodiscard]] QLabel* LabelFor(QWidget& buddy, const QString& text);
+
+// A code as the user writes it: 0x41, 65 or U+0041, or a single character; nothing for other texts.
+[[nodiscard]] std::optional<quint16> ParseCode(const QString& text);
+
+// A code in the numeral system of the settings.
+[[nodiscard]] QString CodeText(int code);
+
+} // namespace Glyphor

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "model/font_format.h"
+
+#include <QComboBox>
+#include <QDialog>
+
+namespace Glyphor {
+
+// The choice of a font format, in two groups with their headings.
+class FormatBox final : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit FormatBox(QWidget* parent = nullptr);
+
+    // Makes the list, with or without the legacy formats, and keeps the choice if it can.
+    void Fill(bool withLegacy);
+
+    [[nodiscard]] FontFormat Format() const;
+    void SetFormat(FontFormat format);
+
+private:
+    void AddGroup(const QString& heading, bool isLegacy);
+};
+
+// The choice of an encoding; only legacy formats have one.
+class EncodingBox final : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit EncodingBox(QWidget* parent = nullptr);
+
+    // Offers what goes with the format and keeps the choice if it can.
+    void SetFormat(FontFormat format);
+
+    [[nodiscard]] EncodingType Encoding() const;
+    void SetEncoding(EncodingType encoding);
+};
+
+// Asks for format and encoding of a file that does not tell them.
+class FormatDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FormatDialog(QWidget* parent);
+
+    [[nodiscard]] FontFormat Format() const { return format_->Format(); }
+    [[nodiscard]] EncodingType Encoding() const { return encoding_->Encoding(); }
+
+private:
+    FormatBox* format_;
+    EncodingBox* encoding_;
+};
+
+} // namespace Glyphor
