@@ -49,15 +49,20 @@ void CheckCombination(FontFormat format, EncodingType encoding)
              u"SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."_s);
 }
 
-std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
+RenderOptions OptionsOf(const ActionOpenFontArgs& args)
 {
-    const RenderOptions options{
+    return {
         .format = args.format.value_or(FontFormat::Standard),
         .encoding = args.encoding.value_or(EncodingType::Unicode),
         .size = args.size,
         .effects = args.effects,
         .faceIndex = args.faceIndex,
     };
+}
+
+std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
+{
+    const RenderOptions options = OptionsOf(args);
     const auto file = MakeScalableFontFile(args.path, options);
     const int faceCount = file->FaceCount();
     if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
@@ -109,6 +114,11 @@ std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
     if (font->Metrics().height == 0)
         Fail(CreationFailed(), u"Font has invalid metrics."_s);
     return font;
+}
+
+int EmSize(const ActionOpenFontArgs& args)
+{
+    return MakeScalableFontFile(args.path, OptionsOf(args))->EmSize();
 }
 
 bool ActionOpenFont::Execute()

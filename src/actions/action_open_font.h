@@ -45,4 +45,7 @@ private:
 // CriticalException on failure.
 [[nodiscard]] std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args);
 
+// The em size in pixels that a scalable font would be rendered at; 0 where it can't be.
+[[nodiscard]] int EmSize(const ActionOpenFontArgs& args);
+
 } // namespace Glyphor

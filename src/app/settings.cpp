@@ -21,6 +21,11 @@ std::unique_ptr<QSettings> OpenUserStore()
 std::unique_ptr<QSettings> WithRecordTypes(std::unique_ptr<QSettings> store)
 {
     qRegisterMetaType<WindowData>("MainWindow::Data");
+    qRegisterMetaType<FontDialogData>("FontDialog::DialogData");
+    qRegisterMetaType<FontGenerationDialogData>("FontGenerationDialog::DialogData");
+    qRegisterMetaType<EnableRangeDialogData>("EnableRangeDialog::DialogData");
+    qRegisterMetaType<MergeModeDialogData>("MergeModeDialog::DialogData");
+    qRegisterMetaType<PreferencesDialogData>("PreferencesDialog::DialogData");
     qRegisterMetaType<CommandDialogData>("CommandDialog::DialogData");
     return store;
 }
@@ -55,13 +60,17 @@ Settings::Settings(std::unique_ptr<QSettings> store)
                             true),
       useIncludedBitmaps(*this, u"UseIncludedBitmaps"_s, variables_.useIncludedBitmaps, true),
       mainWindow(*this, u"MainWindowData"_s),
+      fontDialog(*this, u"FontDialogData"_s),
+      fontGenerationDialog(*this, u"FontGenerationDialogData"_s),
+      enableRangeDialog(*this, u"EnableRangeDialogData"_s),
+      mergeModeDialog(*this, u"MergeModeDialogData"_s),
+      preferencesDialog(*this, u"PreferencesDialogData"_s),
       commandDialog(*this, u"CommandDialogData"_s)
 {
-    for (const QString& group :
-         {mainWindow.key(), u"FontDialogData"_s, u"FontGenerationDialogData"_s,
-          u"EnableRangeDialogData"_s, u"MergeModeDialogData"_s, u"PreferencesDialogData"_s,
-          commandDialog.key()})
-        registerGroup(group);
+    for (const OptionBase* const group : std::initializer_list<const OptionBase*>{
+             &mainWindow, &fontDialog, &fontGenerationDialog, &enableRangeDialog, &mergeModeDialog,
+             &preferencesDialog, &commandDialog})
+        registerGroup(group->key());
 }
 
 Settings& Settings::Instance()

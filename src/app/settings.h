@@ -1,23 +1,12 @@
 #pragma once
 
+#include "app/dialog_data.h"
 #include "app/setting.h"
 
 namespace Glyphor {
 
 // The choices of the "LineEndings" setting.
 enum class LineEndingChoice : int { CrLf = 0, Cr = 1, Lf = 2 };
-
-// The size of the dialog with the command-line options; -1 where nothing is remembered.
-struct CommandDialogData
-{
-    qint32 width = -1;
-    qint32 height = -1;
-
-    bool operator==(const CommandDialogData&) const = default;
-};
-
-QDataStream& operator<<(QDataStream& out, const CommandDialogData& data);
-QDataStream& operator>>(QDataStream& in, CommandDialogData& data);
 
 // Every preference of the user and the remembered state of every window.
 class Settings final : public SettingsRegistry
@@ -55,6 +44,11 @@ public:
     OptionByRef<bool> useIncludedBitmaps;
 
     OptionWindowData mainWindow;
+    OptionDialogData<FontDialogData> fontDialog;
+    OptionDialogData<FontGenerationDialogData> fontGenerationDialog;
+    OptionDialogData<EnableRangeDialogData> enableRangeDialog;
+    OptionDialogData<MergeModeDialogData> mergeModeDialog;
+    OptionDialogData<PreferencesDialogData> preferencesDialog;
     OptionDialogData<CommandDialogData> commandDialog;
 
     // What ends every line of a generated text file.

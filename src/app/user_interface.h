@@ -72,4 +72,22 @@ public:
 // The interface stays the caller's and must be taken back (null) before it goes.
 void SetCurrentInterface(BasicInterface* interface);
 
+// Makes an interface the current one for as long as it lives, and then the one before it again.
+class InterfaceScope
+{
+public:
+    explicit InterfaceScope(BasicInterface& interface) : previous_(CurrentInterface())
+    {
+        SetCurrentInterface(&interface);
+    }
+    ~InterfaceScope() { SetCurrentInterface(&previous_); }
+    InterfaceScope(const InterfaceScope&) = delete;
+    InterfaceScope& operator=(const InterfaceScope&) = delete;
+
+    [[nodiscard]] BasicInterface& Previous() const { return previous_; }
+
+private:
+    BasicInterface& previous_;
+};
+
 } // namespace Glyphor

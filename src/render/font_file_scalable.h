@@ -21,6 +21,9 @@ public:
     // Empty where the face could be opened.
     [[nodiscard]] QString OpenFault() const { return face_.OpenFault(); }
 
+    // Of the face at the size it is rendered at, in pixels.
+    [[nodiscard]] int EmSize() const { return face_.EmSize(); }
+
     // How many face indices the file takes: 0 up to one less than this.
     [[nodiscard]] virtual int FaceCount() const = 0;
 

@@ -240,6 +240,11 @@ int FreeTypeFace::LineHeight() const
     return IsOpen() ? WholePixels(face_->size->metrics.height) : 0;
 }
 
+int FreeTypeFace::EmSize() const
+{
+    return IsOpen() && face_->size != nullptr ? face_->size->metrics.y_ppem : 0;
+}
+
 int FreeTypeFace::MaxAdvance() const
 {
     return IsOpen() ? WholePixels(face_->size->metrics.max_advance) : 0;

@@ -74,6 +74,9 @@ public:
     [[nodiscard]] QString StyleName() const;
     [[nodiscard]] int LineHeight() const;
     [[nodiscard]] int MaxAdvance() const;
+
+    // In pixels, at the current size.
+    [[nodiscard]] int EmSize() const;
     [[nodiscard]] FaceStyle Style() const;
 
     // The heights in pixels of the bitmaps that the face carries.

@@ -3,6 +3,8 @@
 #include "app/settings.h"
 #include "model/code_set.h"
 #include "model/code_text.h"
+#include "model/encoding.h"
+#include "model/unicode_table.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -29,11 +31,14 @@ QLabel* LabelFor(QWidget& buddy, const QString& text)
     return label;
 }
 
-std::optional<quint16> ParseCode(const QString& text)
+std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
 {
     const QString trimmed = text.trimmed();
-    if (trimmed.size() == 1 && !trimmed[0].isDigit())
-        return trimmed[0].unicode();
+    if (trimmed.size() == 1 && !trimmed[0].isDigit()) {
+        quint16 unit = trimmed[0].unicode();
+        const bool isEncoded = EncodingFor(EncodingType::Unicode).Convert(encoding, unit);
+        return isEncoded ? std::optional(unit) : std::nullopt;
+    }
     const bool isHexadecimal = trimmed.startsWith(u"0x"_s, Qt::CaseInsensitive) ||
                                trimmed.startsWith(u"U+"_s, Qt::CaseInsensitive);
     bool isNumber = false;
@@ -46,6 +51,29 @@ QString CodeText(int code)
 {
     const bool isHexadecimal = Settings::Instance().numeralSystem.value() != 0;
     return isHexadecimal ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
+}
+
+const std::vector<UnicodeBlock>& UnicodeBlocks()
+{
+    static const std::vector<UnicodeBlock> blocks = [] {
+        std::vector<UnicodeBlock> list;
+        for (int code = 0; code < CodeSet::Count; ++code) {
+            const auto code16 = quint16(code);
+            if (BlockIndex(code16) < 0)
+                continue;
+            const auto [first, last] = BlockRange(code16);
+            list.push_back({QString(BlockName(code16)), first, last});
+            code = last;
+        }
+        return list;
+    }();
+    return blocks;
+}
+
+void RestoreGeometry(QDialog& dialog, const QByteArray& geometry)
+{
+    if (!geometry.isEmpty())
+        dialog.restoreGeometry(geometry);
 }
 
 } // namespace Glyphor

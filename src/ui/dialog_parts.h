@@ -1,9 +1,12 @@
 #pragma once
 
+#include "model/font_format.h"
+
 #include <QDialogButtonBox>
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 class QDialog;
 class QLabel;
@@ -19,10 +22,25 @@ QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
 // For rows of more than one widget, which have no buddy of their own.
 [[nodiscard]] QLabel* LabelFor(QWidget& buddy, const QString& text);
 
-// A code as the user writes it: 0x41, 65 or U+0041, or a single character; nothing for other texts.
-[[nodiscard]] std::optional<quint16> ParseCode(const QString& text);
+// A code as the user writes it: 0x41, 65 or U+0041, or a single character that the encoding has;
+// nothing for other texts.
+[[nodiscard]] std::optional<quint16> ParseCode(const QString& text,
+                                               EncodingType encoding = EncodingType::Unicode);
 
 // A code in the numeral system of the settings.
 [[nodiscard]] QString CodeText(int code);
+
+struct UnicodeBlock
+{
+    QString name;
+    quint16 first;
+    quint16 last;
+};
+
+// In ascending order.
+[[nodiscard]] const std::vector<UnicodeBlock>& UnicodeBlocks();
+
+// Takes a remembered geometry; an empty one leaves the dialog as it is.
+void RestoreGeometry(QDialog& dialog, const QByteArray& geometry);
 
 } // namespace Glyphor

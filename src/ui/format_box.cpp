@@ -39,7 +39,7 @@ void FormatBox::AddGroup(const QString& heading, bool isLegacy)
     for (const FormatNameRow& row : FormatNameTable) {
         if (row.legacy != isLegacy)
             continue;
-        addItem(u"  "_s + row.displayName, int(row.format));
+        addItem(row.displayName, int(row.format));
         setItemData(count() - 1,
                     tr("Known as <b>%1</b> before Tavix V6.36.").arg(row.formerDisplayName),
                     Qt::ToolTipRole);

@@ -119,6 +119,7 @@ private:
     void SavePattern();
     bool AskToSave();
     [[nodiscard]] bool CompleteArgs(ActionOpenFontArgs& args);
+    [[nodiscard]] bool AskGeneration(ActionOpenFontArgs& args);
     void AddRecentFile(const QString& path);
     void ShowRecentFiles();
     [[nodiscard]] QString Folder() const;
@@ -131,6 +132,7 @@ private:
     void GoToCharacter();
     void IndexFonts();
     void ShowPreferences();
+    void EditPreferences(int page, QWidget* parent);
     void ShowAbout();
     void ShowCommandLineOptions();
     void ShowContextMenu(QPoint globalPosition);

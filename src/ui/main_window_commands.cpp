@@ -11,11 +11,12 @@
 #include "render/font_database.h"
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
+#include "ui/code_dialogs.h"
+#include "ui/font_dialog.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
-#include "ui/preference_dialogs.h"
+#include "ui/preferences_dialog.h"
 #include "ui/progress_area.h"
-#include "ui/small_dialogs.h"
 #include "ui/text_dialog.h"
 
 #include <QDesktopServices>
@@ -143,7 +144,7 @@ bool MainWindow::handleRequest(ActionType kind)
         return true;
     case ActionType::ExitProgram:
         // Once the options have run.
-        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, &QWidget::close);
         return true;
     default:
         return false;
@@ -280,8 +281,8 @@ void MainWindow::ChangeRange(ActionType type)
 {
     const QString title = type == ActionType::Enable ? tr("Enable range of characters")
                                                      : tr("Disable range of characters");
-    const int current = std::max(0, table_->CurrentCode());
-    RangeDialog dialog(title, current, current, this);
+    const Font& font = *session_.CurrentFont();
+    EnableRangeDialog dialog(title, font.ExistingCodes(), font.Metrics().encoding, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const auto action = std::make_shared<ActionCharState>(session_, type);
@@ -292,13 +293,13 @@ void MainWindow::ChangeRange(ActionType type)
 
 void MainWindow::GoToCharacter()
 {
-    const std::optional<quint16> code = AskCode(this, tr("Go to character"));
-    if (!code)
-        return;
-    if (table_->SetCurrentCode(*code))
+    const Font& font = *session_.CurrentFont();
+    CodeSet shown = font.ExistingCodes();
+    if (!menus_->Command(quint32(WindowCommand::AllCharacters))->isChecked())
+        shown &= font.EnabledCodes();
+    GoToDialog dialog(shown, font.Metrics().encoding, this);
+    if (dialog.exec() == QDialog::Accepted && table_->SetCurrentCode(dialog.Code()))
         table_->setFocus();
-    else
-        information(tr("Go to character"), tr("The table does not show this character."));
 }
 
 void MainWindow::IndexFonts()
@@ -334,32 +335,58 @@ void MainWindow::OnDatabaseThreadFinished()
     Q_EMIT FontsIndexed();
 }
 
-// The installed fonts are indexed when they are first asked for.
+// The installed fonts are indexed when they are first asked for; the dialog fills then.
 void MainWindow::New()
 {
-    if (FontDatabase::Current()->Families().empty()) {
-        QEventLoop loop;
-        connect(this, &MainWindow::FontsIndexed, &loop, &QEventLoop::quit);
+    if (FontDatabase::Current()->Families().empty())
         IndexFonts();
-        loop.exec();
-    }
     FontDialog dialog(this);
-    if (dialog.exec() != QDialog::Accepted || !AskToSave())
+    dialog.SetIndexing(indexing_ != nullptr);
+    connect(this, &MainWindow::FontsIndexed, &dialog, [&dialog] {
+        dialog.Fill();
+        dialog.SetIndexing(false);
+    });
+    connect(&dialog, &FontDialog::IndexRequested, this, [this, &dialog] {
+        IndexFonts();
+        dialog.SetIndexing(true);
+    });
+    connect(&dialog, &FontDialog::DirectoriesRequested, this, [this, &dialog] {
+        EditPreferences(PreferencesDialog::Fonts, &dialog);
+        dialog.SetIndexing(indexing_ != nullptr);
+    });
+    if (dialog.exec() != QDialog::Accepted)
         return;
     Guarded([&] {
         const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::CreateFont);
         action->Args().path = dialog.Path();
         action->Args().faceIndex = dialog.FaceIndex();
-        if (CompleteArgs(action->Args()))
+        action->Args().size = dialog.Size();
+        if (AskGeneration(action->Args()) && AskToSave())
             action->Run();
     });
 }
 
 void MainWindow::ShowPreferences()
 {
-    PreferencesDialog dialog(this);
+    EditPreferences(-1, this);
+}
+
+// Other directories are indexed at once if any were.
+void MainWindow::EditPreferences(int page, QWidget* parent)
+{
+    const Settings& settings = Settings::Instance();
+    const auto directories = [&settings] {
+        return std::pair(settings.additionalFontDirs.value(),
+                         settings.searchDirsRecursively.value());
+    };
+    const auto previous = directories();
+    PreferencesDialog dialog(parent);
+    if (page >= 0)
+        dialog.ShowPage(PreferencesDialog::Page(page));
     if (dialog.exec() != QDialog::Accepted)
         return;
+    if (directories() != previous && !FontDatabase::Current()->Families().empty())
+        IndexFonts();
     ApplySettings();
     RefreshViews();
 }

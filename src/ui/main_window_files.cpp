@@ -10,8 +10,9 @@
 #include "actions/session.h"
 #include "app/progress.h"
 #include "ui/char_table_view.h"
+#include "ui/font_generation_dialog.h"
 #include "ui/format_box.h"
-#include "ui/small_dialogs.h"
+#include "ui/merge_mode_dialog.h"
 
 #include <QCloseEvent>
 #include <QDir>
@@ -76,13 +77,17 @@ bool MainWindow::requestAction(Action& action)
 bool MainWindow::CompleteArgs(ActionOpenFontArgs& args)
 {
     const auto type = FileTypeOf(args.path);
-    if (!type || !IsScalable(*type) || args.size.value > 0)
-        return true;
+    const bool isComplete = !type || !IsScalable(*type) || args.size.value > 0;
+    return isComplete || AskGeneration(args);
+}
+
+bool MainWindow::AskGeneration(ActionOpenFontArgs& args)
+{
     CheckInputFile(args.path);
     const QStringList faces = FaceNames(args.path);
     if (faces.isEmpty())
         return true; // opening it will tell what is wrong
-    GenerationDialog dialog(args, faces, this);
+    FontGenerationDialog dialog(args, faces, this);
     if (dialog.exec() != QDialog::Accepted)
         return false;
     args = dialog.Args();
@@ -130,7 +135,7 @@ void MainWindow::Merge()
 QString MainWindow::AskOpenPath(const QString& title, const QString& filter)
 {
     QString selected = filter.section(u";;"_s, -1);
-    const QString path = QFileDialog::getOpenFileName(this, title, Folder(), filter, &selected);
+    QString path = QFileDialog::getOpenFileName(this, title, Folder(), filter, &selected);
     if (!path.isEmpty())
         folder_ = QFileInfo(path).path();
     return path;
@@ -159,7 +164,7 @@ QString MainWindow::AskSavePath(const QString& title, const QString& proposed,
     dialog.selectFile(proposed);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    const QString path = dialog.selectedFiles().constFirst();
+    QString path = dialog.selectedFiles().constFirst();
     folder_ = QFileInfo(path).path();
     return path;
 }
@@ -270,13 +275,8 @@ int MainWindow::askFontFormat(EncodingType& encoding)
 
 int MainWindow::askMergeMode()
 {
-    const int answer = AskChoice(
-        this, tr("Select merge mode"),
-        tr("Duplicate characters have been found in both fonts.\nHow should duplicate characters "
-           "be handled?"),
-        {{tr("Replace duplicates with new characters."), int(MergeMode::Replace)},
-         {tr("Do not replace, keep old characters."), int(MergeMode::Keep)}});
-    return std::max(answer, 0);
+    MergeModeDialog dialog(this);
+    return dialog.exec() == QDialog::Accepted ? int(dialog.Mode()) : 0;
 }
 
 void MainWindow::AddRecentFile(const QString& path)

@@ -73,6 +73,38 @@ private Q_SLOTS:
         QCOMPARE(settings.mainWindow.load(), (WindowData{"geometry", "state"}));
     }
 
+    // Of another layout, cut, or of another type.
+    void BrokenRecordsGiveTheDefaults()
+    {
+        const EnableRangeDialogData record{"geometry", 65, 90};
+        const auto restored = [](const QByteArray& bytes) {
+            EnableRangeDialogData read{"other", 1, 2};
+            QDataStream stream(bytes);
+            stream >> read;
+            return read;
+        };
+        QByteArray bytes;
+        QDataStream stream(&bytes, QIODevice::WriteOnly);
+        stream << record;
+        QCOMPARE(restored(bytes), record);
+        for (qsizetype size = 0; size < bytes.size(); ++size)
+            QCOMPARE(restored(bytes.first(size)), EnableRangeDialogData());
+        bytes[3] = 2; // the layout
+        QCOMPARE(restored(bytes), EnableRangeDialogData());
+        {
+            Settings settings(Store({}));
+            settings.fontGenerationDialog.save({});
+            settings.enableRangeDialog.save(record);
+            settings.setValue(u"FontDialogData"_s, QVariant::fromValue(record));
+            settings.setValue(u"PreferencesDialogData"_s, u"text"_s);
+        }
+        const Settings settings(Reopen());
+        QCOMPARE(settings.enableRangeDialog.load(), record);
+        QCOMPARE(settings.fontGenerationDialog.load(), FontGenerationDialogData());
+        QCOMPARE(settings.fontDialog.load(), FontDialogData());
+        QCOMPARE(settings.preferencesDialog.load(), PreferencesDialogData());
+    }
+
     void LineEndings_data()
     {
         QTest::addColumn<bool>("system");

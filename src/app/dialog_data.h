@@ -1,0 +1,136 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDataStream>
+#include <QList>
+#include <QString>
+
+#include <tuple>
+
+namespace Glyphor {
+
+// What the dialogs remember: their geometry in the toolkit's own form, and their last entries.
+// Every record is stored with the number of its layout; another layout, or a damaged one, gives the
+// defaults.
+
+struct FontDialogData
+{
+    static constexpr quint32 Layout = 1;
+
+    QByteArray geometry;
+    QString family;
+    QString style;
+    qint32 size = 16;
+    bool inPoints = false;
+    QString script; // empty for all
+
+    [[nodiscard]] auto Fields()
+    {
+        return std::tie(geometry, family, style, size, inPoints, script);
+    }
+    bool operator==(const FontDialogData&) const = default;
+};
+
+// Which characters are generated. The numbers are stored.
+enum class CharacterChoice : qint32 { All = 0, Blocks = 1, Pattern = 2, Text = 3 };
+
+struct FontGenerationDialogData
+{
+    static constexpr quint32 Layout = 1;
+
+    QByteArray geometry;
+    qint32 size = 16;
+    bool inPoints = false;
+    qint32 format = 3; // standard, 1bpp
+    qint32 encoding = 0;
+    bool bold = false;
+    bool italic = false;
+    qint32 characters = qint32(CharacterChoice::All);
+    QList<qint32> blocks = {0}; // the first codes of the chosen ones
+    QString patternPath;
+    QString text;
+    QString sample;
+
+    [[nodiscard]] auto Fields()
+    {
+        return std::tie(geometry, size, inPoints, format, encoding, bold, italic, characters,
+                        blocks, patternPath, text, sample);
+    }
+    bool operator==(const FontGenerationDialogData&) const = default;
+};
+
+struct EnableRangeDialogData
+{
+    static constexpr quint32 Layout = 1;
+
+    QByteArray geometry;
+    qint32 first = -1; // -1 where nothing was entered
+    qint32 last = -1;
+
+    [[nodiscard]] auto Fields() { return std::tie(geometry, first, last); }
+    bool operator==(const EnableRangeDialogData&) const = default;
+};
+
+struct MergeModeDialogData
+{
+    static constexpr quint32 Layout = 1;
+
+    QByteArray geometry;
+    qint32 mode = -1; // -1 where none was chosen
+
+    [[nodiscard]] auto Fields() { return std::tie(geometry, mode); }
+    bool operator==(const MergeModeDialogData&) const = default;
+};
+
+struct PreferencesDialogData
+{
+    static constexpr quint32 Layout = 1;
+
+    QByteArray geometry;
+    qint32 page = 0;
+
+    [[nodiscard]] auto Fields() { return std::tie(geometry, page); }
+    bool operator==(const PreferencesDialogData&) const = default;
+};
+
+// The size of the dialog with the command-line options; -1 where nothing is remembered.
+struct CommandDialogData
+{
+    qint32 width = -1;
+    qint32 height = -1;
+
+    bool operator==(const CommandDialogData&) const = default;
+};
+
+QDataStream& operator<<(QDataStream& out, const CommandDialogData& data);
+QDataStream& operator>>(QDataStream& in, CommandDialogData& data);
+
+template <typename Record>
+concept NumberedRecord = requires(Record record)
+{
+    Record::Layout;
+    record.Fields();
+};
+
+template <NumberedRecord Record>
+QDataStream& operator<<(QDataStream& out, Record record)
+{
+    out << Record::Layout;
+    std::apply([&out](const auto&... field) { (out << ... << field); }, record.Fields());
+    return out;
+}
+
+template <NumberedRecord Record>
+QDataStream& operator>>(QDataStream& in, Record& record)
+{
+    quint32 layout = 0;
+    in >> layout;
+    record = {};
+    if (layout == Record::Layout)
+        std::apply([&in](auto&... field) { (in >> ... >> field); }, record.Fields());
+    if (in.status() != QDataStream::Ok)
+        record = {};
+    return in;
+}
+
+} // namespace Glyphor

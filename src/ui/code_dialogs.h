@@ -1,0 +1,75 @@
+#pragma once
+
+#include "model/code_set.h"
+#include "model/font_format.h"
+
+#include <QDialog>
+
+#include <optional>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+
+namespace Glyphor {
+
+// Asks for a first and a last code, or for a block. The last answer is remembered.
+class EnableRangeDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // `existing` are the codes that the font has characters for, of which the dialog tells how many
+    // are in the range.
+    EnableRangeDialog(const QString& title, const CodeSet& existing, EncodingType encoding,
+                      QWidget* parent);
+    ~EnableRangeDialog() override;
+
+    // Of an accepted dialog.
+    [[nodiscard]] quint16 First() const;
+    [[nodiscard]] quint16 Last() const;
+
+private:
+    void ChooseBlock(int index);
+    void Validate();
+
+    CodeSet existing_;
+    EncodingType encoding_;
+    QLineEdit* first_;
+    QLineEdit* last_;
+    QComboBox* block_;
+    QLabel* hint_;
+    QPushButton* ok_;
+};
+
+// Finds a character by its code, by itself or by a part of its name.
+class GoToDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // Finds characters among the codes, which have the encoding.
+    GoToDialog(const CodeSet& codes, EncodingType encoding, QWidget* parent);
+
+    // -1 where there is none.
+    [[nodiscard]] int Code() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Search(const QString& text);
+    [[nodiscard]] QList<int> CodesOf(const QString& text) const;
+    [[nodiscard]] QList<int> NamedLike(const QString& text) const;
+
+    CodeSet codes_;
+    EncodingType encoding_;
+    QLineEdit* field_;
+    QListWidget* found_;
+    QLabel* hint_;
+    QPushButton* ok_;
+};
+
+} // namespace Glyphor

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "render/font_database.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QSpinBox;
+class QTreeWidget;
+
+namespace Glyphor {
+
+class TextStrip;
+
+// Chooses an installed font: its family, its style and a size. The last choice is remembered.
+class FontDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FontDialog(QWidget* parent);
+    ~FontDialog() override;
+
+    // Shows the families of the current database, and keeps the choice if it can.
+    void Fill();
+
+    // Tells whether the directories are being indexed.
+    void SetIndexing(bool isIndexing);
+
+    // Of the chosen style; empty where there is none.
+    [[nodiscard]] QString Path() const;
+    [[nodiscard]] int FaceIndex() const;
+
+    [[nodiscard]] FontSize Size() const;
+
+Q_SIGNALS:
+    void IndexRequested();
+    void DirectoriesRequested();
+
+private:
+    [[nodiscard]] QWidget* MakeChoices();
+    [[nodiscard]] QWidget* MakeSample();
+    void ShowFamilies();
+    void ShowStyles();
+    void ShowSample();
+    void UpdateCompleter();
+    [[nodiscard]] const FontFamily* Family() const;
+    [[nodiscard]] QString Style() const;
+
+    std::shared_ptr<const FontDatabase> database_;
+    QString wantedFamily_; // chosen last, to be chosen again
+    QString wantedStyle_;
+    QLineEdit* search_;
+    QComboBox* script_;
+    QListWidget* families_;
+    QTreeWidget* styles_;
+    QSpinBox* size_;
+    QComboBox* unit_;
+    TextStrip* strip_;
+    QLabel* status_;
+    QPushButton* index_;
+    QPushButton* ok_ = nullptr;
+    std::unique_ptr<Font> sample_;
+};
+
+} // namespace Glyphor

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "actions/action_open_font.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+class QSpinBox;
+
+namespace Glyphor {
+
+class CharacterSelection;
+class EncodingBox;
+class FormatBox;
+class GenerationPreview;
+
+// Asks how a scalable font is to be rendered, and shows what comes of it. The last entries are
+// remembered.
+class FontGenerationDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // Begins with what the arguments say, which is not changed here where it says a format or a
+    // selection of characters. The faces are the names of the file's, in the order of their
+    // indices.
+    FontGenerationDialog(const ActionOpenFontArgs& args, const QStringList& faces, QWidget* parent);
+    ~FontGenerationDialog() override;
+
+    // The arguments with what was chosen. Throws a CriticalException where the chosen pattern file
+    // can't be read.
+    [[nodiscard]] ActionOpenFontArgs Args() const;
+
+    void done(int result) override;
+
+    [[nodiscard]] GenerationPreview& Preview() const { return *preview_; }
+
+private:
+    void LoadEntries();
+    void StoreEntries() const;
+    [[nodiscard]] QWidget* MakeEntries();
+    void ConnectEntries();
+    void Update();
+
+    ActionOpenFontArgs args_;
+    QSpinBox* size_;
+    QComboBox* unit_;
+    FormatBox* format_;
+    EncodingBox* encoding_;
+    QComboBox* face_;
+    QCheckBox* bold_;
+    QCheckBox* italic_;
+    CharacterSelection* selection_;
+    GenerationPreview* preview_;
+    QPushButton* ok_ = nullptr;
+};
+
+} // namespace Glyphor

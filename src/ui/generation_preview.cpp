@@ -1,0 +1,185 @@
+#include "ui/generation_preview.h"
+
+#include "app/critical_exception.h"
+#include "app/progress.h"
+#include "app/user_interface.h"
+#include "ui/info_panel.h"
+#include "ui/text_preview.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <functional>
+
+namespace Glyphor {
+
+namespace {
+
+constexpr int ShowDelay = 120;   // milliseconds
+constexpr qint64 TurnDelay = 15; // between two turns of the window
+
+// Keeps the warnings of a rendering that is only a preview, and lets the window work meanwhile.
+class PreviewInterface final : public UserInterface
+{
+public:
+    // `isStopped` is asked now and then.
+    explicit PreviewInterface(std::function<bool()> isStopped)
+        : scope_(*this), isStopped_(std::move(isStopped))
+    {
+        sinceTurn_.start();
+    }
+
+    void warning(const QString&, const QString& text) override { warnings.append(text); }
+
+    bool progressChanged(const QString&, int, int) override
+    {
+        if (sinceTurn_.elapsed() >= TurnDelay) {
+            const InterfaceScope window(scope_.Previous());
+            QCoreApplication::processEvents();
+            sinceTurn_.start();
+        }
+        return !isStopped_();
+    }
+
+    QStringList warnings;
+
+private:
+    InterfaceScope scope_;
+    std::function<bool()> isStopped_;
+    QElapsedTimer sinceTurn_;
+};
+
+} // namespace
+
+GenerationPreview::GenerationPreview(QWidget* parent)
+    : QWidget(parent),
+      strip_(new TextStrip),
+      field_(new QLineEdit),
+      sizes_(new QLabel),
+      notes_(new QLabel)
+{
+    auto* const label = new QLabel(tr("&Sample:"));
+    label->setBuddy(field_);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(field_, 1);
+    auto* const area = new QScrollArea;
+    area->setWidget(strip_);
+    area->setWidgetResizable(true);
+    area->setMinimumSize(300, 130);
+    area->setFocusPolicy(Qt::NoFocus);
+    strip_->SetZoom(2);
+    notes_->setWordWrap(true);
+    sizes_->setWordWrap(true);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(row);
+    layout->addWidget(area, 1);
+    layout->addWidget(sizes_);
+    layout->addWidget(notes_);
+    timer_.setSingleShot(true);
+    timer_.setInterval(ShowDelay);
+    connect(&timer_, &QTimer::timeout, this, &GenerationPreview::Render);
+    connect(field_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        strip_->SetText(text);
+        if (!args_.path.isEmpty())
+            Show(args_);
+    });
+}
+
+GenerationPreview::~GenerationPreview()
+{
+    strip_->SetFont(nullptr);
+}
+
+QString GenerationPreview::Sample() const
+{
+    return field_->text();
+}
+
+void GenerationPreview::SetSample(const QString& sample)
+{
+    field_->setText(sample);
+}
+
+void GenerationPreview::Show(const ActionOpenFontArgs& args)
+{
+    args_ = args;
+    isStale_ = true;
+    timer_.start();
+}
+
+void GenerationPreview::ShowFault(const QString& fault)
+{
+    Stop();
+    SetFont(nullptr);
+    sizes_->clear();
+    notes_->setText(fault);
+}
+
+void GenerationPreview::Stop()
+{
+    timer_.stop();
+    isStale_ = true;
+}
+
+void GenerationPreview::SetFont(std::unique_ptr<Font> font)
+{
+    strip_->SetFont(font.get());
+    font_ = std::move(font);
+}
+
+// The window has its turns in here, so this can come up again before it ends.
+void GenerationPreview::Render()
+{
+    if (isRendering_) {
+        timer_.start();
+        return;
+    }
+    const QScopedValueRollback rendering(isRendering_, true);
+    isStale_ = false;
+    try {
+        RenderSample();
+        RenderAll();
+        Q_EMIT Finished();
+    } catch (const WorkStopped&) {
+        // Something else is to be shown.
+    } catch (const CriticalException& error) {
+        ShowFault(error.Text());
+    }
+}
+
+void GenerationPreview::RenderSample()
+{
+    PreviewInterface interface([this] { return isStale_; });
+    ActionOpenFontArgs args = args_;
+    CodeSet codes;
+    for (const QChar character : field_->text())
+        codes.Set(character.unicode(), true);
+    if (args.selection)
+        codes &= *args.selection;
+    args.selection = codes;
+    SetFont(ReadFont(args));
+    sizes_->setText(
+        tr("Line height: %1 px, em size: %2 px").arg(font_->Metrics().height).arg(EmSize(args)));
+    notes_->clear();
+}
+
+void GenerationPreview::RenderAll()
+{
+    PreviewInterface interface([this] { return isStale_; });
+    const std::unique_ptr<Font> all = ReadFont(args_);
+    int count = 0;
+    all->ForEachEnabled([&count](quint16, const Character&) { ++count; });
+    sizes_->setText(sizes_->text() +
+                    tr(", characters: %L1, flash: %L2 bytes").arg(count).arg(FlashSize(*all)));
+    notes_->setText(interface.warnings.join(u'\n'));
+}
+
+} // namespace Glyphor

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "actions/action_open_font.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+
+namespace Glyphor {
+
+class TextStrip;
+
+// Shows a sample in the pixels that a scalable font would be rendered to, and how large the font
+// would be. It renders in the window's turns, so that the dialog around it keeps working.
+class GenerationPreview final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit GenerationPreview(QWidget* parent = nullptr);
+    ~GenerationPreview() override;
+
+    // Shows the font that the arguments make, soon. What is being rendered is given up.
+    void Show(const ActionOpenFontArgs& args);
+
+    // Shows a text instead.
+    void ShowFault(const QString& fault);
+
+    // Gives up what is being rendered.
+    void Stop();
+
+    [[nodiscard]] QString Sample() const;
+    void SetSample(const QString& sample);
+
+    // The font of the sample; null where there is none.
+    [[nodiscard]] const Font* SampleFont() const { return font_.get(); }
+
+Q_SIGNALS:
+    void Finished();
+
+private:
+    void Render();
+    void RenderSample();
+    void RenderAll();
+    void SetFont(std::unique_ptr<Font> font);
+
+    TextStrip* strip_;
+    QLineEdit* field_;
+    QLabel* sizes_;
+    QLabel* notes_;
+    QTimer timer_;
+    ActionOpenFontArgs args_;
+    std::unique_ptr<Font> font_;
+    bool isRendering_ = false;
+    bool isStale_ = false; // what is being rendered
+};
+
+} // namespace Glyphor

@@ -1,0 +1,400 @@
+#include "app/critical_exception.h"
+#include "app/settings.h"
+#include "render/font_database.h"
+#include "support/sample_font.h"
+#include "support/test_main.h"
+#include "ui/code_dialogs.h"
+#include "ui/font_dialog.h"
+#include "ui/font_generation_dialog.h"
+#include "ui/format_box.h"
+#include "ui/generation_preview.h"
+#include "ui/info_panel.h"
+#include "ui/merge_mode_dialog.h"
+#include "ui/preferences_dialog.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeWidget>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QPushButton* Ok(const QDialog& dialog)
+{
+    return dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+}
+
+// The widget of a kind whose label or own text has these words.
+template <typename Widget>
+Widget* Labelled(const QDialog& dialog, const QString& text)
+{
+    for (QLabel* const label : dialog.findChildren<QLabel*>()) {
+        if (label->text().remove(u'&') == text && label->buddy() != nullptr)
+            return qobject_cast<Widget*>(label->buddy());
+    }
+    for (Widget* const widget : dialog.findChildren<Widget*>()) {
+        if (widget->property("text").toString().remove(u'&') == text ||
+            widget->accessibleName() == text)
+            return widget;
+    }
+    return nullptr;
+}
+
+QStringList Texts(const QListWidget& list)
+{
+    QStringList texts;
+    for (int row = 0; row < list.count(); ++row)
+        texts.append(list.item(row)->text());
+    return texts;
+}
+
+} // namespace
+
+class TestDialogs : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir folder_;
+
+    static ActionOpenFontArgs Outlines()
+    {
+        ActionOpenFontArgs args;
+        args.path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
+        return args;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        Settings& settings = Settings::Instance();
+        settings.fontDialog.save({});
+        settings.fontGenerationDialog.save({});
+        settings.enableRangeDialog.save({});
+        settings.mergeModeDialog.save({});
+        settings.preferencesDialog.save({});
+        settings.numeralSystem.setValue(1);
+        settings.hideLegacy.setValue(true);
+    }
+
+    void Ranges_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("last");
+        QTest::addColumn<int>("size"); // 0 for a range that can't be used
+        QTest::addColumn<QString>("block");
+        QTest::newRow("codes") << u"0x41"_s << u"67"_s << 3 << u"Codes as entered"_s;
+        QTest::newRow("characters") << u"A"_s << u"U+005A"_s << 26 << u"Codes as entered"_s;
+        QTest::newRow("block") << u"0"_s << u"127"_s << 128 << u"Basic Latin"_s;
+        QTest::newRow("backwards") << u"B"_s << u"A"_s << 0 << u"Codes as entered"_s;
+        QTest::newRow("no code") << u"AB"_s << u"A"_s << 0 << u"Codes as entered"_s;
+        QTest::newRow("too large") << u"0"_s << u"65536"_s << 0 << u"Codes as entered"_s;
+    }
+
+    void Ranges()
+    {
+        QFETCH(const QString, first);
+        QFETCH(const QString, last);
+        QFETCH(const int, size);
+        QFETCH(const QString, block);
+        EnableRangeDialog dialog(u"Range"_s, {}, EncodingType::Unicode, nullptr);
+        dialog.show();
+        for (const auto& [label, text] :
+             {std::pair(u"First:"_s, first), std::pair(u"Last:"_s, last)}) {
+            auto* const field = Labelled<QLineEdit>(dialog, label);
+            field->selectAll();
+            QTest::keyClicks(field, text);
+        }
+        QCOMPARE(Ok(dialog)->isEnabled(), size > 0);
+        QCOMPARE(dialog.findChild<QComboBox*>()->currentText(), block);
+        if (size > 0)
+            QCOMPARE(dialog.Last() - dialog.First() + 1, size);
+    }
+
+    void RangesAreRememberedOnceAccepted()
+    {
+        for (const bool isAccepted : {false, true}) {
+            EnableRangeDialog dialog(u"Range"_s, {}, EncodingType::Unicode, nullptr);
+            dialog.show();
+            QCOMPARE(int(dialog.First()), 0x20);
+            Labelled<QLineEdit>(dialog, u"First:"_s)->setText(u"65"_s);
+            isAccepted ? dialog.accept() : dialog.reject();
+        }
+        const EnableRangeDialog dialog(u"Range"_s, {}, EncodingType::Unicode, nullptr);
+        QCOMPARE(int(dialog.First()), 65);
+    }
+
+    void GoTo_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("code"); // the first one found
+        QTest::newRow("code") << u"0x42"_s << int('B');
+        QTest::newRow("character") << u"B"_s << int('B');
+        QTest::newRow("digit is a character first") << u"5"_s << int('5');
+        QTest::newRow("decimal code") << u"66"_s << int('B');
+        QTest::newRow("whole words first") << u"letter a"_s << int('A');
+        QTest::newRow("part of a name") << u"exclam"_s << int('!');
+        QTest::newRow("nothing") << u"zz"_s << -1;
+        QTest::newRow("too large") << u"99999999"_s << -1;
+    }
+
+    void GoTo()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const int, code);
+        CodeSet codes;
+        codes.SetRange(0, 0x7E, true);
+        GoToDialog dialog(codes, EncodingType::Unicode, nullptr);
+        dialog.show();
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(), text);
+        QCOMPARE(dialog.Code(), code);
+        QCOMPARE(Ok(dialog)->isEnabled(), code >= 0);
+    }
+
+    void GoToByKeys()
+    {
+        CodeSet codes;
+        codes.SetRange(0, 0x7E, true);
+        GoToDialog dialog(codes, EncodingType::Unicode, nullptr);
+        dialog.show();
+        auto* const field = dialog.findChild<QLineEdit*>();
+        QTest::keyClicks(field, u"letter a"_s);
+        QTest::keyClick(field, Qt::Key_Down);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(dialog.Code(), int('a'));
+    }
+
+    void MergeModes()
+    {
+        {
+            MergeModeDialog dialog(nullptr);
+            QCOMPARE(dialog.Mode(), MergeMode::Replace);
+            dialog.findChildren<QRadioButton*>().last()->click();
+            dialog.accept();
+        }
+        QCOMPARE(MergeModeDialog(nullptr).Mode(), MergeMode::Keep);
+    }
+
+    void Formats()
+    {
+        FormatDialog dialog(nullptr);
+        auto* const formats = dialog.findChild<FormatBox*>();
+        auto* const encodings = dialog.findChild<EncodingBox*>();
+        QCOMPARE(formats->count(), 9); // with two headings
+        QCOMPARE(dialog.Format(), FontFormat::Standard);
+        QCOMPARE(encodings->count(), 1);
+        formats->SetFormat(FontFormat::LegacyAA2);
+        encodings->SetEncoding(EncodingType::ShiftJis);
+        QCOMPARE(dialog.Encoding(), EncodingType::ShiftJis);
+        QCOMPARE(formats->currentData(Qt::ToolTipRole).toString(),
+                 u"Known as <b>Standard, anti-aliased, 2bpp</b> before Tavix V6.36."_s);
+        formats->Fill(false);
+        QCOMPARE(formats->count(), 5);
+        QCOMPARE(dialog.Format(), FontFormat::Standard);
+        QCOMPARE(dialog.Encoding(), EncodingType::Unicode);
+    }
+
+    // What the preview shows is what is generated.
+    void Preview_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<bool>("bold");
+        QTest::newRow("standard") << int(FontFormat::Standard) << false;
+        QTest::newRow("framed") << int(FontFormat::Framed) << false;
+        QTest::newRow("grey, bold") << int(FontFormat::AA4) << true;
+    }
+
+    void Preview()
+    {
+        QFETCH(const int, format);
+        QFETCH(const bool, bold);
+        FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
+        dialog.show();
+        dialog.findChild<FormatBox*>()->SetFormat(FontFormat(format));
+        Labelled<QCheckBox>(dialog, u"Bold"_s)->setChecked(bold);
+        Labelled<QRadioButton>(dialog, u"Characters of a text"_s)->click();
+        QVERIFY(!Ok(dialog)->isEnabled());
+        dialog.findChild<QPlainTextEdit*>()->setPlainText(u"Glyphs\n123"_s);
+        QVERIFY(Ok(dialog)->isEnabled());
+        dialog.Preview().SetSample(u"Glyphs 1"_s);
+        QSignalSpy finished(&dialog.Preview(), &GenerationPreview::Finished);
+        QVERIFY(finished.wait(5000));
+        const ActionOpenFontArgs args = dialog.Args();
+        QCOMPARE(args.effects, bold ? quint32(BoldEffect) : 0U);
+        const std::unique_ptr<Font> font = ReadFont(args);
+        for (const QChar sample : u"Glyphs1"_s) {
+            const Character* const shown =
+                dialog.Preview().SampleFont()->FindChar(sample.unicode());
+            const Character* const made = font->FindChar(sample.unicode());
+            QVERIFY(shown != nullptr && made != nullptr);
+            QCOMPARE(shown->bitmap->DataAsList(), made->bitmap->DataAsList());
+            QCOMPARE(shown->info.xPos, made->info.xPos);
+            QCOMPARE(shown->info.cursorDistance, made->info.cursorDistance);
+        }
+        QVERIFY(dialog.Preview().SampleFont()->FindChar(u' ') == nullptr); // was not chosen
+        const QString sizes = u"characters: 9, flash: %L1 bytes"_s.arg(FlashSize(*font));
+        const auto labels = dialog.Preview().findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(labels, [&sizes](const QLabel* label) {
+            return label->text().endsWith(sizes) && label->text().startsWith(u"Line height: "_s);
+        }));
+    }
+
+    void GenerationIsRemembered()
+    {
+        {
+            FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
+            dialog.show();
+            auto* const size = Labelled<QSpinBox>(dialog, u"Height:"_s);
+            QVERIFY(size->hasFocus() || !dialog.isActiveWindow());
+            size->setValue(23);
+            dialog.findChild<FormatBox*>()->SetFormat(FontFormat::AA2);
+            Labelled<QRadioButton>(dialog, u"Unicode blocks"_s)->click();
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            QCOMPARE(dialog.result(), int(QDialog::Accepted));
+            QCOMPARE(dialog.Args().selection->Next(0x80), int(CodeSet::Count)); // Basic Latin alone
+        }
+        const FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
+        QCOMPARE(dialog.Args().size.value, 23);
+        QCOMPARE(*dialog.Args().format, FontFormat::AA2);
+        QVERIFY(dialog.Args().selection.has_value());
+    }
+
+    void GenerationTakesWhatIsGiven()
+    {
+        ActionOpenFontArgs args = Outlines();
+        args.format = FontFormat::Legacy;
+        args.size = {40, false};
+        args.selection.emplace();
+        args.selection->Set('x', true);
+        args.faceIndex = 1;
+        const FontGenerationDialog dialog(args, {u"One"_s, u"Two"_s}, nullptr);
+        QCOMPARE(*dialog.Args().format, FontFormat::Legacy);
+        QCOMPARE(dialog.Args().size.value, 40);
+        QCOMPARE(dialog.Args().faceIndex, 1);
+        QVERIFY(*dialog.Args().selection == *args.selection);
+        QVERIFY(!dialog.findChild<FormatBox*>()->isEnabled());
+    }
+
+    void PatternsThatCantBeRead()
+    {
+        const QString path = folder_.filePath(u"pattern.txt"_s);
+        Test::WriteAll(path, "no mark");
+        FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
+        dialog.show();
+        Labelled<QRadioButton>(dialog, u"Pattern file"_s)->click();
+        QVERIFY(!Ok(dialog)->isEnabled());
+        auto* const field = Labelled<QLineEdit>(dialog, u"Pattern file"_s);
+        field->setText(path);
+        QVERIFY(Ok(dialog)->isEnabled());
+        Test::RecordingInterface interface;
+        Ok(dialog)->click();
+        QVERIFY(dialog.isVisible());
+        Test::WriteAll(path, QByteArray::fromHex("fffe4100"));
+        Ok(dialog)->click();
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(dialog.Args().selection->Test('A'));
+    }
+
+    void InstalledFonts()
+    {
+        auto database = std::make_shared<FontDatabase>();
+        QTemporaryDir fonts;
+        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf"),
+                            fonts.filePath(u"a.ttf"_s)));
+        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSans-Bold.ttf"),
+                            fonts.filePath(u"b.ttf"_s)));
+        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSansMono.ttf"),
+                            fonts.filePath(u"c.ttf"_s)));
+        FontDatabase::SetCurrent(nullptr);
+        {
+            FontDialog dialog(nullptr);
+            dialog.show();
+            dialog.SetIndexing(true);
+            QVERIFY(!Ok(dialog)->isEnabled());
+            database->Build(
+                {fonts.path()}, [](int) {}, [](int) { return true; });
+            FontDatabase::SetCurrent(database);
+            dialog.Fill();
+            dialog.SetIndexing(false);
+            auto* const families = dialog.findChild<QListWidget*>();
+            QCOMPARE(Texts(*families), (QStringList{u"DejaVu Sans"_s, u"DejaVu Sans Mono"_s}));
+            QTest::keyClicks(Labelled<QLineEdit>(dialog, u"Search:"_s), u"mono"_s);
+            QCOMPARE(Texts(*families), QStringList{u"DejaVu Sans Mono"_s});
+            Labelled<QLineEdit>(dialog, u"Search:"_s)->clear();
+            families->setCurrentRow(0);
+            auto* const styles = dialog.findChild<QTreeWidget*>();
+            QCOMPARE(styles->topLevelItemCount(), 2);
+            styles->setCurrentItem(styles->topLevelItem(1));
+            QCOMPARE(styles->currentItem()->text(1), u"700"_s);
+            QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
+            Labelled<QSpinBox>(dialog, u"Height:"_s)->setValue(30);
+            auto* const scripts = Labelled<QComboBox>(dialog, u"Script:"_s);
+            scripts->setCurrentText(u"Hiragana"_s);
+            QCOMPARE(families->count(), 0);
+            QVERIFY(!Ok(dialog)->isEnabled());
+            scripts->setCurrentText(u"Greek"_s);
+            QCOMPARE(families->count(), 2);
+            QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s)); // chosen again
+            Ok(dialog)->click();
+        }
+        const FontDialog dialog(nullptr);
+        QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
+        QCOMPARE(dialog.Size().value, 30);
+        FontDatabase::SetCurrent(nullptr);
+    }
+
+    void Preferences()
+    {
+        Settings& settings = Settings::Instance();
+        settings.additionalFontDirs.setValue({folder_.path()});
+        for (const bool isAccepted : {false, true}) {
+            PreferencesDialog dialog(nullptr);
+            dialog.show();
+            dialog.ShowPage(PreferencesDialog::Files);
+            Labelled<QComboBox>(dialog, u"Numeral system of codes:"_s)->setCurrentIndex(0);
+            for (QCheckBox* const box : dialog.findChildren<QCheckBox*>())
+                box->setChecked(!box->isChecked());
+            auto* const endings = Labelled<QComboBox>(dialog, u"Line endings:"_s);
+            QVERIFY(endings->isEnabled());
+            endings->setCurrentIndex(2);
+            dialog.AddDirectory(folder_.path()); // is there already
+            dialog.AddDirectory(u"/none"_s);
+            isAccepted ? dialog.accept() : dialog.reject();
+            QCOMPARE(settings.numeralSystem.value(), isAccepted ? 0 : 1);
+        }
+        QVERIFY(!settings.hideLegacy.value() && !settings.logActions.value());
+        QVERIFY(settings.createLogFile.value() && !settings.useSysLineEndings.value());
+        QCOMPARE(settings.lineEndings.value(), 2);
+        QVERIFY(!settings.searchDirsRecursively.value() && !settings.useIncludedBitmaps.value());
+        QCOMPARE(settings.additionalFontDirs.value(), (QStringList{folder_.path(), u"/none"_s}));
+        const PreferencesDialog dialog(nullptr);
+        QCOMPARE(dialog.findChild<QTabWidget*>()->currentIndex(), int(PreferencesDialog::Files));
+        for (OptionByRef<bool>* const option :
+             {&settings.hideLegacy, &settings.logActions, &settings.useSysLineEndings,
+              &settings.searchDirsRecursively, &settings.useIncludedBitmaps})
+            option->setValue(true);
+        settings.createLogFile.setValue(false);
+        settings.additionalFontDirs.setValue({});
+    }
+};
+
+GLYPHOR_TEST(TestDialogs)
+
+} // namespace Glyphor
+
+#include "tst_dialogs.moc"
