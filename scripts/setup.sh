@@ -2,8 +2,8 @@
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libgl-dev libfreetype-dev
-    libfontconfig-dev)
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-l10n-tools libqt6svg6 libgl-dev
+    libfreetype-dev libfontconfig-dev qt6-translations-l10n)
 
 # install PACKAGE...: installs the Debian packages that are missing, and says nothing otherwise.
 install() {

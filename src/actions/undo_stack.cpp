@@ -10,7 +10,7 @@ namespace {
 
 QString StatusTip(const QString& verb, const QString& lastAction)
 {
-    const QString tip = u"%1 last action"_s.arg(verb);
+    const QString tip = UndoStack::tr("%1 last action").arg(verb);
     return lastAction.isEmpty() ? tip : tip + u": %1"_s.arg(lastAction);
 }
 
@@ -74,7 +74,7 @@ void UndoStack::AddUndoCommand(QAction* command)
         return;
     command->setEnabled(canUndo());
     if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(u"Undo"_s, undoText()));
+        command->setStatusTip(StatusTip(tr("Undo"), undoText()));
 }
 
 void UndoStack::AddRedoCommand(QAction* command)
@@ -84,7 +84,7 @@ void UndoStack::AddRedoCommand(QAction* command)
         return;
     command->setEnabled(canRedo());
     if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(u"Redo"_s, redoText()));
+        command->setStatusTip(StatusTip(tr("Redo"), redoText()));
 }
 
 void UndoStack::UpdateCommands()
@@ -98,8 +98,8 @@ void UndoStack::UpdateCommands()
             command->setStatusTip(tip);
         }
     };
-    update(undoCommands_, canUndo(), StatusTip(u"Undo"_s, undoText()));
-    update(redoCommands_, canRedo(), StatusTip(u"Redo"_s, redoText()));
+    update(undoCommands_, canUndo(), StatusTip(tr("Undo"), undoText()));
+    update(redoCommands_, canRedo(), StatusTip(tr("Redo"), redoText()));
 }
 
 } // namespace Glyphor

@@ -1,6 +1,16 @@
 #include "ui/application.h"
 
+#include <QLibraryInfo>
+
+// Outside of the namespace, as the macro needs it.
+static void InitTranslations()
+{
+    Q_INIT_RESOURCE(translations);
+}
+
 namespace Glyphor {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -11,6 +21,10 @@ Application* current = nullptr;
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     current = this;
+    if (LoadTexts(QLocale(), texts_, toolkitTexts_)) {
+        installTranslator(&toolkitTexts_);
+        installTranslator(&texts_);
+    }
 }
 
 Application::~Application()
@@ -21,6 +35,17 @@ Application::~Application()
 Application* Application::Instance()
 {
     return current;
+}
+
+bool LoadTexts(const QLocale& locale, QTranslator& texts, QTranslator& toolkitTexts)
+{
+    InitTranslations();
+    if (!texts.load(locale, u"glyphor"_s, u"_"_s, u":/i18n"_s))
+        return false;
+    // Without them the buttons of the toolkit's own dialogs stay English.
+    (void)toolkitTexts.load(locale, u"qtbase"_s, u"_"_s,
+                            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    return true;
 }
 
 } // namespace Glyphor

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QApplication>
+#include <QTranslator>
 
 namespace Glyphor {
 
-// The application object of a run with windows.
+// The application object of a run with windows, in the user's language where there is a
+// translation.
 class Application final : public QApplication
 {
 public:
@@ -13,6 +15,13 @@ public:
 
     // Null in a run without windows.
     static Application* Instance();
+
+private:
+    QTranslator texts_;
+    QTranslator toolkitTexts_;
 };
+
+// Loads the texts of a language, and those of the toolkit; false where there is no translation.
+bool LoadTexts(const QLocale& locale, QTranslator& texts, QTranslator& toolkitTexts);
 
 } // namespace Glyphor

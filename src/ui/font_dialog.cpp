@@ -5,6 +5,7 @@
 #include "app/settings.h"
 #include "app/user_interface.h"
 #include "ui/dialog_parts.h"
+#include "ui/engine_texts.h"
 #include "ui/text_preview.h"
 
 #include <QComboBox>
@@ -233,7 +234,7 @@ void FontDialog::Fill()
 void FontDialog::SetIndexing(bool isIndexing)
 {
     index_->setEnabled(!isIndexing);
-    status_->setText(isIndexing ? tr("Indexing font files...")
+    status_->setText(isIndexing ? Translated(u"Indexing font files..."_s)
                                 : tr("%L1 families").arg(qsizetype(database_->Families().size())));
 }
 
@@ -285,8 +286,9 @@ void FontDialog::ShowStyles()
     for (const QString& name : family != nullptr ? family->StyleNames() : QStringList()) {
         const FaceStyle style = family->Style(name);
         const QString weight = style.weight > 0 ? QString::number(style.weight) : QString();
-        auto* const item = new QTreeWidgetItem(
-            styles_, {name, weight, style.italic ? tr("italic") : tr("upright")});
+        auto* const item =
+            new QTreeWidgetItem({name, weight, style.italic ? tr("italic") : tr("upright")});
+        styles_->addTopLevelItem(item);
         if (styles_->currentItem() == nullptr || name == wanted)
             styles_->setCurrentItem(item);
     }

@@ -1,6 +1,7 @@
 #include "ui/format_box.h"
 
 #include "ui/dialog_parts.h"
+#include "ui/engine_texts.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -39,10 +40,11 @@ void FormatBox::AddGroup(const QString& heading, bool isLegacy)
     for (const FormatNameRow& row : FormatNameTable) {
         if (row.legacy != isLegacy)
             continue;
-        addItem(row.displayName, int(row.format));
-        setItemData(count() - 1,
-                    tr("Known as <b>%1</b> before Tavix V6.36.").arg(row.formerDisplayName),
-                    Qt::ToolTipRole);
+        addItem(Translated(row.displayName), int(row.format));
+        setItemData(
+            count() - 1,
+            tr("Known as <b>%1</b> before Tavix V6.36.").arg(Translated(row.formerDisplayName)),
+            Qt::ToolTipRole);
     }
 }
 

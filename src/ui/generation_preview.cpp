@@ -177,8 +177,10 @@ void GenerationPreview::RenderAll()
     const std::unique_ptr<Font> all = ReadFont(args_);
     int count = 0;
     all->ForEachEnabled([&count](quint16, const Character&) { ++count; });
-    sizes_->setText(sizes_->text() +
-                    tr(", characters: %L1, flash: %L2 bytes").arg(count).arg(FlashSize(*all)));
+    sizes_->setText(tr("Line height: %1 px, em size: %2 px, characters: %L3, flash: %L4 bytes")
+                        .arg(QString::number(all->Metrics().height), QString::number(EmSize(args_)))
+                        .arg(count)
+                        .arg(FlashSize(*all)));
     notes_->setText(interface.warnings.join(u'\n'));
 }
 

@@ -3,6 +3,7 @@
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
+#include "ui/engine_texts.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -98,7 +99,7 @@ void InfoPanel::ShowFont(const Font& font)
         enabled += int(font.IsEnabled(quint16(code)));
     }
     Set(tr("Font name"), font.Name());
-    Set(tr("Format"), FormatDisplayName(metrics.format));
+    Set(tr("Format"), Translated(FormatDisplayName(metrics.format)));
     Set(tr("Encoding"),
         metrics.encoding == EncodingType::Unicode ? tr("Unicode") : tr("Shift JIS"));
     Set(tr("Height"), pixels(metrics.height));

@@ -9,6 +9,7 @@
 #include "render/font_database.h"
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
+#include "ui/engine_texts.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
 #include "ui/progress_area.h"
@@ -441,7 +442,7 @@ void MainWindow::progressFinished()
 
 void MainWindow::OnProgbarInitCnt(const char* text, int, int maximum)
 {
-    progress_->BeginWork(QString::fromUtf8(text), maximum);
+    progress_->BeginWork(Translated(QString::fromUtf8(text)), maximum);
 }
 
 void MainWindow::OnProgbarUpdateCnt(int value)

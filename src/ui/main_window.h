@@ -46,6 +46,9 @@ public:
     bool OpenFile(const QString& path);
     bool ReadPattern(const QString& path);
 
+    // The manual that came with the program, or the maker's page where there is none.
+    [[nodiscard]] static QUrl ManualUrl();
+
     // What a dropped file is for: a font to open or a pattern to read.
     [[nodiscard]] static quint32 CommandOfFile(const QString& path);
 
@@ -135,6 +138,7 @@ private:
     void EditPreferences(int page, QWidget* parent);
     void ShowAbout();
     void ShowCommandLineOptions();
+    void ShowManual();
     void ShowContextMenu(QPoint globalPosition);
 
     void ShowMessage(const QString& text);

@@ -12,6 +12,7 @@
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
 #include "ui/code_dialogs.h"
+#include "ui/engine_texts.h"
 #include "ui/font_dialog.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
@@ -19,8 +20,9 @@
 #include "ui/progress_area.h"
 #include "ui/text_dialog.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
-#include <QEventLoop>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 #include <QScopedValueRollback>
@@ -128,7 +130,7 @@ void MainWindow::RunWindowCommand(quint32 id)
         ShowCommandLineOptions();
         break;
     case WindowCommand::UserManual:
-        QDesktopServices::openUrl(QUrl(u"https://morvek.example.com/glyphor"_s));
+        ShowManual();
         break;
     }
 }
@@ -144,7 +146,7 @@ bool MainWindow::handleRequest(ActionType kind)
         return true;
     case ActionType::ExitProgram:
         // Once the options have run.
-        QTimer::singleShot(0, this, &QWidget::close);
+        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
         return true;
     default:
         return false;
@@ -307,8 +309,9 @@ void MainWindow::IndexFonts()
     if (indexing_ != nullptr)
         return;
     indexing_ = new FontDatabaseThread(this);
-    connect(indexing_, &FontDatabaseThread::initFileCount, this,
-            [this](int count) { progress_->BeginBackground(tr("Indexing font files..."), count); });
+    connect(indexing_, &FontDatabaseThread::initFileCount, this, [this](int count) {
+        progress_->BeginBackground(Translated(u"Indexing font files..."_s), count);
+    });
     connect(indexing_, &FontDatabaseThread::fileDone, this, &MainWindow::OnDatabaseFileDone);
     connect(indexing_, &FontDatabaseThread::hasFinished, this,
             &MainWindow::OnDatabaseThreadFinished);
@@ -408,6 +411,27 @@ void MainWindow::ShowAbout()
 void MainWindow::ShowCommandLineOptions()
 {
     CommandDialog(CommandLineParser().usage(), this).exec();
+}
+
+// Installed, or beside the folder that it was built in.
+QUrl MainWindow::ManualUrl()
+{
+    for (const QString& folder : {u"/../share/doc/glyphor"_s, u"/../../docs"_s}) {
+        const QFileInfo manual(QCoreApplication::applicationDirPath() + folder +
+                               u"/manual/index.html"_s);
+        if (manual.isFile())
+            return QUrl::fromLocalFile(manual.canonicalFilePath());
+    }
+    return QUrl(u"https://morvek.example.com/glyphor"_s);
+}
+
+void MainWindow::ShowManual()
+{
+    const QUrl manual = ManualUrl();
+    if (!QDesktopServices::openUrl(manual))
+        information(tr("User manual"),
+                    tr("No web browser could be started. The manual is here:\n%1")
+                        .arg(manual.toDisplayString(QUrl::PreferLocalFile)));
 }
 
 void MainWindow::ShowContextMenu(QPoint globalPosition)

@@ -10,6 +10,7 @@
 #include "actions/session.h"
 #include "app/progress.h"
 #include "ui/char_table_view.h"
+#include "ui/engine_texts.h"
 #include "ui/font_generation_dialog.h"
 #include "ui/format_box.h"
 #include "ui/merge_mode_dialog.h"
@@ -108,14 +109,14 @@ bool MainWindow::OpenFile(const QString& path)
 
 void MainWindow::Open()
 {
-    const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
+    const QString path = AskOpenPath(tr("Open font file"), TranslatedFilter(FontFileFilter(false)));
     if (!path.isEmpty())
         OpenFile(path);
 }
 
 void MainWindow::Merge()
 {
-    const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
+    const QString path = AskOpenPath(tr("Open font file"), TranslatedFilter(FontFileFilter(false)));
     if (path.isEmpty())
         return;
     Guarded([&] {
@@ -181,8 +182,8 @@ bool MainWindow::SaveAs()
     const auto type = FileTypeOf(session_.Path());
     const bool isKept = type && IsWritten(*type);
     const QString suffix = isKept ? u'.' + QFileInfo(session_.Path()).suffix() : u".c"_s;
-    const QString path =
-        AskSavePath(tr("Save font file"), ProposedName(suffix), FontFileFilter(true));
+    const QString path = AskSavePath(tr("Save font file"), ProposedName(suffix),
+                                     TranslatedFilter(FontFileFilter(true)));
     return !path.isEmpty() && SaveTo(path, ActionType::SaveFontAs);
 }
 
@@ -217,8 +218,8 @@ QString MainWindow::ProposedName(const QString& suffix) const
 
 void MainWindow::SaveKerning()
 {
-    const QString path =
-        AskSavePath(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter());
+    const QString path = AskSavePath(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s),
+                                     TranslatedFilter(KerningFileFilter()));
     if (!path.isEmpty())
         SaveTo(path, ActionType::SaveKerning);
 }

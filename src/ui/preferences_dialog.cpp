@@ -131,8 +131,9 @@ void PreferencesDialog::AddDirectory(const QString& path)
 {
     if (path.isEmpty() || Directories().contains(path))
         return;
-    auto* const item = new QListWidgetItem(path, directories_);
+    directories_->addItem(path);
     if (!QDir(path).exists()) {
+        QListWidgetItem* const item = directories_->item(directories_->count() - 1);
         item->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
         item->setToolTip(tr("There is no such directory now."));
     }

@@ -1,7 +1,11 @@
 #include "support/test_main.h"
+#include "ui/application.h"
+#include "ui/engine_texts.h"
+#include "ui/info_panel.h"
 #include "ui/menu_bar.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QMenu>
 #include <QTest>
 
@@ -79,6 +83,24 @@ private Q_SLOTS:
             QCOMPARE(bar.Command(tip.key())->statusTip(), tip.value());
         QCOMPARE(bar.PixelIndexMenu()->title(), u"Pi&xel index"_s);
         QVERIFY(bar.Command(99) == nullptr);
+    }
+
+    void German()
+    {
+        QTranslator texts;
+        QTranslator toolkitTexts;
+        QVERIFY(!LoadTexts(QLocale(QLocale::Finnish), texts, toolkitTexts));
+        QVERIFY(LoadTexts(QLocale(QLocale::German), texts, toolkitTexts));
+        QCoreApplication::installTranslator(&texts);
+        Receiver receiver;
+        const MenuBar bar(nullptr, &receiver);
+        QCOMPARE(bar.actions().constFirst()->text(), u"&Datei"_s);
+        QCOMPARE(bar.PixelIndexMenu()->title(), u"Pi&xelindex"_s);
+        QCOMPARE(TranslatedFilter(u"C fonts (*.c);;All supported file types (*.c *.sif)"_s),
+                 u"C-Schriften (*.c);;Alle unterstützten Dateitypen (*.c *.sif)"_s);
+        const InfoPanel info;
+        QCOMPARE(info.findChildren<QLabel*>().size(), 40); // no two captions became one
+        QCoreApplication::removeTranslator(&texts);
     }
 
     void CommandsTellTheirNumber()

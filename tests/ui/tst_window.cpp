@@ -464,6 +464,8 @@ private Q_SLOTS:
         QVERIFY(!window_->Menus().Command(57)->isChecked());
     }
 
+    void TheManualIsFound() { QVERIFY(MainWindow::ManualUrl().isLocalFile()); }
+
     void BrokenStateGivesTheDefaults()
     {
         Settings::Instance().mainWindow.save({"geometry", "state"});

@@ -1,0 +1,1563 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Engine</name>
+    <message>
+        <source>Legacy, 1bpp</source>
+        <translation>Legacy, 1bpp</translation>
+    </message>
+    <message>
+        <source>Legacy, anti-aliased, 2bpp</source>
+        <translation>Legacy, geglättet, 2bpp</translation>
+    </message>
+    <message>
+        <source>Legacy, anti-aliased, 4bpp</source>
+        <translation>Legacy, geglättet, 4bpp</translation>
+    </message>
+    <message>
+        <source>Standard, 1bpp</source>
+        <translation>Standard, 1bpp</translation>
+    </message>
+    <message>
+        <source>Standard, framed</source>
+        <translation>Standard, umrahmt</translation>
+    </message>
+    <message>
+        <source>Standard, anti-aliased, 2bpp</source>
+        <translation>Standard, geglättet, 2bpp</translation>
+    </message>
+    <message>
+        <source>Standard, anti-aliased, 4bpp</source>
+        <translation>Standard, geglättet, 4bpp</translation>
+    </message>
+    <message>
+        <source>Extended, 1bpp</source>
+        <translation>Erweitert, 1bpp</translation>
+    </message>
+    <message>
+        <source>Extended, framed</source>
+        <translation>Erweitert, umrahmt</translation>
+    </message>
+    <message>
+        <source>Extended, anti-aliased, 2bpp</source>
+        <translation>Erweitert, geglättet, 2bpp</translation>
+    </message>
+    <message>
+        <source>Extended, anti-aliased, 4bpp</source>
+        <translation>Erweitert, geglättet, 4bpp</translation>
+    </message>
+    <message>
+        <source>Indexing font files...</source>
+        <translation>Schriftdateien werden erfasst...</translation>
+    </message>
+    <message>
+        <source>Loading font...</source>
+        <translation>Schrift wird geladen...</translation>
+    </message>
+    <message>
+        <source>Reading character table...</source>
+        <translation>Zeichentabelle wird gelesen...</translation>
+    </message>
+    <message>
+        <source>Reading characters...</source>
+        <translation>Zeichen werden gelesen...</translation>
+    </message>
+    <message>
+        <source>Rendering font...</source>
+        <translation>Schrift wird gerastert...</translation>
+    </message>
+    <message>
+        <source>Saving C file...</source>
+        <translation>C-Datei wird gespeichert...</translation>
+    </message>
+    <message>
+        <source>TrueType font formats</source>
+        <translation>TrueType-Schriften</translation>
+    </message>
+    <message>
+        <source>Glyph Bitmap Distribution Format</source>
+        <translation>Glyph Bitmap Distribution Format</translation>
+    </message>
+    <message>
+        <source>C fonts</source>
+        <translation>C-Schriften</translation>
+    </message>
+    <message>
+        <source>External Bitmap Fonts</source>
+        <translation>External Bitmap Fonts</translation>
+    </message>
+    <message>
+        <source>System Independent Fonts</source>
+        <translation>System Independent Fonts</translation>
+    </message>
+    <message>
+        <source>Kerning C files</source>
+        <translation>C-Dateien mit Kerning</translation>
+    </message>
+    <message>
+        <source>All supported file types</source>
+        <translation>Alle unterstützten Dateitypen</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::CharBitmapView</name>
+    <message>
+        <source>Pixels of the character</source>
+        <translation>Pixel des Zeichens</translation>
+    </message>
+    <message>
+        <source>This character has no pixels.
+Insert a row or a column to draw.</source>
+        <translation>Dieses Zeichen hat keine Pixel.
+Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
+    </message>
+    <message>
+        <source>Index of pixel [%1, %2]: %3</source>
+        <translation>Index des Pixels [%1, %2]: %3</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::CharTableView</name>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Open a font file or drop one here.</source>
+        <translation>Eine Schriftdatei öffnen oder hierher ziehen.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::CharacterSelection</name>
+    <message>
+        <source>Unicode blocks</source>
+        <translation>Unicode-Blöcke</translation>
+    </message>
+    <message>
+        <source>Pattern file</source>
+        <translation>Musterdatei</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Type or paste what the device has to show.</source>
+        <translation>Hier eingeben oder einfügen, was das Gerät anzeigen soll.</translation>
+    </message>
+    <message>
+        <source>Every character that the font file has.</source>
+        <translation>Alle Zeichen der Schriftdatei.</translation>
+    </message>
+    <message>
+        <source>A&amp;ll characters</source>
+        <translation>A&amp;lle Zeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Unicode blocks</source>
+        <translation>&amp;Unicode-Blöcke</translation>
+    </message>
+    <message>
+        <source>&amp;Pattern file</source>
+        <translation>&amp;Musterdatei</translation>
+    </message>
+    <message>
+        <source>Characters of a te&amp;xt</source>
+        <translation>Zeichen eines Te&amp;xts</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>A text file in UTF-16 LE with the characters.</source>
+        <translation>Eine Textdatei in UTF-16 LE mit den Zeichen.</translation>
+    </message>
+    <message>
+        <source>Read pattern file</source>
+        <translation>Musterdatei lesen</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt)</source>
+        <translation>Textdateien (*.txt)</translation>
+    </message>
+    <message>
+        <source>Choose a block.</source>
+        <translation>Bitte einen Block wählen.</translation>
+    </message>
+    <message>
+        <source>Choose a pattern file.</source>
+        <translation>Bitte eine Musterdatei wählen.</translation>
+    </message>
+    <message>
+        <source>Enter some characters.</source>
+        <translation>Bitte Zeichen eingeben.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::CommandDialog</name>
+    <message>
+        <source>Command line options</source>
+        <translation>Optionen der Befehlszeile</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::EnableRangeDialog</name>
+    <message>
+        <source>Codes as entered</source>
+        <translation>Codes wie eingegeben</translation>
+    </message>
+    <message>
+        <source>&amp;First:</source>
+        <translation>&amp;Erstes:</translation>
+    </message>
+    <message>
+        <source>&amp;Last:</source>
+        <translation>&amp;Letztes:</translation>
+    </message>
+    <message>
+        <source>&amp;Block:</source>
+        <translation>&amp;Block:</translation>
+    </message>
+    <message>
+        <source>A code (0x41, U+0041 or 65), or a character</source>
+        <translation>Ein Code (0x41, U+0041 oder 65) oder ein Zeichen</translation>
+    </message>
+    <message>
+        <source>A code is written as 0x41, U+0041 or 65, or as the character.</source>
+        <translation>Ein Code wird als 0x41, U+0041 oder 65 geschrieben oder als das Zeichen.</translation>
+    </message>
+    <message>
+        <source>The last code is before the first one.</source>
+        <translation>Der letzte Code liegt vor dem ersten.</translation>
+    </message>
+    <message>
+        <source>%L1 codes, of which the font has %L2.</source>
+        <translation>%L1 Codes, davon %L2 in der Schrift.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::EncodingBox</name>
+    <message>
+        <source>Unicode</source>
+        <translation>Unicode</translation>
+    </message>
+    <message>
+        <source>Shift JIS</source>
+        <translation>Shift JIS</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::FontDialog</name>
+    <message>
+        <source>The quick brown fox 0123456789</source>
+        <translation>Zwölf Boxkämpfer jagen 0123456789</translation>
+    </message>
+    <message>
+        <source>Inde&amp;x again</source>
+        <translation>Neu er&amp;fassen</translation>
+    </message>
+    <message>
+        <source>New font</source>
+        <translation>Neue Schrift</translation>
+    </message>
+    <message>
+        <source>Font &amp;directories...</source>
+        <translation>Schrift&amp;verzeichnisse...</translation>
+    </message>
+    <message>
+        <source>All scripts</source>
+        <translation>Alle Schriftsysteme</translation>
+    </message>
+    <message>
+        <source>A part of the name</source>
+        <translation>Ein Teil des Namens</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>Slant</source>
+        <translation>Lage</translation>
+    </message>
+    <message>
+        <source>Families</source>
+        <translation>Familien</translation>
+    </message>
+    <message>
+        <source>Styles</source>
+        <translation>Schnitte</translation>
+    </message>
+    <message>
+        <source>&amp;Search:</source>
+        <translation>&amp;Suche:</translation>
+    </message>
+    <message>
+        <source>S&amp;cript:</source>
+        <translation>Schrift&amp;system:</translation>
+    </message>
+    <message>
+        <source>&amp;Families:</source>
+        <translation>&amp;Familien:</translation>
+    </message>
+    <message>
+        <source>S&amp;tyles:</source>
+        <translation>Schni&amp;tte:</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Unit of the height</source>
+        <translation>Einheit der Höhe</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Höhe:</translation>
+    </message>
+    <message>
+        <source>%L1 families</source>
+        <translation>%L1 Familien</translation>
+    </message>
+    <message>
+        <source>italic</source>
+        <translation>kursiv</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>aufrecht</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::FontGenerationDialog</name>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>&amp;Fett</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Kursiv</translation>
+    </message>
+    <message>
+        <source>Font generation: %1</source>
+        <translation>Schrift erzeugen: %1</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Unit of the height</source>
+        <translation>Einheit der Höhe</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Höhe:</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>F&amp;ormat:</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding:</source>
+        <translation>&amp;Kodierung:</translation>
+    </message>
+    <message>
+        <source>F&amp;ace:</source>
+        <translation>S&amp;chnitt:</translation>
+    </message>
+    <message>
+        <source>Effects:</source>
+        <translation>Effekte:</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>The quick brown fox 0123456789</source>
+        <translation>Zwölf Boxkämpfer jagen 0123456789</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::FormatBox</name>
+    <message>
+        <source>Standard formats</source>
+        <translation>Standardformate</translation>
+    </message>
+    <message>
+        <source>Legacy formats</source>
+        <translation>Legacy-Formate</translation>
+    </message>
+    <message>
+        <source>Known as &lt;b&gt;%1&lt;/b&gt; before Tavix V6.36.</source>
+        <translation>Vor Tavix V6.36 als &lt;b&gt;%1&lt;/b&gt; bekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::FormatDialog</name>
+    <message>
+        <source>Select font format</source>
+        <translation>Schriftformat wählen</translation>
+    </message>
+    <message>
+        <source>Font format could not be read in file. Please select format and encoding manually.</source>
+        <translation>Die Datei nennt ihr Schriftformat nicht. Bitte Format und Kodierung wählen.</translation>
+    </message>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>F&amp;ormat:</translation>
+    </message>
+    <message>
+        <source>&amp;Encoding:</source>
+        <translation>&amp;Kodierung:</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::GenerationPreview</name>
+    <message>
+        <source>&amp;Sample:</source>
+        <translation>&amp;Probe:</translation>
+    </message>
+    <message>
+        <source>Line height: %1 px, em size: %2 px</source>
+        <translation>Zeilenhöhe: %1 px, Geviert: %2 px</translation>
+    </message>
+    <message>
+        <source>Line height: %1 px, em size: %2 px, characters: %L3, flash: %L4 bytes</source>
+        <translation>Zeilenhöhe: %1 px, Geviert: %2 px, Zeichen: %L3, Flash: %L4 Byte</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::GoToDialog</name>
+    <message>
+        <source>Go to character</source>
+        <translation>Zu Zeichen springen</translation>
+    </message>
+    <message>
+        <source>0x41, 65, A or a part of the name</source>
+        <translation>0x41, 65, A oder ein Teil des Namens</translation>
+    </message>
+    <message>
+        <source>Characters found</source>
+        <translation>Gefundene Zeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Code, character or name:</source>
+        <translation>&amp;Code, Zeichen oder Name:</translation>
+    </message>
+    <message>
+        <source>No character that the table shows matches.</source>
+        <translation>Kein Zeichen der Tabelle passt dazu.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::InfoPanel</name>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Character</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Block</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Cursor distance</source>
+        <translation>Vorschub</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Kerning pairs</source>
+        <translation>Kerning-Paare</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Font name</source>
+        <translation>Schriftname</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Kodierung</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Baseline</source>
+        <translation>Grundlinie</translation>
+    </message>
+    <message>
+        <source>Lowercase height</source>
+        <translation>Kleinbuchstabenhöhe</translation>
+    </message>
+    <message>
+        <source>Capital height</source>
+        <translation>Versalhöhe</translation>
+    </message>
+    <message>
+        <source>Enabled characters</source>
+        <translation>Aktive Zeichen</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Flash</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>Unicode</source>
+        <translation>Unicode</translation>
+    </message>
+    <message>
+        <source>Shift JIS</source>
+        <translation>Shift JIS</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%L1 bytes</source>
+        <translation>%L1 Byte</translation>
+    </message>
+    <message>
+        <source>no character</source>
+        <translation>kein Zeichen</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px</source>
+        <translation>%1 × %2 px</translation>
+    </message>
+    <message>
+        <source>%1 bytes a line, %2 in all</source>
+        <translation>%1 Byte je Zeile, %2 gesamt</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::MainWindow</name>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Paint pixels by clicking and dragging (Ctrl inverts them)</source>
+        <translation>Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
+    </message>
+    <message>
+        <source>Index that the pencil paints</source>
+        <translation>Index, den der Stift malt</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht aus.</translation>
+    </message>
+    <message>
+        <source>No font</source>
+        <translation>Keine Schrift</translation>
+    </message>
+    <message>
+        <source>Installed fonts</source>
+        <translation>Installierte Schriften</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>Selection: %1</source>
+        <translation>Auswahl: %1</translation>
+    </message>
+    <message>
+        <source>Stroke</source>
+        <translation>Strich</translation>
+    </message>
+    <message>
+        <source>Enable range of characters</source>
+        <translation>Zeichenbereich aktivieren</translation>
+    </message>
+    <message>
+        <source>Disable range of characters</source>
+        <translation>Zeichenbereich deaktivieren</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Bitmap fonts for embedded displays.&lt;/p&gt;&lt;p&gt;Qt %3, FreeType %4&lt;/p&gt;&lt;p&gt;© Morvek&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Bitmap-Schriften für eingebettete Displays.&lt;/p&gt;&lt;p&gt;Qt %3, FreeType %4&lt;/p&gt;&lt;p&gt;© Morvek&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Aktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Deaktivieren</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Text files (*.txt)</source>
+        <translation>Textdateien (*.txt)</translation>
+    </message>
+    <message>
+        <source>Instance %1</source>
+        <translation>Instanz %1</translation>
+    </message>
+    <message>
+        <source>Open font file</source>
+        <translation>Schriftdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Save font file</source>
+        <translation>Schriftdatei speichern</translation>
+    </message>
+    <message>
+        <source>Save kerning file</source>
+        <translation>Kerning-Datei speichern</translation>
+    </message>
+    <message>
+        <source>Read pattern file</source>
+        <translation>Musterdatei lesen</translation>
+    </message>
+    <message>
+        <source>Save pattern file</source>
+        <translation>Musterdatei speichern</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>Keine zuletzt geöffneten Dateien</translation>
+    </message>
+    <message>
+        <source>Save file?</source>
+        <translation>Datei speichern?</translation>
+    </message>
+    <message>
+        <source>Save current file?</source>
+        <translation>Aktuelle Datei speichern?</translation>
+    </message>
+    <message>
+        <source>Load pattern file?</source>
+        <translation>Musterdatei laden?</translation>
+    </message>
+    <message>
+        <source>Apply the pattern file %1 to this font?</source>
+        <translation>Die Musterdatei %1 auf diese Schrift anwenden?</translation>
+    </message>
+    <message>
+        <source>User manual</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>No web browser could be started. The manual is here:
+%1</source>
+        <translation>Es konnte kein Webbrowser gestartet werden. Das Handbuch ist hier:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::MergeModeDialog</name>
+    <message>
+        <source>Select merge mode</source>
+        <translation>Art des Mischens wählen</translation>
+    </message>
+    <message>
+        <source>Duplicate characters have been found in both fonts.
+How should duplicate characters be handled?</source>
+        <translation>Einige Zeichen sind in beiden Schriften enthalten.
+Was soll mit ihnen geschehen?</translation>
+    </message>
+    <message>
+        <source>Replace duplicates with new characters.</source>
+        <translation>Durch die neuen Zeichen ersetzen.</translation>
+    </message>
+    <message>
+        <source>Do not replace, keep old characters.</source>
+        <translation>Nicht ersetzen, die alten Zeichen behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::PreferencesDialog</name>
+    <message>
+        <source>&amp;Hide legacy font formats</source>
+        <translation>Legacy-Formate &amp;ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Log actions in C files</source>
+        <translation>&amp;Aktionen in C-Dateien protokollieren</translation>
+    </message>
+    <message>
+        <source>Create a log &amp;file beside a saved font</source>
+        <translation>Neben der gespeicherten Schrift eine &amp;Protokolldatei anlegen</translation>
+    </message>
+    <message>
+        <source>Use the s&amp;ystem&apos;s line endings</source>
+        <translation>Zeilenenden des S&amp;ystems verwenden</translation>
+    </message>
+    <message>
+        <source>Search additional directories &amp;recursively</source>
+        <translation>Zusätzliche Verzeichnisse &amp;rekursiv durchsuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Use included bitmap sizes</source>
+        <translation>&amp;Enthaltene Bitmap-Größen verwenden</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Generated files</source>
+        <translation>Erzeugte Dateien</translation>
+    </message>
+    <message>
+        <source>Installed fonts</source>
+        <translation>Installierte Schriften</translation>
+    </message>
+    <message>
+        <source>Decimal</source>
+        <translation>Dezimal</translation>
+    </message>
+    <message>
+        <source>Hexadecimal</source>
+        <translation>Hexadezimal</translation>
+    </message>
+    <message>
+        <source>The choice of a format then has the formats for new firmware only.</source>
+        <translation>Zur Wahl stehen dann nur die Formate für neue Firmware.</translation>
+    </message>
+    <message>
+        <source>&amp;Numeral system of codes:</source>
+        <translation>&amp;Zahlensystem der Codes:</translation>
+    </message>
+    <message>
+        <source>CR LF</source>
+        <translation>CR LF</translation>
+    </message>
+    <message>
+        <source>CR</source>
+        <translation>CR</translation>
+    </message>
+    <message>
+        <source>LF</source>
+        <translation>LF</translation>
+    </message>
+    <message>
+        <source>Line &amp;endings:</source>
+        <translation>&amp;Zeilenenden:</translation>
+    </message>
+    <message>
+        <source>A font that has bitmaps of the wanted height then gives these instead of outlines.</source>
+        <translation>Eine Schrift mit Bitmaps der gewünschten Höhe liefert dann diese anstelle der Umrisse.</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>Ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>System directories are always searched recursively.&lt;br&gt;&lt;b&gt;Note:&lt;/b&gt; Maximum depth is limited to 10.</source>
+        <translation>Systemverzeichnisse werden immer rekursiv durchsucht.&lt;br&gt;&lt;b&gt;Hinweis:&lt;/b&gt; Die Tiefe ist auf 10 begrenzt.</translation>
+    </message>
+    <message>
+        <source>Additional font &amp;directories:</source>
+        <translation>Zusätzliche &amp;Schriftverzeichnisse:</translation>
+    </message>
+    <message>
+        <source>Additional font directory</source>
+        <translation>Zusätzliches Schriftverzeichnis</translation>
+    </message>
+    <message>
+        <source>There is no such directory now.</source>
+        <translation>Dieses Verzeichnis gibt es zurzeit nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::ProgressArea</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop the work (Esc)</source>
+        <translation>Die Arbeit abbrechen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::TextPreview</name>
+    <message>
+        <source>The quick brown fox jumps over the lazy dog. 0123456789</source>
+        <translation>Zwölf Boxkämpfer jagen Viktor quer über den großen Sylter Deich. 0123456789</translation>
+    </message>
+    <message>
+        <source>&amp;Kerning</source>
+        <translation>&amp;Kerning</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple:</source>
+        <translation>&amp;Probe:</translation>
+    </message>
+    <message>
+        <source>Sample text</source>
+        <translation>Probetext</translation>
+    </message>
+    <message>
+        <source>×</source>
+        <translation>×</translation>
+    </message>
+    <message>
+        <source>Zoom of the sample</source>
+        <translation>Vergrößerung der Probe</translation>
+    </message>
+    <message>
+        <source>Colour of the ink</source>
+        <translation>Farbe der Schrift</translation>
+    </message>
+    <message>
+        <source>Colour of the paper</source>
+        <translation>Farbe des Papiers</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Schriftfarbe</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papierfarbe</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::TextStrip</name>
+    <message>
+        <source>Sample in the font&apos;s pixels</source>
+        <translation>Probe in den Pixeln der Schrift</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::UndoStack</name>
+    <message>
+        <source>%1 last action</source>
+        <translation>Letzte Aktion %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Neu...</translation>
+    </message>
+    <message>
+        <source>Create new font from installed fonts</source>
+        <translation>Eine neue Schrift aus installierten Schriften erzeugen</translation>
+    </message>
+    <message>
+        <source>&amp;Open font file...</source>
+        <translation>Schriftdatei ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Open a font file of the type TTF, BDF, XBF, C or SIF</source>
+        <translation>Eine Schriftdatei vom Typ TTF, BDF, XBF, C oder SIF öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Merge font file...</source>
+        <translation>Schriftdatei &amp;mischen...</translation>
+    </message>
+    <message>
+        <source>Merge a font file of the type TTF, BDF, XBF, C or SIF with the currently loaded font</source>
+        <translation>Eine Schriftdatei vom Typ TTF, BDF, XBF, C oder SIF in die geladene Schrift mischen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save the font data</source>
+        <translation>Die Schrift speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Save the font data to a different file</source>
+        <translation>Die Schrift in einer anderen Datei speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;kerning table...</source>
+        <translation>&amp;Kerning-Tabelle speichern...</translation>
+    </message>
+    <message>
+        <source>Save the kerning table</source>
+        <translation>Die Kerning-Tabelle speichern</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Exit the program</source>
+        <translation>Das Programm beenden</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Insert a column at the right side of the current character</source>
+        <translation>Rechts am aktuellen Zeichen eine Spalte einfügen</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Insert a column at the left side of the current character</source>
+        <translation>Links am aktuellen Zeichen eine Spalte einfügen</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Insert a row at the top of the current character</source>
+        <translation>Oben am aktuellen Zeichen eine Zeile einfügen</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Insert a row at the bottom of the current character</source>
+        <translation>Unten am aktuellen Zeichen eine Zeile einfügen</translation>
+    </message>
+    <message>
+        <source>Delete a column at the right side of the current character</source>
+        <translation>Rechts am aktuellen Zeichen eine Spalte löschen</translation>
+    </message>
+    <message>
+        <source>Delete a column at the left side of the current character</source>
+        <translation>Links am aktuellen Zeichen eine Spalte löschen</translation>
+    </message>
+    <message>
+        <source>Delete a row from the top of the current character</source>
+        <translation>Oben am aktuellen Zeichen eine Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Delete a row from the bottom of the current character</source>
+        <translation>Unten am aktuellen Zeichen eine Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Shift pixel data to the right</source>
+        <translation>Pixel nach rechts schieben</translation>
+    </message>
+    <message>
+        <source>Shift pixel data to the left</source>
+        <translation>Pixel nach links schieben</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Shift pixel data up</source>
+        <translation>Pixel nach oben schieben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Shift pixel data down</source>
+        <translation>Pixel nach unten schieben</translation>
+    </message>
+    <message>
+        <source>Insert top</source>
+        <translation>Oben einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a row at the top of the font</source>
+        <translation>Oben an der Schrift eine Zeile einfügen</translation>
+    </message>
+    <message>
+        <source>Insert bottom</source>
+        <translation>Unten einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a row at the bottom of the font</source>
+        <translation>Unten an der Schrift eine Zeile einfügen</translation>
+    </message>
+    <message>
+        <source>Delete top</source>
+        <translation>Oben löschen</translation>
+    </message>
+    <message>
+        <source>Delete a row from the top of the font</source>
+        <translation>Oben an der Schrift eine Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Delete bottom</source>
+        <translation>Unten löschen</translation>
+    </message>
+    <message>
+        <source>Delete a row from the bottom of the font</source>
+        <translation>Unten an der Schrift eine Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Increase</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Increase cursor distance</source>
+        <translation>Vorschub vergrößern</translation>
+    </message>
+    <message>
+        <source>Decrease</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Decrease cursor distance</source>
+        <translation>Vorschub verkleinern</translation>
+    </message>
+    <message>
+        <source>Increase index</source>
+        <translation>Index erhöhen</translation>
+    </message>
+    <message>
+        <source>Increase the index of the current pixel</source>
+        <translation>Den Index des aktuellen Pixels erhöhen</translation>
+    </message>
+    <message>
+        <source>Decrease index</source>
+        <translation>Index verringern</translation>
+    </message>
+    <message>
+        <source>Decrease the index of the current pixel</source>
+        <translation>Den Index des aktuellen Pixels verringern</translation>
+    </message>
+    <message>
+        <source>Invert index</source>
+        <translation>Index invertieren</translation>
+    </message>
+    <message>
+        <source>Invert the index of the current pixel</source>
+        <translation>Den Index des aktuellen Pixels invertieren</translation>
+    </message>
+    <message>
+        <source>Set index to 0</source>
+        <translation>Index auf 0 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 0</source>
+        <translation>Das aktuelle Pixel auf Index 0 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 1</source>
+        <translation>Index auf 1 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 1</source>
+        <translation>Das aktuelle Pixel auf Index 1 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 2</source>
+        <translation>Index auf 2 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 2</source>
+        <translation>Das aktuelle Pixel auf Index 2 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 3</source>
+        <translation>Index auf 3 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 3</source>
+        <translation>Das aktuelle Pixel auf Index 3 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 4</source>
+        <translation>Index auf 4 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 4</source>
+        <translation>Das aktuelle Pixel auf Index 4 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 5</source>
+        <translation>Index auf 5 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 5</source>
+        <translation>Das aktuelle Pixel auf Index 5 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 6</source>
+        <translation>Index auf 6 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 6</source>
+        <translation>Das aktuelle Pixel auf Index 6 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 7</source>
+        <translation>Index auf 7 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 7</source>
+        <translation>Das aktuelle Pixel auf Index 7 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 8</source>
+        <translation>Index auf 8 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 8</source>
+        <translation>Das aktuelle Pixel auf Index 8 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 9</source>
+        <translation>Index auf 9 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 9</source>
+        <translation>Das aktuelle Pixel auf Index 9 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 10</source>
+        <translation>Index auf 10 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 10</source>
+        <translation>Das aktuelle Pixel auf Index 10 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 11</source>
+        <translation>Index auf 11 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 11</source>
+        <translation>Das aktuelle Pixel auf Index 11 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 12</source>
+        <translation>Index auf 12 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 12</source>
+        <translation>Das aktuelle Pixel auf Index 12 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 13</source>
+        <translation>Index auf 13 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 13</source>
+        <translation>Das aktuelle Pixel auf Index 13 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 14</source>
+        <translation>Index auf 14 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 14</source>
+        <translation>Das aktuelle Pixel auf Index 14 setzen</translation>
+    </message>
+    <message>
+        <source>Set index to 15</source>
+        <translation>Index auf 15 setzen</translation>
+    </message>
+    <message>
+        <source>Set the current pixel to index 15</source>
+        <translation>Das aktuelle Pixel auf Index 15 setzen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo last action</source>
+        <translation>Letzte Aktion rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo previous action</source>
+        <translation>Letzte rückgängig gemachte Aktion wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Shift</source>
+        <translation>&amp;Schieben</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>&amp;Versetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Font height</source>
+        <translation>Schrift&amp;höhe</translation>
+    </message>
+    <message>
+        <source>&amp;Custor distance</source>
+        <translation>V&amp;orschub</translation>
+    </message>
+    <message>
+        <source>&amp;Toggle character</source>
+        <translation>Zeichen &amp;umschalten</translation>
+    </message>
+    <message>
+        <source>Toggle the activation of the current character</source>
+        <translation>Das aktuelle Zeichen aktivieren oder deaktivieren</translation>
+    </message>
+    <message>
+        <source>Pi&amp;xel index</source>
+        <translation>Pi&amp;xelindex</translation>
+    </message>
+    <message>
+        <source>&amp;Enable range of characters...</source>
+        <translation>Zeichenbereich &amp;aktivieren...</translation>
+    </message>
+    <message>
+        <source>Enable the characters of the given area</source>
+        <translation>Die Zeichen eines Bereichs aktivieren</translation>
+    </message>
+    <message>
+        <source>Disa&amp;ble range of characters...</source>
+        <translation>Zeichenbereich &amp;deaktivieren...</translation>
+    </message>
+    <message>
+        <source>Disable the characters of the given area</source>
+        <translation>Die Zeichen eines Bereichs deaktivieren</translation>
+    </message>
+    <message>
+        <source>Disable &amp;all characters</source>
+        <translation>Alle Zeichen dea&amp;ktivieren</translation>
+    </message>
+    <message>
+        <source>Disable all characters</source>
+        <translation>Alle Zeichen deaktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Read pattern file...</source>
+        <translation>&amp;Musterdatei lesen...</translation>
+    </message>
+    <message>
+        <source>Enable the characters of the given pattern file</source>
+        <translation>Die Zeichen einer Musterdatei aktivieren</translation>
+    </message>
+    <message>
+        <source>Save &amp;pattern file...</source>
+        <translation>Musterdatei s&amp;peichern...</translation>
+    </message>
+    <message>
+        <source>Save the currently enabled characters to a pattern file</source>
+        <translation>Die aktiven Zeichen in einer Musterdatei speichern</translation>
+    </message>
+    <message>
+        <source>&amp;All Characters</source>
+        <translation>&amp;Alle Zeichen</translation>
+    </message>
+    <message>
+        <source>Show enabled characters only</source>
+        <translation>Nur aktive Zeichen anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Go to character...</source>
+        <translation>Zu Zeichen &amp;springen...</translation>
+    </message>
+    <message>
+        <source>Selects and jumps to a desired character</source>
+        <translation>Ein Zeichen wählen und dorthin springen</translation>
+    </message>
+    <message>
+        <source>&amp;Index font directories</source>
+        <translation>Schriftverzeichnisse &amp;erfassen</translation>
+    </message>
+    <message>
+        <source>Search font directories for available fonts</source>
+        <translation>Verzeichnisse nach Schriften durchsuchen</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>Ein&amp;stellungen...</translation>
+    </message>
+    <message>
+        <source>Configure preferences</source>
+        <translation>Einstellungen ändern</translation>
+    </message>
+    <message>
+        <source>&amp;User Manual</source>
+        <translation>&amp;Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>Open the user manual (will be opened in a web browser)</source>
+        <translation>Das Benutzerhandbuch im Webbrowser öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>Ü&amp;ber...</translation>
+    </message>
+    <message>
+        <source>Show the about dialog</source>
+        <translation>Über das Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Command line options...</source>
+        <translation>Optionen der &amp;Befehlszeile...</translation>
+    </message>
+    <message>
+        <source>Show the command line options</source>
+        <translation>Die Optionen der Befehlszeile zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Tool</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>Script</name>
+    <message>
+        <source>Latin</source>
+        <translation>Lateinisch</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>Griechisch</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>Kyrillisch</translation>
+    </message>
+    <message>
+        <source>Armenian</source>
+        <translation>Armenisch</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>Hebräisch</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>Arabisch</translation>
+    </message>
+    <message>
+        <source>Devanagari</source>
+        <translation>Devanagari</translation>
+    </message>
+    <message>
+        <source>Bengali</source>
+        <translation>Bengalisch</translation>
+    </message>
+    <message>
+        <source>Gurmukhi</source>
+        <translation>Gurmukhi</translation>
+    </message>
+    <message>
+        <source>Gujarati</source>
+        <translation>Gujarati</translation>
+    </message>
+    <message>
+        <source>Tamil</source>
+        <translation>Tamil</translation>
+    </message>
+    <message>
+        <source>Telugu</source>
+        <translation>Telugu</translation>
+    </message>
+    <message>
+        <source>Kannada</source>
+        <translation>Kannada</translation>
+    </message>
+    <message>
+        <source>Malayalam</source>
+        <translation>Malayalam</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Thai</translation>
+    </message>
+    <message>
+        <source>Lao</source>
+        <translation>Laotisch</translation>
+    </message>
+    <message>
+        <source>Georgian</source>
+        <translation>Georgisch</translation>
+    </message>
+    <message>
+        <source>Mathematical operators</source>
+        <translation>Mathematische Operatoren</translation>
+    </message>
+    <message>
+        <source>Box drawing</source>
+        <translation>Rahmenzeichen</translation>
+    </message>
+    <message>
+        <source>Hiragana</source>
+        <translation>Hiragana</translation>
+    </message>
+    <message>
+        <source>Katakana</source>
+        <translation>Katakana</translation>
+    </message>
+    <message>
+        <source>Hangul</source>
+        <translation>Hangul</translation>
+    </message>
+    <message>
+        <source>CJK ideographs</source>
+        <translation>CJK-Ideogramme</translation>
+    </message>
+    <message>
+        <source>Tibetan</source>
+        <translation>Tibetisch</translation>
+    </message>
+    <message>
+        <source>Ethiopic</source>
+        <translation>Äthiopisch</translation>
+    </message>
+    <message>
+        <source>Khmer</source>
+        <translation>Khmer</translation>
+    </message>
+    <message>
+        <source>Mongolian</source>
+        <translation>Mongolisch</translation>
+    </message>
+    <message>
+        <source>Braille</source>
+        <translation>Braille</translation>
+    </message>
+</context>
+</TS>
