@@ -287,4 +287,14 @@ const ParameterKeywordTable& CharEditKeywords()
     return table;
 }
 
+QString CommandLineOption::Form() const
+{
+    QStringList parts;
+    if (!longName.isEmpty())
+        parts.append(u'-' + longName);
+    for (const CommandLineParameter& parameter : parameters)
+        parts.append(parameter.placeholder);
+    return parts.join(u' ');
+}
+
 } // namespace Glyphor

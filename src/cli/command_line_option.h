@@ -81,6 +81,9 @@ struct CommandLineOption
     int position = -1; // of the positional option among the arguments; -1: a named option
     OptionId exclusiveWith = OptionId::None; // exactly one of the two must be given
     bool standalone = false;
+
+    // "-name <parameter> <parameter>"; the positional option has its parameter alone.
+    [[nodiscard]] QString Form() const;
 };
 
 // Character codes as given: the last may be the smaller one.

@@ -10,17 +10,6 @@ namespace {
 
 constexpr qsizetype SynopsisWidth = 80;
 
-// "-name <parameter> <parameter>"; the positional option has its parameter alone.
-QString Form(const CommandLineOption& option)
-{
-    QStringList parts;
-    if (!option.longName.isEmpty())
-        parts.append(u'-' + option.longName);
-    for (const CommandLineParameter& parameter : option.parameters)
-        parts.append(parameter.placeholder);
-    return parts.join(u' ');
-}
-
 bool IsListed(const CommandLineOption& option)
 {
     return !option.description.isEmpty();
@@ -39,8 +28,8 @@ bool EndsPair(const CommandLineOption& option)
 QString SynopsisForm(const CommandLineOption& option)
 {
     QString form = BeginsPair(option)
-                       ? u"{%1|%2}"_s.arg(Form(option), Form(OptionOf(option.exclusiveWith)))
-                       : Form(option);
+                       ? u"{%1|%2}"_s.arg(option.Form(), OptionOf(option.exclusiveWith).Form())
+                       : option.Form();
     if (option.multiple)
         form += u" ..."_s;
     return form;
@@ -83,7 +72,7 @@ QString Keywords(const ParameterKeywordTable& table)
 
 QString Entry(const CommandLineOption& option)
 {
-    QString text = u"   "_s + Form(option);
+    QString text = u"   "_s + option.Form();
     if (option.multiple)
         text += u"  (accepted multiple times)"_s;
     text += u"\n     "_s;

@@ -6,6 +6,7 @@
 #include "app/user_interface.h"
 #include "ui/dialog_parts.h"
 #include "ui/engine_texts.h"
+#include "ui/font_size_box.h"
 #include "ui/text_preview.h"
 
 #include <QComboBox>
@@ -18,7 +19,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSpinBox>
 #include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -101,8 +101,7 @@ FontDialog::FontDialog(QWidget* parent)
       script_(new QComboBox),
       families_(new QListWidget),
       styles_(new QTreeWidget),
-      size_(new QSpinBox),
-      unit_(new QComboBox),
+      size_(new FontSizeBox),
       strip_(new TextStrip),
       status_(new QLabel),
       index_(new QPushButton(tr("Inde&x again")))
@@ -124,8 +123,7 @@ FontDialog::FontDialog(QWidget* parent)
     const FontDialogData stored = Settings::Instance().fontDialog.load();
     wantedFamily_ = stored.family;
     wantedStyle_ = stored.style;
-    size_->setValue(stored.size);
-    unit_->setCurrentIndex(int(stored.inPoints));
+    size_->SetSize({stored.size, stored.inPoints});
     script_->setCurrentIndex(std::max(0, script_->findData(stored.script, Qt::UserRole + 1)));
     resize(720, 560);
     RestoreGeometry(*this, stored.geometry);
@@ -140,8 +138,7 @@ FontDialog::FontDialog(QWidget* parent)
         if (ok_->isEnabled())
             accept();
     });
-    connect(size_, &QSpinBox::valueChanged, this, &FontDialog::ShowSample);
-    connect(unit_, &QComboBox::currentIndexChanged, this, &FontDialog::ShowSample);
+    connect(size_, &FontSizeBox::Changed, this, &FontDialog::ShowSample);
     Fill();
     search_->setFocus();
 }
@@ -153,8 +150,8 @@ FontDialog::~FontDialog()
     if (result() == Accepted) {
         record.family = wantedFamily_;
         record.style = wantedStyle_;
-        record.size = size_->value();
-        record.inPoints = unit_->currentIndex() == 1;
+        record.size = Size().value;
+        record.inPoints = Size().inPoints;
         record.script = script_->currentData(Qt::UserRole + 1).toString();
     }
     Settings::Instance().fontDialog.save(record);
@@ -203,13 +200,9 @@ QWidget* FontDialog::MakeChoices()
 
 QWidget* FontDialog::MakeSample()
 {
-    size_->setRange(1, 1000);
-    unit_->addItems({tr("px"), tr("pt")});
-    unit_->setAccessibleName(tr("Unit of the height"));
     auto* const sizeRow = new QHBoxLayout;
     sizeRow->addWidget(LabelFor(*size_, tr("&Height:")));
     sizeRow->addWidget(size_);
-    sizeRow->addWidget(unit_);
     sizeRow->addStretch();
     auto* const area = new QScrollArea;
     area->setWidget(strip_);
@@ -342,7 +335,7 @@ int FontDialog::FaceIndex() const
 
 FontSize FontDialog::Size() const
 {
-    return {size_->value(), unit_->currentIndex() == 1};
+    return size_->Size();
 }
 
 } // namespace Glyphor

@@ -11,11 +11,11 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
-class QSpinBox;
 class QTreeWidget;
 
 namespace Glyphor {
 
+class FontSizeBox;
 class TextStrip;
 
 // Chooses an installed font: its family, its style and a size. The last choice is remembered.
@@ -60,8 +60,7 @@ private:
     QComboBox* script_;
     QListWidget* families_;
     QTreeWidget* styles_;
-    QSpinBox* size_;
-    QComboBox* unit_;
+    FontSizeBox* size_;
     TextStrip* strip_;
     QLabel* status_;
     QPushButton* index_;

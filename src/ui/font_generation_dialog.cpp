@@ -5,17 +5,18 @@
 #include "app/user_interface.h"
 #include "ui/character_selection.h"
 #include "ui/dialog_parts.h"
+#include "ui/font_size_box.h"
 #include "ui/format_box.h"
 #include "ui/generation_preview.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,8 +27,7 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
                                            QWidget* parent)
     : QDialog(parent),
       args_(args),
-      size_(new QSpinBox),
-      unit_(new QComboBox),
+      size_(new FontSizeBox),
       format_(new FormatBox),
       encoding_(new EncodingBox),
       face_(new QComboBox),
@@ -37,9 +37,6 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
       preview_(new GenerationPreview)
 {
     setWindowTitle(tr("Font generation: %1").arg(QFileInfo(args.path).fileName()));
-    size_->setRange(1, 1000);
-    unit_->addItems({tr("px"), tr("pt")});
-    unit_->setAccessibleName(tr("Unit of the height"));
     face_->addItems(faces);
     face_->setCurrentIndex(std::clamp(args.faceIndex, 0, std::max(0, int(faces.size()) - 1)));
     face_->setEnabled(faces.size() > 1);
@@ -56,7 +53,6 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
     LoadEntries();
     ConnectEntries();
     Update();
-    size_->selectAll();
     size_->setFocus();
 }
 
@@ -69,15 +65,12 @@ FontGenerationDialog::~FontGenerationDialog()
 
 QWidget* FontGenerationDialog::MakeEntries()
 {
-    auto* const sizeRow = new QHBoxLayout;
-    sizeRow->addWidget(size_, 1);
-    sizeRow->addWidget(unit_);
     auto* const effects = new QHBoxLayout;
     effects->addWidget(bold_);
     effects->addWidget(italic_);
     effects->addStretch();
     auto* const form = new QFormLayout;
-    form->addRow(LabelFor(*size_, tr("&Height:")), sizeRow);
+    form->addRow(tr("&Height:"), size_);
     form->addRow(tr("&Format:"), format_);
     form->addRow(tr("&Encoding:"), encoding_);
     form->addRow(tr("F&ace:"), face_);
@@ -97,9 +90,7 @@ QWidget* FontGenerationDialog::MakeEntries()
 void FontGenerationDialog::LoadEntries()
 {
     const FontGenerationDialogData record = Settings::Instance().fontGenerationDialog.load();
-    const bool hasSize = args_.size.value > 0;
-    size_->setValue(hasSize ? args_.size.value : record.size);
-    unit_->setCurrentIndex(int(hasSize ? args_.size.inPoints : record.inPoints));
+    size_->SetSize(args_.size.value > 0 ? args_.size : FontSize{record.size, record.inPoints});
     const FontFormat format = args_.format.value_or(FontFormat(record.format));
     format_->Fill(!Settings::Instance().hideLegacy.value() || IsLegacyFormat(format));
     format_->SetFormat(format);
@@ -119,8 +110,8 @@ void FontGenerationDialog::LoadEntries()
 void FontGenerationDialog::StoreEntries() const
 {
     FontGenerationDialogData record = Settings::Instance().fontGenerationDialog.load();
-    record.size = size_->value();
-    record.inPoints = unit_->currentIndex() == 1;
+    record.size = size_->Size().value;
+    record.inPoints = size_->Size().inPoints;
     record.bold = bold_->isChecked();
     record.italic = italic_->isChecked();
     if (!args_.format)
@@ -136,8 +127,8 @@ void FontGenerationDialog::ConnectEntries()
 {
     connect(format_, &QComboBox::currentIndexChanged, this,
             [this] { encoding_->SetFormat(format_->Format()); });
-    connect(size_, &QSpinBox::valueChanged, this, &FontGenerationDialog::Update);
-    for (QComboBox* const box : std::initializer_list<QComboBox*>{unit_, format_, encoding_, face_})
+    connect(size_, &FontSizeBox::Changed, this, &FontGenerationDialog::Update);
+    for (QComboBox* const box : std::initializer_list<QComboBox*>{format_, encoding_, face_})
         connect(box, &QComboBox::currentIndexChanged, this, &FontGenerationDialog::Update);
     for (QCheckBox* const box : {bold_, italic_})
         connect(box, &QCheckBox::toggled, this, &FontGenerationDialog::Update);
@@ -164,7 +155,7 @@ void FontGenerationDialog::Update()
 ActionOpenFontArgs FontGenerationDialog::Args() const
 {
     ActionOpenFontArgs args = args_;
-    args.size = {size_->value(), unit_->currentIndex() == 1};
+    args.size = size_->Size();
     args.format = format_->Format();
     args.encoding = encoding_->Encoding();
     args.faceIndex = std::max(0, face_->currentIndex());

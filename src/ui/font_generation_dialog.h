@@ -7,12 +7,12 @@
 class QCheckBox;
 class QComboBox;
 class QPushButton;
-class QSpinBox;
 
 namespace Glyphor {
 
 class CharacterSelection;
 class EncodingBox;
+class FontSizeBox;
 class FormatBox;
 class GenerationPreview;
 
@@ -45,8 +45,7 @@ private:
     void Update();
 
     ActionOpenFontArgs args_;
-    QSpinBox* size_;
-    QComboBox* unit_;
+    FontSizeBox* size_;
     FormatBox* format_;
     EncodingBox* encoding_;
     QComboBox* face_;

@@ -184,22 +184,28 @@ void MainWindow::MoveInHistory(bool isUndo)
         table_->SetCurrentCode(first);
 }
 
-// One action for each run of selected codes, undone as one.
+// One action for each run of codes, undone as one.
+void MainWindow::RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make)
+{
+    const std::vector<CodeRun> runs = RunsOf(codes);
+    if (runs.size() == 1)
+        RunAction(make(runs.front()));
+    else if (!runs.empty())
+        RunMacro(tr("Selection: %1").arg(text), [&] {
+            for (const CodeRun& run : runs)
+                make(run)->Run();
+        });
+}
+
 void MainWindow::RunSelectionEdit(ActionType type)
 {
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
-    const std::vector<CodeRun> runs = RunsOf(codes);
-    const auto edit = [&](const CodeRun& run) {
+    RunForEach(codes, LogMessage(type), [&](const CodeRun& run) {
         const auto action = std::make_shared<ActionChar>(session_, type);
         action->Args() = {run.first, run.last};
-        action->Run();
-    };
-    if (runs.size() == 1)
-        Guarded([&] { edit(runs.front()); });
-    else if (!runs.empty())
-        RunMacro(tr("Selection: %1").arg(LogMessage(type)),
-                 [&] { std::ranges::for_each(runs, edit); });
+        return action;
+    });
 }
 
 void MainWindow::RunStateChange(ActionType type)
@@ -217,20 +223,14 @@ void MainWindow::RunStateChange(ActionType type)
         codes -= font.EnabledCodes();
     else
         codes &= font.EnabledCodes();
-    const std::vector<CodeRun> runs = RunsOf(codes);
-    const bool isOne = runs.size() == 1 && runs.front().Size() == 1;
+    const bool isOne = codes.Next(codes.Next(0) + 1) == CodeSet::Count;
     const ActionType change = isOne ? type : enables ? ActionType::Enable : ActionType::Disable;
-    const auto edit = [&](const CodeRun& run) {
+    RunForEach(codes, LogMessage(change), [&](const CodeRun& run) {
         const auto action = std::make_shared<ActionCharState>(session_, change);
         action->Args().first = run.first;
         action->Args().last = run.last;
-        action->Run();
-    };
-    if (runs.size() == 1)
-        Guarded([&] { edit(runs.front()); });
-    else if (!runs.empty())
-        RunMacro(tr("Selection: %1").arg(LogMessage(change)),
-                 [&] { std::ranges::for_each(runs, edit); });
+        return action;
+    });
 }
 
 void MainWindow::DeleteSelection()

@@ -19,16 +19,6 @@ class TestManual : public QObject
         return QString::fromUtf8(Test::ReadAll(QStringLiteral(PROJECT_SOURCES "/docs/") + name));
     }
 
-    static QString Form(const CommandLineOption& option)
-    {
-        QStringList parts;
-        if (!option.longName.isEmpty())
-            parts.append(u'-' + option.longName);
-        for (const CommandLineParameter& parameter : option.parameters)
-            parts.append(parameter.placeholder);
-        return parts.join(u' ');
-    }
-
     static QStringList Keywords(const CommandLineOption& option)
     {
         QStringList keywords;
@@ -61,7 +51,7 @@ private Q_SLOTS:
         for (const CommandLineOption& option : CommandLineOptions()) {
             if (option.description.isEmpty())
                 continue;
-            const QString form = Form(option).toHtmlEscaped();
+            const QString form = option.Form().toHtmlEscaped();
             forms.append(form);
             const qsizetype entry = manual.indexOf(u"<dt><code>%1</code></dt>"_s.arg(form));
             QVERIFY2(entry >= 0, qPrintable(form));

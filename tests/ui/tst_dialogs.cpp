@@ -259,7 +259,7 @@ private Q_SLOTS:
         {
             FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
             dialog.show();
-            auto* const size = Labelled<QSpinBox>(dialog, u"Height:"_s);
+            auto* const size = dialog.findChild<QSpinBox*>();
             QVERIFY(size->hasFocus() || !dialog.isActiveWindow());
             size->setValue(23);
             dialog.findChild<FormatBox*>()->SetFormat(FontFormat::AA2);
@@ -342,7 +342,7 @@ private Q_SLOTS:
             styles->setCurrentItem(styles->topLevelItem(1));
             QCOMPARE(styles->currentItem()->text(1), u"700"_s);
             QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
-            Labelled<QSpinBox>(dialog, u"Height:"_s)->setValue(30);
+            dialog.findChild<QSpinBox*>()->setValue(30);
             auto* const scripts = Labelled<QComboBox>(dialog, u"Script:"_s);
             scripts->setCurrentText(u"Hiragana"_s);
             QCOMPARE(families->count(), 0);

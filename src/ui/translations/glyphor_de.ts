@@ -311,18 +311,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>Schni&amp;tte:</translation>
     </message>
     <message>
-        <source>px</source>
-        <translation>px</translation>
-    </message>
-    <message>
-        <source>pt</source>
-        <translation>pt</translation>
-    </message>
-    <message>
-        <source>Unit of the height</source>
-        <translation>Einheit der Höhe</translation>
-    </message>
-    <message>
         <source>&amp;Height:</source>
         <translation>&amp;Höhe:</translation>
     </message>
@@ -352,18 +340,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Font generation: %1</source>
         <translation>Schrift erzeugen: %1</translation>
-    </message>
-    <message>
-        <source>px</source>
-        <translation>px</translation>
-    </message>
-    <message>
-        <source>pt</source>
-        <translation>pt</translation>
-    </message>
-    <message>
-        <source>Unit of the height</source>
-        <translation>Einheit der Höhe</translation>
     </message>
     <message>
         <source>Preview</source>
@@ -396,6 +372,21 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>The quick brown fox 0123456789</source>
         <translation>Zwölf Boxkämpfer jagen 0123456789</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::FontSizeBox</name>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>pt</source>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>Unit of the height</source>
+        <translation>Einheit der Höhe</translation>
     </message>
 </context>
 <context>
