@@ -11,6 +11,7 @@
 #include "ui/main_window.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QStandardPaths>
 
@@ -21,14 +22,15 @@ using namespace Glyphor;
 
 namespace {
 
-std::unique_ptr<Font> MakeFont(int count, int size)
+// Every `step`th code has a character.
+std::unique_ptr<Font> MakeFont(int count, int size, int step = 1)
 {
     auto font = std::make_unique<Font>(FontFormat::AA4, EncodingType::Unicode);
     font->SetHeight(quint8(size));
     const auto extent = quint8(size);
     const CharMetrics metrics = {extent, extent, 0, 0, extent};
     std::vector<uchar> bytes(static_cast<std::size_t>(BitmapSize(metrics, font->Metrics())));
-    for (int code = 0; code < count; ++code) {
+    for (int code = 0; code < count; code += step) {
         for (std::size_t at = 0; at < bytes.size(); ++at)
             bytes[at] = static_cast<uchar>(std::size_t(code) * 31 + at * 7);
         font->AddChar(static_cast<quint16>(code), metrics, bytes);
@@ -69,6 +71,13 @@ void MeasureTable()
     const auto run = [&](ActionType type) { window.RunCommand(quint32(type)); };
     Measure("an edit of one character", [&] { run(ActionType::InsertColumnRight); });
     Measure("an edit of the font", [&] { run(ActionType::FontInsertRowTop); });
+    std::printf("A font of 8,192 characters with gaps, all selected\n");
+    session.ReplaceFont(MakeFont(0x4000, 16, 2), QStringLiteral("gaps.c"));
+    window.actionChanged(nullptr);
+    QKeyEvent selectAll(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
+    QCoreApplication::sendEvent(&table, &selectAll);
+    Measure("an edit of them", [&] { run(ActionType::ShiftLeft); });
+    Measure("undoing it", [&] { window.RunCommand(quint32(WindowCommand::Undo)); });
     SetCurrentInterface(nullptr);
 }
 

@@ -2,6 +2,8 @@
 
 #include <QAction>
 
+#include <utility>
+
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
@@ -41,6 +43,8 @@ UndoStack::UndoStack()
         connect(this, signal, this, &UndoStack::UpdateCommands);
     for (const auto signal : {&QUndoStack::canUndoChanged, &QUndoStack::canRedoChanged})
         connect(this, signal, this, &UndoStack::UpdateCommands);
+    connect(this, &QUndoStack::indexChanged, this,
+            [this] { hasUndone_ = hasUndone_ || canRedo(); });
 }
 
 // The base class still signals while it goes, when there are no commands left to update.
@@ -52,7 +56,9 @@ UndoStack::~UndoStack()
 void UndoStack::Push(const std::shared_ptr<Action>& action)
 {
     if (action->IsUndoable()) {
-        DropUndone();
+        // The whole history would be looked through for every one of many actions.
+        if (std::exchange(hasUndone_, false))
+            DropUndone();
         QUndoStack::push(new UndoAction(action));
     } else {
         action->Redo();

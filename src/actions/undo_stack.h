@@ -47,6 +47,7 @@ public:
 private:
     void UpdateCommands();
 
+    bool hasUndone_ = false; // actions that a new one drops
     QList<QPointer<QAction>> undoCommands_;
     QList<QPointer<QAction>> redoCommands_;
 };
