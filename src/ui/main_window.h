@@ -177,6 +177,7 @@ private:
     bool isStroking_ = false;
     bool strokeHasSteps_ = false;
     FontDatabaseThread* indexing_ = nullptr;
+    bool indexesAgain_ = false; // once the indexing under way has ended
     const void* shownFont_ = nullptr;
 };
 

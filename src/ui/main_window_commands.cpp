@@ -32,7 +32,7 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 
-#include <algorithm>
+#include <utility>
 
 namespace Glyphor {
 
@@ -306,8 +306,11 @@ void MainWindow::GoToCharacter()
 
 void MainWindow::IndexFonts()
 {
-    if (indexing_ != nullptr)
+    if (indexing_ != nullptr) { // with the directories that were set when it began
+        indexesAgain_ = true;
+        indexing_->requestInterruption();
         return;
+    }
     indexing_ = new FontDatabaseThread(this);
     connect(indexing_, &FontDatabaseThread::initFileCount, this, [this](int count) {
         progress_->BeginBackground(Translated(u"Indexing font files..."_s), count);
@@ -335,7 +338,10 @@ void MainWindow::OnDatabaseThreadFinished()
     indexing_->wait();
     indexing_ = nullptr;
     progress_->EndBackground();
-    Q_EMIT FontsIndexed();
+    if (std::exchange(indexesAgain_, false))
+        IndexFonts();
+    else
+        Q_EMIT FontsIndexed();
 }
 
 // The installed fonts are indexed when they are first asked for; the dialog fills then.

@@ -389,6 +389,7 @@ private Q_SLOTS:
               &settings.searchDirsRecursively, &settings.useIncludedBitmaps})
             option->setValue(true);
         settings.createLogFile.setValue(false);
+        settings.numeralSystem.setValue(1);
         settings.additionalFontDirs.setValue({});
     }
 };

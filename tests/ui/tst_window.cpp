@@ -6,8 +6,11 @@
 #include "support/test_main.h"
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
+#include "ui/font_generation_dialog.h"
+#include "ui/format_box.h"
 #include "ui/main_window.h"
 #include "ui/menu_bar.h"
+#include "ui/preferences_dialog.h"
 #include "ui/progress_area.h"
 #include "ui/text_preview.h"
 
@@ -20,6 +23,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -50,6 +54,31 @@ public:
     }
 
     QString text;
+
+private:
+    QTimer timer_;
+};
+
+// Has the next dialog of a kind answered.
+template <typename Dialog>
+class DialogAnswer
+{
+public:
+    explicit DialogAnswer(const std::function<void(Dialog&)>& answer)
+    {
+        timer_.setInterval(10);
+        QObject::connect(&timer_, &QTimer::timeout, [this, answer] {
+            auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr)
+                return;
+            timer_.stop();
+            wasAsked = true;
+            answer(*dialog);
+        });
+        timer_.start();
+    }
+
+    bool wasAsked = false;
 
 private:
     QTimer timer_;
@@ -353,6 +382,60 @@ private Q_SLOTS:
         QVERIFY(!window_->OpenFile(Path("bad.c")));
         QVERIFY(answer.text.startsWith(u"Error reading C file!: GUI_FONT structure"_s));
         QCOMPARE(session_->CurrentFont(), before);
+    }
+
+    void ScalableFontsAskHow()
+    {
+        const QString path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
+        {
+            const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) { dialog.reject(); });
+            QVERIFY(!window_->OpenFile(path));
+            QVERIFY(answer.wasAsked && session_->CurrentFont() == nullptr);
+        }
+        const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) {
+            dialog.template findChild<QSpinBox*>()->setValue(20);
+            dialog.accept();
+        });
+        QVERIFY(window_->OpenFile(path));
+        QVERIFY(answer.wasAsked && session_->CurrentFont()->FindChar('A') != nullptr);
+        // A file that is no font is told so without a question.
+        Test::WriteAll(Path("text.ttf"), "text");
+        BoxAnswer box(QMessageBox::Ok);
+        QVERIFY(!window_->OpenFile(Path("text.ttf")));
+        QVERIFY(box.text.startsWith(u"Font creation failed!"_s));
+    }
+
+    // A cut trailer has the format asked for; giving up is no failure.
+    void FormatsAreAskedFor()
+    {
+        FontFileSample(FontFormat::LegacyAA4, Path("old.sif"));
+        Test::WriteAll(Path("old.sif"), Test::ReadAll(Path("old.sif")).chopped(4));
+        {
+            const DialogAnswer<FormatDialog> answer([](auto& dialog) { dialog.reject(); });
+            QVERIFY(!window_->OpenFile(Path("old.sif")));
+        }
+        const DialogAnswer<FormatDialog> answer([](auto& dialog) {
+            dialog.template findChild<FormatBox*>()->SetFormat(FontFormat::LegacyAA4);
+            dialog.template findChild<EncodingBox*>()->SetEncoding(EncodingType::ShiftJis);
+            dialog.accept();
+        });
+        QVERIFY(window_->OpenFile(Path("old.sif")));
+        QCOMPARE(CurrentFont().Metrics().format, FontFormat::LegacyAA4);
+        QCOMPARE(CurrentFont().Metrics().encoding, EncodingType::ShiftJis);
+    }
+
+    void PreferencesTakeEffectAtOnce()
+    {
+        OpenSample();
+        QCOMPARE(window_->Table().RowLabel(4), u"0x0040"_s);
+        for (const auto& [index, label] : {std::pair(0, u"64"_s), std::pair(1, u"0x0040"_s)}) {
+            const DialogAnswer<PreferencesDialog> answer([index](auto& dialog) {
+                dialog.template findChild<QComboBox*>()->setCurrentIndex(index);
+                dialog.accept();
+            });
+            Trigger(62);
+            QCOMPARE(window_->Table().RowLabel(4), label);
+        }
     }
 
     void Closing_data()
