@@ -2,13 +2,16 @@
 
 #include "actions/session.h"
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/user_interface.h"
 #include "model/code_text.h"
 
 #include <QLatin1StringView>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace Glyphor {
 
@@ -22,43 +25,100 @@ struct LogMessageRow
     QLatin1StringView text;
 };
 
+constexpr QLatin1StringView Text(const char* text)
+{
+    return QLatin1StringView(text);
+}
+
 // In ascending order. Disabling a range and disabling everything read alike.
 constexpr std::array<LogMessageRow, 34> LogMessages = {{
-    {ActionType::CreateFont, "[Font]: Initial height of font: %1px."_L1},
-    {ActionType::OpenFont, "[Font]: Opened font file: %1"_L1},
-    {ActionType::MergeFont, "[Font]: Font merged with: %1"_L1},
-    {ActionType::InsertColumnRight, "Inserted a column at the right edge."_L1},
-    {ActionType::InsertColumnLeft, "Inserted a column at the left edge."_L1},
-    {ActionType::InsertRowTop, "Inserted a row at the top edge."_L1},
-    {ActionType::InsertRowBottom, "Inserted a row at the bottom edge."_L1},
-    {ActionType::ShiftRight, "Pixel data shifted to the right."_L1},
-    {ActionType::ShiftLeft, "Pixel data shifted to the left."_L1},
-    {ActionType::ShiftUp, "Pixel data shifted up."_L1},
-    {ActionType::ShiftDown, "Pixel data shifted down."_L1},
-    {ActionType::MoveRight, "Moved 1 pixel to the right."_L1},
-    {ActionType::MoveLeft, "Moved 1 pixel to the left."_L1},
-    {ActionType::MoveUp, "Moved 1 pixel up."_L1},
-    {ActionType::MoveDown, "Moved 1 pixel down."_L1},
-    {ActionType::IncreaseCursorDistance, "Increased cursor distance."_L1},
-    {ActionType::DecreaseCursorDistance, "Decreased cursor distance."_L1},
-    {ActionType::DeleteColumnRight, "Deleted a column from the right edge."_L1},
-    {ActionType::DeleteColumnLeft, "Deleted a column from the left edge."_L1},
-    {ActionType::DeleteRowTop, "Deleted a row from the top edge."_L1},
-    {ActionType::DeleteRowBottom, "Deleted a row from the bottom edge."_L1},
-    {ActionType::FontInsertRowTop, "[Font]: Inserted a row at the top of the font."_L1},
-    {ActionType::FontInsertRowBottom, "[Font]: Inserted a row at the bottom of the font."_L1},
-    {ActionType::FontDeleteRowTop, "[Font]: Deleted a row from the top of the font."_L1},
-    {ActionType::FontDeleteRowBottom, "[Font]: Deleted a row from the bottom of the font."_L1},
-    {ActionType::Enable, "Enabled."_L1},
-    {ActionType::Disable, "Disabled."_L1},
-    {ActionType::DisableAll, "Disabled."_L1},
+    {ActionType::CreateFont,
+     Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Initial height of font: %1px."))},
+    {ActionType::OpenFont, Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Opened font file: %1"))},
+    {ActionType::MergeFont, Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Font merged with: %1"))},
+    {ActionType::InsertColumnRight,
+     Text(QT_TRANSLATE_NOOP("Engine", "Inserted a column at the right edge."))},
+    {ActionType::InsertColumnLeft,
+     Text(QT_TRANSLATE_NOOP("Engine", "Inserted a column at the left edge."))},
+    {ActionType::InsertRowTop,
+     Text(QT_TRANSLATE_NOOP("Engine", "Inserted a row at the top edge."))},
+    {ActionType::InsertRowBottom,
+     Text(QT_TRANSLATE_NOOP("Engine", "Inserted a row at the bottom edge."))},
+    {ActionType::ShiftRight, Text(QT_TRANSLATE_NOOP("Engine", "Pixel data shifted to the right."))},
+    {ActionType::ShiftLeft, Text(QT_TRANSLATE_NOOP("Engine", "Pixel data shifted to the left."))},
+    {ActionType::ShiftUp, Text(QT_TRANSLATE_NOOP("Engine", "Pixel data shifted up."))},
+    {ActionType::ShiftDown, Text(QT_TRANSLATE_NOOP("Engine", "Pixel data shifted down."))},
+    {ActionType::MoveRight, Text(QT_TRANSLATE_NOOP("Engine", "Moved 1 pixel to the right."))},
+    {ActionType::MoveLeft, Text(QT_TRANSLATE_NOOP("Engine", "Moved 1 pixel to the left."))},
+    {ActionType::MoveUp, Text(QT_TRANSLATE_NOOP("Engine", "Moved 1 pixel up."))},
+    {ActionType::MoveDown, Text(QT_TRANSLATE_NOOP("Engine", "Moved 1 pixel down."))},
+    {ActionType::IncreaseCursorDistance,
+     Text(QT_TRANSLATE_NOOP("Engine", "Increased cursor distance."))},
+    {ActionType::DecreaseCursorDistance,
+     Text(QT_TRANSLATE_NOOP("Engine", "Decreased cursor distance."))},
+    {ActionType::DeleteColumnRight,
+     Text(QT_TRANSLATE_NOOP("Engine", "Deleted a column from the right edge."))},
+    {ActionType::DeleteColumnLeft,
+     Text(QT_TRANSLATE_NOOP("Engine", "Deleted a column from the left edge."))},
+    {ActionType::DeleteRowTop,
+     Text(QT_TRANSLATE_NOOP("Engine", "Deleted a row from the top edge."))},
+    {ActionType::DeleteRowBottom,
+     Text(QT_TRANSLATE_NOOP("Engine", "Deleted a row from the bottom edge."))},
+    {ActionType::FontInsertRowTop,
+     Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Inserted a row at the top of the font."))},
+    {ActionType::FontInsertRowBottom,
+     Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Inserted a row at the bottom of the font."))},
+    {ActionType::FontDeleteRowTop,
+     Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Deleted a row from the top of the font."))},
+    {ActionType::FontDeleteRowBottom,
+     Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Deleted a row from the bottom of the font."))},
+    {ActionType::Enable, Text(QT_TRANSLATE_NOOP("Engine", "Enabled."))},
+    {ActionType::Disable, Text(QT_TRANSLATE_NOOP("Engine", "Disabled."))},
+    {ActionType::DisableAll, Text(QT_TRANSLATE_NOOP("Engine", "Disabled."))},
     {ActionType::Toggle, "%1."_L1},
-    {ActionType::ReadPattern, "[Font]: Read pattern file: %1."_L1},
-    {ActionType::IncreasePixelIndex, "Increased pixel index (%2,%3)."_L1},
-    {ActionType::DecreasePixelIndex, "Decreased pixel index (%2,%3)."_L1},
-    {ActionType::InvertPixelIndex, "Inverted pixel index (%2,%3)."_L1},
-    {ActionType::SetPixelIndex0, "Set pixel index (%2,%3) to %4."_L1},
+    {ActionType::ReadPattern, Text(QT_TRANSLATE_NOOP("Engine", "[Font]: Read pattern file: %1."))},
+    {ActionType::IncreasePixelIndex,
+     Text(QT_TRANSLATE_NOOP("Engine", "Increased pixel index (%2,%3)."))},
+    {ActionType::DecreasePixelIndex,
+     Text(QT_TRANSLATE_NOOP("Engine", "Decreased pixel index (%2,%3)."))},
+    {ActionType::InvertPixelIndex,
+     Text(QT_TRANSLATE_NOOP("Engine", "Inverted pixel index (%2,%3)."))},
+    {ActionType::SetPixelIndex0,
+     Text(QT_TRANSLATE_NOOP("Engine", "Set pixel index (%2,%3) to %4."))},
 }};
+
+// Lines of actions that build them without the table.
+constexpr std::array OtherMessages = {QT_TRANSLATE_NOOP("Engine", "Deleted."),
+                                      QT_TRANSLATE_NOOP("Engine", "Saved font file: %1"),
+                                      QT_TRANSLATE_NOOP("Engine", "Saved kerning file: %1")};
+
+constexpr QLatin1StringView PrefixEnd = "]: "_L1;
+
+// A message as it is written, and what it is recognised by once it was filled.
+struct LogTemplate
+{
+    const char* text;
+    QRegularExpression pattern;
+};
+
+std::vector<LogTemplate> LogTemplates()
+{
+    std::vector<LogTemplate> templates;
+    const auto add = [&templates](const char* text) {
+        QString pattern =
+            QRegularExpression::escape(QString::fromLatin1(text).section(PrefixEnd, -1));
+        pattern.replace(QRegularExpression(u"\\\\%\\d"_s), u"(.*)"_s);
+        templates.push_back(
+            {text, QRegularExpression(QRegularExpression::anchoredPattern(pattern))});
+    };
+    for (const LogMessageRow& row : LogMessages) {
+        if (row.type != ActionType::Toggle) // which reads like the two before it
+            add(row.text.data());
+    }
+    for (const char* const text : OtherMessages)
+        add(text);
+    return templates;
+}
 
 } // namespace
 
@@ -66,6 +126,23 @@ QString LogMessage(ActionType type)
 {
     const auto* const row = std::ranges::lower_bound(LogMessages, type, {}, &LogMessageRow::type);
     return row != LogMessages.end() && row->type == type ? QString(row->text) : QString();
+}
+
+QString TranslatedLog(const QString& line)
+{
+    static const std::vector<LogTemplate> templates = LogTemplates();
+    const qsizetype end = line.indexOf(PrefixEnd);
+    const qsizetype start = line.startsWith(u'[') && end >= 0 ? end + PrefixEnd.size() : 0;
+    for (const LogTemplate& known : templates) {
+        const QRegularExpressionMatch match = known.pattern.match(line.mid(start));
+        if (!match.hasMatch())
+            continue;
+        QString translated = Engine::tr(known.text).section(PrefixEnd, -1);
+        for (int index = 1; index <= match.lastCapturedIndex(); ++index)
+            translated = translated.arg(match.captured(index));
+        return line.left(start) + translated;
+    }
+    return line;
 }
 
 QString RangePrefix(quint16 first, quint16 last)

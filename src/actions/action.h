@@ -97,6 +97,9 @@ private:
 // What log lines of character actions begin with: one code, or a range of codes.
 [[nodiscard]] QString RangePrefix(quint16 first, quint16 last);
 
+// A line of the log in the language of the window.
+[[nodiscard]] QString TranslatedLog(const QString& line);
+
 // The texts of the log. %1 is a range prefix or a file path, %2 and %3 a pixel, %4 an index.
 [[nodiscard]] QString LogMessage(ActionType type);
 

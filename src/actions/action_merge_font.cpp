@@ -2,6 +2,7 @@
 
 #include "actions/font_files.h"
 #include "actions/session.h"
+#include "app/engine_texts.h"
 #include "app/user_interface.h"
 
 namespace Glyphor {
@@ -12,7 +13,7 @@ namespace {
 
 const QString& MergeNotPossible()
 {
-    static const QString title = u"Font merging not possible!"_s;
+    static const QString title = Engine::tr("Font merging not possible!");
     return title;
 }
 
@@ -36,21 +37,22 @@ void ActionMergeFont::CheckFonts(const Font& font, const Font& other) const
     const FontMetrics& own = font.Metrics();
     const FontMetrics& theirs = other.Metrics();
     if (own.format != theirs.format)
-        ThrowActionError(
-            MergeNotPossible(),
-            u"The two fonts do not have the same format!\nThe current font with the format \"%1\" "
-            "cannot be merged with the other font of the format \"%2\"."_s.arg(
-                FormatDisplayName(own.format), FormatDisplayName(theirs.format)));
-    if (own.encoding != theirs.encoding)
         ThrowActionError(MergeNotPossible(),
-                         u"One of the two fonts is encoded in Unicode and the other one in Shift "
-                         "JIS: a code means different characters in them."_s);
-    if (IsLegacyFormat(own.format) && own.height != theirs.height)
+                         Engine::tr("The two fonts do not have the same format!\nThe current font "
+                                    "with the format \"%1\" "
+                                    "cannot be merged with the other font of the format \"%2\".")
+                             .arg(FormatDisplayName(own.format), FormatDisplayName(theirs.format)));
+    if (own.encoding != theirs.encoding)
         ThrowActionError(
             MergeNotPossible(),
-            u"All characters of a font in a legacy format have the font's height: the current font "
-            "is %1 pixels high and the other one %2."_s.arg(QString::number(own.height),
-                                                            QString::number(theirs.height)));
+            Engine::tr("One of the two fonts is encoded in Unicode and the other one in Shift "
+                       "JIS: a code means different characters in them."));
+    if (IsLegacyFormat(own.format) && own.height != theirs.height)
+        ThrowActionError(MergeNotPossible(),
+                         Engine::tr("All characters of a font in a legacy format have the font's "
+                                    "height: the current font "
+                                    "is %1 pixels high and the other one %2.")
+                             .arg(QString::number(own.height), QString::number(theirs.height)));
 }
 
 bool ActionMergeFont::Execute()
@@ -58,7 +60,7 @@ bool ActionMergeFont::Execute()
     SetRepeat(1);
     const Font* const font = CurrentFont();
     if (font == nullptr)
-        ThrowActionError(MergeNotPossible(), u"There is no font to merge with."_s);
+        ThrowActionError(MergeNotPossible(), Engine::tr("There is no font to merge with."));
     const std::unique_ptr<Font> other = ReadFont(Args().source);
     CheckFonts(*font, *other);
 

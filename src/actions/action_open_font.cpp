@@ -3,6 +3,7 @@
 #include "actions/font_files.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/user_interface.h"
 #include "render/font_file_scalable.h"
 
@@ -14,7 +15,7 @@ namespace {
 
 const QString& CreationFailed()
 {
-    static const QString title = u"Font creation failed!"_s;
+    static const QString title = Engine::tr("Font creation failed!");
     return title;
 }
 
@@ -22,19 +23,19 @@ void WarnOfPoints(const FontSize& size)
 {
     if (!size.inPoints || size.PixelHeight() != 0)
         return;
-    CurrentInterface().warning(
-        u"Height in points"_s,
-        u"A height in points needs the resolution of a desktop, which a run without a window does "
-        "not have. Give the height in pixels (px)."_s);
+    CurrentInterface().warning(Engine::tr("Height in points"),
+                               Engine::tr("A height in points needs the resolution of a desktop, "
+                                          "which a run without a window does "
+                                          "not have. Give the height in pixels (px)."));
 }
 
 QString MissingFace(const QString& path, int index, int faceCount)
 {
-    const QString faces = faceCount == 1
-                              ? u"its only face has the index 0"_s
-                              : u"the indices of its faces are 0 to %1"_s.arg(faceCount - 1);
-    return u"The file %1 has no face with the index %2: %3."_s.arg(path, QString::number(index),
-                                                                   faces);
+    const QString faces =
+        faceCount == 1 ? Engine::tr("its only face has the index 0")
+                       : Engine::tr("the indices of its faces are 0 to %1").arg(faceCount - 1);
+    return Engine::tr("The file %1 has no face with the index %2: %3.")
+        .arg(path, QString::number(index), faces);
 }
 
 [[noreturn]] void Fail(const QString& title, const QString& text)
@@ -45,8 +46,8 @@ QString MissingFace(const QString& path, int index, int faceCount)
 void CheckCombination(FontFormat format, EncodingType encoding)
 {
     if (!IsValidCombination(format, encoding))
-        Fail(u"Invalid combination of encoding and font format!"_s,
-             u"SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."_s);
+        Fail(Engine::tr("Invalid combination of encoding and font format!"),
+             Engine::tr("SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."));
 }
 
 RenderOptions OptionsOf(const ActionOpenFontArgs& args)
@@ -69,7 +70,7 @@ std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
         Fail(CreationFailed(), MissingFace(args.path, options.faceIndex, faceCount));
     if (!file->OpenFault().isEmpty())
         Fail(CreationFailed(),
-             u"The font file %1 can't be used: %2"_s.arg(args.path, file->OpenFault()));
+             Engine::tr("The font file %1 can't be used: %2").arg(args.path, file->OpenFault()));
     WarnOfPoints(options.size);
     file->SetCharacterFilter(args.selection);
     return file->Read();
@@ -80,20 +81,22 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
 {
     auto font = MakeInputFile(args.path, {args.format, args.encoding})->Read();
     if (font == nullptr)
-        Fail(u"Error opening file!"_s,
-             u"The format of the font in %1 was not told, so it was not opened."_s.arg(args.path));
+        Fail(Engine::tr("Error opening file!"),
+             Engine::tr("The format of the font in %1 was not told, so it was not opened.")
+                 .arg(args.path));
     const FontMetrics& metrics = font->Metrics();
     CheckCombination(metrics.format, metrics.encoding);
     if (args.format && *args.format != metrics.format)
         CurrentInterface().warning(
-            u"Font format"_s,
-            u"The file %1 has the format \"%2\"; the format \"%3\" was not used."_s.arg(
-                args.path, FormatDisplayName(metrics.format), FormatDisplayName(*args.format)));
+            Engine::tr("Font format"),
+            Engine::tr("The file %1 has the format \"%2\"; the format \"%3\" was not used.")
+                .arg(args.path, FormatDisplayName(metrics.format),
+                     FormatDisplayName(*args.format)));
     if (args.encoding && *args.encoding != metrics.encoding)
         CurrentInterface().warning(
-            u"Encoding"_s,
-            u"The file %1 has an encoding of its own; the one given was not used."_s.arg(
-                args.path));
+            Engine::tr("Encoding"),
+            Engine::tr("The file %1 has an encoding of its own; the one given was not used.")
+                .arg(args.path));
     if (args.selection) {
         CodeSet enabled = font->EnabledCodes();
         enabled &= *args.selection;
@@ -112,7 +115,7 @@ std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
                          args.encoding.value_or(EncodingType::Unicode));
     auto font = IsScalable(CheckInputFile(args.path)) ? Render(args) : ReadFile(args);
     if (font->Metrics().height == 0)
-        Fail(CreationFailed(), u"Font has invalid metrics."_s);
+        Fail(CreationFailed(), Engine::tr("Font has invalid metrics."));
     return font;
 }
 

@@ -3,6 +3,7 @@
 #include "actions/font_files.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/log_file.h"
 #include "app/settings.h"
 #include "app/user_interface.h"
@@ -17,11 +18,11 @@ bool ActionSaveFile::Execute()
     const Font* const font = CurrentSession().CurrentFont();
     const bool isXbf = FileTypeOf(Args().path) == FileType::Xbf;
     if (isXbf && font != nullptr && IsLegacyFormat(font->Metrics().format))
-        ThrowActionError(u"Invalid file format!"_s,
-                         u"Legacy font formats cannot be saved in the XBF format."_s);
+        ThrowActionError(Engine::tr("Invalid file format!"),
+                         Engine::tr("Legacy font formats cannot be saved in the XBF format."));
     if (font == nullptr || !font->HasEnabledChars())
-        ThrowActionError(u"Font is empty!"_s,
-                         u"The font has no enabled characters that could be saved."_s);
+        ThrowActionError(Engine::tr("Font is empty!"),
+                         Engine::tr("The font has no enabled characters that could be saved."));
     const QStringList actionLog = CurrentSession().Stack().LogLines();
     if (IsKerning()) {
         SaveKerning(*font, actionLog);
@@ -44,9 +45,10 @@ void ActionSaveFile::SaveKerning(const Font& font, const QStringList& actionLog)
         ThrowUnsupportedFormat();
     const std::vector<KerningEntry> pairs = EnabledKerning(font);
     if (pairs.empty())
-        ThrowActionError(u"No kerning data!"_s,
-                         u"The enabled characters don't have any kerning data that could be "
-                         "saved to a file."_s);
+        ThrowActionError(
+            Engine::tr("No kerning data!"),
+            Engine::tr("The enabled characters don't have any kerning data that could be "
+                       "saved to a file."));
     file->Write(pairs, font);
 }
 

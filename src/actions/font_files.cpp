@@ -1,6 +1,7 @@
 #include "actions/font_files.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/settings.h"
 #include "files/font_file_c.h"
 #include "files/font_file_sif.h"
@@ -17,7 +18,7 @@ namespace {
 
 [[noreturn]] void FailToOpen(const QString& text)
 {
-    throw CriticalException(u"Error opening file!"_s, text);
+    throw CriticalException(Engine::tr("Error opening file!"), text);
 }
 
 } // namespace
@@ -35,19 +36,19 @@ FileType CheckInputFile(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        FailToOpen(u"Given file does not exist!"_s);
+        FailToOpen(Engine::tr("Given file does not exist!"));
     const auto type = FileTypeOf(path);
     if (!type)
         ThrowUnsupportedFormat();
     if (info.isDir())
-        FailToOpen(u"The file %1 is a directory."_s.arg(path));
+        FailToOpen(Engine::tr("The file %1 is a directory.").arg(path));
     if (!info.isFile())
-        FailToOpen(u"The file %1 is not an ordinary file."_s.arg(path));
+        FailToOpen(Engine::tr("The file %1 is not an ordinary file.").arg(path));
     if (info.size() == 0)
-        FailToOpen(u"The file %1 is empty."_s.arg(path));
+        FailToOpen(Engine::tr("The file %1 is empty.").arg(path));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        FailToOpen(u"The file %1 could not be read: %2"_s.arg(path, file.errorString()));
+        FailToOpen(Engine::tr("The file %1 could not be read: %2").arg(path, file.errorString()));
     return *type;
 }
 

@@ -1,6 +1,7 @@
 #include "actions/pattern_file.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/user_interface.h"
 
 #include <QtEndian>
@@ -27,23 +28,23 @@ CodeSet PatternFile::Read()
     const QByteArray bytes = isOpen ? readAll() : QByteArray();
     if (!isOpen || error() != QFileDevice::NoError)
         throw CriticalException(
-            u"Error opening file!"_s,
-            u"The pattern file %1 could not be read: %2"_s.arg(fileName(), errorString()));
+            Engine::tr("Error opening file!"),
+            Engine::tr("The pattern file %1 could not be read: %2").arg(fileName(), errorString()));
     close();
     const auto unit = [&bytes](qsizetype offset) {
         return qFromLittleEndian<quint16>(bytes.constData() + offset);
     };
     if (bytes.size() < 2 || unit(0) != ByteOrderMark)
-        throw CriticalException(u"Wrong encoding in pattern file!"_s,
-                                u"UTF-16 LE byte order mark was not found."_s);
+        throw CriticalException(Engine::tr("Wrong encoding in pattern file!"),
+                                Engine::tr("UTF-16 LE byte order mark was not found."));
     CodeSet codes;
     for (qsizetype offset = 2; offset + 2 <= bytes.size(); offset += 2)
         codes.Set(unit(offset), true);
     if (bytes.size() % 2 != 0)
         CurrentInterface().warning(
-            u"Pattern file"_s,
-            u"The pattern file %1 ends in the middle of a character, which was left out."_s.arg(
-                fileName()));
+            Engine::tr("Pattern file"),
+            Engine::tr("The pattern file %1 ends in the middle of a character, which was left out.")
+                .arg(fileName()));
     return codes;
 }
 

@@ -10,10 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString StatusTip(const QString& verb, const QString& lastAction)
+QString StatusTip(const QString& tip, const QString& lastAction)
 {
-    const QString tip = UndoStack::tr("%1 last action").arg(verb);
-    return lastAction.isEmpty() ? tip : tip + u": %1"_s.arg(lastAction);
+    return lastAction.isEmpty() ? tip : tip + u": %1"_s.arg(TranslatedLog(lastAction));
 }
 
 } // namespace
@@ -80,7 +79,7 @@ void UndoStack::AddUndoCommand(QAction* command)
         return;
     command->setEnabled(canUndo());
     if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(tr("Undo"), undoText()));
+        command->setStatusTip(StatusTip(tr("Undo last action"), undoText()));
 }
 
 void UndoStack::AddRedoCommand(QAction* command)
@@ -90,7 +89,7 @@ void UndoStack::AddRedoCommand(QAction* command)
         return;
     command->setEnabled(canRedo());
     if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(tr("Redo"), redoText()));
+        command->setStatusTip(StatusTip(tr("Redo last action"), redoText()));
 }
 
 void UndoStack::UpdateCommands()
@@ -104,8 +103,8 @@ void UndoStack::UpdateCommands()
             command->setStatusTip(tip);
         }
     };
-    update(undoCommands_, canUndo(), StatusTip(tr("Undo"), undoText()));
-    update(redoCommands_, canRedo(), StatusTip(tr("Redo"), redoText()));
+    update(undoCommands_, canUndo(), StatusTip(tr("Undo last action"), undoText()));
+    update(redoCommands_, canRedo(), StatusTip(tr("Redo last action"), redoText()));
 }
 
 } // namespace Glyphor

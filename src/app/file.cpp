@@ -1,4 +1,5 @@
 #include "app/file.h"
+#include "app/engine_texts.h"
 
 #include "app/critical_exception.h"
 
@@ -31,13 +32,14 @@ QByteArray File::Contents()
 {
     constexpr qint64 limit = 0x7FFFFFFF;
     const auto fail = [this](const QString& reason) {
-        throw CriticalException(u"Error opening file!"_s,
-                                u"The file %1 could not be read: %2"_s.arg(fileName(), reason));
+        throw CriticalException(
+            Engine::tr("Error opening file!"),
+            Engine::tr("The file %1 could not be read: %2").arg(fileName(), reason));
     };
     if (!open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         fail(errorString());
     if (size() > limit)
-        fail(u"It is too large."_s);
+        fail(Engine::tr("It is too large."));
     QByteArray contents(size(), Qt::Uninitialized);
     qint64 count = 0;
     for (qint64 part = 1; part > 0 && count < contents.size(); count += part)
@@ -62,7 +64,7 @@ void File::Replace(const std::function<void(const Sink&)>& compose)
     constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     const QFileInfo target(fileName());
     if (target.isDir())
-        Fail(u"It is a directory."_s);
+        Fail(Engine::tr("It is a directory."));
     if (target.exists() && !target.isFile()) {
         if (!open(mode))
             Fail(errorString());
@@ -85,8 +87,9 @@ void File::Replace(const QByteArray& contents)
 
 void File::Fail(const QString& reason) const
 {
-    throw CriticalException(u"Error saving file!"_s,
-                            u"The file %1 could not be written: %2"_s.arg(fileName(), reason));
+    throw CriticalException(
+        Engine::tr("Error saving file!"),
+        Engine::tr("The file %1 could not be written: %2").arg(fileName(), reason));
 }
 
 } // namespace Glyphor

@@ -149,7 +149,7 @@ void CommandLine::runGuarded(int argc, const char* const* argv, Session& session
         } catch (const std::bad_alloc&) {
             fail(CriticalException::DefaultTitle(), u"There is not enough memory."_s);
         } catch (const WorkStopped&) {
-            // The window told so.
+            // The user knows; the options that are left do not run.
         }
     } catch (const CriticalException& error) { // of the error file
         CurrentInterface().critical(error.Title(), error.Text());

@@ -1,6 +1,7 @@
 #include "cli/installed_fonts.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/progress.h"
 #include "render/font_database.h"
 
@@ -25,7 +26,7 @@ std::shared_ptr<const FontDatabase> BuiltDatabase()
     FontDatabaseThread thread;
     std::unique_ptr<Progress> progress;
     QObject::connect(&thread, &FontDatabaseThread::initFileCount, &loop, [&progress](int count) {
-        progress = std::make_unique<Progress>(u"Indexing font files..."_s, count);
+        progress = std::make_unique<Progress>(Engine::tr("Indexing font files..."), count);
     });
     bool isStopped = false;
     QObject::connect(&thread, &FontDatabaseThread::fileDone, &loop, [&](int done) {
@@ -99,16 +100,17 @@ InstalledFont FindInstalledFont(const QString& family, const QString& style)
 
     QString hint;
     if (found != nullptr) {
-        hint = u"Its styles are: %1"_s.arg(StylesOf(*found));
+        hint = Engine::tr("Its styles are: %1").arg(StylesOf(*found));
     } else {
         QStringList families;
         for (const auto& other : database->Families())
             families.append(Printable(other->Name()));
-        hint = families.isEmpty() ? u"There are no fonts in the font directories."_s
-                                  : u"Families with a similar name: %1"_s.arg(
-                                        Nearest(families, family).join(u", "_s));
+        hint = families.isEmpty() ? Engine::tr("There are no fonts in the font directories.")
+                                  : Engine::tr("Families with a similar name: %1")
+                                        .arg(Nearest(families, family).join(u", "_s));
     }
-    throw CriticalException(u"Font %1 %2 could not be found!"_s.arg(family, style) + u'\n' + hint);
+    throw CriticalException(Engine::tr("Font %1 %2 could not be found!").arg(family, style) +
+                            u'\n' + hint);
 }
 
 QString InstalledFontTable()

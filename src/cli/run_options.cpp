@@ -2,6 +2,7 @@
 
 #include "actions/pattern_file.h"
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/user_interface.h"
 #include "files/file_types.h"
 #include "model/code_text.h"
@@ -27,9 +28,9 @@ void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
         return;
     const int count = occurrence.Get<int>(parameter);
     if (count < 1 || count > MaxCount)
-        throw CriticalException(u"The %1 of -%2 has to be from 1 to %3."_s.arg(
-            occurrence.option->parameters[parameter].placeholder, occurrence.option->longName,
-            QString::number(MaxCount)));
+        throw CriticalException(Engine::tr("The %1 of -%2 has to be from 1 to %3.")
+                                    .arg(occurrence.option->parameters[parameter].placeholder,
+                                         occurrence.option->longName, QString::number(MaxCount)));
 }
 
 void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
@@ -89,11 +90,14 @@ FontSize ParseHeight(const QString& text)
     bool isNumber = false;
     const int height = number.toInt(&isNumber);
     if (!onlyDigits || !isNumber || height == 0 || height > MaxHeight)
-        throw CriticalException(u"The font height %1 is not usable: -height takes a whole number "
-                                u"from 1 to %2, followed "
-                                "by px or pt (e.g. 24px)."_s.arg(text, QString::number(MaxHeight)));
+        throw CriticalException(
+            Engine::tr("The font height %1 is not usable: -height takes a whole number "
+                       "from 1 to %2, followed "
+                       "by px or pt (e.g. 24px).")
+                .arg(text, QString::number(MaxHeight)));
     if (!inPoints && !inPixels)
-        CurrentInterface().warning(u"Height"_s, u"Invalid measuring format, assuming px."_s);
+        CurrentInterface().warning(Engine::tr("Height"),
+                                   Engine::tr("Invalid measuring format, assuming px."));
     return {height, inPoints};
 }
 
@@ -110,20 +114,20 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool
         createsByName = createsByName || occurrence.Id() == OptionId::Create;
     }
     if (hasFace && createsByName)
-        CurrentInterface().warning(u"Face"_s,
-                                   u"-face is not used with -create: the style tells the face."_s);
+        CurrentInterface().warning(
+            u"Face"_s, Engine::tr("-face is not used with -create: the style tells the face."));
     if (needsHeight && !canAsk && options.open.size.value == 0)
         throw CriticalException(
-            u"A scalable font needs a height: give -height (e.g. -height 24px)."_s);
+            Engine::tr("A scalable font needs a height: give -height (e.g. -height 24px)."));
     return options;
 }
 
 CharRange Ordered(CharRange range)
 {
     if (range.first > range.last) {
-        CurrentInterface().warning(u"Range"_s,
-                                   u"The range 0x%1-0x%2 is reversed, assuming 0x%2-0x%1."_s.arg(
-                                       Hex4Text(range.first), Hex4Text(range.last)));
+        CurrentInterface().warning(
+            u"Range"_s, Engine::tr("The range 0x%1-0x%2 is reversed, assuming 0x%2-0x%1.")
+                            .arg(Hex4Text(range.first), Hex4Text(range.last)));
         std::swap(range.first, range.last);
     }
     return range;

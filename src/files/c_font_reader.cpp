@@ -1,5 +1,6 @@
 #include "files/c_font_reader.h"
 
+#include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
 #include "model/code_text.h"
@@ -142,7 +143,7 @@ std::unique_ptr<Font> CFontReader::Read()
 QString CFontReader::ReadName()
 {
     if (!scanner_.FindText(" GUI_FONT "))
-        scanner_.FailAtEnd(u"GUI_FONT structure not found!"_s);
+        scanner_.FailAtEnd(Engine::tr("GUI_FONT structure not found!"));
     std::string_view identifier;
     for (;;) {
         scanner_.SkipBlanks();
@@ -152,7 +153,7 @@ QString CFontReader::ReadName()
         identifier = word;
     }
     if (identifier.empty())
-        scanner_.Fail(u"Array identifier of GUI_FONT structure expected but not found!"_s);
+        scanner_.Fail(Engine::tr("Array identifier of GUI_FONT structure expected but not found!"));
     const QString name = ToText(identifier);
     constexpr auto prefix = "GUI_Font"_L1;
     return name.startsWith(prefix, Qt::CaseInsensitive) ? name.mid(prefix.size()) : name;
@@ -163,20 +164,20 @@ void CFontReader::ReadType(FontFormat& format, EncodingType& encoding)
     constexpr std::string_view prefix = "GUI_FONTTYPE";
     do {
         if (!scanner_.FindText(prefix))
-            scanner_.FailAtEnd(u"GUI_FONTTYPE not found!"_s);
+            scanner_.FailAtEnd(Engine::tr("GUI_FONTTYPE not found!"));
     } while (IsIdentifierCharacter(scanner_.Text()[scanner_.Position() - prefix.size() - 1]));
     const std::size_t start = scanner_.Position() - prefix.size();
     scanner_.SetPosition(start);
     FormatFromFontTypeName(ToText(scanner_.Identifier()), format, encoding);
     if (format == FontFormat::Unknown)
-        scanner_.FailAt(start, u"Invalid font format!"_s);
+        scanner_.FailAt(start, Engine::tr("Invalid font format!"));
 }
 
 quint8 CFontReader::ReadMetric()
 {
     const int value = scanner_.Integer();
     if (value < 0 || value > CharInfo::MaxSize)
-        scanner_.Fail(u"A font metric of %1 is not possible: 0 to 255 are."_s.arg(value));
+        scanner_.Fail(Engine::tr("A font metric of %1 is not possible: 0 to 255 are.").arg(value));
     return static_cast<quint8>(value);
 }
 
@@ -206,24 +207,25 @@ void CFontReader::FindTable()
             return;
         }
     }
-    scanner_.FailAtEnd(ToText(tableType_) + u" structure not found!"_s);
+    scanner_.FailAtEnd(ToText(tableType_) + Engine::tr(" structure not found!"));
 }
 
 void CFontReader::ReadTable(const FontMetrics& font)
 {
     FindTable();
-    Progress progress(u"Reading character table..."_s, static_cast<int>(scanner_.Text().size()));
+    Progress progress(Engine::tr("Reading character table..."),
+                      static_cast<int>(scanner_.Text().size()));
     for (;;) {
         while (IsWhitespace(scanner_.Current()) || scanner_.Current() == ',')
             scanner_.SetPosition(scanner_.Position() + 1);
         if (scanner_.Current() == '}')
             return;
         if (scanner_.Current() != '{' || entries_.size() == CodeSet::Count)
-            scanner_.Fail(ToText(tableType_) + u" entry not found!"_s);
+            scanner_.Fail(ToText(tableType_) + Engine::tr(" entry not found!"));
         scanner_.SetPosition(scanner_.Position() + 1);
         const std::string_view entry = scanner_.Until('}', "\r\n{");
         if (entry.data() == nullptr)
-            scanner_.Fail(ToText(tableType_) + u" entry did not end in the same line!"_s);
+            scanner_.Fail(ToText(tableType_) + Engine::tr(" entry did not end in the same line!"));
         ReadEntry(entry, font);
         progress.SetValue(static_cast<int>(scanner_.Position()));
     }
@@ -232,7 +234,7 @@ void CFontReader::ReadTable(const FontMetrics& font)
 int CFontReader::Field(std::string_view element) const
 {
     if (element.empty())
-        scanner_.Fail(u"Error parsing integer!"_s);
+        scanner_.Fail(Engine::tr("Error parsing integer!"));
     return scanner_.Number(element);
 }
 
@@ -242,8 +244,8 @@ void CFontReader::ReadEntry(std::string_view text, const FontMetrics& font)
     const bool isLegacy = IsLegacyFormat(font.format);
     if (count != (isLegacy ? 4 : 6))
         scanner_.FailAt(scanner_.PositionOf(text),
-                        u"Invalid number of elements (%1) found in structure %2!"_s.arg(
-                            QString::number(count), ToText(tableType_)));
+                        Engine::tr("Invalid number of elements (%1) found in structure %2!")
+                            .arg(QString::number(count), ToText(tableType_)));
     Entry entry;
     entry.metrics.width = Field(elements[0]);
     entry.arrayName = LastIdentifier(elements[count - 1]);
@@ -258,10 +260,10 @@ void CFontReader::ReadEntry(std::string_view text, const FontMetrics& font)
     }
     if (!entry.metrics.FitFields())
         scanner_.FailAt(scanner_.PositionOf(text),
-                        u"No character can have such a size or offset."_s);
+                        Engine::tr("No character can have such a size or offset."));
     if (isLegacy && Field(elements[2]) != (font.bitsPerPixel * entry.metrics.width + 7) / 8)
         scanner_.FailAt(scanner_.PositionOf(text),
-                        u"The bytes per line are not what the width needs."_s);
+                        Engine::tr("The bytes per line are not what the width needs."));
     entries_.push_back(entry);
 }
 
@@ -287,8 +289,8 @@ void CFontReader::ReadBlock()
     scanner_.SetPosition(scanner_.Position() + 1);
     const auto [elements, count] = SplitElements(scanner_.Until('}', "{"));
     if (count < 4)
-        scanner_.FailAt(start, u"Invalid number of elements (%1) found in structure %2!"_s.arg(
-                                   QString::number(count), ToText(blockType_)));
+        scanner_.FailAt(start, Engine::tr("Invalid number of elements (%1) found in structure %2!")
+                                   .arg(QString::number(count), ToText(blockType_)));
     const std::string_view address = elements[2];
     const std::size_t mark = std::min(address.find_first_of("[+"), address.size());
     // A file may hold more fonts than the first.
@@ -308,11 +310,11 @@ void CFontReader::AssignBlock(std::size_t at, int first, int last, int index)
     const auto size = static_cast<int>(entries_.size());
     if (first < 0 || last < first || last >= CodeSet::Count || index < 0 || index >= size ||
         last - first >= size - index)
-        scanner_.FailAt(at, u"The property block points outside the character table."_s);
+        scanner_.FailAt(at, Engine::tr("The property block points outside the character table."));
     for (int code = first; code <= last; ++code) {
         Entry& entry = entries_[static_cast<std::size_t>(index + code - first)];
         if (entry.code >= 0 || codes_.Test(static_cast<quint16>(code)))
-            scanner_.FailAt(at, u"The property block has characters of another block."_s);
+            scanner_.FailAt(at, Engine::tr("The property block has characters of another block."));
         entry.code = code;
         codes_.Set(static_cast<quint16>(code), true);
     }
@@ -331,7 +333,7 @@ void CFontReader::CheckCodes()
         if (entry.code < 0) {
             if (named < 0 || codes_.Test(static_cast<quint16>(named)))
                 scanner_.FailAt(scanner_.PositionOf(entry.arrayName),
-                                u"No property block tells the code of the character."_s);
+                                Engine::tr("No property block tells the code of the character."));
             entry.code = named;
             codes_.Set(static_cast<quint16>(named), true);
         }
@@ -341,10 +343,10 @@ void CFontReader::CheckCodes()
     }
     if (differences > 0)
         CurrentInterface().warning(
-            u"Codes of characters"_s,
-            u"The property blocks and the array names do not agree on the codes of %1 "
-            "characters (%2). Codes were taken from the blocks where there are any."_s.arg(
-                QString::number(differences), example));
+            Engine::tr("Codes of characters"),
+            Engine::tr("The property blocks and the array names do not agree on the codes of %1 "
+                       "characters (%2). Codes were taken from the blocks where there are any.")
+                .arg(QString::number(differences), example));
 }
 
 // The declaration that the brace of a value ends; empty where something else has the brace. Only as
@@ -413,7 +415,7 @@ void CFontReader::ReadBytes(std::string_view values, int bitsPerPixel, std::size
             strangeBytes_ += IsPattern(element) ? 0 : 1;
         }
         if (value < 0 || value > 0xFF)
-            scanner_.FailAt(scanner_.PositionOf(element), u"Error parsing integer!"_s);
+            scanner_.FailAt(scanner_.PositionOf(element), Engine::tr("Error parsing integer!"));
         if (byteCount_ < size)
             bytes_[byteCount_] = static_cast<uchar>(value);
         ++byteCount_;
@@ -422,14 +424,14 @@ void CFontReader::ReadBytes(std::string_view values, int bitsPerPixel, std::size
 
 void CFontReader::ReadBitmaps(Font& font)
 {
-    Progress progress(u"Reading characters..."_s, static_cast<int>(entries_.size()));
+    Progress progress(Engine::tr("Reading characters..."), static_cast<int>(entries_.size()));
     const auto textSize = static_cast<qint64>(scanner_.Text().size());
     qint64 byteCount = 0;
     qint64 scanned = 0;
     for (const Entry& entry : entries_) {
         const std::string_view values = arrays_[entry.arrayName];
         if (values.data() == nullptr)
-            scanner_.FailAtEnd(u"File ended before all character data could be read!"_s);
+            scanner_.FailAtEnd(Engine::tr("File ended before all character data could be read!"));
         const auto code = static_cast<quint16>(entry.code);
         const qint64 size = BitmapSize(entry.metrics, font.Metrics());
         // Arrays may be named again and again, but that must not make a huge font of a small file.
@@ -439,20 +441,22 @@ void CFontReader::ReadBitmaps(Font& font)
         scanned += qint64(values.size());
         if (byteCount > textSize + harmless || scanned > shares * textSize + harmless)
             scanner_.FailAt(scanner_.PositionOf(entry.arrayName),
-                            u"The array belongs to too many characters."_s);
+                            Engine::tr("The array belongs to too many characters."));
         ReadBytes(values, font.Metrics().bitsPerPixel, static_cast<std::size_t>(size));
         if (byteCount_ != static_cast<std::size_t>(size))
-            scanner_.FailAt(
-                scanner_.PositionOf(values),
-                u"Invalid amount of bytes read from character bitmap 0x%1"_s.arg(Hex4Text(code)));
+            scanner_.FailAt(scanner_.PositionOf(values),
+                            Engine::tr("Invalid amount of bytes read from character bitmap 0x%1")
+                                .arg(Hex4Text(code)));
         font.AddChar(code, entry.metrics, bytes_);
         progress.Advance();
     }
     if (strangeBytes_ > 0)
-        CurrentInterface().warning(u"Pixels of characters"_s,
-                                   u"Bytes that are neither numbers nor patterns of \"X\" and "
-                                   u"\"_\": %1. What is not \"X\" in "
-                                   "them was taken for an empty pixel."_s.arg(strangeBytes_));
+        CurrentInterface().warning(
+            Engine::tr("Pixels of characters"),
+            Engine::tr("Bytes that are neither numbers nor patterns of \"X\" and "
+                       "\"_\": %1. What is not \"X\" in "
+                       "them was taken for an empty pixel.")
+                .arg(strangeBytes_));
 }
 
 } // namespace Glyphor

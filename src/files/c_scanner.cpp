@@ -1,6 +1,7 @@
 #include "files/c_scanner.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 
 #include <algorithm>
 #include <charconv>
@@ -143,7 +144,7 @@ int CScanner::Integer()
     char previous = position_ > 0 ? view_[position_ - 1] : ' ';
     while (!(startsInteger(Current()) && (IsWhitespace(previous) || previous == ','))) {
         if (position_ >= view_.size())
-            FailAtEnd(u"Integer not found!"_s);
+            FailAtEnd(Engine::tr("Integer not found!"));
         previous = view_[position_++];
     }
     const std::size_t start = position_;
@@ -151,7 +152,7 @@ int CScanner::Integer()
         ++position_;
     int value = 0;
     if (!ParseInteger(view_.substr(start, position_ - start), value))
-        FailAt(start, u"Error parsing integer!"_s);
+        FailAt(start, Engine::tr("Error parsing integer!"));
     return value;
 }
 
@@ -172,7 +173,7 @@ int CScanner::Number(std::string_view element) const
 {
     int value = 0;
     if (!ParseInteger(element, value))
-        FailAt(PositionOf(element), u"Error parsing integer!"_s);
+        FailAt(PositionOf(element), Engine::tr("Error parsing integer!"));
     return value;
 }
 
@@ -187,10 +188,10 @@ void CScanner::FailAt(std::size_t position, const QString& message) const
             lineStart = at + 1;
         }
     }
-    throw CriticalException(
-        u"Error reading C file!"_s,
-        message + u"\n\nError occured in:\nLine: %1\nColumn: %2"_s.arg(line).arg(position -
-                                                                                 lineStart + 1));
+    throw CriticalException(Engine::tr("Error reading C file!"),
+                            message + Engine::tr("\n\nError occured in:\nLine: %1\nColumn: %2")
+                                          .arg(line)
+                                          .arg(position - lineStart + 1));
 }
 
 } // namespace Glyphor

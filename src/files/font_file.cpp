@@ -1,6 +1,7 @@
 #include "files/font_file.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 
 namespace Glyphor {
 
@@ -8,7 +9,8 @@ using namespace Qt::StringLiterals;
 
 void ThrowUnsupportedFormat()
 {
-    throw CriticalException(u"Unsupported format!"_s, u"Given file format is not supported!"_s);
+    throw CriticalException(Engine::tr("Unsupported format!"),
+                            Engine::tr("Given file format is not supported!"));
 }
 
 void FontFile::Write(const Font&)

@@ -1,6 +1,7 @@
 #include "files/font_file_binary.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "model/code_text.h"
 
 #include <QFileInfo>
@@ -104,7 +105,7 @@ std::unique_ptr<Font> FontFileBinary::MakeFont(const LittleEndianBytes& bytes, F
     const auto metric = [&](HeaderOffset offset) {
         const int value = bytes.U16(offset);
         if (value > CharInfo::MaxSize)
-            Fail(u"Its header has a height of %1 pixels; 255 are possible."_s.arg(value));
+            Fail(Engine::tr("Its header has a height of %1 pixels; 255 are possible.").arg(value));
         return static_cast<quint8>(value);
     };
     auto font = std::make_unique<Font>(format, encoding);
@@ -123,7 +124,7 @@ std::optional<FontFormat> FontFileBinary::TrailerFormat(const LittleEndianBytes&
         return std::nullopt;
     const int format = bytes.U8(bytes.Size() - 1);
     if (format >= FormatCount)
-        Fail(u"It ends with the number %1, which is no font format."_s.arg(format));
+        Fail(Engine::tr("It ends with the number %1, which is no font format.").arg(format));
     return static_cast<FontFormat>(format);
 }
 
@@ -131,10 +132,10 @@ void FontFileBinary::AddChar(Font& font, quint16 code, const CharMetrics& metric
                              const LittleEndianBytes& bytes, qint64 offset) const
 {
     if (!metrics.FitFields())
-        FailAtChar(code, u"has a size or an offset that no character can have"_s);
+        FailAtChar(code, Engine::tr("has a size or an offset that no character can have"));
     const qint64 size = BitmapSize(metrics, font.Metrics());
     if (!bytes.Holds(offset, size))
-        FailAtChar(code, u"has pixels outside the file"_s);
+        FailAtChar(code, Engine::tr("has pixels outside the file"));
     const QByteArrayView part = bytes.Part(offset, size);
     font.AddChar(code, metrics,
                  {reinterpret_cast<const uchar*>(part.data()), std::size_t(part.size())});
@@ -144,19 +145,20 @@ void FontFileBinary::CheckBytesPerLine(quint16 code, int bytesPerLine, int width
                                        const Font& font) const
 {
     if (bytesPerLine != (font.Metrics().bitsPerPixel * width + 7) / 8)
-        FailAtChar(code, u"has rows of %1 bytes, which is not what its width of %2 needs"_s.arg(
-                             QString::number(bytesPerLine), QString::number(width)));
+        FailAtChar(code, Engine::tr("has rows of %1 bytes, which is not what its width of %2 needs")
+                             .arg(QString::number(bytesPerLine), QString::number(width)));
 }
 
 void FontFileBinary::Fail(const QString& reason) const
 {
-    throw CriticalException(FailureTitle(),
-                            u"The file %1 can't be used as a font. %2"_s.arg(fileName(), reason));
+    throw CriticalException(
+        FailureTitle(),
+        Engine::tr("The file %1 can't be used as a font. %2").arg(fileName(), reason));
 }
 
 void FontFileBinary::FailAtChar(quint16 code, const QString& reason) const
 {
-    Fail(u"The character 0x%1 %2."_s.arg(Hex4Text(code), reason));
+    Fail(Engine::tr("The character 0x%1 %2.").arg(Hex4Text(code), reason));
 }
 
 } // namespace Glyphor

@@ -1,5 +1,6 @@
 #include "files/font_file_c.h"
 
+#include "app/engine_texts.h"
 #include "app/progress.h"
 #include "files/c_font_reader.h"
 #include "model/code_text.h"
@@ -98,7 +99,7 @@ void FontWriter::Bitmap(quint16 code, const Character& character)
 
 void FontWriter::Bitmaps()
 {
-    Progress progress(u"Saving C file..."_s, count_);
+    Progress progress(Engine::tr("Saving C file..."), count_);
     font_.ForEachEnabled([&](quint16 code, const Character& character) {
         Bitmap(code, character);
         progress.Advance();

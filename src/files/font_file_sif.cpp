@@ -1,6 +1,7 @@
 #include "files/font_file_sif.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
 
@@ -26,21 +27,21 @@ constexpr int RecordSize(FontFormat format)
 
 QString FontFileSIF::FailureTitle() const
 {
-    return u"Reading of SIF file failed!"_s;
+    return Engine::tr("Reading of SIF file failed!");
 }
 
 std::vector<CodeRun> FontFileSIF::ReadRuns(const LittleEndianBytes& bytes) const
 {
     const int count = bytes.U16(RunCountOffset);
     if (!bytes.Holds(HeaderSize, RunSize * count))
-        Fail(u"It is too short for its %1 ranges of characters."_s.arg(count));
+        Fail(Engine::tr("It is too short for its %1 ranges of characters.").arg(count));
     std::vector<CodeRun> runs;
     int next = 0;
     for (int index = 0; index < count; ++index) {
         const qint64 at = HeaderSize + RunSize * index;
         const CodeRun run = {bytes.U16(at), bytes.U16(at + 2)};
         if (run.first < next || run.last < run.first)
-            Fail(u"Its ranges of characters are not in ascending order."_s);
+            Fail(Engine::tr("Its ranges of characters are not in ascending order."));
         next = run.last + 1;
         runs.push_back(run);
     }
@@ -90,25 +91,27 @@ void FontFileSIF::CheckSize(const LittleEndianBytes& bytes, qint64 expected, boo
     if (bytes.Size() == expected)
         return;
     const QString sizes =
-        u"File size of input file: %1 bytes.\r\nFile size that was expected: %2 "
-        "bytes.\r\n\r\n"_s.arg(QString::number(bytes.Size()), QString::number(expected));
+        Engine::tr("File size of input file: %1 bytes.\r\nFile size that was expected: %2 "
+                   "bytes.\r\n\r\n")
+            .arg(QString::number(bytes.Size()), QString::number(expected));
     if (isAnswered)
         throw CriticalException(
             FailureTitle(),
-            sizes + u"The previously entered font format may not be correct or the file may be "
-                    "corrupted."_s);
-    Fail(u"It may be corrupted.\r\n"_s + sizes.trimmed());
+            sizes + Engine::tr(
+                        "The previously entered font format may not be correct or the file may be "
+                        "corrupted."));
+    Fail(Engine::tr("It may be corrupted.\r\n") + sizes.trimmed());
 }
 
 void FontFileSIF::AddChars(const LittleEndianBytes& bytes, const std::vector<CharRecord>& records,
                            qint64 bitmapOffset, Font& font) const
 {
-    Progress progress(u"Reading characters..."_s, static_cast<int>(records.size()));
+    Progress progress(Engine::tr("Reading characters..."), static_cast<int>(records.size()));
     for (const CharRecord& record : records) {
         if (IsLegacyFormat(font.Metrics().format))
             CheckBytesPerLine(record.code, record.bytesPerLine, record.metrics.width, font);
         if (record.offset != bitmapOffset)
-            FailAtChar(record.code, u"points to other pixels than its own"_s);
+            FailAtChar(record.code, Engine::tr("points to other pixels than its own"));
         AddChar(font, record.code, record.metrics, bytes, bitmapOffset);
         bitmapOffset += BitmapSize(record.metrics, font.Metrics());
         progress.Advance();
@@ -120,7 +123,7 @@ std::unique_ptr<Font> FontFileSIF::Read()
     const QByteArray contents = Contents();
     const LittleEndianBytes bytes(contents);
     if (!contents.startsWith(Magic) || bytes.Size() < HeaderSize)
-        Fail(u"It does not begin with \"GUIP\" and a header."_s);
+        Fail(Engine::tr("It does not begin with \"GUIP\" and a header."));
     std::optional<FontFormat> format = TrailerFormat(bytes, TrailerName);
     EncodingType encoding = Answer().encoding.value_or(EncodingType::Unicode);
     const bool isAnswered = !format;

@@ -1,5 +1,6 @@
 #include "files/font_file_xbf.h"
 
+#include "app/engine_texts.h"
 #include "app/progress.h"
 #include "model/code_text.h"
 
@@ -41,7 +42,7 @@ QString ReadToolText(const LittleEndianBytes& bytes)
 
 QString FontFileXBF::FailureTitle() const
 {
-    return u"Error reading XBF file!"_s;
+    return Engine::tr("Error reading XBF file!");
 }
 
 std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBytes& bytes) const
@@ -51,8 +52,8 @@ std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBy
     const qint64 dataOffset = HeaderSize + EntrySize * (last - first + 1);
     const qint64 dataEnd = bytes.Size() - TrailerSize;
     if (last < first || dataOffset > dataEnd)
-        Fail(u"It is too short for its table of the codes 0x%1 to 0x%2."_s.arg(
-            Hex4Text(static_cast<quint16>(first)), Hex4Text(static_cast<quint16>(last))));
+        Fail(Engine::tr("It is too short for its table of the codes 0x%1 to 0x%2.")
+                 .arg(Hex4Text(static_cast<quint16>(first)), Hex4Text(static_cast<quint16>(last))));
     std::vector<TableEntry> entries;
     qint64 total = 0;
     for (int code = first; code <= last; ++code) {
@@ -61,13 +62,13 @@ std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBy
         if (entry.offset == 0 && entry.size == 0)
             continue;
         if (entry.offset < dataOffset || entry.offset + entry.size > dataEnd)
-            FailAtChar(entry.code, u"lies outside the file"_s);
+            FailAtChar(entry.code, Engine::tr("lies outside the file"));
         total += entry.size;
         entries.push_back(entry);
     }
     // Also keeps a small file from becoming a huge font.
     if (total > dataEnd - dataOffset)
-        Fail(u"Its characters overlap."_s);
+        Fail(Engine::tr("Its characters overlap."));
     return entries;
 }
 
@@ -76,7 +77,7 @@ void FontFileXBF::ReadChar(const LittleEndianBytes& bytes, const TableEntry& ent
 {
     const FontFormat format = font.Metrics().format;
     if (entry.size < RecordSize(format))
-        FailAtChar(entry.code, u"is too small"_s);
+        FailAtChar(entry.code, Engine::tr("is too small"));
     const auto field = [&](int index) { return bytes.U16(entry.offset + 2 * index); };
     const auto offset = [&](int index) { return bytes.I16(entry.offset + 2 * index); };
     CharMetrics metrics;
@@ -96,7 +97,8 @@ void FontFileXBF::ReadChar(const LittleEndianBytes& bytes, const TableEntry& ent
     }
     CheckBytesPerLine(entry.code, bytesPerLine, metrics.width, font);
     if (RecordSize(format) + BitmapSize(metrics, font.Metrics()) != entry.size)
-        FailAtChar(entry.code, u"has a size in the table that is not the size of its pixels"_s);
+        FailAtChar(entry.code,
+                   Engine::tr("has a size in the table that is not the size of its pixels"));
     AddChar(font, entry.code, metrics, bytes, entry.offset + RecordSize(format));
 }
 
@@ -105,15 +107,15 @@ std::unique_ptr<Font> FontFileXBF::Read()
     const QByteArray contents = Contents();
     const LittleEndianBytes bytes(contents);
     if (!contents.startsWith(Magic))
-        Fail(u"It does not begin with \"GUIX\"."_s);
+        Fail(Engine::tr("It does not begin with \"GUIX\"."));
     const std::optional<FontFormat> format = TrailerFormat(bytes, TrailerName);
     if (!format || bytes.Size() < HeaderSize + TrailerSize)
-        Fail(
-            u"It does not end with \"XBF\" and the font's format, so some of it may be missing."_s);
+        Fail(Engine::tr(
+            "It does not end with \"XBF\" and the font's format, so some of it may be missing."));
     auto font = MakeFont(bytes, *format, Answer().encoding.value_or(EncodingType::Unicode));
     font->SetToolText(ReadToolText(bytes));
     const std::vector<TableEntry> entries = ReadTable(bytes);
-    Progress progress(u"Reading characters..."_s, static_cast<int>(entries.size()));
+    Progress progress(Engine::tr("Reading characters..."), static_cast<int>(entries.size()));
     for (const TableEntry& entry : entries) {
         ReadChar(bytes, entry, *font);
         progress.Advance();

@@ -1,6 +1,7 @@
 #include "render/font_file_bdf.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/progress.h"
 
 #include FT_BDF_H
@@ -79,7 +80,8 @@ FontFileBDF::FontFileBDF(const QString& path) : FontFileFT(path), face_(OpenFace
 std::unique_ptr<Font> FontFileBDF::Read()
 {
     if (!IsBdf(face_))
-        throw CriticalException(u"Error reading file"_s, u"BDF font file could not be read!"_s);
+        throw CriticalException(Engine::tr("Error reading file"),
+                                Engine::tr("BDF font file could not be read!"));
     auto font = std::make_unique<Font>(FontFormat::Standard, EncodingType::Unicode);
     font->SetName(u"%1 %2"_s.arg(face_.FamilyName(), face_.StyleName()));
     font->SetHeight(static_cast<quint8>(face_.VerticalAdvance()));
@@ -92,7 +94,7 @@ std::unique_ptr<Font> FontFileBDF::Read()
 
 void FontFileBDF::RenderCodes(Font& font)
 {
-    Progress progress(u"Loading font..."_s, CodeSet::Count - 1);
+    Progress progress(Engine::tr("Loading font..."), CodeSet::Count - 1);
     RenderedGlyph glyph;
     quint8 maxWidth = 0;
     for (int index = 0; index < CodeSet::Count; ++index) {

@@ -1,5 +1,6 @@
 #include "render/font_file_ft.h"
 
+#include "app/engine_texts.h"
 #include "app/user_interface.h"
 #include "model/code_text.h"
 #include "model/unicode_table.h"
@@ -56,10 +57,11 @@ void FontFileFT::WarnOfMisfits() const
     if (misfits_.size() > listed)
         codes.append(u"..."_s);
     CurrentInterface().warning(
-        u"Characters left out"_s,
-        u"Characters left out: %1 (%2). They need more than a character can hold: 255 pixels each "
-        "way, a cursor distance from 0 to 255, offsets from -128."_s.arg(
-            QString::number(misfits_.size()), codes.join(u", "_s)));
+        Engine::tr("Characters left out"),
+        Engine::tr("Characters left out: %1 (%2). They need more than a character can hold: 255 "
+                   "pixels each "
+                   "way, a cursor distance from 0 to 255, offsets from -128.")
+            .arg(QString::number(misfits_.size()), codes.join(u", "_s)));
 }
 
 } // namespace Glyphor

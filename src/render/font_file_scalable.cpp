@@ -1,5 +1,6 @@
 #include "render/font_file_scalable.h"
 
+#include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
 #include "model/encoding.h"
@@ -85,7 +86,7 @@ void FontFileScalable::RenderCharmap(Font& font)
     std::optional<KerningIndex> kerning;
     if (font.HasKerning())
         kerning.emplace(face_);
-    Progress progress(u"Rendering font..."_s, face_.GlyphCount());
+    Progress progress(Engine::tr("Rendering font..."), face_.GlyphCount());
     RenderedGlyph glyph;
     std::size_t pairCount = 0;
     CodeSet visited; // a code that comes up again gives the same glyph again
@@ -109,8 +110,9 @@ void FontFileScalable::RenderCharmap(Font& font)
         return notVisited > 0;
     });
     if (pairCount >= MaxKerningPairs)
-        CurrentInterface().warning(u"Kerning left out"_s,
-                                   u"The font has too many kerning pairs; some were left out."_s);
+        CurrentInterface().warning(
+            Engine::tr("Kerning left out"),
+            Engine::tr("The font has too many kerning pairs; some were left out."));
 }
 
 // A face of bitmaps only has no other size than theirs.
@@ -122,9 +124,9 @@ void FontFileScalable::WarnOfMissingSize() const
     QStringList texts;
     for (const int height : heights)
         texts.append(QString::number(height));
-    CurrentInterface().warning(
-        u"Font has no outlines"_s,
-        u"The font has bitmaps only, which are %1 pixels high."_s.arg(texts.join(u", "_s)));
+    CurrentInterface().warning(Engine::tr("Font has no outlines"),
+                               Engine::tr("The font has bitmaps only, which are %1 pixels high.")
+                                   .arg(texts.join(u", "_s)));
 }
 
 FontFileTTF::FontFileTTF(const QString& path, const RenderOptions& options)

@@ -1,5 +1,6 @@
 #include "render/free_type_face.h"
 
+#include "app/engine_texts.h"
 #include "app/settings.h"
 
 #include <QFile>
@@ -197,11 +198,11 @@ QString FreeTypeFace::OpenFault() const
     case FT_Err_Ok:
         return {};
     case FT_Err_Cannot_Open_Resource:
-        return u"It could not be opened."_s;
+        return Engine::tr("It could not be opened.");
     case FT_Err_Unknown_File_Format:
-        return u"It is not a font file."_s;
+        return Engine::tr("It is not a font file.");
     default:
-        return u"Its contents are damaged (FreeType error %1)."_s.arg(openError_);
+        return Engine::tr("Its contents are damaged (FreeType error %1).").arg(openError_);
     }
 }
 

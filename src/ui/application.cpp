@@ -37,15 +37,23 @@ Application* Application::Instance()
     return current;
 }
 
+// The first language that the user wants and that there are texts in, which English always is.
 bool LoadTexts(const QLocale& locale, QTranslator& texts, QTranslator& toolkitTexts)
 {
     InitTranslations();
-    if (!texts.load(locale, u"glyphor"_s, u"_"_s, u":/i18n"_s))
-        return false;
-    // Without them the buttons of the toolkit's own dialogs stay English.
-    (void)toolkitTexts.load(locale, u"qtbase"_s, u"_"_s,
-                            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    return true;
+    for (const QString& language : locale.uiLanguages()) {
+        const QLocale wanted(language);
+        if (wanted.language() == QLocale::English || wanted.language() == QLocale::C)
+            return false;
+        const QString name = QLocale::languageToCode(wanted.language());
+        if (!texts.load(u":/i18n/glyphor_%1.qm"_s.arg(name)))
+            continue;
+        // Without them the buttons of the toolkit's own dialogs stay English.
+        (void)toolkitTexts.load(u"qtbase_"_s + name,
+                                QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        return true;
+    }
+    return false;
 }
 
 } // namespace Glyphor

@@ -89,8 +89,10 @@ void CharTableView::UpdateRows()
             rows_.push_back(code / Columns);
         const int width = font_->FindChar(quint16(code))->info.width;
         maxWidth_ = std::max(maxWidth_, width);
-        ++counts[std::size_t(width)];
-        ++count;
+        if (width > 1) { // or characters without pixels would decide
+            ++counts[std::size_t(width)];
+            ++count;
+        }
     }
     int narrower = 0;
     for (int width = 0; width <= maxWidth_ && narrower < count * 9 / 10; ++width) {

@@ -5,6 +5,7 @@
 
 #include <QButtonGroup>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,6 +33,7 @@ CharacterSelection::CharacterSelection(QWidget* parent)
         item->setCheckState(Qt::Unchecked);
         item->setToolTip(CodeText(block.first) + QChar(0x2013) + CodeText(block.last));
     }
+    blocks_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     blocks_->setAccessibleName(tr("Unicode blocks"));
     patternPath_->setAccessibleName(tr("Pattern file"));
     text_->setAccessibleName(tr("Text"));
@@ -70,7 +72,7 @@ void CharacterSelection::AddChoice(CharacterChoice choice, const QString& text, 
 QWidget* CharacterSelection::MakePatternPage()
 {
     auto* const page = new QWidget;
-    auto* const browse = new QPushButton(tr("&Browse..."));
+    auto* const browse = new QPushButton(tr("Bro&wse..."));
     auto* const layout = new QGridLayout(page);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(patternPath_, 0, 0);
@@ -144,6 +146,11 @@ std::optional<CodeSet> CharacterSelection::Codes() const
     return std::nullopt;
 }
 
+bool CharacterSelection::IsExact() const
+{
+    return Choice() == CharacterChoice::Pattern || Choice() == CharacterChoice::Text;
+}
+
 QString CharacterSelection::Fault() const
 {
     FontGenerationDialogData record;
@@ -152,9 +159,13 @@ QString CharacterSelection::Fault() const
     case CharacterChoice::Blocks:
         return record.blocks.isEmpty() ? tr("Choose a block.") : QString();
     case CharacterChoice::Pattern:
-        return QFileInfo(record.patternPath).isFile() ? QString() : tr("Choose a pattern file.");
+        if (record.patternPath.isEmpty())
+            return tr("Choose a pattern file.");
+        return QFileInfo(record.patternPath).isFile()
+                   ? QString()
+                   : tr("The file %1 does not exist.").arg(record.patternPath);
     case CharacterChoice::Text:
-        return record.text.trimmed().isEmpty() ? tr("Enter some characters.") : QString();
+        return Codes() == CodeSet() ? tr("Enter some characters.") : QString();
     default:
         return {};
     }

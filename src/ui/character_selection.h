@@ -31,6 +31,9 @@ public:
     // can't be read.
     [[nodiscard]] std::optional<CodeSet> Codes() const;
 
+    // True where every single character was asked for.
+    [[nodiscard]] bool IsExact() const;
+
     // Empty where the choice can be used, or what is missing.
     [[nodiscard]] QString Fault() const;
 

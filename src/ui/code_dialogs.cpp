@@ -26,17 +26,18 @@ constexpr qsizetype MostFound = 200;
 
 } // namespace
 
-EnableRangeDialog::EnableRangeDialog(const QString& title, const CodeSet& existing,
-                                     EncodingType encoding, QWidget* parent)
+EnableRangeDialog::EnableRangeDialog(bool enables, const CodeSet& existing, EncodingType encoding,
+                                     QWidget* parent)
     : QDialog(parent),
+      enables_(enables),
       existing_(existing),
       encoding_(encoding),
       first_(new QLineEdit),
       last_(new QLineEdit),
-      block_(new QComboBox),
+      block_(new QComboBox(this)),
       hint_(new QLabel)
 {
-    setWindowTitle(title);
+    setWindowTitle(enables ? tr("Enable range of characters") : tr("Disable range of characters"));
     block_->addItem(tr("Codes as entered"));
     for (const UnicodeBlock& block : UnicodeBlocks())
         block_->addItem(block.name);
@@ -46,14 +47,14 @@ EnableRangeDialog::EnableRangeDialog(const QString& title, const CodeSet& existi
     if (encoding == EncodingType::Unicode) // whose codes blocks are of
         form->addRow(tr("&Block:"), block_);
     else
-        block_->setParent(this); // not shown
+        block_->hide();
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(hint_);
     layout->addStretch();
     ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
     for (QLineEdit* const field : {first_, last_}) {
-        field->setToolTip(tr("A code (0x41, U+0041 or 65), or a character"));
+        field->setToolTip(tr("A code (0x41, U+0041 or 65), or a character that is no digit"));
         connect(field, &QLineEdit::textChanged, this, &EnableRangeDialog::Validate);
     }
     connect(block_, &QComboBox::activated, this, &EnableRangeDialog::ChooseBlock);
@@ -93,15 +94,19 @@ void EnableRangeDialog::Validate()
     const bool isRange = first && last && *first <= *last;
     ok_->setEnabled(isRange);
     if (!first || !last) {
-        hint_->setText(tr("A code is written as 0x41, U+0041 or 65, or as the character."));
+        hint_->setText(
+            tr("A code is written as 0x41, U+0041 or 65; what is no digit can stand for itself."));
     } else if (!isRange) {
         hint_->setText(tr("The last code is before the first one."));
     } else {
         int count = 0;
         for (int code = existing_.Next(*first); code <= *last; code = existing_.Next(code + 1))
             ++count;
-        hint_->setText(
-            tr("%L1 codes, of which the font has %L2.").arg(*last - *first + 1).arg(count));
+        const int size = *last - *first + 1;
+        QString hint = tr("Codes: %L1, in the font: %L2").arg(size).arg(count);
+        if (enables_ && count < size)
+            hint += u'\n' + tr("The others are added as characters without pixels.");
+        hint_->setText(hint);
     }
     const auto& blocks = UnicodeBlocks();
     const auto block = std::ranges::find_if(blocks, [&](const UnicodeBlock& other) {
@@ -133,6 +138,7 @@ GoToDialog::GoToDialog(const CodeSet& codes, EncodingType encoding, QWidget* par
     field_->installEventFilter(this);
     found_->setAccessibleName(tr("Characters found"));
     found_->setFocusPolicy(Qt::NoFocus);
+    found_->setUniformItemSizes(true); // or every one of many is measured
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(LabelFor(*field_, tr("&Code, character or name:")));
     layout->addWidget(field_);
@@ -161,12 +167,11 @@ QList<int> GoToDialog::CodesOf(const QString& text) const
     };
     const QString trimmed = text.trimmed();
     if (const QString one = trimmed.isEmpty() ? text : trimmed; one.size() == 1) {
-        quint16 code = one[0].unicode();
-        if (EncodingFor(EncodingType::Unicode).Convert(encoding_, code))
-            add(code);
+        if (const auto code = Encoded(one[0].unicode(), encoding_))
+            add(*code);
     }
     if (trimmed.size() != 1 || trimmed[0].isDigit()) {
-        if (const auto code = ParseCode(text))
+        if (const auto code = ParseCode(text, encoding_))
             add(*code);
     }
     return codes;

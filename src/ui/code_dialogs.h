@@ -21,9 +21,9 @@ class EnableRangeDialog final : public QDialog
     Q_OBJECT
 
 public:
-    // `existing` are the codes that the font has characters for, of which the dialog tells how many
-    // are in the range.
-    EnableRangeDialog(const QString& title, const CodeSet& existing, EncodingType encoding,
+    // Enables or disables. `existing` are the codes that the font has characters for, of which the
+    // dialog tells how many are in the range.
+    EnableRangeDialog(bool enables, const CodeSet& existing, EncodingType encoding,
                       QWidget* parent);
     ~EnableRangeDialog() override;
 
@@ -35,6 +35,7 @@ private:
     void ChooseBlock(int index);
     void Validate();
 
+    bool enables_;
     CodeSet existing_;
     EncodingType encoding_;
     QLineEdit* first_;

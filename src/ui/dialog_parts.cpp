@@ -31,20 +31,26 @@ QLabel* LabelFor(QWidget& buddy, const QString& text)
     return label;
 }
 
+std::optional<quint16> Encoded(quint16 unicode, EncodingType encoding)
+{
+    quint16 code = unicode;
+    const bool isEncoded = EncodingFor(EncodingType::Unicode).Convert(encoding, code);
+    return isEncoded ? std::optional(code) : std::nullopt;
+}
+
 std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
 {
     const QString trimmed = text.trimmed();
-    if (trimmed.size() == 1 && !trimmed[0].isDigit()) {
-        quint16 unit = trimmed[0].unicode();
-        const bool isEncoded = EncodingFor(EncodingType::Unicode).Convert(encoding, unit);
-        return isEncoded ? std::optional(unit) : std::nullopt;
-    }
-    const bool isHexadecimal = trimmed.startsWith(u"0x"_s, Qt::CaseInsensitive) ||
-                               trimmed.startsWith(u"U+"_s, Qt::CaseInsensitive);
+    if (trimmed.size() == 1 && !trimmed[0].isDigit())
+        return Encoded(trimmed[0].unicode(), encoding);
+    const bool isUnicode = trimmed.startsWith(u"U+"_s, Qt::CaseInsensitive);
+    const bool isHexadecimal = isUnicode || trimmed.startsWith(u"0x"_s, Qt::CaseInsensitive);
     bool isNumber = false;
     const uint code =
         isHexadecimal ? trimmed.mid(2).toUInt(&isNumber, 16) : trimmed.toUInt(&isNumber, 10);
-    return isNumber && code < CodeSet::Count ? std::optional(quint16(code)) : std::nullopt;
+    if (!isNumber || code >= CodeSet::Count)
+        return std::nullopt;
+    return isUnicode ? Encoded(quint16(code), encoding) : std::optional(quint16(code));
 }
 
 QString CodeText(int code)

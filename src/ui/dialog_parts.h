@@ -22,8 +22,11 @@ QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
 // For rows of more than one widget, which have no buddy of their own.
 [[nodiscard]] QLabel* LabelFor(QWidget& buddy, const QString& text);
 
-// A code as the user writes it: 0x41, 65 or U+0041, or a single character that the encoding has;
-// nothing for other texts.
+// The code that a Unicode character has in the encoding; nothing where it has none.
+[[nodiscard]] std::optional<quint16> Encoded(quint16 unicode, EncodingType encoding);
+
+// A code as the user writes it: 0x41 or 65, or a character that the encoding has, as U+0041 or as
+// itself; nothing for other texts.
 [[nodiscard]] std::optional<quint16> ParseCode(const QString& text,
                                                EncodingType encoding = EncodingType::Unicode);
 

@@ -2,10 +2,10 @@
 
 #include "actions/action_open_font.h"
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/settings.h"
 #include "app/user_interface.h"
 #include "ui/dialog_parts.h"
-#include "ui/engine_texts.h"
 #include "ui/font_size_box.h"
 #include "ui/text_preview.h"
 
@@ -25,6 +25,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 namespace Glyphor {
 
@@ -32,6 +33,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr quint32 UsualWeight = 400;
 constexpr int ReadableHeight = 60; // of the sample, in pixels of the screen
 
 struct ScriptRow
@@ -104,7 +106,7 @@ FontDialog::FontDialog(QWidget* parent)
       size_(new FontSizeBox),
       strip_(new TextStrip),
       status_(new QLabel),
-      index_(new QPushButton(tr("Inde&x again")))
+      index_(new QPushButton)
 {
     setWindowTitle(tr("New font"));
     auto* const directories = new QPushButton(tr("Font &directories..."));
@@ -128,9 +130,17 @@ FontDialog::FontDialog(QWidget* parent)
     resize(720, 560);
     RestoreGeometry(*this, stored.geometry);
 
-    connect(index_, &QPushButton::clicked, this, &FontDialog::IndexRequested);
+    connect(index_, &QPushButton::clicked, this, [this] {
+        if (isIndexing_)
+            Q_EMIT StopRequested();
+        else
+            Q_EMIT IndexRequested();
+    });
     connect(directories, &QPushButton::clicked, this, &FontDialog::DirectoriesRequested);
-    connect(search_, &QLineEdit::textChanged, this, &FontDialog::ShowFamilies);
+    connect(search_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        searched_ = text.trimmed(); // without what was completed
+        ShowFamilies();
+    });
     connect(script_, &QComboBox::currentIndexChanged, this, &FontDialog::ShowFamilies);
     connect(families_, &QListWidget::currentRowChanged, this, &FontDialog::ShowStyles);
     connect(styles_, &QTreeWidget::currentItemChanged, this, &FontDialog::ShowSample);
@@ -226,9 +236,17 @@ void FontDialog::Fill()
 
 void FontDialog::SetIndexing(bool isIndexing)
 {
-    index_->setEnabled(!isIndexing);
-    status_->setText(isIndexing ? Translated(u"Indexing font files..."_s)
-                                : tr("%L1 families").arg(qsizetype(database_->Families().size())));
+    isIndexing_ = isIndexing;
+    index_->setText(isIndexing ? tr("Stop inde&xing") : tr("Inde&x again"));
+    ShowStatus();
+}
+
+void FontDialog::ShowStatus()
+{
+    status_->setText(isIndexing_ ? Engine::tr("Indexing font files...")
+                                 : tr("Families: %L1 of %L2")
+                                       .arg(families_->count())
+                                       .arg(qsizetype(database_->Families().size())));
 }
 
 void FontDialog::UpdateCompleter()
@@ -238,23 +256,24 @@ void FontDialog::UpdateCompleter()
         names.append(family->Name());
     auto* const completer = new QCompleter(names, search_);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
-    completer->setFilterMode(Qt::MatchContains);
+    completer->setCompletionMode(QCompleter::InlineCompletion); // the list below shows the others
     search_->setCompleter(completer);
 }
 
 void FontDialog::ShowFamilies()
 {
-    const QString text = search_->text().trimmed();
     const int bit = script_->currentData().toInt();
     const QString wanted = wantedFamily_;
+    const QSignalBlocker blocker(families_);
     families_->clear();
     for (const auto& family : database_->Families()) {
-        if (family->Name().contains(text, Qt::CaseInsensitive) &&
+        if (family->Name().contains(searched_, Qt::CaseInsensitive) &&
             (bit < 0 || HasRange(*family, bit)))
             families_->addItem(family->Name());
     }
     const QList<QListWidgetItem*> found = families_->findItems(wanted, Qt::MatchFixedString);
     families_->setCurrentItem(found.isEmpty() ? families_->item(0) : found.constFirst());
+    ShowStatus();
     ShowStyles();
 }
 
@@ -276,14 +295,20 @@ void FontDialog::ShowStyles()
     const QString wanted = wantedStyle_;
     const QSignalBlocker blocker(styles_);
     styles_->clear();
+    bool hasUsual = false;
     for (const QString& name : family != nullptr ? family->StyleNames() : QStringList()) {
         const FaceStyle style = family->Style(name);
         const QString weight = style.weight > 0 ? QString::number(style.weight) : QString();
         auto* const item =
             new QTreeWidgetItem({name, weight, style.italic ? tr("italic") : tr("upright")});
         styles_->addTopLevelItem(item);
-        if (styles_->currentItem() == nullptr || name == wanted)
+        const bool isUsual = style.weight == UsualWeight && !style.italic;
+        const QTreeWidgetItem* const chosen = styles_->currentItem();
+        const bool isBetter =
+            isUsual && !hasUsual && chosen != nullptr && chosen->text(0) != wanted;
+        if (chosen == nullptr || name == wanted || isBetter)
             styles_->setCurrentItem(item);
+        hasUsual = hasUsual || isUsual;
     }
     styles_->resizeColumnToContents(0);
     if (family != nullptr)
@@ -314,6 +339,8 @@ void FontDialog::ShowSample()
     try {
         sample_ = ReadFont(args);
     } catch (const CriticalException&) {
+        return;
+    } catch (const std::bad_alloc&) {
         return;
     }
     strip_->SetText(text);

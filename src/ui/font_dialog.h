@@ -41,12 +41,14 @@ public:
 
 Q_SIGNALS:
     void IndexRequested();
+    void StopRequested(); // of the indexing
     void DirectoriesRequested();
 
 private:
     [[nodiscard]] QWidget* MakeChoices();
     [[nodiscard]] QWidget* MakeSample();
     void ShowFamilies();
+    void ShowStatus();
     void ShowStyles();
     void ShowSample();
     void UpdateCompleter();
@@ -56,6 +58,7 @@ private:
     std::shared_ptr<const FontDatabase> database_;
     QString wantedFamily_; // chosen last, to be chosen again
     QString wantedStyle_;
+    QString searched_;
     QLineEdit* search_;
     QComboBox* script_;
     QListWidget* families_;
@@ -63,7 +66,8 @@ private:
     FontSizeBox* size_;
     TextStrip* strip_;
     QLabel* status_;
-    QPushButton* index_;
+    QPushButton* index_; // starts it, or stops it
+    bool isIndexing_ = false;
     QPushButton* ok_ = nullptr;
     std::unique_ptr<Font> sample_;
 };

@@ -91,7 +91,9 @@ void FontGenerationDialog::LoadEntries()
 {
     const FontGenerationDialogData record = Settings::Instance().fontGenerationDialog.load();
     size_->SetSize(args_.size.value > 0 ? args_.size : FontSize{record.size, record.inPoints});
-    const FontFormat format = args_.format.value_or(FontFormat(record.format));
+    FontFormat format = args_.format.value_or(FontFormat(record.format));
+    if (args_.encoding == EncodingType::ShiftJis && !args_.format && !IsLegacyFormat(format))
+        format = FontFormat::Legacy; // the others have no such encoding
     format_->Fill(!Settings::Instance().hideLegacy.value() || IsLegacyFormat(format));
     format_->SetFormat(format);
     format_->setEnabled(!args_.format);
@@ -146,8 +148,9 @@ void FontGenerationDialog::Update()
     UserInterface silent; // until the choice is made
     const InterfaceScope scope(silent);
     try {
-        preview_->Show(Args());
+        preview_->Show(Args(), !args_.selection && selection_->IsExact());
     } catch (const CriticalException& error) {
+        ok_->setEnabled(false);
         preview_->ShowFault(error.Text());
     }
 }

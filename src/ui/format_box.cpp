@@ -1,7 +1,7 @@
 #include "ui/format_box.h"
 
 #include "ui/dialog_parts.h"
-#include "ui/engine_texts.h"
+#include "ui/translated_names.h"
 
 #include <QFormLayout>
 #include <QLabel>

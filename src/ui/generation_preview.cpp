@@ -3,6 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
+#include "ui/dialog_parts.h"
 #include "ui/info_panel.h"
 #include "ui/text_preview.h"
 
@@ -16,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <functional>
+#include <new>
 
 namespace Glyphor {
 
@@ -89,7 +91,7 @@ GenerationPreview::GenerationPreview(QWidget* parent)
     connect(field_, &QLineEdit::textChanged, this, [this](const QString& text) {
         strip_->SetText(text);
         if (!args_.path.isEmpty())
-            Show(args_);
+            Show(args_, tellsMissing_);
     });
 }
 
@@ -106,11 +108,13 @@ QString GenerationPreview::Sample() const
 void GenerationPreview::SetSample(const QString& sample)
 {
     field_->setText(sample);
+    field_->setCursorPosition(0);
 }
 
-void GenerationPreview::Show(const ActionOpenFontArgs& args)
+void GenerationPreview::Show(const ActionOpenFontArgs& args, bool tellsMissing)
 {
     args_ = args;
+    tellsMissing_ = tellsMissing;
     isStale_ = true;
     timer_.start();
 }
@@ -152,6 +156,8 @@ void GenerationPreview::Render()
         // Something else is to be shown.
     } catch (const CriticalException& error) {
         ShowFault(error.Text());
+    } catch (const std::bad_alloc&) {
+        ShowFault(tr("There is not enough memory."));
     }
 }
 
@@ -181,7 +187,29 @@ void GenerationPreview::RenderAll()
                         .arg(QString::number(all->Metrics().height), QString::number(EmSize(args_)))
                         .arg(count)
                         .arg(FlashSize(*all)));
-    notes_->setText(interface.warnings.join(u'\n'));
+    QStringList notes = interface.warnings;
+    if (count == 0)
+        notes.append(tr("The font has none of these characters."));
+    else if (const QString missing = MissingFrom(*all); !missing.isEmpty())
+        notes.append(tr("Not in the font: %1").arg(missing));
+    notes_->setText(notes.join(u'\n'));
+}
+
+// The first ones of the selected characters that did not come out.
+QString GenerationPreview::MissingFrom(const Font& font) const
+{
+    constexpr qsizetype most = 40;
+    QString missing;
+    if (!tellsMissing_ || !args_.selection)
+        return missing;
+    const CodeSet& codes = *args_.selection;
+    for (int unicode = codes.Next(0); unicode < CodeSet::Count && missing.size() < most;
+         unicode = codes.Next(unicode + 1)) {
+        const auto code = Encoded(quint16(unicode), font.Metrics().encoding);
+        if (QChar(unicode).isPrint() && (!code || font.FindChar(*code) == nullptr))
+            missing.append(QChar(unicode));
+    }
+    return missing;
 }
 
 } // namespace Glyphor

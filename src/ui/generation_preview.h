@@ -22,8 +22,9 @@ public:
     explicit GenerationPreview(QWidget* parent = nullptr);
     ~GenerationPreview() override;
 
-    // Shows the font that the arguments make, soon. What is being rendered is given up.
-    void Show(const ActionOpenFontArgs& args);
+    // Shows the font that the arguments make, soon, and if wanted which of the selected characters
+    // it lacks. What is being rendered is given up.
+    void Show(const ActionOpenFontArgs& args, bool tellsMissing);
 
     // Shows a text instead.
     void ShowFault(const QString& fault);
@@ -44,6 +45,7 @@ private:
     void Render();
     void RenderSample();
     void RenderAll();
+    [[nodiscard]] QString MissingFrom(const Font& font) const;
     void SetFont(std::unique_ptr<Font> font);
 
     TextStrip* strip_;
@@ -52,6 +54,7 @@ private:
     QLabel* notes_;
     QTimer timer_;
     ActionOpenFontArgs args_;
+    bool tellsMissing_ = false;
     std::unique_ptr<Font> font_;
     bool isRendering_ = false;
     bool isStale_ = false; // what is being rendered

@@ -3,7 +3,7 @@
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
-#include "ui/engine_texts.h"
+#include "ui/translated_names.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -130,7 +130,7 @@ void InfoPanel::ShowCharacter(const Font& font, quint16 code)
     Set(tr("Size"), tr("%1 × %2 px").arg(info.width).arg(info.Rows()));
     Set(tr("Offset"), u"%1, %2"_s.arg(info.xPos).arg(info.yPos));
     Set(tr("Cursor distance"), tr("%1 px").arg(info.cursorDistance));
-    Set(tr("Data"), tr("%1 bytes a line, %2 in all").arg(info.bytesPerLine).arg(bytes));
+    Set(tr("Data"), tr("%1 B a line, %2 B in all").arg(info.bytesPerLine).arg(bytes));
     Set(tr("Kerning pairs"), QString::number(character->kerning.size()));
 }
 

@@ -9,7 +9,6 @@
 #include "render/font_database.h"
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
-#include "ui/engine_texts.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
 #include "ui/progress_area.h"
@@ -23,6 +22,7 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QSplitter>
 #include <QStatusBar>
@@ -144,6 +144,9 @@ void MainWindow::BuildToolBar()
     recentMenu_ = new QMenu(this);
     openButton_->setMenu(recentMenu_);
     openButton_->setPopupMode(QToolButton::MenuButtonPopup);
+    auto* const showRecent = new QShortcut(Qt::ALT | Qt::Key_Down, openButton_);
+    showRecent->setContext(Qt::WidgetShortcut);
+    connect(showRecent, &QShortcut::activated, openButton_, &QToolButton::showMenu);
     add(quint32(ActionType::SaveFont), u"save"_s);
     bar->addSeparator();
     add(quint32(WindowCommand::Undo), u"undo"_s);
@@ -291,7 +294,7 @@ bool MainWindow::Guarded(const std::function<void()>& work)
     } catch (const CriticalException& error) {
         critical(error.Title(), error.Text());
     } catch (const WorkStopped&) {
-        ShowMessage(tr("Stopped."));
+        // The user knows.
     } catch (const std::bad_alloc&) {
         critical(CriticalException::DefaultTitle(), tr("There is not enough memory."));
     }
@@ -411,7 +414,7 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
 {
     if (action == nullptr)
         return false;
-    ShowMessage(logText);
+    ShowMessage(TranslatedLog(logText));
     if (action->Type() == ActionType::OpenFont)
         AddRecentFile(session_.Path());
     RefreshViews();
@@ -442,7 +445,7 @@ void MainWindow::progressFinished()
 
 void MainWindow::OnProgbarInitCnt(const char* text, int, int maximum)
 {
-    progress_->BeginWork(Translated(QString::fromUtf8(text)), maximum);
+    progress_->BeginWork(QString::fromUtf8(text), maximum);
 }
 
 void MainWindow::OnProgbarUpdateCnt(int value)
@@ -453,6 +456,8 @@ void MainWindow::OnProgbarUpdateCnt(int value)
 void MainWindow::OnProgbarClose()
 {
     progress_->EndWork();
+    if (progress_->IsStopped())
+        ShowMessage(tr("Stopped."));
 }
 
 } // namespace Glyphor

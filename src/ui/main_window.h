@@ -112,6 +112,7 @@ private:
     void EndStroke();
 
     void New();
+    [[nodiscard]] bool AskFont(ActionOpenFontArgs& args);
     void Open();
     void Merge();
     bool Save();

@@ -4,6 +4,7 @@
 
 #include "actions/edit_actions.h"
 #include "actions/session.h"
+#include "app/engine_texts.h"
 #include "app/settings.h"
 #include "app/version.h"
 #include "cli/command_line_parser.h"
@@ -12,7 +13,6 @@
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
 #include "ui/code_dialogs.h"
-#include "ui/engine_texts.h"
 #include "ui/font_dialog.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
@@ -171,7 +171,7 @@ void MainWindow::RunMacro(const QString& text, const std::function<void()>& work
 void MainWindow::MoveInHistory(bool isUndo)
 {
     UndoStack& stack = session_.Stack();
-    const QString text = isUndo ? stack.undoText() : stack.redoText();
+    const QString text = TranslatedLog(isUndo ? stack.undoText() : stack.redoText());
     movedCodes_ = {};
     {
         const QScopedValueRollback move(isMovingInHistory_, true);
@@ -201,7 +201,7 @@ void MainWindow::RunSelectionEdit(ActionType type)
 {
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
-    RunForEach(codes, LogMessage(type), [&](const CodeRun& run) {
+    RunForEach(codes, TranslatedLog(LogMessage(type)), [&](const CodeRun& run) {
         const auto action = std::make_shared<ActionChar>(session_, type);
         action->Args() = {run.first, run.last};
         return action;
@@ -225,7 +225,7 @@ void MainWindow::RunStateChange(ActionType type)
         codes &= font.EnabledCodes();
     const bool isOne = codes.Next(codes.Next(0) + 1) == CodeSet::Count;
     const ActionType change = isOne ? type : enables ? ActionType::Enable : ActionType::Disable;
-    RunForEach(codes, LogMessage(change), [&](const CodeRun& run) {
+    RunForEach(codes, TranslatedLog(LogMessage(change)), [&](const CodeRun& run) {
         const auto action = std::make_shared<ActionCharState>(session_, change);
         action->Args().first = run.first;
         action->Args().last = run.last;
@@ -281,10 +281,9 @@ void MainWindow::EndStroke()
 
 void MainWindow::ChangeRange(ActionType type)
 {
-    const QString title = type == ActionType::Enable ? tr("Enable range of characters")
-                                                     : tr("Disable range of characters");
     const Font& font = *session_.CurrentFont();
-    EnableRangeDialog dialog(title, font.ExistingCodes(), font.Metrics().encoding, this);
+    EnableRangeDialog dialog(type == ActionType::Enable, font.ExistingCodes(),
+                             font.Metrics().encoding, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const auto action = std::make_shared<ActionCharState>(session_, type);
@@ -313,7 +312,7 @@ void MainWindow::IndexFonts()
     }
     indexing_ = new FontDatabaseThread(this);
     connect(indexing_, &FontDatabaseThread::initFileCount, this, [this](int count) {
-        progress_->BeginBackground(Translated(u"Indexing font files..."_s), count);
+        progress_->BeginBackground(Engine::tr("Indexing font files..."), count);
     });
     connect(indexing_, &FontDatabaseThread::fileDone, this, &MainWindow::OnDatabaseFileDone);
     connect(indexing_, &FontDatabaseThread::hasFinished, this,
@@ -344,10 +343,23 @@ void MainWindow::OnDatabaseThreadFinished()
         Q_EMIT FontsIndexed();
 }
 
-// The installed fonts are indexed when they are first asked for; the dialog fills then.
 void MainWindow::New()
 {
-    if (FontDatabase::Current()->Families().empty())
+    ActionOpenFontArgs args;
+    if (!AskFont(args))
+        return;
+    Guarded([&] {
+        const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::CreateFont);
+        action->Args() = args;
+        if (AskGeneration(action->Args()) && AskToSave())
+            action->Run();
+    });
+}
+
+// The installed fonts are indexed when they are first asked for; the dialog fills then.
+bool MainWindow::AskFont(ActionOpenFontArgs& args)
+{
+    if (indexing_ == nullptr && FontDatabase::Current()->Families().empty())
         IndexFonts();
     FontDialog dialog(this);
     dialog.SetIndexing(indexing_ != nullptr);
@@ -359,20 +371,17 @@ void MainWindow::New()
         IndexFonts();
         dialog.SetIndexing(true);
     });
+    connect(&dialog, &FontDialog::StopRequested, this, &MainWindow::OnIndexingStopped);
     connect(&dialog, &FontDialog::DirectoriesRequested, this, [this, &dialog] {
         EditPreferences(PreferencesDialog::Fonts, &dialog);
         dialog.SetIndexing(indexing_ != nullptr);
     });
     if (dialog.exec() != QDialog::Accepted)
-        return;
-    Guarded([&] {
-        const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::CreateFont);
-        action->Args().path = dialog.Path();
-        action->Args().faceIndex = dialog.FaceIndex();
-        action->Args().size = dialog.Size();
-        if (AskGeneration(action->Args()) && AskToSave())
-            action->Run();
-    });
+        return false;
+    args.path = dialog.Path();
+    args.faceIndex = dialog.FaceIndex();
+    args.size = dialog.Size();
+    return true;
 }
 
 void MainWindow::ShowPreferences()
@@ -380,7 +389,7 @@ void MainWindow::ShowPreferences()
     EditPreferences(-1, this);
 }
 
-// Other directories are indexed at once if any were.
+// Other directories are indexed at once if any were, or are to be chosen from.
 void MainWindow::EditPreferences(int page, QWidget* parent)
 {
     const Settings& settings = Settings::Instance();
@@ -394,7 +403,9 @@ void MainWindow::EditPreferences(int page, QWidget* parent)
         dialog.ShowPage(PreferencesDialog::Page(page));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    if (directories() != previous && !FontDatabase::Current()->Families().empty())
+    const bool isIndexed =
+        indexing_ != nullptr || !FontDatabase::Current()->Families().empty() || parent != this;
+    if (directories() != previous && isIndexed)
         IndexFonts();
     ApplySettings();
     RefreshViews();

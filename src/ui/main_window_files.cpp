@@ -10,10 +10,10 @@
 #include "actions/session.h"
 #include "app/progress.h"
 #include "ui/char_table_view.h"
-#include "ui/engine_texts.h"
 #include "ui/font_generation_dialog.h"
 #include "ui/format_box.h"
 #include "ui/merge_mode_dialog.h"
+#include "ui/translated_names.h"
 
 #include <QCloseEvent>
 #include <QDir>

@@ -74,6 +74,7 @@ QWidget* PreferencesDialog::MakeFilesPage()
     const Settings& settings = Settings::Instance();
     logActions_->setChecked(settings.logActions.value());
     createLogFile_->setChecked(settings.createLogFile.value());
+    useSystemEndings_->setToolTip(tr("CR LF, which the tools for firmware expect"));
     useSystemEndings_->setChecked(settings.useSysLineEndings.value());
     lineEndings_->addItems({tr("CR LF"), tr("CR"), tr("LF")});
     lineEndings_->setCurrentIndex(settings.lineEndings.value());

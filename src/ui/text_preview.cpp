@@ -191,6 +191,7 @@ TextPreview::TextPreview(QWidget* parent)
     connect(paperButton_, &QToolButton::clicked, this,
             [this] { ChooseColour(paper_, *paperButton_, tr("Paper")); });
     zoom_->setValue(2);
+    field_->setCursorPosition(0);
     strip_->SetText(field_->text());
 }
 
@@ -220,6 +221,7 @@ void TextPreview::RestoreState(const QByteArray& state)
     if (stream.status() != QDataStream::Ok)
         return;
     field_->setText(text);
+    field_->setCursorPosition(0);
     zoom_->setValue(zoom);
     kerning_->setChecked(hasKerning);
     ink_ = ink;

@@ -3,6 +3,7 @@
 #include "render/font_database.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
+#include "ui/application.h"
 #include "ui/code_dialogs.h"
 #include "ui/font_dialog.h"
 #include "ui/font_generation_dialog.h"
@@ -111,7 +112,7 @@ private Q_SLOTS:
         QFETCH(const QString, last);
         QFETCH(const int, size);
         QFETCH(const QString, block);
-        EnableRangeDialog dialog(u"Range"_s, {}, EncodingType::Unicode, nullptr);
+        EnableRangeDialog dialog(true, {}, EncodingType::Unicode, nullptr);
         dialog.show();
         for (const auto& [label, text] :
              {std::pair(u"First:"_s, first), std::pair(u"Last:"_s, last)}) {
@@ -125,16 +126,72 @@ private Q_SLOTS:
             QCOMPARE(dialog.Last() - dialog.First() + 1, size);
     }
 
+    void ShiftJis()
+    {
+        EnableRangeDialog dialog(true, {}, EncodingType::ShiftJis, nullptr);
+        dialog.show();
+        QVERIFY(!dialog.findChild<QComboBox*>()->isVisible()); // blocks are Unicode's
+        Labelled<QLineEdit>(dialog, u"First:"_s)->setText(QString(QChar(0x3042)));
+        Labelled<QLineEdit>(dialog, u"Last:"_s)->setText(u"U+3042"_s);
+        QCOMPARE(int(dialog.First()), 0x82A0);
+        QCOMPARE(int(dialog.Last()), 0x82A0);
+        CodeSet codes;
+        codes.Set(0x82A0, true);
+        GoToDialog goTo(codes, EncodingType::ShiftJis, nullptr);
+        QTest::keyClicks(goTo.findChild<QLineEdit*>(), u"U+3042"_s);
+        QCOMPARE(goTo.Code(), 0x82A0);
+        ActionOpenFontArgs args = Outlines();
+        args.encoding = EncodingType::ShiftJis;
+        const FontGenerationDialog generation(args, {u"Book"_s}, nullptr);
+        QCOMPARE(*generation.Args().encoding, EncodingType::ShiftJis);
+        QVERIFY(IsLegacyFormat(*generation.Args().format));
+    }
+
+    // In both languages, in every dialog with more than a few entries.
+    void MnemonicsDoNotCollide_data()
+    {
+        QTest::addColumn<bool>("inGerman");
+        QTest::newRow("English") << false;
+        QTest::newRow("German") << true;
+    }
+
+    void MnemonicsDoNotCollide()
+    {
+        QFETCH(const bool, inGerman);
+        QTranslator texts;
+        QTranslator toolkitTexts;
+        if (inGerman && LoadTexts(QLocale(QLocale::German), texts, toolkitTexts))
+            QCoreApplication::installTranslator(&texts);
+        const FontGenerationDialog generation(Outlines(), {}, nullptr);
+        const FontDialog font(nullptr);
+        const EnableRangeDialog range(true, {}, EncodingType::Unicode, nullptr);
+        for (const QDialog* const dialog :
+             std::initializer_list<const QDialog*>{&generation, &font, &range}) {
+            QStringList keys;
+            for (const QWidget* const widget : dialog->findChildren<QWidget*>()) {
+                const QString text = widget->property("text").toString();
+                const qsizetype mark = text.indexOf(u'&');
+                if (mark < 0 || widget->inherits("QLineEdit"))
+                    continue;
+                const QString key = text.mid(mark + 1, 1).toLower();
+                QVERIFY2(!keys.contains(key), qPrintable(dialog->windowTitle() + u' ' + text));
+                keys.append(key);
+            }
+            QVERIFY(keys.size() >= 3);
+        }
+        QCoreApplication::removeTranslator(&texts);
+    }
+
     void RangesAreRememberedOnceAccepted()
     {
         for (const bool isAccepted : {false, true}) {
-            EnableRangeDialog dialog(u"Range"_s, {}, EncodingType::Unicode, nullptr);
+            EnableRangeDialog dialog(true, {}, EncodingType::Unicode, nullptr);
             dialog.show();
             QCOMPARE(int(dialog.First()), 0x20);
             Labelled<QLineEdit>(dialog, u"First:"_s)->setText(u"65"_s);
             isAccepted ? dialog.accept() : dialog.reject();
         }
-        const EnableRangeDialog dialog(u"Range"_s, {}, EncodingType::Unicode, nullptr);
+        const EnableRangeDialog dialog(true, {}, EncodingType::Unicode, nullptr);
         QCOMPARE(int(dialog.First()), 65);
     }
 
@@ -300,7 +357,12 @@ private Q_SLOTS:
         QVERIFY(!Ok(dialog)->isEnabled());
         auto* const field = Labelled<QLineEdit>(dialog, u"Pattern file"_s);
         field->setText(path);
+        QVERIFY(!Ok(dialog)->isEnabled());
+        Test::WriteAll(path, QByteArray::fromHex("fffe4100"));
+        field->clear();
+        field->setText(path);
         QVERIFY(Ok(dialog)->isEnabled());
+        Test::WriteAll(path, "broken meanwhile");
         Test::RecordingInterface interface;
         Ok(dialog)->click();
         QVERIFY(dialog.isVisible());
@@ -335,7 +397,9 @@ private Q_SLOTS:
             QCOMPARE(Texts(*families), (QStringList{u"DejaVu Sans"_s, u"DejaVu Sans Mono"_s}));
             QTest::keyClicks(Labelled<QLineEdit>(dialog, u"Search:"_s), u"mono"_s);
             QCOMPARE(Texts(*families), QStringList{u"DejaVu Sans Mono"_s});
-            Labelled<QLineEdit>(dialog, u"Search:"_s)->clear();
+            QTest::keyClick(Labelled<QLineEdit>(dialog, u"Search:"_s), Qt::Key_A,
+                            Qt::ControlModifier);
+            QTest::keyClick(Labelled<QLineEdit>(dialog, u"Search:"_s), Qt::Key_Delete);
             families->setCurrentRow(0);
             auto* const styles = dialog.findChild<QTreeWidget*>();
             QCOMPARE(styles->topLevelItemCount(), 2);

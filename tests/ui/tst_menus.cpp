@@ -1,8 +1,10 @@
+#include "actions/action.h"
+#include "app/engine_texts.h"
 #include "support/test_main.h"
 #include "ui/application.h"
-#include "ui/engine_texts.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
+#include "ui/translated_names.h"
 
 #include <QAction>
 #include <QLabel>
@@ -90,6 +92,7 @@ private Q_SLOTS:
         QTranslator texts;
         QTranslator toolkitTexts;
         QVERIFY(!LoadTexts(QLocale(QLocale::Finnish), texts, toolkitTexts));
+        QVERIFY(!LoadTexts(QLocale(QLocale::English), texts, toolkitTexts));
         QVERIFY(LoadTexts(QLocale(QLocale::German), texts, toolkitTexts));
         QCoreApplication::installTranslator(&texts);
         Receiver receiver;
@@ -98,6 +101,12 @@ private Q_SLOTS:
         QCOMPARE(bar.PixelIndexMenu()->title(), u"Pi&xelindex"_s);
         QCOMPARE(TranslatedFilter(u"C fonts (*.c);;All supported file types (*.c *.sif)"_s),
                  u"C-Schriften (*.c);;Alle unterstützten Dateitypen (*.c *.sif)"_s);
+        QCOMPARE(Engine::tr("Given file does not exist!"),
+                 u"Die angegebene Datei gibt es nicht!"_s);
+        QCOMPARE(TranslatedLog(u"[Char 0x0041]: Set pixel index (65,3) to 4."_s),
+                 u"[Char 0x0041]: Pixelindex (65,3) auf 4 gesetzt."_s);
+        QCOMPARE(TranslatedLog(u"[Font]: Opened font file: a]: b.c"_s),
+                 u"[Font]: Schriftdatei geöffnet: a]: b.c"_s);
         const InfoPanel info;
         QCOMPARE(info.findChildren<QLabel*>().size(), 40); // no two captions became one
         QCoreApplication::removeTranslator(&texts);

@@ -76,7 +76,7 @@ private Q_SLOTS:
         QCOMPARE(panel.Value(u"Block"_s), u"Basic Latin"_s);
         QCOMPARE(panel.Value(u"Size"_s), u"5 × 2 px"_s);
         QCOMPARE(panel.Value(u"Offset"_s), u"-5, 3"_s);
-        QCOMPARE(panel.Value(u"Data"_s), u"1 bytes a line, 4 in all"_s);
+        QCOMPARE(panel.Value(u"Data"_s), u"1 B a line, 4 B in all"_s);
         QCOMPARE(panel.Value(u"Enabled characters"_s), u"6 of 7"_s);
         // The structure, two blocks, six records, and two planes of all rows.
         QCOMPARE(FlashSize(*font), 16 + 2 * 12 + 6 * 12 + 2 * 2 * (1 + 1 + 2 + 2 + 3));

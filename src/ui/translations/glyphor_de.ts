@@ -99,6 +99,616 @@
         <source>All supported file types</source>
         <translation>Alle unterstützten Dateitypen</translation>
     </message>
+    <message>
+        <source>[Font]: Initial height of font: %1px.</source>
+        <translation>[Schrift]: Anfangshöhe der Schrift: %1px.</translation>
+    </message>
+    <message>
+        <source>[Font]: Opened font file: %1</source>
+        <translation>[Schrift]: Schriftdatei geöffnet: %1</translation>
+    </message>
+    <message>
+        <source>[Font]: Font merged with: %1</source>
+        <translation>[Schrift]: Gemischt mit: %1</translation>
+    </message>
+    <message>
+        <source>Inserted a column at the right edge.</source>
+        <translation>Rechts eine Spalte eingefügt.</translation>
+    </message>
+    <message>
+        <source>Inserted a column at the left edge.</source>
+        <translation>Links eine Spalte eingefügt.</translation>
+    </message>
+    <message>
+        <source>Inserted a row at the top edge.</source>
+        <translation>Oben eine Zeile eingefügt.</translation>
+    </message>
+    <message>
+        <source>Inserted a row at the bottom edge.</source>
+        <translation>Unten eine Zeile eingefügt.</translation>
+    </message>
+    <message>
+        <source>Pixel data shifted to the right.</source>
+        <translation>Pixel nach rechts geschoben.</translation>
+    </message>
+    <message>
+        <source>Pixel data shifted to the left.</source>
+        <translation>Pixel nach links geschoben.</translation>
+    </message>
+    <message>
+        <source>Pixel data shifted up.</source>
+        <translation>Pixel nach oben geschoben.</translation>
+    </message>
+    <message>
+        <source>Pixel data shifted down.</source>
+        <translation>Pixel nach unten geschoben.</translation>
+    </message>
+    <message>
+        <source>Moved 1 pixel to the right.</source>
+        <translation>1 Pixel nach rechts versetzt.</translation>
+    </message>
+    <message>
+        <source>Moved 1 pixel to the left.</source>
+        <translation>1 Pixel nach links versetzt.</translation>
+    </message>
+    <message>
+        <source>Moved 1 pixel up.</source>
+        <translation>1 Pixel nach oben versetzt.</translation>
+    </message>
+    <message>
+        <source>Moved 1 pixel down.</source>
+        <translation>1 Pixel nach unten versetzt.</translation>
+    </message>
+    <message>
+        <source>Increased cursor distance.</source>
+        <translation>Vorschub vergrößert.</translation>
+    </message>
+    <message>
+        <source>Decreased cursor distance.</source>
+        <translation>Vorschub verkleinert.</translation>
+    </message>
+    <message>
+        <source>Deleted a column from the right edge.</source>
+        <translation>Rechts eine Spalte gelöscht.</translation>
+    </message>
+    <message>
+        <source>Deleted a column from the left edge.</source>
+        <translation>Links eine Spalte gelöscht.</translation>
+    </message>
+    <message>
+        <source>Deleted a row from the top edge.</source>
+        <translation>Oben eine Zeile gelöscht.</translation>
+    </message>
+    <message>
+        <source>Deleted a row from the bottom edge.</source>
+        <translation>Unten eine Zeile gelöscht.</translation>
+    </message>
+    <message>
+        <source>[Font]: Inserted a row at the top of the font.</source>
+        <translation>[Schrift]: Oben an der Schrift eine Zeile eingefügt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Inserted a row at the bottom of the font.</source>
+        <translation>[Schrift]: Unten an der Schrift eine Zeile eingefügt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Deleted a row from the top of the font.</source>
+        <translation>[Schrift]: Oben an der Schrift eine Zeile gelöscht.</translation>
+    </message>
+    <message>
+        <source>[Font]: Deleted a row from the bottom of the font.</source>
+        <translation>[Schrift]: Unten an der Schrift eine Zeile gelöscht.</translation>
+    </message>
+    <message>
+        <source>Enabled.</source>
+        <translation>Aktiviert.</translation>
+    </message>
+    <message>
+        <source>Disabled.</source>
+        <translation>Deaktiviert.</translation>
+    </message>
+    <message>
+        <source>[Font]: Read pattern file: %1.</source>
+        <translation>[Schrift]: Musterdatei gelesen: %1.</translation>
+    </message>
+    <message>
+        <source>Increased pixel index (%2,%3).</source>
+        <translation>Pixelindex erhöht (%2,%3).</translation>
+    </message>
+    <message>
+        <source>Decreased pixel index (%2,%3).</source>
+        <translation>Pixelindex verringert (%2,%3).</translation>
+    </message>
+    <message>
+        <source>Inverted pixel index (%2,%3).</source>
+        <translation>Pixelindex invertiert (%2,%3).</translation>
+    </message>
+    <message>
+        <source>Set pixel index (%2,%3) to %4.</source>
+        <translation>Pixelindex (%2,%3) auf %4 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Deleted.</source>
+        <translation>Gelöscht.</translation>
+    </message>
+    <message>
+        <source>Saved font file: %1</source>
+        <translation>Schriftdatei gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Saved kerning file: %1</source>
+        <translation>Kerning-Datei gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Font merging not possible!</source>
+        <translation>Mischen nicht möglich!</translation>
+    </message>
+    <message>
+        <source>The two fonts do not have the same format!
+The current font with the format &quot;%1&quot; cannot be merged with the other font of the format &quot;%2&quot;.</source>
+        <translation>Die beiden Schriften haben nicht dasselbe Format!
+Die aktuelle Schrift im Format „%1“ kann nicht mit der anderen im Format „%2“ gemischt werden.</translation>
+    </message>
+    <message>
+        <source>One of the two fonts is encoded in Unicode and the other one in Shift JIS: a code means different characters in them.</source>
+        <translation>Eine der beiden Schriften ist in Unicode kodiert, die andere in Shift JIS: Ein Code bezeichnet in ihnen verschiedene Zeichen.</translation>
+    </message>
+    <message>
+        <source>All characters of a font in a legacy format have the font&apos;s height: the current font is %1 pixels high and the other one %2.</source>
+        <translation>Alle Zeichen einer Schrift im Legacy-Format haben die Höhe der Schrift: Die aktuelle Schrift ist %1 Pixel hoch, die andere %2.</translation>
+    </message>
+    <message>
+        <source>There is no font to merge with.</source>
+        <translation>Es gibt keine Schrift, in die gemischt werden kann.</translation>
+    </message>
+    <message>
+        <source>Font creation failed!</source>
+        <translation>Die Schrift konnte nicht erzeugt werden!</translation>
+    </message>
+    <message>
+        <source>Height in points</source>
+        <translation>Höhe in Punkt</translation>
+    </message>
+    <message>
+        <source>A height in points needs the resolution of a desktop, which a run without a window does not have. Give the height in pixels (px).</source>
+        <translation>Eine Höhe in Punkt braucht die Auflösung eines Bildschirms, die es ohne Fenster nicht gibt. Bitte die Höhe in Pixeln (px) angeben.</translation>
+    </message>
+    <message>
+        <source>its only face has the index 0</source>
+        <translation>der einzige Schnitt hat den Index 0</translation>
+    </message>
+    <message>
+        <source>the indices of its faces are 0 to %1</source>
+        <translation>die Schnitte haben die Indizes 0 bis %1</translation>
+    </message>
+    <message>
+        <source>The file %1 has no face with the index %2: %3.</source>
+        <translation>Die Datei %1 hat keinen Schnitt mit dem Index %2: %3.</translation>
+    </message>
+    <message>
+        <source>Invalid combination of encoding and font format!</source>
+        <translation>Kodierung und Schriftformat passen nicht zusammen!</translation>
+    </message>
+    <message>
+        <source>SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4].</source>
+        <translation>Schriften in SJIS müssen ein Legacy-Format haben [LEG, LEG_AA2, LEG_AA4].</translation>
+    </message>
+    <message>
+        <source>The font file %1 can&apos;t be used: %2</source>
+        <translation>Die Schriftdatei %1 ist nicht verwendbar: %2</translation>
+    </message>
+    <message>
+        <source>Error opening file!</source>
+        <translation>Fehler beim Öffnen der Datei!</translation>
+    </message>
+    <message>
+        <source>The format of the font in %1 was not told, so it was not opened.</source>
+        <translation>Das Format der Schrift in %1 wurde nicht genannt; sie wurde nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>Font format</source>
+        <translation>Schriftformat</translation>
+    </message>
+    <message>
+        <source>The file %1 has the format &quot;%2&quot;; the format &quot;%3&quot; was not used.</source>
+        <translation>Die Datei %1 hat das Format „%2“; das Format „%3“ wurde nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Encoding</source>
+        <translation>Kodierung</translation>
+    </message>
+    <message>
+        <source>The file %1 has an encoding of its own; the one given was not used.</source>
+        <translation>Die Datei %1 hat eine eigene Kodierung; die angegebene wurde nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Font has invalid metrics.</source>
+        <translation>Die Maße der Schrift sind ungültig.</translation>
+    </message>
+    <message>
+        <source>Invalid file format!</source>
+        <translation>Ungültiges Dateiformat!</translation>
+    </message>
+    <message>
+        <source>Legacy font formats cannot be saved in the XBF format.</source>
+        <translation>Legacy-Formate können nicht im XBF-Format gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Font is empty!</source>
+        <translation>Die Schrift ist leer!</translation>
+    </message>
+    <message>
+        <source>The font has no enabled characters that could be saved.</source>
+        <translation>Die Schrift hat keine aktiven Zeichen, die gespeichert werden könnten.</translation>
+    </message>
+    <message>
+        <source>No kerning data!</source>
+        <translation>Keine Kerning-Daten!</translation>
+    </message>
+    <message>
+        <source>The enabled characters don&apos;t have any kerning data that could be saved to a file.</source>
+        <translation>Die aktiven Zeichen haben keine Kerning-Daten, die gespeichert werden könnten.</translation>
+    </message>
+    <message>
+        <source>Given file does not exist!</source>
+        <translation>Die angegebene Datei gibt es nicht!</translation>
+    </message>
+    <message>
+        <source>The file %1 is a directory.</source>
+        <translation>Die Datei %1 ist ein Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>The file %1 is not an ordinary file.</source>
+        <translation>%1 ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>The file %1 is empty.</source>
+        <translation>Die Datei %1 ist leer.</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read: %2</source>
+        <translation>Die Datei %1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The pattern file %1 could not be read: %2</source>
+        <translation>Die Musterdatei %1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>Wrong encoding in pattern file!</source>
+        <translation>Falsche Kodierung der Musterdatei!</translation>
+    </message>
+    <message>
+        <source>UTF-16 LE byte order mark was not found.</source>
+        <translation>Die Bytereihenfolge-Marke von UTF-16 LE fehlt.</translation>
+    </message>
+    <message>
+        <source>Pattern file</source>
+        <translation>Musterdatei</translation>
+    </message>
+    <message>
+        <source>The pattern file %1 ends in the middle of a character, which was left out.</source>
+        <translation>Die Musterdatei %1 endet mitten in einem Zeichen, das ausgelassen wurde.</translation>
+    </message>
+    <message>
+        <source>It is too large.</source>
+        <translation>Sie ist zu groß.</translation>
+    </message>
+    <message>
+        <source>It is a directory.</source>
+        <translation>Sie ist ein Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>Error saving file!</source>
+        <translation>Fehler beim Speichern der Datei!</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be written: %2</source>
+        <translation>Die Datei %1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Its styles are: %1</source>
+        <translation>Sie hat die Schnitte: %1</translation>
+    </message>
+    <message>
+        <source>There are no fonts in the font directories.</source>
+        <translation>In den Schriftverzeichnissen sind keine Schriften.</translation>
+    </message>
+    <message>
+        <source>Families with a similar name: %1</source>
+        <translation>Familien mit ähnlichem Namen: %1</translation>
+    </message>
+    <message>
+        <source>Font %1 %2 could not be found!</source>
+        <translation>Die Schrift %1 %2 wurde nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>The %1 of -%2 has to be from 1 to %3.</source>
+        <translation>%1 bei -%2 muss von 1 bis %3 sein.</translation>
+    </message>
+    <message>
+        <source>The font height %1 is not usable: -height takes a whole number from 1 to %2, followed by px or pt (e.g. 24px).</source>
+        <translation>Die Schrifthöhe %1 ist nicht verwendbar: -height nimmt eine ganze Zahl von 1 bis %2 mit px oder pt (z. B. 24px).</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Invalid measuring format, assuming px.</source>
+        <translation>Unbekannte Einheit, px wird angenommen.</translation>
+    </message>
+    <message>
+        <source>-face is not used with -create: the style tells the face.</source>
+        <translation>-face gilt nicht mit -create: Der Stil bestimmt den Schnitt.</translation>
+    </message>
+    <message>
+        <source>A scalable font needs a height: give -height (e.g. -height 24px).</source>
+        <translation>Eine skalierbare Schrift braucht eine Höhe: bitte -height angeben (z. B. -height 24px).</translation>
+    </message>
+    <message>
+        <source>The range 0x%1-0x%2 is reversed, assuming 0x%2-0x%1.</source>
+        <translation>Der Bereich 0x%1-0x%2 ist verkehrt herum, 0x%2-0x%1 wird angenommen.</translation>
+    </message>
+    <message>
+        <source>GUI_FONT structure not found!</source>
+        <translation>Struktur GUI_FONT nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>Array identifier of GUI_FONT structure expected but not found!</source>
+        <translation>Name des Feldes der Struktur GUI_FONT erwartet, aber nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>GUI_FONTTYPE not found!</source>
+        <translation>GUI_FONTTYPE nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>Invalid font format!</source>
+        <translation>Ungültiges Schriftformat!</translation>
+    </message>
+    <message>
+        <source>A font metric of %1 is not possible: 0 to 255 are.</source>
+        <translation>Ein Schriftmaß von %1 ist nicht möglich, nur 0 bis 255.</translation>
+    </message>
+    <message>
+        <source> structure not found!</source>
+        <translation>: Struktur nicht gefunden!</translation>
+    </message>
+    <message>
+        <source> entry not found!</source>
+        <translation>: Eintrag nicht gefunden!</translation>
+    </message>
+    <message>
+        <source> entry did not end in the same line!</source>
+        <translation>: Der Eintrag endet nicht in derselben Zeile!</translation>
+    </message>
+    <message>
+        <source>Error parsing integer!</source>
+        <translation>Ganze Zahl nicht lesbar!</translation>
+    </message>
+    <message>
+        <source>Invalid number of elements (%1) found in structure %2!</source>
+        <translation>Falsche Anzahl von Elementen (%1) in der Struktur %2!</translation>
+    </message>
+    <message>
+        <source>No character can have such a size or offset.</source>
+        <translation>Kein Zeichen kann eine solche Größe oder einen solchen Versatz haben.</translation>
+    </message>
+    <message>
+        <source>The bytes per line are not what the width needs.</source>
+        <translation>Die Bytes je Zeile passen nicht zur Breite.</translation>
+    </message>
+    <message>
+        <source>The property block points outside the character table.</source>
+        <translation>Der Eigenschaftsblock zeigt aus der Zeichentabelle hinaus.</translation>
+    </message>
+    <message>
+        <source>The property block has characters of another block.</source>
+        <translation>Der Eigenschaftsblock enthält Zeichen eines anderen Blocks.</translation>
+    </message>
+    <message>
+        <source>No property block tells the code of the character.</source>
+        <translation>Kein Eigenschaftsblock nennt den Code des Zeichens.</translation>
+    </message>
+    <message>
+        <source>Codes of characters</source>
+        <translation>Codes der Zeichen</translation>
+    </message>
+    <message>
+        <source>The property blocks and the array names do not agree on the codes of %1 characters (%2). Codes were taken from the blocks where there are any.</source>
+        <translation>Eigenschaftsblöcke und Feldnamen nennen für %1 Zeichen verschiedene Codes (%2). Wo es Blöcke gibt, gelten deren Codes.</translation>
+    </message>
+    <message>
+        <source>File ended before all character data could be read!</source>
+        <translation>Die Datei endet, bevor alle Zeichen gelesen werden konnten!</translation>
+    </message>
+    <message>
+        <source>The array belongs to too many characters.</source>
+        <translation>Das Feld gehört zu zu vielen Zeichen.</translation>
+    </message>
+    <message>
+        <source>Invalid amount of bytes read from character bitmap 0x%1</source>
+        <translation>Falsche Anzahl von Bytes im Bitmap des Zeichens 0x%1</translation>
+    </message>
+    <message>
+        <source>Pixels of characters</source>
+        <translation>Pixel der Zeichen</translation>
+    </message>
+    <message>
+        <source>Bytes that are neither numbers nor patterns of &quot;X&quot; and &quot;_&quot;: %1. What is not &quot;X&quot; in them was taken for an empty pixel.</source>
+        <translation>Bytes, die weder Zahlen noch Muster aus „X“ und „_“ sind: %1. Was darin nicht „X“ ist, gilt als leeres Pixel.</translation>
+    </message>
+    <message>
+        <source>Integer not found!</source>
+        <translation>Ganze Zahl nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>Error reading C file!</source>
+        <translation>Fehler beim Lesen der C-Datei!</translation>
+    </message>
+    <message>
+        <source>
+
+Error occured in:
+Line: %1
+Column: %2</source>
+        <translation>
+
+Stelle des Fehlers:
+Zeile: %1
+Spalte: %2</translation>
+    </message>
+    <message>
+        <source>Unsupported format!</source>
+        <translation>Nicht unterstütztes Format!</translation>
+    </message>
+    <message>
+        <source>Given file format is not supported!</source>
+        <translation>Das Format dieser Datei wird nicht unterstützt!</translation>
+    </message>
+    <message>
+        <source>Its header has a height of %1 pixels; 255 are possible.</source>
+        <translation>Ihr Kopf nennt eine Höhe von %1 Pixeln; möglich sind 255.</translation>
+    </message>
+    <message>
+        <source>It ends with the number %1, which is no font format.</source>
+        <translation>Sie endet mit der Zahl %1, die kein Schriftformat ist.</translation>
+    </message>
+    <message>
+        <source>has a size or an offset that no character can have</source>
+        <translation>hat eine Größe oder einen Versatz, den kein Zeichen haben kann</translation>
+    </message>
+    <message>
+        <source>has pixels outside the file</source>
+        <translation>hat Pixel außerhalb der Datei</translation>
+    </message>
+    <message>
+        <source>has rows of %1 bytes, which is not what its width of %2 needs</source>
+        <translation>hat Zeilen von %1 Byte, was nicht zu seiner Breite von %2 passt</translation>
+    </message>
+    <message>
+        <source>The file %1 can&apos;t be used as a font. %2</source>
+        <translation>Die Datei %1 ist nicht als Schrift verwendbar. %2</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 %2.</source>
+        <translation>Das Zeichen 0x%1 %2.</translation>
+    </message>
+    <message>
+        <source>Reading of SIF file failed!</source>
+        <translation>Die SIF-Datei konnte nicht gelesen werden!</translation>
+    </message>
+    <message>
+        <source>It is too short for its %1 ranges of characters.</source>
+        <translation>Sie ist zu kurz für ihre %1 Zeichenbereiche.</translation>
+    </message>
+    <message>
+        <source>Its ranges of characters are not in ascending order.</source>
+        <translation>Ihre Zeichenbereiche sind nicht aufsteigend geordnet.</translation>
+    </message>
+    <message>
+        <source>File size of input file: %1 bytes.<byte value="xd"/>
+File size that was expected: %2 bytes.<byte value="xd"/>
+<byte value="xd"/>
+</source>
+        <translation>Größe der Datei: %1 Byte.<byte value="xd"/>
+Erwartete Größe: %2 Byte.<byte value="xd"/>
+<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>The previously entered font format may not be correct or the file may be corrupted.</source>
+        <translation>Vielleicht ist das zuvor gewählte Schriftformat falsch oder die Datei beschädigt.</translation>
+    </message>
+    <message>
+        <source>It may be corrupted.<byte value="xd"/>
+</source>
+        <translation>Sie ist vielleicht beschädigt.<byte value="xd"/>
+</translation>
+    </message>
+    <message>
+        <source>points to other pixels than its own</source>
+        <translation>zeigt auf andere Pixel als seine eigenen</translation>
+    </message>
+    <message>
+        <source>It does not begin with &quot;GUIP&quot; and a header.</source>
+        <translation>Sie beginnt nicht mit „GUIP“ und einem Kopf.</translation>
+    </message>
+    <message>
+        <source>Error reading XBF file!</source>
+        <translation>Fehler beim Lesen der XBF-Datei!</translation>
+    </message>
+    <message>
+        <source>It is too short for its table of the codes 0x%1 to 0x%2.</source>
+        <translation>Sie ist zu kurz für ihre Tabelle der Codes 0x%1 bis 0x%2.</translation>
+    </message>
+    <message>
+        <source>lies outside the file</source>
+        <translation>liegt außerhalb der Datei</translation>
+    </message>
+    <message>
+        <source>Its characters overlap.</source>
+        <translation>Ihre Zeichen überlappen sich.</translation>
+    </message>
+    <message>
+        <source>is too small</source>
+        <translation>ist zu klein</translation>
+    </message>
+    <message>
+        <source>has a size in the table that is not the size of its pixels</source>
+        <translation>hat in der Tabelle eine andere Größe als seine Pixel</translation>
+    </message>
+    <message>
+        <source>It does not begin with &quot;GUIX&quot;.</source>
+        <translation>Sie beginnt nicht mit „GUIX“.</translation>
+    </message>
+    <message>
+        <source>It does not end with &quot;XBF&quot; and the font&apos;s format, so some of it may be missing.</source>
+        <translation>Sie endet nicht mit „XBF“ und dem Schriftformat; vielleicht fehlt ein Teil.</translation>
+    </message>
+    <message>
+        <source>Error reading file</source>
+        <translation>Fehler beim Lesen der Datei</translation>
+    </message>
+    <message>
+        <source>BDF font file could not be read!</source>
+        <translation>Die BDF-Datei konnte nicht gelesen werden!</translation>
+    </message>
+    <message>
+        <source>Characters left out</source>
+        <translation>Ausgelassene Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters left out: %1 (%2). They need more than a character can hold: 255 pixels each way, a cursor distance from 0 to 255, offsets from -128.</source>
+        <translation>Ausgelassene Zeichen: %1 (%2). Sie brauchen mehr, als ein Zeichen fassen kann: 255 Pixel in jeder Richtung, einen Vorschub von 0 bis 255, Versatz ab -128.</translation>
+    </message>
+    <message>
+        <source>Kerning left out</source>
+        <translation>Ausgelassenes Kerning</translation>
+    </message>
+    <message>
+        <source>The font has too many kerning pairs; some were left out.</source>
+        <translation>Die Schrift hat zu viele Kerning-Paare; einige wurden ausgelassen.</translation>
+    </message>
+    <message>
+        <source>Font has no outlines</source>
+        <translation>Schrift ohne Umrisse</translation>
+    </message>
+    <message>
+        <source>The font has bitmaps only, which are %1 pixels high.</source>
+        <translation>Die Schrift hat nur Bitmaps; sie sind %1 Pixel hoch.</translation>
+    </message>
+    <message>
+        <source>It could not be opened.</source>
+        <translation>Sie konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>It is not a font file.</source>
+        <translation>Sie ist keine Schriftdatei.</translation>
+    </message>
+    <message>
+        <source>Its contents are damaged (FreeType error %1).</source>
+        <translation>Ihr Inhalt ist beschädigt (FreeType-Fehler %1).</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -167,10 +777,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>Zeichen eines Te&amp;xts</translation>
     </message>
     <message>
-        <source>&amp;Browse...</source>
-        <translation>&amp;Durchsuchen...</translation>
-    </message>
-    <message>
         <source>A text file in UTF-16 LE with the characters.</source>
         <translation>Eine Textdatei in UTF-16 LE mit den Zeichen.</translation>
     </message>
@@ -193,6 +799,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Enter some characters.</source>
         <translation>Bitte Zeichen eingeben.</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
     </message>
 </context>
 <context>
@@ -221,20 +835,32 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>&amp;Block:</translation>
     </message>
     <message>
-        <source>A code (0x41, U+0041 or 65), or a character</source>
-        <translation>Ein Code (0x41, U+0041 oder 65) oder ein Zeichen</translation>
-    </message>
-    <message>
-        <source>A code is written as 0x41, U+0041 or 65, or as the character.</source>
-        <translation>Ein Code wird als 0x41, U+0041 oder 65 geschrieben oder als das Zeichen.</translation>
-    </message>
-    <message>
         <source>The last code is before the first one.</source>
         <translation>Der letzte Code liegt vor dem ersten.</translation>
     </message>
     <message>
-        <source>%L1 codes, of which the font has %L2.</source>
-        <translation>%L1 Codes, davon %L2 in der Schrift.</translation>
+        <source>Enable range of characters</source>
+        <translation>Zeichenbereich aktivieren</translation>
+    </message>
+    <message>
+        <source>Disable range of characters</source>
+        <translation>Zeichenbereich deaktivieren</translation>
+    </message>
+    <message>
+        <source>A code (0x41, U+0041 or 65), or a character that is no digit</source>
+        <translation>Ein Code (0x41, U+0041 oder 65) oder ein Zeichen, das keine Ziffer ist</translation>
+    </message>
+    <message>
+        <source>A code is written as 0x41, U+0041 or 65; what is no digit can stand for itself.</source>
+        <translation>Codes werden als 0x41, U+0041 oder 65 geschrieben; außer Ziffern kann jedes Zeichen für sich selbst stehen.</translation>
+    </message>
+    <message>
+        <source>Codes: %L1, in the font: %L2</source>
+        <translation>Codes: %L1, in der Schrift: %L2</translation>
+    </message>
+    <message>
+        <source>The others are added as characters without pixels.</source>
+        <translation>Die übrigen kommen als Zeichen ohne Pixel dazu.</translation>
     </message>
 </context>
 <context>
@@ -256,7 +882,7 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
     <message>
         <source>Inde&amp;x again</source>
-        <translation>Neu er&amp;fassen</translation>
+        <translation>Neu e&amp;rfassen</translation>
     </message>
     <message>
         <source>New font</source>
@@ -300,7 +926,7 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
     <message>
         <source>S&amp;cript:</source>
-        <translation>Schrift&amp;system:</translation>
+        <translation>Schrifts&amp;ystem:</translation>
     </message>
     <message>
         <source>&amp;Families:</source>
@@ -315,16 +941,20 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>&amp;Höhe:</translation>
     </message>
     <message>
-        <source>%L1 families</source>
-        <translation>%L1 Familien</translation>
-    </message>
-    <message>
         <source>italic</source>
         <translation>kursiv</translation>
     </message>
     <message>
         <source>upright</source>
         <translation>aufrecht</translation>
+    </message>
+    <message>
+        <source>Stop inde&amp;xing</source>
+        <translation>E&amp;rfassen abbrechen</translation>
+    </message>
+    <message>
+        <source>Families: %L1 of %L2</source>
+        <translation>Familien: %L1 von %L2</translation>
     </message>
 </context>
 <context>
@@ -335,7 +965,7 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation>&amp;Kursiv</translation>
+        <translation>Kursi&amp;v</translation>
     </message>
     <message>
         <source>Font generation: %1</source>
@@ -436,6 +1066,18 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Line height: %1 px, em size: %2 px, characters: %L3, flash: %L4 bytes</source>
         <translation>Zeilenhöhe: %1 px, Geviert: %2 px, Zeichen: %L3, Flash: %L4 Byte</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht aus.</translation>
+    </message>
+    <message>
+        <source>The font has none of these characters.</source>
+        <translation>Die Schrift hat keines dieser Zeichen.</translation>
+    </message>
+    <message>
+        <source>Not in the font: %1</source>
+        <translation>Nicht in der Schrift: %1</translation>
     </message>
 </context>
 <context>
@@ -584,8 +1226,8 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>%1 × %2 px</translation>
     </message>
     <message>
-        <source>%1 bytes a line, %2 in all</source>
-        <translation>%1 Byte je Zeile, %2 gesamt</translation>
+        <source>%1 B a line, %2 B in all</source>
+        <translation>%1 B je Zeile, %2 B gesamt</translation>
     </message>
 </context>
 <context>
@@ -641,14 +1283,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Stroke</source>
         <translation>Strich</translation>
-    </message>
-    <message>
-        <source>Enable range of characters</source>
-        <translation>Zeichenbereich aktivieren</translation>
-    </message>
-    <message>
-        <source>Disable range of characters</source>
-        <translation>Zeichenbereich deaktivieren</translation>
     </message>
     <message>
         <source>About %1</source>
@@ -856,6 +1490,10 @@ Was soll mit ihnen geschehen?</translation>
         <source>There is no such directory now.</source>
         <translation>Dieses Verzeichnis gibt es zurzeit nicht.</translation>
     </message>
+    <message>
+        <source>CR LF, which the tools for firmware expect</source>
+        <translation>CR LF, wie es die Werkzeuge für Firmware erwarten</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::ProgressArea</name>
@@ -925,16 +1563,12 @@ Was soll mit ihnen geschehen?</translation>
 <context>
     <name>Glyphor::UndoStack</name>
     <message>
-        <source>%1 last action</source>
-        <translation>Letzte Aktion %1</translation>
+        <source>Undo last action</source>
+        <translation>Letzte Aktion rückgängig machen</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>rückgängig machen</translation>
-    </message>
-    <message>
-        <source>Redo</source>
-        <translation>wiederholen</translation>
+        <source>Redo last action</source>
+        <translation>Letzte Aktion wiederholen</translation>
     </message>
 </context>
 <context>
@@ -1401,7 +2035,7 @@ Was soll mit ihnen geschehen?</translation>
     </message>
     <message>
         <source>&amp;About...</source>
-        <translation>Ü&amp;ber...</translation>
+        <translation>&amp;Über...</translation>
     </message>
     <message>
         <source>Show the about dialog</source>
@@ -1409,7 +2043,7 @@ Was soll mit ihnen geschehen?</translation>
     </message>
     <message>
         <source>&amp;Command line options...</source>
-        <translation>Optionen der &amp;Befehlszeile...</translation>
+        <translation>Optionen der Befehls&amp;zeile...</translation>
     </message>
     <message>
         <source>Show the command line options</source>

@@ -4,8 +4,7 @@
 
 namespace Glyphor {
 
-// A short text of the engine in the language of the window: a format's name, the name of a piece of
-// work. Other texts stay as they are.
+// The name of a format or of a kind of files in the language of the window.
 [[nodiscard]] QString Translated(const QString& text);
 
 // The filter of a file dialog with its descriptions in the language of the window.

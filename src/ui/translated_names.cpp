@@ -1,4 +1,4 @@
-#include "ui/engine_texts.h"
+#include "ui/translated_names.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -22,12 +22,6 @@ namespace {
     QT_TRANSLATE_NOOP("Engine", "Extended, framed"),
     QT_TRANSLATE_NOOP("Engine", "Extended, anti-aliased, 2bpp"),
     QT_TRANSLATE_NOOP("Engine", "Extended, anti-aliased, 4bpp"),
-    QT_TRANSLATE_NOOP("Engine", "Indexing font files..."),
-    QT_TRANSLATE_NOOP("Engine", "Loading font..."),
-    QT_TRANSLATE_NOOP("Engine", "Reading character table..."),
-    QT_TRANSLATE_NOOP("Engine", "Reading characters..."),
-    QT_TRANSLATE_NOOP("Engine", "Rendering font..."),
-    QT_TRANSLATE_NOOP("Engine", "Saving C file..."),
     QT_TRANSLATE_NOOP("Engine", "TrueType font formats"),
     QT_TRANSLATE_NOOP("Engine", "Glyph Bitmap Distribution Format"),
     QT_TRANSLATE_NOOP("Engine", "C fonts"),
