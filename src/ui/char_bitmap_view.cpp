@@ -33,7 +33,7 @@ CharBitmapView::CharBitmapView(QWidget* parent) : QGraphicsView(parent)
     resizeTimer_.setInterval(ResizeDelay);
     connect(&resizeTimer_, &QTimer::timeout, this, &CharBitmapView::OnTimerResize);
     hint_ = scene_.addText(tr("This character has no pixels.\nInsert a row or a column to draw."));
-    hint_->setDefaultTextColor(palette().color(QPalette::Disabled, QPalette::Text));
+    hint_->setDefaultTextColor(palette().color(QPalette::WindowText));
     hint_->hide();
 }
 
@@ -200,7 +200,7 @@ void CharBitmapView::InvertPixel(int column, int row)
 // Thin guides for the baseline and the cursor distance.
 void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
 {
-    if (character_ == nullptr)
+    if (items_.empty())
         return;
     QPen pen(QColor(230, 30, 30), 2);
     pen.setCosmetic(true);
