@@ -203,7 +203,6 @@ void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
     if (items_.empty())
         return;
     QPen pen(QColor(230, 30, 30), 2);
-    pen.setCosmetic(true);
     painter->setPen(pen);
     const qreal baseline = guides_.y() * cellSize_;
     if (guides_.y() <= rows_)

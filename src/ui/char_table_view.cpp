@@ -41,12 +41,24 @@ void CharTableView::SetFont(const Font* font)
     Refresh();
     verticalScrollBar()->setValue(0);
     if (!rows_.empty()) {
-        const CodeSet& codes = font_->ExistingCodes();
-        SetCurrentCode(codes.Next(rows_.front() * Columns));
+        SetCurrentCode(FirstCodeWithPixels());
     } else {
         Q_EMIT CurrentChanged(-1);
         Q_EMIT SelectionChanged();
     }
+}
+
+// The first one at all where none has pixels.
+int CharTableView::FirstCodeWithPixels() const
+{
+    const CodeSet& codes = font_->ExistingCodes();
+    const int first = codes.Next(rows_.front() * Columns);
+    for (int code = first; code < CodeSet::Count; code = codes.Next(code + 1)) {
+        const CharInfo& info = font_->FindChar(quint16(code))->info;
+        if (RowIndexOf(code) >= 0 && info.width > 1 && info.Rows() > 0)
+            return code;
+    }
+    return first;
 }
 
 void CharTableView::Refresh()

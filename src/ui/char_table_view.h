@@ -78,6 +78,7 @@ private:
     void KeepShownSelected();
     void ScrollTo(int code);
     [[nodiscard]] QString CodeDescription(int code) const;
+    [[nodiscard]] int FirstCodeWithPixels() const;
     [[nodiscard]] int RowIndexOf(int code) const;
     [[nodiscard]] int CodeAfterKey(int key, bool withControl) const;
     [[nodiscard]] int CodeOfText(const QString& text) const;

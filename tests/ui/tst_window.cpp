@@ -113,6 +113,7 @@ class TestWindow : public QObject
         const QString path = Path("sample.sif");
         FontFileSample(format, path);
         QVERIFY(window_->OpenFile(path));
+        window_->Table().SetCurrentCode('A');
     }
 
     static void FontFileSample(FontFormat format, const QString& path);
