@@ -92,8 +92,11 @@ void UndoStack::AddRedoCommand(QAction* command)
         command->setStatusTip(StatusTip(tr("Redo last action"), redoText()));
 }
 
+// Most runs have no commands, and nobody to read the tips.
 void UndoStack::UpdateCommands()
 {
+    if (undoCommands_.isEmpty() && redoCommands_.isEmpty())
+        return;
     const auto update = [](const QList<QPointer<QAction>>& commands, bool isEnabled,
                            const QString& tip) {
         for (const QPointer<QAction>& command : commands) {
