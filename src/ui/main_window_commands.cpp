@@ -202,7 +202,7 @@ void MainWindow::RunSelectionEdit(ActionType type)
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
     RunForEach(codes, TranslatedLog(LogMessage(type)), [&](const CodeRun& run) {
-        const auto action = std::make_shared<ActionChar>(session_, type);
+        auto action = std::make_shared<ActionChar>(session_, type);
         action->Args() = {run.first, run.last};
         return action;
     });
@@ -226,7 +226,7 @@ void MainWindow::RunStateChange(ActionType type)
     const bool isOne = codes.Next(codes.Next(0) + 1) == CodeSet::Count;
     const ActionType change = isOne ? type : enables ? ActionType::Enable : ActionType::Disable;
     RunForEach(codes, TranslatedLog(LogMessage(change)), [&](const CodeRun& run) {
-        const auto action = std::make_shared<ActionCharState>(session_, change);
+        auto action = std::make_shared<ActionCharState>(session_, change);
         action->Args().first = run.first;
         action->Args().last = run.last;
         return action;
