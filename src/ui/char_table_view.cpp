@@ -223,38 +223,39 @@ void CharTableView::PaintHeaders(QPainter& painter, std::span<const int> rows) c
     painter.setClipping(false);
 }
 
+// Ink on paper looks as it will on the display, in dark themes as well.
+void CharTableView::PaintCharacter(QPainter& painter, const Character& character, bool isEnabled,
+                                   const QRect& cell) const
+{
+    const QColor disabledInk = palette().color(QPalette::Disabled, QPalette::Text);
+    const QColor disabledPaper = palette().color(QPalette::Disabled, QPalette::Button);
+    painter.fillRect(cell, isEnabled ? QColor(Qt::white) : disabledPaper);
+    const QImage picture =
+        CharPicture(character, isEnabled ? QColor(Qt::black) : disabledInk, Qt::cyan);
+    const CharInfo& info = character.info;
+    const int zoom = Zoom(info.width);
+    const int top = IsLegacyFormat(info.font.format) ? 0 : info.yPos * zoom;
+    const QPoint origin(cell.left() + (cell.width() - picture.width() * zoom) / 2,
+                        cell.top() + (cell.height() - info.font.height * zoom) / 2 + top);
+    painter.setClipRect(cell);
+    painter.drawImage(QRect(origin, picture.size() * zoom), picture);
+    if (!isEnabled) {
+        painter.setPen(disabledInk);
+        painter.drawLine(cell.topLeft(), cell.bottomRight());
+    }
+    painter.setClipping(false);
+}
+
 void CharTableView::PaintCell(QPainter& painter, int code, const QRect& cell) const
 {
     const auto code16 = quint16(code);
     const Character* const character = font_->FindChar(code16);
     const bool isEnabled = font_->IsEnabled(code16);
-    const bool isSelected = selected_.Test(code16);
-    const bool isShown = character != nullptr && (showAll_ || isEnabled);
-    // Ink on paper looks as it will on the display, in dark themes as well.
-    const QColor disabledPaper = palette().color(QPalette::Disabled, QPalette::Button);
-    if (!isShown)
-        painter.fillRect(cell, palette().window());
+    if (character != nullptr && (showAll_ || isEnabled))
+        PaintCharacter(painter, *character, isEnabled, cell);
     else
-        painter.fillRect(cell, isEnabled ? QColor(Qt::white) : disabledPaper);
-    if (isShown) {
-        const QColor ink =
-            isEnabled ? QColor(Qt::black) : palette().color(QPalette::Disabled, QPalette::Text);
-        const QImage picture = CharPicture(*character, ink, Qt::cyan);
-        const int zoom = Zoom(character->info.width);
-        const CharInfo& info = character->info;
-        const int fontHeight = font_->Metrics().height;
-        const QPoint origin(cell.left() + (cell.width() - picture.width() * zoom) / 2,
-                            cell.top() + (cell.height() - fontHeight * zoom) / 2 +
-                                (IsLegacyFormat(info.font.format) ? 0 : info.yPos * zoom));
-        painter.setClipRect(cell);
-        painter.drawImage(QRect(origin, picture.size() * zoom), picture);
-        if (!isEnabled) {
-            painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-            painter.drawLine(cell.topLeft(), cell.bottomRight());
-        }
-        painter.setClipping(false);
-    }
-    if (isSelected) {
+        painter.fillRect(cell, palette().window());
+    if (selected_.Test(code16)) {
         QColor mark = palette().color(QPalette::Highlight);
         mark.setAlpha(90);
         painter.fillRect(cell, mark);

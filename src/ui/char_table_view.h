@@ -72,6 +72,8 @@ private:
     void UpdateRows();
     void UpdateSizes();
     void PaintHeaders(QPainter& painter, std::span<const int> rows) const;
+    void PaintCharacter(QPainter& painter, const Character& character, bool isEnabled,
+                        const QRect& cell) const;
     void PaintCell(QPainter& painter, int code, const QRect& cell) const;
     void Select(int code, Qt::KeyboardModifiers modifiers);
     void SelectSpan(int first, int last);
