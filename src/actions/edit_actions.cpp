@@ -25,6 +25,19 @@ bool EditBitmap(Character& character)
     }
 }
 
+// The last column and the last row stay: a deletion leaves no character without pixels.
+template <auto Edit>
+bool DeleteColumn(Character& character)
+{
+    return character.info.width > 1 && EditBitmap<Edit>(character);
+}
+
+template <auto Edit>
+bool DeleteRow(Character& character)
+{
+    return character.info.height > 1 && EditBitmap<Edit>(character);
+}
+
 // A metric changed by one as a step. Metrics wrap.
 template <auto Metric>
 bool Increase(Character& character)
@@ -71,13 +84,13 @@ constexpr std::array<CharStep, 18> CharSteps = {{
      Decrease<&CharInfo::cursorDistance>},
     {ActionType::DecreaseCursorDistance, Decrease<&CharInfo::cursorDistance>,
      Increase<&CharInfo::cursorDistance>},
-    {ActionType::DeleteColumnRight, EditBitmap<&Bitmap::DeleteColumnRight>,
+    {ActionType::DeleteColumnRight, DeleteColumn<&Bitmap::DeleteColumnRight>,
      EditBitmap<&Bitmap::UndoDeleteColumnRight>},
-    {ActionType::DeleteColumnLeft, EditBitmap<&Bitmap::DeleteColumnLeft>,
+    {ActionType::DeleteColumnLeft, DeleteColumn<&Bitmap::DeleteColumnLeft>,
      EditBitmap<&Bitmap::InsertColumnLeft>},
-    {ActionType::DeleteRowTop, EditBitmap<&Bitmap::DeleteRowTop>,
+    {ActionType::DeleteRowTop, DeleteRow<&Bitmap::DeleteRowTop>,
      EditBitmap<&Bitmap::UndoDeleteRowTop>},
-    {ActionType::DeleteRowBottom, EditBitmap<&Bitmap::DeleteRowBottom>,
+    {ActionType::DeleteRowBottom, DeleteRow<&Bitmap::DeleteRowBottom>,
      EditBitmap<&Bitmap::InsertRowBottom>},
 }};
 
@@ -94,11 +107,12 @@ CodeSet RangeOf(quint16 first, quint16 last)
     return codes;
 }
 
-void ApplyFontStep(ActionType type, Font& font)
+// `grown` gets what undoing an insertion at the top has to know.
+void ApplyFontStep(ActionType type, Font& font, CodeSet* grown = nullptr)
 {
     switch (type) {
     case ActionType::FontInsertRowTop:
-        font.InsertRowTop();
+        font.InsertRowTop(grown);
         break;
     case ActionType::FontInsertRowBottom:
         font.InsertRowBottom();
@@ -112,11 +126,10 @@ void ApplyFontStep(ActionType type, Font& font)
     }
 }
 
+// Not for an insertion at the top.
 ActionType OppositeFontStep(ActionType type)
 {
     switch (type) {
-    case ActionType::FontInsertRowTop:
-        return ActionType::FontDeleteRowTop;
     case ActionType::FontInsertRowBottom:
         return ActionType::FontDeleteRowBottom;
     case ActionType::FontDeleteRowTop:
@@ -178,10 +191,12 @@ void ActionChar::UndoOnce()
     const auto revert = StepOf(Type()).revert;
     ForEachChar([&](quint16 code, Character& character) {
         const auto refused = refused_.find(code);
-        if (refused == refused_.end())
-            revert(character);
-        else if (--*refused == 0)
+        if (refused == refused_.end()) {
+            if (!revert(character))
+                CurrentSession().MarkChanged();
+        } else if (--*refused == 0) {
             refused_.erase(refused);
+        }
     });
 }
 
@@ -218,11 +233,19 @@ bool ActionFont::Execute()
 
 void ActionFont::RedoOnce()
 {
-    ApplyFontStep(Type(), *CurrentFont());
+    CodeSet* grown = nullptr;
+    if (Type() == ActionType::FontInsertRowTop)
+        grown = &grown_.emplace_back();
+    ApplyFontStep(Type(), *CurrentFont(), grown);
 }
 
 void ActionFont::UndoOnce()
 {
+    if (Type() == ActionType::FontInsertRowTop) {
+        CurrentFont()->UndoInsertRowTop(grown_.back());
+        grown_.pop_back();
+        return;
+    }
     if (Type() >= ActionType::FontDeleteRowTop && IsLegacyFormat(CurrentFont()->Metrics().format))
         CurrentSession().MarkChanged(); // as deleted pixels come back empty
     ApplyFontStep(OppositeFontStep(Type()), *CurrentFont());
@@ -257,6 +280,7 @@ void ActionPixelIndex::RedoOnce()
     const int x = Args().x;
     const int y = Args().y;
     Args().previousIndex = bitmap.GetPixelIndex(x, y);
+    framedBefore_ = FramedBytes();
     switch (Type()) {
     case ActionType::IncreasePixelIndex:
         bitmap.IncPixelIndex(x, y);
@@ -276,6 +300,15 @@ void ActionPixelIndex::RedoOnce()
 void ActionPixelIndex::UndoOnce()
 {
     Bitmap().SetPixelIndex(Args().x, Args().y, Args().previousIndex);
+    // The frame that a file brought, or that edits of rows moved, may have been another one.
+    if (FramedBytes() != framedBefore_)
+        CurrentSession().MarkChanged();
+}
+
+QByteArray ActionPixelIndex::FramedBytes() const
+{
+    const bool isFramed = CurrentFont()->Metrics().format == FontFormat::Framed;
+    return isFramed ? Bitmap().DataAsList() : QByteArray();
 }
 
 // The messages begin at %2, so the code fills that, x comes next, and the index finds no place.

@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace Glyphor {
 
@@ -57,6 +58,9 @@ public:
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] QString LogText() const override { return MessageFor(); }
+
+private:
+    std::vector<CodeSet> grown_; // by each step at the top: which characters got a row of their own
 };
 
 struct ActionPixelIndexArgs
@@ -67,7 +71,8 @@ struct ActionPixelIndexArgs
     int previousIndex = 0; // for undo
 };
 
-// Changes one pixel: types 35 to 37, and one type for each index that a pixel can be set to.
+// Changes one pixel: types 35 to 37, and one type for each index that a pixel can be set to. In the
+// framed format each change computes the frame of the character anew.
 class ActionPixelIndex final : public ActionWithArgs<ActionPixelIndexArgs>
 {
 public:
@@ -84,6 +89,9 @@ private:
     [[nodiscard]] bool IsSet() const { return Type() >= ActionType::SetPixelIndex0; }
     [[nodiscard]] int IndexToSet() const;
     [[nodiscard]] CharBitmap& Bitmap() const;
+    [[nodiscard]] QByteArray FramedBytes() const;
+
+    QByteArray framedBefore_; // both planes; empty in other formats
 };
 
 // How actions change which characters are enabled.

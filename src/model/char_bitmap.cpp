@@ -84,7 +84,7 @@ bool CharBitmap::CanInsertRow() const
 
 bool CharBitmap::CanDeleteRow() const
 {
-    return !IsLegacyFormat(info_.font.format) && info_.height > 1;
+    return !IsLegacyFormat(info_.font.format) && info_.height > 0;
 }
 
 bool CharBitmap::InsertColumnRight()
@@ -182,7 +182,7 @@ void CharBitmap::Clear()
 
 bool CharBitmap::DeleteColumnRight()
 {
-    if (info_.width <= 1)
+    if (info_.width == 0)
         return false;
     PixelPlane::DeleteColumnRight(data_, Layout());
     info_.SetWidth(static_cast<quint8>(info_.width - 1));
@@ -191,7 +191,7 @@ bool CharBitmap::DeleteColumnRight()
 
 bool CharBitmap::DeleteColumnLeft()
 {
-    if (info_.width <= 1)
+    if (info_.width == 0)
         return false;
     PixelPlane::DeleteColumnLeft(data_, Layout());
     info_.SetWidth(static_cast<quint8>(info_.width - 1));

@@ -12,9 +12,9 @@ namespace Glyphor {
 
 // The pixels of one character and every edit of them. Edits keep the character's metrics in step.
 //
-// An edit that returns bool is refused, and changes nothing, where the bitmap would become empty or
-// larger than 255 pixels, where an offset would leave its range, and for single rows of a legacy
-// character, whose height is the font's.
+// An edit that returns bool is refused, and changes nothing, where there is nothing to delete, where
+// the bitmap would become larger than 255 pixels, where an offset would leave its range, and for
+// single rows of a legacy character, whose height is the font's.
 class CharBitmap
 {
 public:

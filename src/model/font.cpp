@@ -179,7 +179,7 @@ void Font::ForEachChar(Edit edit) const
 {
     for (int code = existing_.Next(0); code < CodeSet::Count; code = existing_.Next(code + 1)) {
         const auto index = static_cast<std::size_t>(code);
-        edit(*(*pages_[index / PageSize])[index % PageSize]);
+        edit(static_cast<quint16>(code), *(*pages_[index / PageSize])[index % PageSize]);
     }
 }
 
@@ -188,7 +188,7 @@ int Font::TopRowRoom(bool insert) const
     int room = CharInfo::MaxSize;
     if (IsLegacyFormat(metrics_.format))
         return room;
-    ForEachChar([&](const Character& character) {
+    ForEachChar([&](quint16, const Character& character) {
         const CharInfo& info = character.info;
         // Beyond the largest offset empty rows are added to the bitmap.
         const int down = MaxOffset - info.yPos + CharInfo::MaxSize - info.height;
@@ -197,23 +197,24 @@ int Font::TopRowRoom(bool insert) const
     return room;
 }
 
-void Font::MoveDown(int rows)
+void Font::MoveDown(CodeSet& grown)
 {
-    metrics_.baseline = static_cast<quint8>(metrics_.baseline + rows);
-    // A legacy character has no offset: its rows move instead.
-    if (IsLegacyFormat(metrics_.format))
-        return;
-    ForEachChar([rows](Character& character) {
-        CharInfo& info = character.info;
-        // At the largest offset an empty row above the picture comes and goes instead.
-        if (info.yPos == MaxOffset && rows > 0) {
-            (void)character.bitmap->InsertRowTop(); // which moves it up
-        } else if (info.yPos == MaxOffset && HasEmptyTopRow(character)) {
-            --info.yPos;
-            character.bitmap->DeleteRowTop();
-            return;
+    ForEachChar([&](quint16 code, Character& character) {
+        if (character.info.yPos == MaxOffset) {
+            character.bitmap->InsertRowTop(); // which moves it up
+            grown.Set(code, true);
         }
-        info.yPos = static_cast<qint8>(info.yPos + rows);
+        ++character.info.yPos;
+    });
+}
+
+template <typename HasRowAbove>
+void Font::MoveUp(HasRowAbove hasRowAbove)
+{
+    ForEachChar([&](quint16 code, Character& character) {
+        --character.info.yPos;
+        if (hasRowAbove(code, character))
+            character.bitmap->DeleteRowTop(); // which moves it down
     });
 }
 
@@ -228,7 +229,7 @@ bool Font::EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)())
         return false;
 
     if (isLegacy) {
-        ForEachChar([=](Character& character) {
+        ForEachChar([=](quint16, Character& character) {
             (character.bitmap.get()->*legacyEdit)();
             character.info.height = static_cast<quint8>(height);
         });
@@ -236,13 +237,28 @@ bool Font::EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)())
     metrics_.height = static_cast<quint8>(height);
     metrics_.verticalSpace = static_cast<quint8>(metrics_.verticalSpace + change);
     if (atTop)
-        MoveDown(change);
+        metrics_.baseline = static_cast<quint8>(metrics_.baseline + change);
     return true;
 }
 
-bool Font::InsertRowTop()
+// A legacy character has no offset: its rows moved instead.
+bool Font::InsertRowTop(CodeSet* grown)
 {
-    return EditRow(RowEdge::Top, 1, &CharBitmap::InsertFontRowTop);
+    if (!EditRow(RowEdge::Top, 1, &CharBitmap::InsertFontRowTop))
+        return false;
+    CodeSet own;
+    if (!IsLegacyFormat(metrics_.format))
+        MoveDown(grown != nullptr ? *grown : own);
+    return true;
+}
+
+bool Font::UndoInsertRowTop(const CodeSet& grown)
+{
+    if (!EditRow(RowEdge::Top, -1, &CharBitmap::DeleteFontRowTop))
+        return false;
+    if (!IsLegacyFormat(metrics_.format))
+        MoveUp([&grown](quint16 code, const Character&) { return grown.Test(code); });
+    return true;
 }
 
 bool Font::InsertRowBottom()
@@ -252,7 +268,13 @@ bool Font::InsertRowBottom()
 
 bool Font::DeleteRowTop()
 {
-    return EditRow(RowEdge::Top, -1, &CharBitmap::DeleteFontRowTop);
+    if (!EditRow(RowEdge::Top, -1, &CharBitmap::DeleteFontRowTop))
+        return false;
+    if (!IsLegacyFormat(metrics_.format))
+        MoveUp([](quint16, const Character& character) {
+            return character.info.yPos == MaxOffset - 1 && HasEmptyTopRow(character);
+        });
+    return true;
 }
 
 bool Font::DeleteRowBottom()

@@ -123,7 +123,11 @@ public:
     // Rows of the whole font, which legacy characters gain or lose in their pixels. Refused,
     // without a change, where the height or an offset would leave its range or legacy characters
     // would become empty; the baseline wraps.
-    bool InsertRowTop();
+    //
+    // A character at the largest offset can't move down: it grows by an empty row above instead.
+    // `grown` gets the codes of those that did, for the undo.
+    bool InsertRowTop(CodeSet* grown = nullptr);
+    bool UndoInsertRowTop(const CodeSet& grown);
     bool InsertRowBottom();
     bool DeleteRowTop();
     bool DeleteRowBottom();
@@ -140,7 +144,9 @@ private:
     std::unique_ptr<Character>& Place(quint16 code);
     Character& Create(quint16 code);
     bool EditRow(RowEdge edge, int change, void (CharBitmap::*legacyEdit)());
-    void MoveDown(int rows);
+    void MoveDown(CodeSet& grown);
+    template <typename HasRowAbove>
+    void MoveUp(HasRowAbove hasRowAbove);
     template <typename Edit>
     void ForEachChar(Edit edit) const;
 
