@@ -19,7 +19,7 @@ class FuzzInterface final : public UserInterface
 public:
     FuzzInterface() { SetCurrentInterface(this); }
 
-    int askFontFormat() override { return answer_; }
+    int askFontFormat(EncodingType&) override { return answer_; }
     void SetAnswer(std::size_t size) { answer_ = static_cast<int>(size % FormatCount); }
 
 private:

@@ -21,11 +21,8 @@ const QString& MergeNotPossible()
 std::unique_ptr<Character> CopyInto(const Font& font, const Character& character)
 {
     auto copy = std::make_unique<Character>(font.Metrics());
-    const CharInfo& info = character.info;
-    copy->info.Set({info.width, info.height, info.xPos, info.yPos, info.cursorDistance});
-    const QByteArray bytes = character.bitmap->DataAsList();
-    copy->bitmap->ReadData(
-        {reinterpret_cast<const uchar*>(bytes.constData()), std::size_t(bytes.size())});
+    copy->info.Set(character.info.Metrics());
+    copy->bitmap->ShareData(*character.bitmap);
     copy->kerning = character.kerning;
     return copy;
 }

@@ -23,8 +23,16 @@ void Progress::SetValue(int value)
         throw WorkStopped();
 }
 
+void Progress::LookedAt()
+{
+    constexpr int worthATurn = 16;
+    if (++lookedAt_ >= worthATurn && !Report())
+        throw WorkStopped();
+}
+
 bool Progress::Report()
 {
+    lookedAt_ = 0;
     nextReport_ = value_ + std::max(1, maximum_ / 100);
     return CurrentInterface().progressChanged(text_, value_, maximum_);
 }

@@ -27,6 +27,9 @@ public:
     void Advance() { SetValue(value_ + 1); }
     void SetValue(int value);
 
+    // Something was looked at that the value does not count.
+    void LookedAt();
+
 private:
     bool Report();
 
@@ -34,6 +37,7 @@ private:
     int maximum_;
     int value_ = 0;
     int nextReport_ = 0;
+    int lookedAt_ = 0; // since the last report
 };
 
 } // namespace Glyphor

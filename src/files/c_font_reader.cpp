@@ -279,8 +279,10 @@ void CFontReader::ReadCodes()
 void CFontReader::ReadBlock()
 {
     const std::size_t start = scanner_.Position();
-    const std::size_t end = scanner_.Text().find_first_of("=;{)", start);
-    if (end == std::string_view::npos || scanner_.Text()[end] != '=')
+    const std::size_t end =
+        std::min(scanner_.Text().find_first_of("=;{)", start), scanner_.Text().size());
+    scanner_.SetPosition(end);
+    if (scanner_.Current() != '=')
         return;
     scanner_.SetPosition(end + 1);
     scanner_.SkipWhitespace();

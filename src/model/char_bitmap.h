@@ -12,9 +12,9 @@ namespace Glyphor {
 
 // The pixels of one character and every edit of them. Edits keep the character's metrics in step.
 //
-// An edit that returns bool is refused, and changes nothing, where there is nothing to delete, where
-// the bitmap would become larger than 255 pixels, where an offset would leave its range, and for
-// single rows of a legacy character, whose height is the font's.
+// An edit that returns bool is refused, and changes nothing, where there is nothing to delete,
+// where the bitmap would become larger than 255 pixels, where an offset would leave its range, and
+// for single rows of a legacy character, whose height is the font's.
 class CharBitmap
 {
 public:
@@ -77,6 +77,10 @@ public:
 
     // Replaces the bytes; they are adjusted to the size that the metrics ask for.
     virtual void AssignData(const QByteArray& data);
+
+    // Takes the pixels of a character of the same metrics; the bytes are shared until one is
+    // edited.
+    virtual void ShareData(const CharBitmap& other) { data_ = other.data_; }
 
     // 0 outside the data.
     [[nodiscard]] int GetPixelIndex(int x, int y) const;

@@ -158,6 +158,12 @@ void CharBitmapFramed::AssignData(const QByteArray& data)
     UpdateFrame();
 }
 
+void CharBitmapFramed::ShareData(const CharBitmap& other)
+{
+    CharBitmap::ShareData(other);
+    frame_ = static_cast<const CharBitmapFramed&>(other).frame_;
+}
+
 // The four direct neighbours of every set pixel that are not set themselves, eight pixels at a
 // time. Those outside the bitmap are dropped: editing a pixel never changes the size.
 void CharBitmapFramed::UpdateFrame()

@@ -43,6 +43,9 @@ public:
     // Takes the data plane and computes the frame.
     void AssignData(const QByteArray& data) override;
 
+    // The other one must be framed as well.
+    void ShareData(const CharBitmap& other) override;
+
     [[nodiscard]] const QByteArray& Frame() const { return frame_; }
 
 private:

@@ -45,6 +45,11 @@ struct CharInfo
         bytesPerLine = static_cast<quint8>((font.bitsPerPixel * value + 7) / 8);
     }
 
+    [[nodiscard]] CharMetrics Metrics() const
+    {
+        return {width, height, xPos, yPos, cursorDistance};
+    }
+
     // They must fit.
     void Set(const CharMetrics& metrics)
     {

@@ -122,6 +122,16 @@ Font::AddResult Font::AddChar(quint16 code, const RenderedGlyph& glyph)
     return AddResult::Added;
 }
 
+Font::AddResult Font::AddChar(quint16 code, const Character& same)
+{
+    if (existing_.Test(code))
+        return AddResult::Exists;
+    Character& character = Create(code);
+    character.info.Set(same.info.Metrics());
+    character.bitmap->ShareData(*same.bitmap);
+    return AddResult::Added;
+}
+
 Character& Font::AddChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes)
 {
     Character& character = Create(code);

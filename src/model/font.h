@@ -85,6 +85,10 @@ public:
     // place of one that exists. The metrics must fit and the bytes have the size they ask for.
     Character& AddChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes);
 
+    // Adds and enables a character with the metrics and pixels of another one of this font, unless
+    // the code exists.
+    AddResult AddChar(quint16 code, const Character& same);
+
     // Takes a character out of the font, or gives it one that was taken out of it. Its enabled bit
     // stays as it is.
     std::unique_ptr<Character> RemoveChar(quint16 code);

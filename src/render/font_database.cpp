@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <new>
 
 namespace Glyphor {
 
@@ -79,21 +80,6 @@ std::vector<FontFileEntry> FontFilesIn(const QStringList& directories)
     return files;
 }
 
-// A FreeType library of its own for a thread of its own.
-class LocalLibrary
-{
-public:
-    LocalLibrary() { FT_Init_FreeType(&library_); }
-    ~LocalLibrary() { FT_Done_FreeType(library_); }
-    LocalLibrary(const LocalLibrary&) = delete;
-    LocalLibrary& operator=(const LocalLibrary&) = delete;
-
-    [[nodiscard]] FT_Library Get() const { return library_; }
-
-private:
-    FT_Library library_ = nullptr;
-};
-
 std::mutex currentMutex;
 std::shared_ptr<const FontDatabase> current;
 
@@ -118,16 +104,25 @@ bool FontDatabase::Build(const QStringList& directories, const std::function<voi
     families_.clear();
     const std::vector<FontFileEntry> files = FontFilesIn(directories);
     counted(static_cast<int>(files.size()));
-    const LocalLibrary library;
+    FontLibrary library;
     int count = 0;
     for (const FontFileEntry& file : files) {
-        for (auto& family : ListFamilies(file.path, file.type, library.Get()))
-            Add(std::move(family));
+        AddFile(file.path, file.type, library);
         if (!done(++count))
             return false;
     }
     std::ranges::sort(families_, {}, [](const auto& family) { return family->Name(); });
     return true;
+}
+
+// A file that there is no memory for is left out, as a damaged one is.
+void FontDatabase::AddFile(const QString& path, FileType type, FontLibrary& library)
+{
+    try {
+        for (auto& family : ListFamilies(path, type, library))
+            Add(std::move(family));
+    } catch (const std::bad_alloc&) {
+    }
 }
 
 void FontDatabase::Add(std::unique_ptr<FontFamily> family)

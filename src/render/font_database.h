@@ -29,6 +29,7 @@ public:
     [[nodiscard]] const FontFamily* Find(const QString& name) const;
 
 private:
+    void AddFile(const QString& path, FileType type, FontLibrary& library);
     void Add(std::unique_ptr<FontFamily> family);
 
     FontFamilies families_;

@@ -101,15 +101,19 @@ FontFamilyTTF_MM::FontFamilyTTF_MM(const FreeTypeFace& face) : FontFamily(face)
     }
 }
 
-FontFamilies ListFamilies(const QString& path, FileType type, FT_Library library)
+FontFamilies ListFamilies(const QString& path, FileType type, FontLibrary& library)
 {
     FontFamilies families;
-    const FreeTypeFace face(path, 0, library);
+    FreeTypeFace face(path, 0, library);
     if (type == FileType::TrueTypeCollection) {
-        for (int index = 0; index < face.FaceCount(); ++index) {
-            const FreeTypeFace member(path, index, library);
-            if (member.IsOpen())
-                families.push_back(std::make_unique<FontFamilyTTC>(member, index));
+        const int count = face.FaceCount();
+        for (int index = 0; index < count; ++index) {
+            if (index > 0) {
+                face = FreeTypeFace(); // first, as a file may be unpacked into memory
+                face = FreeTypeFace(path, index, library);
+            }
+            if (face.IsOpen())
+                families.push_back(std::make_unique<FontFamilyTTC>(face, index));
         }
     } else if (face.NamedInstanceCount() > 0) {
         families.push_back(std::make_unique<FontFamilyTTF_MM>(face));

@@ -88,6 +88,6 @@ using FontFamilies = std::vector<std::unique_ptr<FontFamily>>;
 
 // The families that the faces of a file form, one for each face. Nothing where the file can't be
 // read. Two threads need two libraries.
-[[nodiscard]] FontFamilies ListFamilies(const QString& path, FileType type, FT_Library library);
+[[nodiscard]] FontFamilies ListFamilies(const QString& path, FileType type, FontLibrary& library);
 
 } // namespace Glyphor

@@ -23,31 +23,6 @@ bool IsBdf(const FreeTypeFace& face)
     return format != nullptr && std::strcmp(format, "BDF") == 0;
 }
 
-// FreeType makes room for each bitmap at its box, whether or not its rows follow. A file that could
-// not hold them would ask for any amount of memory.
-bool HoldsItsBoxes(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    qint64 bytes = 0;
-    while (!file.atEnd() && bytes <= file.size()) {
-        constexpr qint64 longestLine = 1024;
-        const QByteArray line = file.readLine(longestLine);
-        if (!line.startsWith("BBX "))
-            continue;
-        const QList<QByteArray> numbers = line.simplified().split(' ');
-        if (numbers.size() > 2)
-            bytes += (numbers[1].toUShort() + 7) / 8 * qint64(numbers[2].toUShort());
-    }
-    return bytes <= file.size();
-}
-
-FreeTypeFace_BDF OpenFace(const QString& path)
-{
-    return HoldsItsBoxes(path) ? FreeTypeFace_BDF(path, 0, FreeTypeLibrary()) : FreeTypeFace_BDF();
-}
-
 } // namespace
 
 int FreeTypeFace_BDF::Ascent() const
@@ -68,7 +43,7 @@ int FreeTypeFace_BDF::VerticalAdvance() const
     return static_cast<int>(advance >> 6);
 }
 
-FontFileBDF::FontFileBDF(const QString& path) : FontFileFT(path), face_(OpenFace(path))
+FontFileBDF::FontFileBDF(const QString& path) : FontFileFT(path), face_(path, 0, FreeTypeLibrary())
 {
     if (!IsBdf(face_))
         return;

@@ -38,7 +38,8 @@ void FontFileFT::MeasureReferenceHeights(const FreeTypeFace& face, Font& font)
 
 bool FontFileFT::AddGlyph(Font& font, quint16 code, const RenderedGlyph& glyph)
 {
-    if (glyph.pixels.empty() && glyph.cursorDistance <= 0)
+    const bool isEmpty = glyph.width == 0 || glyph.rows == 0;
+    if (isEmpty && glyph.cursorDistance <= 0)
         return false;
     const Font::AddResult result = font.AddChar(code, glyph);
     if (result == Font::AddResult::DoesNotFit)

@@ -6,7 +6,9 @@
 #include "model/encoding.h"
 #include "render/kerning_index.h"
 
+#include <limits>
 #include <optional>
+#include <utility>
 
 namespace Glyphor {
 
@@ -26,6 +28,15 @@ std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs, Encoding
     return encoded;
 }
 
+// Opens another member of the file. The file is let go of first: it may have been unpacked into
+// memory.
+void Reopen(FreeTypeFace& face, int index)
+{
+    const QString path = face.Path();
+    face = FreeTypeFace();
+    face = FreeTypeFace(path, index, FreeTypeLibrary());
+}
+
 // No font needs as many pairs, but a damaged one can claim one for every two characters.
 constexpr std::size_t MaxKerningPairs = 1'000'000;
 
@@ -39,6 +50,10 @@ void FontFileScalable::UseFace(const FreeTypeFace& face)
 {
     face_ = face;
     face_.SetMonochrome(BitsPerPixel(options_.format) == 1);
+    // Legacy characters are cut to the font's height, whatever that of the glyph.
+    face_.SetLargestBitmap(CharInfo::MaxSize, IsLegacyFormat(options_.format)
+                                                  ? std::numeric_limits<int>::max() / 2
+                                                  : CharInfo::MaxSize);
     face_.SetPixelSize(options_.size);
 }
 
@@ -54,6 +69,7 @@ std::unique_ptr<Font> FontFileScalable::Read()
     if (face_.GlyphCount() == 0 || font->Metrics().height == 0)
         return font;
     font->SetHasKerning(face_.HasKerning());
+    rendered_.clear();
     RenderCharmap(*font);
     WarnOfMisfits();
     return font;
@@ -87,7 +103,6 @@ void FontFileScalable::RenderCharmap(Font& font)
     if (font.HasKerning())
         kerning.emplace(face_);
     Progress progress(Engine::tr("Rendering font..."), face_.GlyphCount());
-    RenderedGlyph glyph;
     std::size_t pairCount = 0;
     CodeSet visited; // a code that comes up again gives the same glyph again
     int notVisited = CodeSet::Count;
@@ -96,10 +111,11 @@ void FontFileScalable::RenderCharmap(Font& font)
             return true;
         visited.Set(faceCode, true);
         --notVisited;
+        progress.LookedAt();
         quint16 code = faceCode;
         const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
         if (isWanted && unicode.Convert(options_.encoding, code) &&
-            face_.RenderIndex(glyphIndex, glyph) && AddGlyph(font, code, glyph)) {
+            AddCharacter(font, code, glyphIndex)) {
             if (kerning && pairCount < MaxKerningPairs) {
                 auto& pairs = font.FindChar(code)->kerning;
                 pairs = Encoded(kerning->PairsOf(faceCode), options_.encoding);
@@ -113,6 +129,17 @@ void FontFileScalable::RenderCharmap(Font& font)
         CurrentInterface().warning(
             Engine::tr("Kerning left out"),
             Engine::tr("The font has too many kerning pairs; some were left out."));
+}
+
+// Codes with the same glyph share its pixels.
+bool FontFileScalable::AddCharacter(Font& font, quint16 code, FT_UInt glyphIndex)
+{
+    if (const auto rendered = rendered_.constFind(glyphIndex); rendered != rendered_.constEnd())
+        return font.AddChar(code, *font.FindChar(*rendered)) == Font::AddResult::Added;
+    if (!face_.RenderIndex(glyphIndex, glyph_) || !AddGlyph(font, code, glyph_))
+        return false;
+    rendered_.insert(glyphIndex, code);
+    return true;
 }
 
 // A face of bitmaps only has no other size than theirs.
@@ -132,21 +159,27 @@ void FontFileScalable::WarnOfMissingSize() const
 FontFileTTF::FontFileTTF(const QString& path, const RenderOptions& options)
     : FontFileScalable(path, options)
 {
-    FreeTypeFace probe(path, 0, FreeTypeLibrary());
-    if (probe.IsMultiMaster()) {
-        faceCount_ = probe.NamedInstanceCount() + 1;
-        probe.SetNamedInstance(options.faceIndex);
-        UseFace(probe);
-    } else {
-        faceCount_ = probe.FaceCount();
-        UseFace(FreeTypeFace(path, options.faceIndex, FreeTypeLibrary()));
-    }
+    FreeTypeFace face(path, 0, FreeTypeLibrary());
+    const bool isMultiMaster = face.IsMultiMaster();
+    faceCount_ = isMultiMaster ? face.NamedInstanceCount() + 1 : face.FaceCount();
+    if (isMultiMaster)
+        face.SetNamedInstance(options.faceIndex);
+    else if (options.faceIndex != 0)
+        Reopen(face, options.faceIndex);
+    UseFace(face);
 }
 
 FontFileTTC::FontFileTTC(const QString& path, const RenderOptions& options)
-    : FontFileTTF(path, options), faceCount_(FreeTypeFace(path, -1, FreeTypeLibrary()).FaceCount())
+    : FontFileTTF(path, options), faceCount_(Face().FaceCount())
 {
-    UseFace(FreeTypeFace(path, options.faceIndex, FreeTypeLibrary()));
+    if (!Face().IsOpen())
+        faceCount_ = FreeTypeFace(path, -1, FreeTypeLibrary()).FaceCount();
+    // Where the first member is a multi-master face, the index was taken for that of an instance.
+    if (options.faceIndex == Face().MemberIndex())
+        return;
+    FreeTypeFace face = std::exchange(Face(), {});
+    Reopen(face, options.faceIndex);
+    UseFace(face);
 }
 
 QList<FaceDescription> FontFileTTC::FaceDescriptions() const

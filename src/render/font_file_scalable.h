@@ -2,6 +2,8 @@
 
 #include "render/font_file_ft.h"
 
+#include <QHash>
+
 namespace Glyphor {
 
 // What a font is to be rendered as.
@@ -43,11 +45,14 @@ protected:
 private:
     void SetMetrics(Font& font) const;
     void RenderCharmap(Font& font);
+    bool AddCharacter(Font& font, quint16 code, FT_UInt glyphIndex);
     void WarnOfMissingSize() const;
     [[nodiscard]] QString FontName() const;
 
     FreeTypeFace face_;
     RenderOptions options_;
+    QHash<FT_UInt, quint16> rendered_; // glyphs, with the first code of each
+    RenderedGlyph glyph_;              // keeps its buffer from glyph to glyph
 };
 
 // A single face, a member of a collection by its index, or a named instance of a multi-master face,

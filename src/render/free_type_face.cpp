@@ -4,12 +4,14 @@
 #include "app/settings.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHash>
 #include <QScreen>
 #include <QtEndian>
 
 #include FT_MULTIPLE_MASTERS_H
+#include FT_OUTLINE_H
 #include FT_SFNT_NAMES_H
 #include FT_SYNTHESIS_H
 #include FT_TRUETYPE_TABLES_H
@@ -25,21 +27,6 @@ namespace Glyphor {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// The library lives until the process ends.
-class LibraryHolder
-{
-public:
-    LibraryHolder() { FT_Init_FreeType(&library_); }
-    ~LibraryHolder() { FT_Done_FreeType(library_); }
-    LibraryHolder(const LibraryHolder&) = delete;
-    LibraryHolder& operator=(const LibraryHolder&) = delete;
-
-    [[nodiscard]] FT_Library Get() const { return library_; }
-
-private:
-    FT_Library library_ = nullptr;
-};
 
 struct VariationsDeleter
 {
@@ -58,11 +45,16 @@ Variations VariationsOf(FT_Library library, FT_Face face)
     return {variations, VariationsDeleter{library}};
 }
 
+int ClampToInt(qint64 value)
+{
+    return static_cast<int>(std::clamp<qint64>(value, std::numeric_limits<int>::min(),
+                                               std::numeric_limits<int>::max()));
+}
+
 // FreeType counts in 26.6 pixels; shifting rounds towards minus infinity.
 int WholePixels(FT_Pos value)
 {
-    return static_cast<int>(std::clamp<FT_Pos>(value >> 6, std::numeric_limits<int>::min(),
-                                               std::numeric_limits<int>::max()));
+    return ClampToInt(value >> 6);
 }
 
 // Only the encoding tells how a name is read, not the platform.
@@ -85,15 +77,16 @@ QString DecodeName(const FT_SfntName& name)
     return text;
 }
 
-// The first name of each number.
+// The first name of each number. Names that no menu could show count as unreadable.
 QHash<FT_UInt, QString> AllNames(FT_Face face)
 {
     QHash<FT_UInt, QString> names;
+    constexpr FT_UInt longest = 1024;
     const FT_UInt count = FT_Get_Sfnt_Name_Count(face);
     for (FT_UInt index = 0; index < count; ++index) {
         FT_SfntName name{};
         if (FT_Get_Sfnt_Name(face, index, &name) == 0 && !names.contains(name.name_id))
-            names.insert(name.name_id, DecodeName(name));
+            names.insert(name.name_id, name.string_len <= longest ? DecodeName(name) : QString());
     }
     return names;
 }
@@ -135,12 +128,6 @@ const TT_OS2* Os2Table(FT_Face face)
 
 } // namespace
 
-FT_Library FreeTypeLibrary()
-{
-    static const LibraryHolder holder;
-    return holder.Get();
-}
-
 qint64 FontSize::PixelHeight() const
 {
     if (!inPoints)
@@ -151,10 +138,11 @@ qint64 FontSize::PixelHeight() const
     return qint64(value) * dotsPerInch / 72;
 }
 
-FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FT_Library library)
-    : library_(library), path_(path)
+FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library)
+    : library_(library.Get()), path_(path)
 {
-    openError_ = FT_New_Face(library, QFile::encodeName(path).constData(), faceIndex, &face_);
+    library.AllowFile(QFileInfo(path).size());
+    openError_ = FT_New_Face(library_, QFile::encodeName(path).constData(), faceIndex, &face_);
     if (openError_ != 0)
         face_ = nullptr;
 }
@@ -165,6 +153,8 @@ FreeTypeFace::FreeTypeFace(const FreeTypeFace& other)
       path_(other.path_),
       effects_(other.effects_),
       monochrome_(other.monochrome_),
+      largestWidth_(other.largestWidth_),
+      largestRows_(other.largestRows_),
       openError_(other.openError_)
 {
     if (face_ != nullptr)
@@ -182,6 +172,8 @@ FreeTypeFace& FreeTypeFace::operator=(const FreeTypeFace& other)
     path_ = other.path_;
     effects_ = other.effects_;
     monochrome_ = other.monochrome_;
+    largestWidth_ = other.largestWidth_;
+    largestRows_ = other.largestRows_;
     openError_ = other.openError_;
     return *this;
 }
@@ -201,6 +193,8 @@ QString FreeTypeFace::OpenFault() const
         return Engine::tr("It could not be opened.");
     case FT_Err_Unknown_File_Format:
         return Engine::tr("It is not a font file.");
+    case FT_Err_Out_Of_Memory:
+        return Engine::tr("It claims more memory than a font of its size needs.");
     default:
         return Engine::tr("Its contents are damaged (FreeType error %1).").arg(openError_);
     }
@@ -209,6 +203,11 @@ QString FreeTypeFace::OpenFault() const
 int FreeTypeFace::FaceCount() const
 {
     return IsOpen() ? static_cast<int>(face_->num_faces) : 0;
+}
+
+int FreeTypeFace::MemberIndex() const
+{
+    return IsOpen() ? static_cast<int>(face_->face_index & 0xFFFF) : -1;
 }
 
 int FreeTypeFace::GlyphCount() const
@@ -387,10 +386,42 @@ bool FreeTypeFace::RenderIndex(FT_UInt index, RenderedGlyph& glyph) const
         FT_GlyphSlot_Embolden(face_->glyph);
     if ((effects_ & ItalicEffect) != 0)
         FT_GlyphSlot_Oblique(face_->glyph);
+    if (ExceedsLargestBitmap(glyph))
+        return true;
     if (FT_Render_Glyph(face_->glyph, monochrome_ ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) !=
         0)
         return false;
     FillGlyph(glyph);
+    return true;
+}
+
+void FreeTypeFace::SetLargestBitmap(int width, int rows)
+{
+    largestWidth_ = width;
+    largestRows_ = rows;
+}
+
+// The box of the outline is that of its bitmap, but for a pixel of rounding at each side.
+bool FreeTypeFace::ExceedsLargestBitmap(RenderedGlyph& glyph) const
+{
+    const FT_GlyphSlot slot = face_->glyph;
+    if (slot->format != FT_GLYPH_FORMAT_OUTLINE)
+        return false;
+    FT_BBox box{};
+    FT_Outline_Get_CBox(&slot->outline, &box);
+    constexpr qint64 rounding = 2;
+    const int left = WholePixels(box.xMin);
+    const int top = WholePixels(box.yMax);
+    const qint64 width = qint64(WholePixels(box.xMax)) - left;
+    const qint64 rows = qint64(top) - WholePixels(box.yMin);
+    if (width <= largestWidth_ + rounding && rows <= largestRows_ + rounding)
+        return false;
+    glyph = {};
+    glyph.xPos = left;
+    glyph.yPos = ClampToInt(qint64(Ascent()) - top);
+    glyph.cursorDistance = WholePixels(slot->advance.x);
+    glyph.width = ClampToInt(width);
+    glyph.rows = ClampToInt(rows);
     return true;
 }
 
@@ -400,7 +431,7 @@ void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
     const FT_Bitmap& bitmap = slot->bitmap;
     const auto pitch = static_cast<std::size_t>(std::abs(bitmap.pitch));
     glyph.xPos = slot->bitmap_left;
-    glyph.yPos = Ascent() - slot->bitmap_top;
+    glyph.yPos = ClampToInt(qint64(Ascent()) - slot->bitmap_top);
     glyph.cursorDistance = WholePixels(slot->advance.x);
     glyph.width = static_cast<qint32>(bitmap.width);
     glyph.rows = static_cast<qint32>(bitmap.rows);

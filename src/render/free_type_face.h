@@ -2,20 +2,16 @@
 
 #include "model/font.h"
 #include "model/rendered_glyph.h"
+#include "render/free_type_library.h"
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 
-#include <ft2build.h>
-#include FT_FREETYPE_H
-
+#include <limits>
 #include <vector>
 
 namespace Glyphor {
-
-// The process-wide FreeType library, opened on first use.
-[[nodiscard]] FT_Library FreeTypeLibrary();
 
 // How heavy and wide a face is, in the units of the OS/2 table, and whether it slants.
 struct FaceStyle
@@ -54,7 +50,7 @@ public:
     FreeTypeFace() = default;
 
     // Opens the face; on failure the handle stays empty and OpenFault() tells why.
-    FreeTypeFace(const QString& path, FT_Long faceIndex, FT_Library library);
+    FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library);
     FreeTypeFace(const FreeTypeFace& other);
     FreeTypeFace& operator=(const FreeTypeFace& other);
 
@@ -68,6 +64,9 @@ public:
     [[nodiscard]] QString OpenFault() const;
 
     [[nodiscard]] int FaceCount() const;
+
+    // Which face of its file this is, whatever named instance was chosen; -1 without a face.
+    [[nodiscard]] int MemberIndex() const;
     [[nodiscard]] int GlyphCount() const;
     [[nodiscard]] bool HasKerning() const;
     [[nodiscard]] QString FamilyName() const;
@@ -103,6 +102,10 @@ public:
     void SetEffects(quint32 effects) { effects_ = effects; }
     void SetMonochrome(bool monochrome) { monochrome_ = monochrome; }
 
+    // Outlines that need a larger bitmap, in pixels, are not rendered: they give the metrics of
+    // that bitmap, and no pixels.
+    void SetLargestBitmap(int width, int rows);
+
     // Selects an embedded strike of just this height where the settings allow, or scales the face
     // so that its bounding box has the height.
     void SetPixelSize(const FontSize& size);
@@ -134,8 +137,11 @@ public:
     [[nodiscard]] FT_Face Handle() const { return face_; }
 
 private:
+    static constexpr int AnySize = std::numeric_limits<int>::max();
+
     [[nodiscard]] FT_UInt GlyphIndex(quint16 code) const;
     bool SelectStrike(qint64 pixelHeight);
+    [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;
     void FillGlyph(RenderedGlyph& glyph) const;
 
     FT_Library library_ = nullptr;
@@ -143,6 +149,8 @@ private:
     QString path_;
     quint32 effects_ = 0;
     bool monochrome_ = false;
+    int largestWidth_ = AnySize;
+    int largestRows_ = AnySize;
     FT_Error openError_ = 0;
 };
 

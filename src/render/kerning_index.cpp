@@ -151,7 +151,9 @@ std::vector<KerningPair> KerningIndex::PairsOfGlyph(quint16 leftGlyph, quint32 f
         for (quint32 place = first; distance != 0 && place < end; ++place)
             found.emplace_back(positions_[place], distance);
     }
-    std::ranges::sort(found);
+    // Those of a single right glyph are in order; a damaged charmap gives it a million places.
+    if (!std::ranges::is_sorted(found))
+        std::ranges::sort(found);
 
     std::vector<KerningPair> pairs;
     pairs.reserve(found.size());

@@ -416,7 +416,7 @@ void MainWindow::ShowAbout()
     FT_Int major = 0;
     FT_Int minor = 0;
     FT_Int patch = 0;
-    FT_Library_Version(FreeTypeLibrary(), &major, &minor, &patch);
+    FT_Library_Version(FreeTypeLibrary().Get(), &major, &minor, &patch);
     QMessageBox::about(
         this, tr("About %1").arg(QString(Program::Name)),
         tr("<h3>%1 %2</h3><p>Bitmap fonts for embedded displays.</p><p>Qt %3, FreeType "

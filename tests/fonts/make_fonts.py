@@ -7,11 +7,15 @@
     black.ttf       one more style of the collection's family
     strike.ttf      outlines and a 1-bit strike of 10 pixels that has only "A"
     hostile.ttf     a few bytes that map 4 billion codes to one glyph, which kerns with itself
+    damaged.ttf     outlines that are huge at any height
+    packed.woff     unpacks to a thousand times its size
+    bitmap.bdf      letters, a blank that moves the cursor, one that does not
 """
 
 import os
 import struct
 import sys
+import zlib
 
 from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.ttGlyphPen import TTGlyphPen
@@ -174,6 +178,35 @@ def hostile(folder):
     font.save(os.path.join(folder, "hostile.ttf"))
 
 
+def damaged(folder):
+    """Its head table claims a box of 20 units, so any height makes its outlines huge."""
+    font = build("Test Damaged", "Regular", LETTERS, {0x41: "A", 0x61: "a", 0x56: "V"}).font
+    path = os.path.join(folder, "damaged.ttf")
+    font.save(path)
+    with open(path, "rb") as file:
+        contents = bytearray(file.read())
+    head = contents.index(b"head")
+    start = struct.unpack_from(">I", contents, head + 8)[0]
+    struct.pack_into(">hhhh", contents, start + 36, 0, 0, 20, 20)
+    with open(path, "wb") as file:
+        file.write(contents)
+
+
+def packed(folder):
+    """A few hundred kB that claim to unpack to 400 MB, and do."""
+    size = 400 * 1024 * 1024
+    block = bytes(1024 * 1024)
+    packer = zlib.compressobj(9)
+    data = b"".join(packer.compress(block) for _ in range(size // len(block))) + packer.flush()
+    start = 44 + 20
+    table = struct.pack(">4sIIII", b"glyf", start, len(data), size, 0)
+    data += bytes(-len(data) % 4)
+    header = struct.pack(">4sIIHHIHHIIIII", b"wOFF", 0x00010000, start + len(data), 1, 0,
+                         12 + 16 + size, 1, 0, 0, 0, 0, 0, 0)
+    with open(os.path.join(folder, "packed.woff"), "wb") as file:
+        file.write(header + table + data)
+
+
 def bdf_text(properties, characters):
     lines = ["STARTFONT 2.1", "FONT -test-Bitmap-Bold-R-Normal--12-120-75-75-C-80-ISO10646-1",
              "SIZE 12 75 75", "FONTBOUNDINGBOX 8 12 0 -3", f"STARTPROPERTIES {len(properties)}"]
@@ -203,7 +236,7 @@ def bitmap(folder):
 def main():
     folder = sys.argv[1]
     os.makedirs(folder, exist_ok=True)
-    for make in (outlines, variable, collection, strike, hostile, bitmap):
+    for make in (outlines, variable, collection, strike, hostile, damaged, packed, bitmap):
         make(folder)
 
 

@@ -9,6 +9,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace Glyphor {
@@ -213,6 +214,51 @@ private Q_SLOTS:
                                             "Families with a similar name: Test Collection"_s));
     }
 
+    void HostileFontsTakeNoMemory_data()
+    {
+        QTest::addColumn<QString>("font");
+        QTest::addColumn<QStringList>("more");
+        const QByteArray header = Test::ReadAll(Test::FontPath("bitmap.bdf"));
+        const QByteArray character =
+            "STARTCHAR a\nENCODING 65\nSWIDTH 1 0\nDWIDTH 8 0\nBBX 8x 65000x 0 0\nBITMAP\n";
+        QByteArray bdf = header.left(header.indexOf("STARTCHAR")) + character.repeated(15000);
+        const QString names[] = {u"/boxes.bdf"_s, u"/lines.bdf"_s, u"/boxes.ttf"_s};
+        for (const QString& name : names) {
+            Test::WriteAll(hostile_.path() + name,
+                           name == names[1] ? QByteArray(bdf).replace('\n', '\r') : bdf);
+            QTest::newRow(qPrintable(name)) << hostile_.path() + name << QStringList{};
+        }
+        QTest::newRow("packed") << Test::FontPath("packed.woff") << QStringList{};
+        const QStringList large = {u"-height"_s, u"250px"_s, u"-format"_s, u"AA4"_s};
+        QTest::newRow("one glyph for all codes") << Test::FontPath("hostile.ttf") << large;
+        QTest::newRow("damaged box") << Test::FontPath("damaged.ttf") << large;
+        QTest::newRow("too high") << Test::FontPath("outlines.ttf")
+                                  << QStringList{u"-height"_s, u"65535px"_s, u"-format"_s,
+                                                 u"FRM"_s};
+        QTest::newRow("in a font folder") << QString() << QStringList{u"-listfonts"_s};
+    }
+
+    // Neither a font that is opened nor one that lies in a font directory.
+    void HostileFontsTakeNoMemory()
+    {
+        QFETCH(const QString, font);
+        QFETCH(QStringList, more);
+        {
+            Settings settings(
+                std::make_unique<QSettings>(File(u"Morvek/Glyphor.conf"_s), QSettings::IniFormat));
+            settings.additionalFontDirs.setValue(
+                {hostile_.path(), QFileInfo(Test::FontPath("packed.woff")).path()});
+        }
+        qputenv("XDG_CONFIG_HOME", folder_->path().toLocal8Bit());
+        if (more.isEmpty())
+            more = {u"-height"_s, u"24px"_s};
+        if (!font.isEmpty())
+            more.prepend(font);
+        const auto [megabytes, seconds] = Usage(QStringList{u"-hide"_s} + more);
+        QVERIFY2(megabytes < 300, qPrintable(QString::number(megabytes)));
+        QVERIFY2(seconds < 10, qPrintable(QString::number(seconds)));
+    }
+
     void FullDiskKeepsTheOldFile()
     {
         Test::WriteAll(File(u"old.c"_s), "old");
@@ -304,9 +350,39 @@ private:
                 QString::fromUtf8(process.readAllStandardError()), ended ? process.exitCode() : -1};
     }
 
+    struct ProcessUsage
+    {
+        long megabytes; // at its largest
+        long seconds;   // of the processor
+    };
+
+    ProcessUsage Usage(const QStringList& arguments)
+    {
+        QList<QByteArray> texts = {GLYPHOR_PROGRAM};
+        for (const QString& argument : arguments)
+            texts.append(argument.toLocal8Bit());
+        std::vector<char*> pointers;
+        for (QByteArray& text : texts)
+            pointers.push_back(text.data());
+        pointers.push_back(nullptr);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            // The sanitizers keep freed memory for a while.
+            ::setenv("ASAN_OPTIONS", "quarantine_size_mb=1:malloc_context_size=0", 1);
+            ::execv(pointers[0], pointers.data());
+            ::_exit(1);
+        }
+        int status = 0;
+        rusage usage{};
+        if (::wait4(child, &status, 0, &usage) != child || status != 0)
+            qFatal("the program did not end as it should");
+        return {usage.ru_maxrss / 1024, usage.ru_utime.tv_sec + usage.ru_stime.tv_sec};
+    }
+
     [[nodiscard]] QString File(const QString& name) const { return folder_->filePath(name); }
 
     std::unique_ptr<QTemporaryDir> folder_;
+    QTemporaryDir hostile_;
 };
 
 GLYPHOR_TEST(TestProcess)

@@ -53,6 +53,7 @@ private Q_SLOTS:
         QTest::newRow("another value") << ascent << QByteArray("FONT_ASCENT 200\n") << 200;
         QTest::newRow("from the box") << ascent << QByteArray("OTHER 1\n") << 9;
         QTest::newRow("more than a byte") << ascent << QByteArray("FONT_ASCENT 258\n") << 2;
+        QTest::newRow("the least") << ascent << QByteArray("FONT_ASCENT -2147483648\n") << 0;
     }
 
     void BaselineIsTheProperty()
@@ -72,12 +73,16 @@ private Q_SLOTS:
         const QByteArray whole = Test::ReadAll(Test::FontPath("bitmap.bdf"));
         QTest::newRow("text") << QByteArray("no font\n");
         QTest::newRow("cut") << whole.left(whole.indexOf("STARTCHAR"));
-        QTest::newRow("boxes without rows")
-            << whole.left(whole.indexOf("STARTCHAR")) +
-                   QByteArray("STARTCHAR a\nENCODING 65\nSWIDTH 1 0\nDWIDTH 8 0\nBBX 500 1000 0 0\n"
-                              "BITMAP\nENDCHAR\n")
-                       .repeated(50) +
-                   "ENDFONT\n";
+        // FreeType makes room for every box, whether or not its rows follow.
+        const auto boxes = [&whole](const QByteArray& box) {
+            const QByteArray character = "STARTCHAR a\nENCODING 65\nSWIDTH 1 0\nDWIDTH 8 0\nBBX " +
+                                         box + " 0 0\nBITMAP\nENDCHAR\n";
+            return whole.left(whole.indexOf("STARTCHAR")) + character.repeated(50) + "ENDFONT\n";
+        };
+        QTest::newRow("boxes without rows") << boxes("8000 8000");
+        QTest::newRow("one large box") << boxes("65000 65000");
+        QTest::newRow("letters in a box") << boxes("8000x 8000x");
+        QTest::newRow("lines end in CR") << boxes("8000 8000").replace('\n', '\r');
         QTest::newRow("another kind") << Test::ReadAll(Test::FontPath("outlines.ttf"));
     }
 

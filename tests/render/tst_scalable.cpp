@@ -156,6 +156,41 @@ private Q_SLOTS:
                  QStringList{u"The font has too many kerning pairs; some were left out."_s});
     }
 
+    // Codes share the pixels of their glyph, as long as neither is edited.
+    void SharedGlyphs()
+    {
+        for (const FontFormat format : {FontFormat::AA4, FontFormat::Framed}) {
+            const auto font = Render("outlines.ttf", At(20, format));
+            CharBitmap& latin = *font->FindChar('A')->bitmap;
+            CharBitmap& greek = *font->FindChar(0x391)->bitmap;
+            QCOMPARE(latin.DataAsList(), greek.DataAsList());
+            QCOMPARE(latin.Data().constData(), greek.Data().constData());
+            QCOMPARE(font->FindChar('A')->info.Metrics().yPos,
+                     font->FindChar(0x391)->info.Metrics().yPos);
+            latin.InvertPixelIndex(1, 1);
+            QVERIFY(latin.DataAsList() != greek.DataAsList());
+        }
+    }
+
+    // What is known to fit nowhere is not rendered first.
+    void TooLargeToRender()
+    {
+        Test::RecordingInterface interface;
+        FreeTypeFace face(Test::FontPath("outlines.ttf"), 0, FreeTypeLibrary());
+        face.SetMonochrome(false);
+        face.SetLargestBitmap(255, 255);
+        for (const int height : {100, 200, 300, 400, 30000}) {
+            face.SetPixelSize({height, false});
+            RenderedGlyph glyph;
+            QVERIFY(face.RenderGlyph('A', glyph));
+            QCOMPARE(glyph.pixels.empty(), height > 300);
+            QVERIFY(glyph.width > height / 4 && glyph.rows > height / 4 && glyph.yPos >= 0);
+            QVERIFY(glyph.cursorDistance >= glyph.width);
+        }
+        // Rows of a legacy font are cut, those of other fonts are not.
+        QVERIFY(Render("outlines.ttf", At(900, FontFormat::LegacyAA2))->FindChar('i') == nullptr);
+    }
+
     void WhatIsKept()
     {
         Test::RecordingInterface interface;
