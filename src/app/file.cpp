@@ -1,32 +1,15 @@
 #include "app/file.h"
-#include "app/engine_texts.h"
 
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
+#include "app/replacement.h"
+#include "app/user_interface.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The device must be unbuffered: a buffer is written when the file is closed or renamed, where a
-// failure would go unnoticed. Writing on after a short count tells the reason for it.
-bool WriteWhole(QIODevice& device, QByteArrayView contents)
-{
-    qsizetype written = 0;
-    while (written < contents.size()) {
-        const qint64 count = device.write(contents.data() + written, contents.size() - written);
-        if (count <= 0)
-            return false;
-        written += count;
-    }
-    return true;
-}
-
-} // namespace
 
 QByteArray File::Contents()
 {
@@ -51,33 +34,46 @@ QByteArray File::Contents()
     return contents;
 }
 
-File::Sink File::SinkInto(QIODevice& device) const
+// Devices and pipes. Unbuffered: a failure to write a buffer when the file is closed would go
+// unnoticed. Writing on after a short count tells the reason for it.
+void File::WriteDirectly(const std::function<void(const Sink&)>& compose)
 {
-    return [this, &device](QByteArrayView bytes) {
-        if (!WriteWhole(device, bytes))
-            Fail(device.errorString());
-    };
+    if (!open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        Fail(errorString());
+    compose([this](QByteArrayView bytes) {
+        while (!bytes.isEmpty()) {
+            const qint64 count = write(bytes.data(), bytes.size());
+            if (count <= 0)
+                Fail(errorString());
+            bytes = bytes.sliced(count);
+        }
+    });
+    close();
 }
 
 void File::Replace(const std::function<void(const Sink&)>& compose)
 {
-    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
     const QFileInfo target(fileName());
     if (target.isDir())
         Fail(Engine::tr("It is a directory."));
     if (target.exists() && !target.isFile()) {
-        if (!open(mode))
-            Fail(errorString());
-        compose(SinkInto(*this));
-        close();
+        WriteDirectly(compose);
         return;
     }
-    QSaveFile file(fileName());
-    if (!file.open(mode))
-        Fail(file.errorString());
-    compose(SinkInto(file));
-    if (!file.commit())
-        Fail(file.errorString());
+    Replacement replacement(fileName());
+    if (!replacement.Open())
+        Fail(replacement.Error());
+    compose([&](QByteArrayView bytes) {
+        if (!replacement.Write(bytes))
+            Fail(replacement.Error());
+    });
+    if (!replacement.Commit())
+        Fail(replacement.Error());
+    if (replacement.HasOtherNames())
+        CurrentInterface().warning(
+            Engine::tr("Hard links"),
+            Engine::tr("The file %1 had other names (hard links). They keep its old contents.")
+                .arg(fileName()));
 }
 
 void File::Replace(const QByteArray& contents)

@@ -21,14 +21,15 @@ public:
 
     // Puts the contents in the file's place, as a whole or not at all: on any error the old file
     // stays and a CriticalException names the file and the reason. Follows symbolic links, keeps
-    // permissions, and writes to devices and pipes directly.
+    // permissions and, where it may, the owner; warns where hard links keep the old contents.
+    // Writes to devices and pipes directly.
     void Replace(const QByteArray& contents);
 
     // The same for contents that are composed piece by piece.
     void Replace(const std::function<void(const Sink&)>& compose);
 
 private:
-    [[nodiscard]] Sink SinkInto(QIODevice& device) const;
+    void WriteDirectly(const std::function<void(const Sink&)>& compose);
     [[noreturn]] void Fail(const QString& reason) const;
 };
 

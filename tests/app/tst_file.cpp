@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace Glyphor {
 
@@ -44,9 +45,55 @@ private Q_SLOTS:
         }
     }
 
+    void LongNames()
+    {
+        const QString path = folder_.filePath(QString(255, u'n'));
+        for (const QByteArray contents : {"first", "second"}) {
+            File(path).Replace(contents);
+            QCOMPARE(Test::ReadAll(path), contents);
+        }
+    }
+
+    void HardLinks()
+    {
+        Test::RecordingInterface interface;
+        const QString path = folder_.filePath(u"one.c"_s);
+        const QString other = folder_.filePath(u"other.c"_s);
+        Test::WriteAll(path, "old");
+        QCOMPARE(::link(QFile::encodeName(path).constData(), QFile::encodeName(other).constData()),
+                 0);
+        File(path).Replace("new");
+        QCOMPARE(Test::ReadAll(path), QByteArray("new"));
+        QCOMPARE(Test::ReadAll(other), QByteArray("old"));
+        QCOMPARE(interface.warnings.size(), 1);
+        File(path).Replace("newer");
+        QCOMPARE(interface.warnings.size(), 1);
+    }
+
+    void KeepsTheOwner()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root may give files away");
+        constexpr uid_t owner = 1234;
+        constexpr gid_t group = 5678;
+        const QString path = folder_.filePath(u"owned.c"_s);
+        Test::WriteAll(path, "old");
+        QCOMPARE(::chown(QFile::encodeName(path).constData(), owner, group), 0);
+        QCOMPARE(::chmod(QFile::encodeName(path).constData(), 0640), 0);
+        File(path).Replace("new");
+        struct stat status = {};
+        QCOMPARE(::stat(QFile::encodeName(path).constData(), &status), 0);
+        QCOMPARE(status.st_uid, owner);
+        QCOMPARE(status.st_gid, group);
+        QCOMPARE(status.st_mode & 0777, mode_t(0640));
+    }
+
     void Failures_data()
     {
         QTest::addColumn<QString>("path");
+        const QString loop = folder_.filePath(u"loop.c"_s);
+        QVERIFY(QFile::link(u"loop.c"_s, loop));
+        QTest::newRow("loop of links") << loop;
         QTest::newRow("directory") << folder_.path();
         QTest::newRow("missing directory") << folder_.filePath(u"none/file.c"_s);
         QTest::newRow("full disk") << u"/dev/full"_s;
