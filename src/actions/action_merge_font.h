@@ -2,6 +2,7 @@
 
 #include "actions/action.h"
 #include "actions/action_open_font.h"
+#include "app/shown_text.h"
 #include "model/font.h"
 
 #include <map>
@@ -29,7 +30,10 @@ public:
     void UndoOnce() override { Swap(); }
     void RedoOnce() override { Swap(); }
     [[nodiscard]] CodeSet AffectedCodes() const override;
-    [[nodiscard]] QString LogText() const override { return MessageFor().arg(Args().source.path); }
+    [[nodiscard]] QString LogText() const override
+    {
+        return MessageFor().arg(Shown(Args().source.path));
+    }
 
 private:
     void CheckFonts(const Font& font, const Font& other) const;

@@ -4,6 +4,7 @@
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "render/font_file_scalable.h"
 
@@ -35,7 +36,7 @@ QString MissingFace(const QString& path, int index, int faceCount)
         faceCount == 1 ? Engine::tr("its only face has the index 0")
                        : Engine::tr("the indices of its faces are 0 to %1").arg(faceCount - 1);
     return Engine::tr("The file %1 has no face with the index %2: %3.")
-        .arg(path, QString::number(index), faces);
+        .arg(Shown(path), QString::number(index), faces);
 }
 
 [[noreturn]] void Fail(const QString& title, const QString& text)
@@ -69,8 +70,8 @@ std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
     if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
         Fail(CreationFailed(), MissingFace(args.path, options.faceIndex, faceCount));
     if (!file->OpenFault().isEmpty())
-        Fail(CreationFailed(),
-             Engine::tr("The font file %1 can't be used: %2").arg(args.path, file->OpenFault()));
+        Fail(CreationFailed(), Engine::tr("The font file %1 can't be used: %2")
+                                   .arg(Shown(args.path), file->OpenFault()));
     WarnOfPoints(options.size);
     file->SetCharacterFilter(args.selection);
     return file->Read();
@@ -83,20 +84,20 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
     if (font == nullptr)
         Fail(Engine::tr("Error opening file!"),
              Engine::tr("The format of the font in %1 was not told, so it was not opened.")
-                 .arg(args.path));
+                 .arg(Shown(args.path)));
     const FontMetrics& metrics = font->Metrics();
     CheckCombination(metrics.format, metrics.encoding);
     if (args.format && *args.format != metrics.format)
         CurrentInterface().warning(
             Engine::tr("Font format"),
             Engine::tr("The file %1 has the format \"%2\"; the format \"%3\" was not used.")
-                .arg(args.path, FormatDisplayName(metrics.format),
+                .arg(Shown(args.path), FormatDisplayName(metrics.format),
                      FormatDisplayName(*args.format)));
     if (args.encoding && *args.encoding != metrics.encoding)
         CurrentInterface().warning(
             Engine::tr("Encoding"),
             Engine::tr("The file %1 has an encoding of its own; the one given was not used.")
-                .arg(args.path));
+                .arg(Shown(args.path)));
     if (args.selection) {
         CodeSet enabled = font->EnabledCodes();
         enabled &= *args.selection;
@@ -139,7 +140,7 @@ QString ActionOpenFont::LogText() const
 {
     if (Type() == ActionType::CreateFont)
         return MessageFor().arg(Args().size.PixelHeight());
-    return MessageFor().arg(Args().path);
+    return MessageFor().arg(Shown(Args().path));
 }
 
 } // namespace Glyphor

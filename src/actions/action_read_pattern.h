@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/edit_actions.h"
+#include "app/shown_text.h"
 
 namespace Glyphor {
 
@@ -22,7 +23,7 @@ public:
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
-    [[nodiscard]] QString LogText() const override { return MessageFor().arg(Args().path); }
+    [[nodiscard]] QString LogText() const override { return MessageFor().arg(Shown(Args().path)); }
     void ApplyTo(CodeSet& codes) const override { codes |= pattern_; }
 
 private:

@@ -6,8 +6,12 @@
 #include "app/engine_texts.h"
 #include "app/log_file.h"
 #include "app/settings.h"
+#include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "files/c_survey.h"
 #include "files/kerning_file.h"
+
+#include <QFileInfo>
 
 namespace Glyphor {
 
@@ -28,9 +32,40 @@ bool ActionSaveFile::Execute()
         SaveKerning(*font, actionLog);
         return true;
     }
+    if (!MayReplace())
+        return false;
     MakeOutputFile(Args().path, actionLog)->Write(*font);
     WriteLogFile(actionLog);
     return true;
+}
+
+// False where the user does not want a file replaced that holds more than a font.
+bool ActionSaveFile::MayReplace() const
+{
+    if (FileTypeOf(Args().path) != FileType::C || !QFileInfo(Args().path).isFile())
+        return true;
+    QFile file(Args().path);
+    if (!file.open(QIODevice::ReadOnly))
+        return true; // writing will tell
+    const QStringList others = BesideTheFontOfFile(file.readAll());
+    if (others.isEmpty())
+        return true;
+    const QString loss = Engine::tr("Beside the font: %1").arg(Enumerated(others));
+    const QString name = Shown(Args().path);
+    switch (CurrentInterface().ask(
+        Engine::tr("More than a font"),
+        Engine::tr("The file %1 holds more than a font. Replace all of it?").arg(name) + u'\n' +
+            loss)) {
+    case Answer::Yes:
+        return true;
+    case Answer::No:
+        return false;
+    default:
+        ThrowActionError(
+            Engine::tr("Error saving file!"),
+            Engine::tr("The file %1 holds more than a font; save under another name.").arg(name) +
+                u'\n' + loss);
+    }
 }
 
 bool ActionSaveFile::IsKerning() const
@@ -73,7 +108,8 @@ void ActionSaveFile::RedoOnce()
 
 QString ActionSaveFile::LogText() const
 {
-    return (IsKerning() ? u"Saved kerning file: %1"_s : u"Saved font file: %1"_s).arg(Args().path);
+    return (IsKerning() ? u"Saved kerning file: %1"_s : u"Saved font file: %1"_s)
+        .arg(Shown(Args().path));
 }
 
 } // namespace Glyphor

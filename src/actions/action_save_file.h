@@ -27,6 +27,7 @@ public:
 
 private:
     [[nodiscard]] bool IsKerning() const;
+    [[nodiscard]] bool MayReplace() const;
     void SaveKerning(const Font& font, const QStringList& actionLog) const;
     void WriteLogFile(const QStringList& actionLog) const;
 };

@@ -3,6 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/settings.h"
+#include "app/shown_text.h"
 #include "files/font_file_c.h"
 #include "files/font_file_sif.h"
 #include "files/font_file_xbf.h"
@@ -41,14 +42,15 @@ FileType CheckInputFile(const QString& path)
     if (!type)
         ThrowUnsupportedFormat();
     if (info.isDir())
-        FailToOpen(Engine::tr("The file %1 is a directory.").arg(path));
+        FailToOpen(Engine::tr("The file %1 is a directory.").arg(Shown(path)));
     if (!info.isFile())
-        FailToOpen(Engine::tr("The file %1 is not an ordinary file.").arg(path));
+        FailToOpen(Engine::tr("The file %1 is not an ordinary file.").arg(Shown(path)));
     if (info.size() == 0)
-        FailToOpen(Engine::tr("The file %1 is empty.").arg(path));
+        FailToOpen(Engine::tr("The file %1 is empty.").arg(Shown(path)));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        FailToOpen(Engine::tr("The file %1 could not be read: %2").arg(path, file.errorString()));
+        FailToOpen(
+            Engine::tr("The file %1 could not be read: %2").arg(Shown(path), file.errorString()));
     return *type;
 }
 

@@ -2,8 +2,10 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/shown_text.h"
 #include "app/user_interface.h"
 
+#include <QFileInfo>
 #include <QtEndian>
 
 namespace Glyphor {
@@ -24,27 +26,41 @@ void AppendUnit(QByteArray& bytes, quint16 unit)
 
 CodeSet PatternFile::Read()
 {
-    const bool isOpen = open(QIODevice::ReadOnly);
-    const QByteArray bytes = isOpen ? readAll() : QByteArray();
-    if (!isOpen || error() != QFileDevice::NoError)
+    const auto fail = [this](const QString& reason) {
         throw CriticalException(
             Engine::tr("Error opening file!"),
-            Engine::tr("The pattern file %1 could not be read: %2").arg(fileName(), errorString()));
-    close();
-    const auto unit = [&bytes](qsizetype offset) {
+            Engine::tr("The pattern file %1 could not be read: %2").arg(Shown(fileName()), reason));
+    };
+    const QFileInfo info(fileName());
+    if (info.exists() && !info.isDir() && !info.isFile())
+        fail(Engine::tr("It is not an ordinary file."));
+    if (!open(QIODevice::ReadOnly))
+        fail(errorString());
+    const auto unit = [](const QByteArray& bytes, qsizetype offset) {
         return qFromLittleEndian<quint16>(bytes.constData() + offset);
     };
-    if (bytes.size() < 2 || unit(0) != ByteOrderMark)
+    constexpr qint64 unitSize = 2;
+    constexpr qint64 pieceSize = 0x10000;
+    const QByteArray mark = read(unitSize);
+    if (error() == QFileDevice::NoError &&
+        (mark.size() < unitSize || unit(mark, 0) != ByteOrderMark))
         throw CriticalException(Engine::tr("Wrong encoding in pattern file!"),
                                 Engine::tr("UTF-16 LE byte order mark was not found."));
     CodeSet codes;
-    for (qsizetype offset = 2; offset + 2 <= bytes.size(); offset += 2)
-        codes.Set(unit(offset), true);
-    if (bytes.size() % 2 != 0)
+    QByteArray piece;
+    do {
+        piece = read(pieceSize);
+        for (qsizetype offset = 0; offset + unitSize <= piece.size(); offset += unitSize)
+            codes.Set(unit(piece, offset), true);
+    } while (piece.size() == pieceSize);
+    if (error() != QFileDevice::NoError)
+        fail(errorString());
+    close();
+    if (piece.size() % unitSize != 0)
         CurrentInterface().warning(
             Engine::tr("Pattern file"),
             Engine::tr("The pattern file %1 ends in the middle of a character, which was left out.")
-                .arg(fileName()));
+                .arg(Shown(fileName())));
     return codes;
 }
 

@@ -1,5 +1,7 @@
 #include "app/console.h"
 
+#include "app/shown_text.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -15,6 +17,8 @@
 #endif
 
 namespace Glyphor {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -95,7 +99,7 @@ void Console::Print(QStringView text, ConsoleColour colour)
     const bool isColoured = painter_ != nullptr && colour != ConsoleColour::Default;
     if (isColoured)
         painter_->SetColour(colour);
-    Write(text);
+    Write(ShownLines(text));
     if (isColoured)
         painter_->SetColour(ConsoleColour::Default);
 }
@@ -104,6 +108,11 @@ void Console::PrintLine(QStringView text, ConsoleColour colour)
 {
     Print(text, colour);
     Write(u"\n");
+}
+
+void Console::ShowStatus(QStringView text)
+{
+    Write(text.isEmpty() ? u"\r\033[K"_s : u'\r' + Shown(text));
 }
 
 void Console::Write(QStringView text)

@@ -42,8 +42,12 @@ public:
     // The stream stays the caller's.
     explicit Console(std::FILE* stream);
 
+    // What would control the terminal is escaped.
     void Print(QStringView text, ConsoleColour colour = ConsoleColour::Default);
     void PrintLine(QStringView text, ConsoleColour colour = ConsoleColour::Default);
+
+    // Writes over the last line of a terminal; an empty text clears it.
+    void ShowStatus(QStringView text);
 
     [[nodiscard]] bool IsTerminal() const { return isTerminal_; }
 

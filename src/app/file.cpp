@@ -3,6 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/replacement.h"
+#include "app/shown_text.h"
 #include "app/user_interface.h"
 
 #include <QFileInfo>
@@ -17,7 +18,7 @@ QByteArray File::Contents()
     const auto fail = [this](const QString& reason) {
         throw CriticalException(
             Engine::tr("Error opening file!"),
-            Engine::tr("The file %1 could not be read: %2").arg(fileName(), reason));
+            Engine::tr("The file %1 could not be read: %2").arg(Shown(fileName()), reason));
     };
     if (!open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         fail(errorString());
@@ -73,7 +74,7 @@ void File::Replace(const std::function<void(const Sink&)>& compose)
         CurrentInterface().warning(
             Engine::tr("Hard links"),
             Engine::tr("The file %1 had other names (hard links). They keep its old contents.")
-                .arg(fileName()));
+                .arg(Shown(fileName())));
 }
 
 void File::Replace(const QByteArray& contents)
@@ -85,7 +86,7 @@ void File::Fail(const QString& reason) const
 {
     throw CriticalException(
         Engine::tr("Error saving file!"),
-        Engine::tr("The file %1 could not be written: %2").arg(fileName(), reason));
+        Engine::tr("The file %1 could not be written: %2").arg(Shown(fileName()), reason));
 }
 
 } // namespace Glyphor

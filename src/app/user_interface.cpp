@@ -48,6 +48,11 @@ int UserInterface::askMergeMode()
     return 0;
 }
 
+Answer UserInterface::ask(const QString&, const QString&)
+{
+    return Answer::Nobody;
+}
+
 BasicInterface& CurrentInterface()
 {
     static UserInterface silent;

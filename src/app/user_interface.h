@@ -11,6 +11,9 @@ namespace Glyphor {
 
 class Action;
 
+// Nobody answers where there is nobody to ask.
+enum class Answer { No, Yes, Nobody };
+
 // How the engine talks to whoever uses it. The engine reaches the current one through
 // CurrentInterface() and never prints, asks or shows anything itself.
 class BasicInterface
@@ -46,6 +49,9 @@ public:
     // The number of the chosen merge mode, or 0.
     virtual int askMergeMode() = 0;
 
+    // A question with the answers yes and no.
+    virtual Answer ask(const QString& title, const QString& text) = 0;
+
     virtual ~BasicInterface() = default;
 };
 
@@ -64,6 +70,7 @@ public:
     void progressFinished() override;
     int askFontFormat(EncodingType& encoding) override;
     int askMergeMode() override;
+    Answer ask(const QString& title, const QString& text) override;
 };
 
 // The process-wide interface: a silent one until a front end sets its own.

@@ -7,6 +7,7 @@
 #include "app/critical_exception.h"
 #include "app/error_file.h"
 #include "app/progress.h"
+#include "app/shown_text.h"
 #include "cli/installed_fonts.h"
 #include "files/file_types.h"
 
@@ -281,9 +282,9 @@ bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const Q
     if (action == nullptr)
         return false;
     if (const auto* const open = dynamic_cast<const ActionOpenFont*>(action.get()))
-        console_.PrintLine(u"Opened font file: "_s + open->Args().path);
+        console_.PrintLine(u"Opened font file: "_s + Shown(open->Args().path));
     else if (const auto* const save = dynamic_cast<const ActionSaveFile*>(action.get()))
-        console_.PrintLine(u"Saved font file: "_s + save->Args().path);
+        console_.PrintLine(u"Saved font file: "_s + Shown(save->Args().path));
     else if (options_.verbose && !logText.isEmpty())
         console_.PrintLine(logText);
     return true;
@@ -292,14 +293,14 @@ bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const Q
 bool CommandLine::progressChanged(const QString& text, int value, int maximum)
 {
     if (progressConsole_.IsTerminal())
-        progressConsole_.Print(u"\r%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
+        progressConsole_.ShowStatus(u"%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
     return true;
 }
 
 void CommandLine::progressFinished()
 {
     if (progressConsole_.IsTerminal())
-        progressConsole_.Print(u"\r\033[K"_s);
+        progressConsole_.ShowStatus({});
 }
 
 int CommandLine::ask(const QString& reason, const QString& subject,

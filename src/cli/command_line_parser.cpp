@@ -1,6 +1,7 @@
 #include "cli/command_line_parser.h"
 
 #include "app/critical_exception.h"
+#include "app/shown_text.h"
 
 #include <algorithm>
 #include <cctype>
@@ -37,7 +38,7 @@ quint64 ParseNumber(const QString& text)
         return (isHex ? std::isxdigit(uchar(character)) : std::isdigit(uchar(character))) != 0;
     });
     if (!onlyDigits || digits.isEmpty())
-        Fail(u"Error while parsing number: %1"_s.arg(text));
+        Fail(u"Error while parsing number: %1"_s.arg(Shown(text)));
     bool fits = false;
     const quint64 number = digits.toULongLong(&fits, isHex ? 16 : 10);
     return fits ? number : std::numeric_limits<quint64>::max();
@@ -47,7 +48,7 @@ int ParseInt(const QString& text)
 {
     const quint64 number = ParseNumber(text);
     if (number > quint64(std::numeric_limits<int>::max()))
-        Fail(u"The number %1 is too large."_s.arg(text));
+        Fail(u"The number %1 is too large."_s.arg(Shown(text)));
     return static_cast<int>(number);
 }
 
@@ -55,7 +56,8 @@ quint16 ParseCode(const QString& text)
 {
     const quint64 number = ParseNumber(text);
     if (number > std::numeric_limits<quint16>::max())
-        Fail(u"The character code %1 is too large: codes end at 0xFFFF (65535)."_s.arg(text));
+        Fail(
+            u"The character code %1 is too large: codes end at 0xFFFF (65535)."_s.arg(Shown(text)));
     return static_cast<quint16>(number);
 }
 
@@ -65,7 +67,8 @@ CharRange ParseRange(const QString& text, const QString& placeholder)
         return {0, std::numeric_limits<quint16>::max()};
     const QStringList parts = text.split(u'-');
     if (parts.size() > 2 || parts.contains(QString()))
-        Fail(u"Invalid range entered: %1%2Expected format: %3"_s.arg(text, u"\n"_s, placeholder));
+        Fail(u"Invalid range entered: %1%2Expected format: %3"_s.arg(Shown(text), u"\n"_s,
+                                                                     placeholder));
     return {ParseCode(parts.first()), ParseCode(parts.last())};
 }
 
@@ -74,7 +77,7 @@ ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& 
     if (parameter.keywords != nullptr) {
         const auto* const entry = parameter.keywords->Find(text);
         if (entry == nullptr)
-            Fail(u"Given parameter %1 did not match constraint!"_s.arg(text));
+            Fail(u"Given parameter %1 did not match constraint!"_s.arg(Shown(text)));
         return entry->value;
     }
     switch (parameter.kind) {
@@ -118,7 +121,7 @@ private:
                 Fail(u"Argument -%1 supplied more than once!"_s.arg(option.longName));
             return option;
         }
-        Fail(u"Invalid argument %1 entered!"_s.arg(argument));
+        Fail(u"Invalid argument %1 entered!"_s.arg(Shown(argument)));
     }
 
     std::vector<ParameterValue> ReadValues(const CommandLineOption& option)
@@ -143,7 +146,8 @@ private:
                     return IsNamed(option, argument);
                 });
             if (parameter.required || !isOption)
-                Fail(u"Read new argument %1 where a parameter was expected!"_s.arg(argument));
+                Fail(
+                    u"Read new argument %1 where a parameter was expected!"_s.arg(Shown(argument)));
             return {};
         }
         ++next_;

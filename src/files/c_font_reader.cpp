@@ -3,6 +3,7 @@
 #include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
+#include "files/c_survey.h"
 #include "model/code_text.h"
 
 #include <array>
@@ -135,7 +136,19 @@ std::unique_ptr<Font> CFontReader::Read()
     ReadCodes();
     FindArrays();
     ReadBitmaps(*font);
+    WarnOfOtherContents();
     return font;
+}
+
+void CFontReader::WarnOfOtherContents() const
+{
+    const QStringList others = BesideTheFont(scanner_.Text());
+    if (!others.isEmpty())
+        CurrentInterface().warning(
+            Engine::tr("More than a font"),
+            Engine::tr("The file holds more than its first font, which alone was read. Beside it: "
+                       "%1")
+                .arg(Enumerated(others)));
 }
 
 // The first line with the type may be a declaration: it has the identifier as well, behind any

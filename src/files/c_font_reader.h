@@ -29,6 +29,7 @@ private:
         int code = -1; // from the property blocks
     };
 
+    void WarnOfOtherContents() const;
     QString ReadName();
     void ReadType(FontFormat& format, EncodingType& encoding);
     void ReadMetrics(Font& font);

@@ -13,11 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool IsLineEnd(char character)
-{
-    return character == '\n' || character == '\r';
-}
-
 void Blank(char* first, const char* last)
 {
     std::replace_if(

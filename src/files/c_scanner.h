@@ -68,6 +68,11 @@ private:
            (character >= 'a' && character <= 'z') || character == '_';
 }
 
+[[nodiscard]] constexpr bool IsLineEnd(char character)
+{
+    return character == '\n' || character == '\r';
+}
+
 [[nodiscard]] constexpr bool IsWhitespace(char character)
 {
     return character == ' ' || character == '\n' || character == '\r';

@@ -2,6 +2,7 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/shown_text.h"
 #include "model/code_text.h"
 
 #include <QFileInfo>
@@ -153,7 +154,7 @@ void FontFileBinary::Fail(const QString& reason) const
 {
     throw CriticalException(
         FailureTitle(),
-        Engine::tr("The file %1 can't be used as a font. %2").arg(fileName(), reason));
+        Engine::tr("The file %1 can't be used as a font. %2").arg(Shown(fileName()), reason));
 }
 
 void FontFileBinary::FailAtChar(quint16 code, const QString& reason) const

@@ -1,8 +1,11 @@
 #include "files/font_file_c.h"
 
+#include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/progress.h"
+#include "app/shown_text.h"
 #include "files/c_font_reader.h"
+#include "files/c_survey.h"
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
@@ -206,7 +209,14 @@ void FontFileC::Compose(const Font& font, const Sink& sink) const
 
 std::unique_ptr<Font> FontFileC::Read()
 {
-    return CFontReader(Contents()).Read();
+    QByteArray contents = Contents();
+    if (HasWideCharacters(contents))
+        throw CriticalException(
+            Engine::tr("Error reading C file!"),
+            Engine::tr("The file %1 is encoded in UTF-16 or UTF-32. Save it in UTF-8 with an "
+                       "editor, and open it again.")
+                .arg(Shown(fileName())));
+    return CFontReader(std::move(contents)).Read();
 }
 
 void FontFileC::Write(const Font& font)

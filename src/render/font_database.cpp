@@ -171,15 +171,18 @@ FontDatabaseThread::FontDatabaseThread(QObject* parent)
 void FontDatabaseThread::run()
 {
     auto database = std::make_shared<FontDatabase>();
-    const bool isComplete = database->Build(
-        FontSearchList(additionalDirectories_, recursively_),
-        [this](int count) { Q_EMIT initFileCount(count); },
-        [this](int done) {
-            Q_EMIT fileDone(done);
-            return !isInterruptionRequested();
-        });
-    if (isComplete)
-        FontDatabase::SetCurrent(std::move(database));
+    try {
+        const bool isComplete = database->Build(
+            FontSearchList(additionalDirectories_, recursively_),
+            [this](int count) { Q_EMIT initFileCount(count); },
+            [this](int done) {
+                Q_EMIT fileDone(done);
+                return !isInterruptionRequested();
+            });
+        if (isComplete)
+            FontDatabase::SetCurrent(std::move(database));
+    } catch (const std::bad_alloc&) { // the database that there is stays
+    }
     Q_EMIT hasFinished();
 }
 

@@ -35,7 +35,7 @@ EnableRangeDialog::EnableRangeDialog(bool enables, const CodeSet& existing, Enco
       first_(new QLineEdit),
       last_(new QLineEdit),
       block_(new QComboBox(this)),
-      hint_(new QLabel)
+      hint_(PlainLabel())
 {
     setWindowTitle(enables ? tr("Enable range of characters") : tr("Disable range of characters"));
     block_->addItem(tr("Codes as entered"));
@@ -131,7 +131,7 @@ GoToDialog::GoToDialog(const CodeSet& codes, EncodingType encoding, QWidget* par
       encoding_(encoding),
       field_(new QLineEdit),
       found_(new QListWidget),
-      hint_(new QLabel)
+      hint_(PlainLabel())
 {
     setWindowTitle(tr("Go to character"));
     field_->setPlaceholderText(tr("0x41, 65, A or a part of the name"));

@@ -1,6 +1,7 @@
 #include "ui/dialog_parts.h"
 
 #include "app/settings.h"
+#include "app/shown_text.h"
 #include "model/code_set.h"
 #include "model/code_text.h"
 #include "model/encoding.h"
@@ -22,6 +23,29 @@ QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     layout.addWidget(buttons);
     return buttons;
+}
+
+QMessageBox::StandardButton ShowPlainBox(QWidget* parent, QMessageBox::Icon icon,
+                                         const QString& title, const QString& text,
+                                         QMessageBox::StandardButtons buttons,
+                                         QMessageBox::StandardButton defaultButton)
+{
+    QMessageBox box(icon, title, text, buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(defaultButton);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+QLabel* PlainLabel(const QString& text)
+{
+    auto* const label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QString TitlePart(const QString& name)
+{
+    return Shown(name).replace("[*]"_L1, "[*][*]"_L1);
 }
 
 QLabel* LabelFor(QWidget& buddy, const QString& text)

@@ -3,6 +3,7 @@
 #include "model/font_format.h"
 
 #include <QDialogButtonBox>
+#include <QMessageBox>
 #include <QString>
 
 #include <optional>
@@ -18,6 +19,19 @@ namespace Glyphor {
 QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
                              QDialogButtonBox::StandardButtons kinds = QDialogButtonBox::Ok |
                                                                        QDialogButtonBox::Cancel);
+
+// Asks or tells something in a box and returns the button that closed it. Names of files and fonts
+// may look like markup, so none is interpreted.
+QMessageBox::StandardButton
+ShowPlainBox(QWidget* parent, QMessageBox::Icon icon, const QString& title, const QString& text,
+             QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+             QMessageBox::StandardButton defaultButton = QMessageBox::NoButton);
+
+// A label for texts that have something from outside in them.
+[[nodiscard]] QLabel* PlainLabel(const QString& text = {});
+
+// A name as a part of a window's title, where "[*]" stands for the mark of changes.
+[[nodiscard]] QString TitlePart(const QString& name);
 
 // For rows of more than one widget, which have no buddy of their own.
 [[nodiscard]] QLabel* LabelFor(QWidget& buddy, const QString& text);

@@ -105,7 +105,7 @@ FontDialog::FontDialog(QWidget* parent)
       styles_(new QTreeWidget),
       size_(new FontSizeBox),
       strip_(new TextStrip),
-      status_(new QLabel),
+      status_(PlainLabel()),
       index_(new QPushButton)
 {
     setWindowTitle(tr("New font"));

@@ -36,7 +36,7 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
       selection_(new CharacterSelection),
       preview_(new GenerationPreview)
 {
-    setWindowTitle(tr("Font generation: %1").arg(QFileInfo(args.path).fileName()));
+    setWindowTitle(tr("Font generation: %1").arg(TitlePart(QFileInfo(args.path).fileName())));
     face_->addItems(faces);
     face_->setCurrentIndex(std::clamp(args.faceIndex, 0, std::max(0, int(faces.size()) - 1)));
     face_->setEnabled(faces.size() > 1);

@@ -63,8 +63,8 @@ GenerationPreview::GenerationPreview(QWidget* parent)
     : QWidget(parent),
       strip_(new TextStrip),
       field_(new QLineEdit),
-      sizes_(new QLabel),
-      notes_(new QLabel)
+      sizes_(PlainLabel()),
+      notes_(PlainLabel())
 {
     auto* const label = new QLabel(tr("&Sample:"));
     label->setBuddy(field_);

@@ -1,22 +1,29 @@
 #include "ui/gui_interface.h"
 
-#include <QMessageBox>
+#include "ui/dialog_parts.h"
 
 namespace Glyphor {
 
 void GuiInterface::information(const QString& title, const QString& text)
 {
-    QMessageBox::information(nullptr, title, text, QMessageBox::Ok);
+    ShowPlainBox(nullptr, QMessageBox::Information, title, text);
 }
 
 void GuiInterface::warning(const QString& title, const QString& text)
 {
-    QMessageBox::warning(nullptr, title, text, QMessageBox::Ok);
+    ShowPlainBox(nullptr, QMessageBox::Warning, title, text);
 }
 
 void GuiInterface::critical(const QString& title, const QString& text)
 {
-    QMessageBox::critical(nullptr, title, text, QMessageBox::Ok);
+    ShowPlainBox(nullptr, QMessageBox::Critical, title, text);
+}
+
+Answer GuiInterface::ask(const QString& title, const QString& text)
+{
+    const auto button = ShowPlainBox(nullptr, QMessageBox::Question, title, text,
+                                     QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
 } // namespace Glyphor

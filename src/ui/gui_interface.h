@@ -11,6 +11,7 @@ public:
     void information(const QString& title, const QString& text) override;
     void warning(const QString& title, const QString& text) override;
     void critical(const QString& title, const QString& text) override;
+    Answer ask(const QString& title, const QString& text) override;
 };
 
 } // namespace Glyphor

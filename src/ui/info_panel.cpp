@@ -3,6 +3,7 @@
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
+#include "ui/dialog_parts.h"
 #include "ui/translated_names.h"
 
 #include <QFormLayout>
@@ -53,9 +54,8 @@ void InfoPanel::AddHeading(QFormLayout& form, const QString& text)
 
 void InfoPanel::AddRow(QFormLayout& form, const QString& caption)
 {
-    auto* const value = new QLabel;
+    auto* const value = PlainLabel();
     value->setWordWrap(true);
-    value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     values_.insert(caption, value);
     form.addRow(caption + u':', value);

@@ -9,6 +9,7 @@
 #include "render/font_database.h"
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
+#include "ui/dialog_parts.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
 #include "ui/progress_area.h"
@@ -169,8 +170,8 @@ void MainWindow::BuildToolBar()
 
 void MainWindow::BuildStatusBar()
 {
-    status_ = new QLabel(tr("Ready"));
-    pixelStatus_ = new QLabel;
+    status_ = PlainLabel(tr("Ready"));
+    pixelStatus_ = PlainLabel();
     progress_ = new ProgressArea;
     statusBar()->addWidget(status_, 1);
     statusBar()->addPermanentWidget(pixelStatus_);
@@ -368,7 +369,7 @@ void MainWindow::UpdateTitle()
 {
     const QString name =
         session_.Path().isEmpty() ? tr("No font") : QFileInfo(session_.Path()).fileName();
-    setWindowTitle(u"%1[*] – %2"_s.arg(name, QString(Program::Name)));
+    setWindowTitle(u"%1[*] – %2"_s.arg(TitlePart(name), QString(Program::Name)));
     setWindowModified(session_.IsModified());
     UpdateCommands();
 }

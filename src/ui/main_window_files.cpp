@@ -9,7 +9,9 @@
 #include "actions/pattern_file.h"
 #include "actions/session.h"
 #include "app/progress.h"
+#include "app/shown_text.h"
 #include "ui/char_table_view.h"
+#include "ui/dialog_parts.h"
 #include "ui/font_generation_dialog.h"
 #include "ui/format_box.h"
 #include "ui/merge_mode_dialog.h"
@@ -21,7 +23,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QRegularExpression>
 
@@ -252,7 +253,7 @@ bool MainWindow::ReadPattern(const QString& path)
         action->Args().path = path;
         isRead = action->Run();
         if (!isRead)
-            warning(tr("Read pattern file"), tr("The file %1 does not exist.").arg(path));
+            warning(tr("Read pattern file"), tr("The file %1 does not exist.").arg(Shown(path)));
     });
     return isRead;
 }
@@ -294,8 +295,8 @@ void MainWindow::ShowRecentFiles()
     recentMenu_->clear();
     for (const QString& path : std::as_const(recentFiles_)) {
         QAction* const entry =
-            recentMenu_->addAction(QFileInfo(path).fileName().replace(u'&', u"&&"_s));
-        entry->setStatusTip(path);
+            recentMenu_->addAction(Shown(QFileInfo(path).fileName()).replace(u'&', u"&&"_s));
+        entry->setStatusTip(Shown(path));
         connect(entry, &QAction::triggered, this, [this, path] { OpenFile(path); });
     }
     if (recentFiles_.isEmpty())
@@ -307,9 +308,9 @@ bool MainWindow::AskToSave()
 {
     if (!session_.IsModified())
         return true;
-    const auto answer = QMessageBox::question(
-        this, tr("Save file?"), tr("Save current file?"),
-        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    const auto answer =
+        ShowPlainBox(this, QMessageBox::Question, tr("Save file?"), tr("Save current file?"),
+                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     return answer == QMessageBox::No || (answer == QMessageBox::Yes && Save());
 }
 
@@ -338,9 +339,9 @@ void MainWindow::dropEvent(QDropEvent* event)
     if (CommandOfFile(path) == quint32(ActionType::OpenFont)) {
         isTaken = OpenFile(path);
     } else if (session_.CurrentFont() != nullptr) {
-        const auto answer = QMessageBox::question(
-            this, tr("Load pattern file?"),
-            tr("Apply the pattern file %1 to this font?").arg(QFileInfo(path).fileName()),
+        const auto answer = ShowPlainBox(
+            this, QMessageBox::Question, tr("Load pattern file?"),
+            tr("Apply the pattern file %1 to this font?").arg(Shown(QFileInfo(path).fileName())),
             QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
         isTaken = answer == QMessageBox::Yes && ReadPattern(path);
     }

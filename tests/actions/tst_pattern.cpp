@@ -2,10 +2,13 @@
 #include "actions/pattern_file.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
+#include "support/sample_font.h"
 #include "support/test_main.h"
 
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 namespace Glyphor {
 
@@ -57,6 +60,26 @@ private Q_SLOTS:
             QCOMPARE(error.Title(), failure);
             QCOMPARE(error.Text(), u"UTF-16 LE byte order mark was not found."_s);
         }
+    }
+
+    // What never ends, and what never answers.
+    void NoOrdinaryFiles()
+    {
+        const QString pipe = folder_.filePath(u"pipe.txt"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        for (const QString& path : {u"/dev/zero"_s, pipe, folder_.path()})
+            QVERIFY(Test::FailureOf([&path] { (void)PatternFile(path).Read(); })
+                        .startsWith(u"Error opening file!: The pattern file %1 could not be "
+                                    "read: "_s.arg(path)));
+    }
+
+    // Longer than what is read at a time.
+    void LongFiles()
+    {
+        const QByteArray letters = QByteArray::fromHex("4100").repeated(0x20000);
+        Test::WriteAll(Path(), QByteArray::fromHex("fffe") + letters + QByteArray::fromHex("4200"));
+        const CodeSet codes = PatternFile(Path()).Read();
+        QVERIFY(codes.Test('A') && codes.Test('B') && !codes.Test('C'));
     }
 
     void RoundTrip()

@@ -1,5 +1,6 @@
 #include "app/console.h"
 #include "app/progress.h"
+#include "app/shown_text.h"
 #include "support/test_main.h"
 
 #include <QTest>
@@ -33,6 +34,22 @@ private Q_SLOTS:
         std::fclose(stream);
     }
 
+    void NamesHaveNoEffects()
+    {
+        QCOMPARE(Shown(u"a b\u00e9\u4e9c"), QStringLiteral("a b\u00e9\u4e9c"));
+        QCOMPARE(Shown(u"\u001b[31m\n\r\t\u0007\u009b\u007f"),
+                 QStringLiteral("\\x1B[31m\\n\\r\\t\\x07\\x9B\\x7F"));
+        QCOMPARE(Shown(u"\u202etxt.exe\u2028"), QStringLiteral("\\u202Etxt.exe\\u2028"));
+        QCOMPARE(ShownLines(u"one\n\u001btwo\tthree"), QStringLiteral("one\n\\x1Btwo\tthree"));
+        std::FILE* const stream = std::tmpfile();
+        Console(stream).PrintLine(u"a\u001b]0;title\u0007\nb");
+        std::rewind(stream);
+        char text[64] = {};
+        const std::size_t length = std::fread(text, 1, sizeof text, stream);
+        QCOMPARE(QByteArray(text, qsizetype(length)), QByteArray("a\\x1B]0;title\\x07\nb\n"));
+        std::fclose(stream);
+    }
+
     void ProgressTellsFullPercents()
     {
         struct : UserInterface
@@ -62,8 +79,16 @@ private Q_SLOTS:
             progress.SetValue(50000);
         };
         QVERIFY_THROWS_EXCEPTION(WorkStopped, work());
+        // What does not count gives the interface its turn as well.
+        interface.stopsAt = 0;
+        const auto look = [] {
+            Progress progress(QStringLiteral("Work"), 100000);
+            for (int step = 0; step < 100; ++step)
+                progress.LookedAt();
+        };
+        QVERIFY_THROWS_EXCEPTION(WorkStopped, look());
         SetCurrentInterface(nullptr);
-        QCOMPARE(interface.finished, 2);
+        QCOMPARE(interface.finished, 3);
     }
 };
 

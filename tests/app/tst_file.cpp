@@ -131,6 +131,17 @@ private Q_SLOTS:
         QCOMPARE(Test::ReadAll(folder_.filePath(u"Arial.16.log"_s)),
                  QByteArray("Log file for: Arial\r\n\r\none\r\ntwo\r\n"));
 
+        // One of ours is replaced, what somebody else keeps there is not.
+        const QString log = folder_.filePath(u"Arial.16.log"_s);
+        LogFile(folder_.filePath(u"Arial.16.c"_s)).Write({}, "\n");
+        QCOMPARE(Test::ReadAll(log), QByteArray("Log file for: Arial\n\n"));
+        Test::WriteAll(log, "Log of the day");
+        QVERIFY_THROWS_EXCEPTION(CriticalException, LogFile(log).Write({}, "\n"));
+        QCOMPARE(Test::ReadAll(log), QByteArray("Log of the day"));
+        Test::WriteAll(log, {});
+        LogFile(log).Write({}, "\n");
+        QVERIFY(!Test::ReadAll(log).isEmpty());
+
         const QString before = QDir::currentPath();
         QDir::setCurrent(folder_.path());
         ErrorFile().Write(u"first"_s);

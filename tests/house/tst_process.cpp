@@ -138,6 +138,38 @@ private Q_SLOTS:
         }
     }
 
+    // A file with code beside the font is not cut down to the font in silence.
+    void KeepsWhatIsNoFont()
+    {
+        const QString font = Test::FontPath("outlines.ttf");
+        Run(Arguments(font, u"out.c"_s));
+        const QByteArray text = Test::ReadAll(File(u"out.c"_s)) + "int used;\n";
+        Test::WriteAll(File(u"out.c"_s), text);
+        const QString opened = Run({u"-hide"_s, u"out.c"_s, u"-save"_s, u"out.c"_s}).output;
+        QCOMPARE(opened,
+                 u"The file holds more than its first font, which alone was read. Beside it: "
+                 "used\nOpened font file: out.c\nCritical error!\nError saving file!\n"
+                 "The file out.c holds more than a font; save under another name.\n"
+                 "Beside the font: used\n"_s);
+        QVERIFY(Run(Arguments(font, u"out.c"_s)).output.contains(u"under another name"_s));
+        QCOMPARE(Test::ReadAll(File(u"out.c"_s)), text);
+        QVERIFY(Run({u"-hide"_s, u"out.c"_s, u"-save"_s, u"two.c"_s}).output.contains(u"Saved"_s));
+        QVERIFY(!Test::ReadAll(File(u"two.c"_s)).contains("int used"));
+    }
+
+    // Neither the terminal nor the log is a name's to command.
+    void NamesWithControls()
+    {
+        const QString name = u"a\u001b[2J\nb.ttf"_s;
+        QVERIFY(QFile::copy(Test::FontPath("outlines.ttf"), File(name)));
+        const Result result = Run(Arguments(name, u"c\nd.c"_s) + QStringList{u"-verbose"_s});
+        QVERIFY(result.output.endsWith(u"\nOpened font file: a\\x1B[2J\\nb.ttf\n"
+                                       "Saved font file: c\\nd.c\n"_s));
+        QVERIFY(Test::ReadAll(File(u"c\nd.c"_s)).contains("file: a\\x1B[2J\\nb.ttf"));
+        QVERIFY(Run(Arguments(u"\u001bx\n.ttf"_s)).output.indexOf(u'\u001b') < 0);
+        QVERIFY(Run({u"-hide"_s, u"-\u001bx"_s}).output.contains(u"-\\x1Bx"_s));
+    }
+
     void MergesAndAsks()
     {
         const QString font = Test::FontPath("strike.ttf");

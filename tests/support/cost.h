@@ -23,7 +23,7 @@ double Cost(Call call)
 template <typename Call>
 bool IsLinear(Call call, int size)
 {
-    constexpr double blink = 0.05;
+    constexpr double blink = 0.03;
     const double small = Cost([&] { call(size); });
     const double large = Cost([&] { call(2 * size); });
     return large < blink || large < 3 * small;

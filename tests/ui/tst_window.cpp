@@ -1,6 +1,8 @@
+#include "actions/action_save_file.h"
 #include "actions/session.h"
 #include "app/progress.h"
 #include "app/settings.h"
+#include "files/font_file_c.h"
 #include "files/font_file_sif.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
@@ -20,10 +22,12 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -372,6 +376,43 @@ private Q_SLOTS:
         QVERIFY(session_->Path().endsWith(u"sample.sif"_s));
         QVERIFY(window_->OpenFile(session_->Path()));
         QCOMPARE(int(CurrentFont().Metrics().height), 4);
+    }
+
+    // Names of files may look like markup, or like the mark of changes.
+    void NamesAreShownPlainly()
+    {
+        const QByteArray name = "<h1>[*]&amp;\n.sif";
+        FontFileSample(FontFormat::AA2, Path(name.constData()));
+        QVERIFY(window_->OpenFile(Path(name.constData())));
+        QVERIFY(window_->windowTitle().startsWith(u"<h1>[*][*]&amp;\\n.sif[*] "_s));
+        for (const QLabel* const label : window_->statusBar()->findChildren<QLabel*>())
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+        bool isPlain = false;
+        const DialogAnswer<QMessageBox> answer([&isPlain](QMessageBox& box) {
+            isPlain = box.textFormat() == Qt::PlainText && box.text().contains(u"<b>x.xbf"_s);
+            box.accept();
+        });
+        Test::WriteAll(Path("<b>x.xbf"), "nothing");
+        QVERIFY(!window_->OpenFile(Path("<b>x.xbf")));
+        QVERIFY(isPlain);
+    }
+
+    void AsksBeforeMoreThanAFontIsReplaced()
+    {
+        FontFileC(Path("code.c"), {}).Write(*Test::MakeSampleFont(FontFormat::AA2));
+        const QByteArray text = Test::ReadAll(Path("code.c")) + "int used;\n";
+        Test::WriteAll(Path("code.c"), text);
+        BoxAnswer told(QMessageBox::Ok);
+        QVERIFY(window_->OpenFile(Path("code.c")));
+        QVERIFY(told.text.endsWith(u"Beside it: used"_s));
+        for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
+            BoxAnswer answer(button);
+            const auto save = std::make_shared<ActionSaveFile>(*session_, ActionType::SaveFontAs);
+            save->Args().path = Path("code.c");
+            QCOMPARE(save->Run(), button == QMessageBox::Yes);
+            QVERIFY(answer.text.contains(u"holds more than a font. Replace all of it?"_s));
+            QCOMPARE(Test::ReadAll(Path("code.c")) == text, button == QMessageBox::No);
+        }
     }
 
     void FailuresKeepTheFont()
