@@ -1,7 +1,10 @@
 #pragma once
 
+#include "app/unknown_types.h"
+
 #include <QByteArray>
 #include <QDataStream>
+#include <QIODevice>
 #include <QList>
 #include <QString>
 
@@ -11,7 +14,15 @@ namespace Glyphor {
 
 // What the dialogs remember: their geometry in the toolkit's own form, and their last entries.
 // Every record is stored with the number of its layout; another layout, or a damaged one, gives the
-// defaults.
+// defaults. What has another layout stays in the store as it is until the dialog is used.
+
+// The contents of a record whose layout is not known. They make no difference to the entries.
+struct UnreadRecord
+{
+    QByteArray bytes;
+
+    bool operator==(const UnreadRecord&) const { return true; }
+};
 
 struct FontDialogData
 {
@@ -23,6 +34,7 @@ struct FontDialogData
     qint32 size = 16;
     bool inPoints = false;
     QString script; // empty for all
+    UnreadRecord unread = {};
 
     [[nodiscard]] auto Fields()
     {
@@ -50,6 +62,7 @@ struct FontGenerationDialogData
     QString patternPath;
     QString text;
     QString sample;
+    UnreadRecord unread = {};
 
     [[nodiscard]] auto Fields()
     {
@@ -66,6 +79,7 @@ struct EnableRangeDialogData
     QByteArray geometry;
     qint32 first = -1; // -1 where nothing was entered
     qint32 last = -1;
+    UnreadRecord unread = {};
 
     [[nodiscard]] auto Fields() { return std::tie(geometry, first, last); }
     bool operator==(const EnableRangeDialogData&) const = default;
@@ -77,6 +91,7 @@ struct MergeModeDialogData
 
     QByteArray geometry;
     qint32 mode = -1; // -1 where none was chosen
+    UnreadRecord unread = {};
 
     [[nodiscard]] auto Fields() { return std::tie(geometry, mode); }
     bool operator==(const MergeModeDialogData&) const = default;
@@ -88,6 +103,7 @@ struct PreferencesDialogData
 
     QByteArray geometry;
     qint32 page = 0;
+    UnreadRecord unread = {};
 
     [[nodiscard]] auto Fields() { return std::tie(geometry, page); }
     bool operator==(const PreferencesDialogData&) const = default;
@@ -115,6 +131,11 @@ concept NumberedRecord = requires(Record record)
 template <NumberedRecord Record>
 QDataStream& operator<<(QDataStream& out, Record record)
 {
+    const QByteArray& unread = record.unread.bytes;
+    if (!unread.isEmpty()) {
+        out.writeRawData(unread.constData(), static_cast<int>(unread.size()));
+        return out;
+    }
     out << Record::Layout;
     std::apply([&out](const auto&... field) { (out << ... << field); }, record.Fields());
     return out;
@@ -126,8 +147,12 @@ QDataStream& operator>>(QDataStream& in, Record& record)
     quint32 layout = 0;
     in >> layout;
     record = {};
-    if (layout == Record::Layout)
-        std::apply([&in](auto&... field) { (in >> ... >> field); }, record.Fields());
+    if (in.status() == QDataStream::Ok && layout != Record::Layout) {
+        QDataStream(&record.unread.bytes, QIODevice::WriteOnly) << layout;
+        record.unread.bytes += RestOfValue(in);
+        return in;
+    }
+    std::apply([&in](auto&... field) { (in >> ... >> field); }, record.Fields());
     if (in.status() != QDataStream::Ok)
         record = {};
     return in;

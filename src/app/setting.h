@@ -78,7 +78,13 @@ public:
         return stored.canConvert<Record>() ? stored.value<Record>() : Record();
     }
 
-    void save(const Record& record) { registry().setValue(key(), QVariant::fromValue(record)); }
+    void save(const Record& record)
+    {
+        Record own = record;
+        if constexpr (requires { own.unread; })
+            own.unread = {};
+        registry().setValue(key(), QVariant::fromValue(own));
+    }
 };
 
 // Where a window stood, and how its parts were arranged, in the toolkit's own form.

@@ -1,5 +1,7 @@
 #include "app/settings.h"
 
+#include "app/unknown_types.h"
+
 #include <QDataStream>
 
 namespace Glyphor {
@@ -27,6 +29,7 @@ std::unique_ptr<QSettings> WithRecordTypes(std::unique_ptr<QSettings> store)
     qRegisterMetaType<MergeModeDialogData>("MergeModeDialog::DialogData");
     qRegisterMetaType<PreferencesDialogData>("PreferencesDialog::DialogData");
     qRegisterMetaType<CommandDialogData>("CommandDialog::DialogData");
+    KeepUnknownTypes(store->fileName());
     return store;
 }
 

@@ -105,6 +105,50 @@ private Q_SLOTS:
         QCOMPARE(settings.preferencesDialog.load(), PreferencesDialogData());
     }
 
+    // What a newer release stored is still there when an older one has written.
+    void KeepsWhatIsNotUnderstood()
+    {
+        {
+            Settings settings(Store({}));
+            settings.enableRangeDialog.save({"a;\"b,\xff\n", 65, 90});
+            settings.setValue(u"ABoxData"_s, settings.value(u"EnableRangeDialogData"_s));
+        }
+        QByteArray newer = Test::ReadAll(Path());
+        const qsizetype second = newer.indexOf("EnableRangeDialogData");
+        const QByteArray name = "nableRangeDialog::";
+        QVERIFY(newer.indexOf(name) < second && newer.contains("Data\\0\\0\\0\\0\\x1"));
+        newer.replace(newer.indexOf(name), name.size(), "quallyLongName::XX");
+        newer.replace(newer.lastIndexOf("\\0\\0\\0\\x1\\0"), 11, "\\0\\0\\0\\x2\\0");
+        // Under another name, as the toolkit remembers what it read and wrote.
+        const QString path = folder_.filePath(u"newer.ini"_s);
+        Test::WriteAll(path, newer);
+        const auto line = [](const QByteArray& text, const QByteArray& key) {
+            const qsizetype start = text.indexOf(key);
+            return text.sliced(start, text.indexOf('\n', start) - start);
+        };
+        for (int round = 0; round < 2; ++round) {
+            Settings settings(std::make_unique<QSettings>(path, QSettings::IniFormat));
+            QCOMPARE(settings.enableRangeDialog.load(), EnableRangeDialogData());
+            settings.hideLegacy.setValue(round == 0);
+        }
+        const QByteArray after = Test::ReadAll(path);
+        QVERIFY(after.contains("HideLegacy=false"));
+        QVERIFY2(!after.contains("@Invalid"), after.constData());
+        for (const char* const key : {"ABoxData", "EnableRangeDialogData"})
+            QCOMPARE(line(after, key), line(newer, key));
+        // Until the dialog is used.
+        {
+            Settings settings(std::make_unique<QSettings>(path, QSettings::IniFormat));
+            EnableRangeDialogData record = settings.enableRangeDialog.load();
+            record.first = 5;
+            settings.enableRangeDialog.save(record);
+        }
+        QCOMPARE(Settings(std::make_unique<QSettings>(path, QSettings::IniFormat))
+                     .enableRangeDialog.load()
+                     .first,
+                 5);
+    }
+
     void LineEndings_data()
     {
         QTest::addColumn<bool>("system");
