@@ -29,4 +29,12 @@ function(glyphor_floor name)
     add_library(glyphor_${name} STATIC ${FLOOR_SOURCES})
     target_include_directories(glyphor_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(glyphor_${name} PUBLIC ${FLOOR_USES} PRIVATE glyphor_options)
+    glyphor_unity(glyphor_${name})
+endfunction()
+
+# Where files are compiled together (CMAKE_UNITY_BUILD), clang-tidy is not to wonder at that.
+function(glyphor_unity target)
+    set_target_properties(${target} PROPERTIES
+        UNITY_BUILD_BATCH_SIZE 16
+        UNITY_BUILD_CODE_BEFORE_INCLUDE "// NOLINTNEXTLINE(bugprone-suspicious-include)")
 endfunction()

@@ -5,6 +5,8 @@
 #include <QMetaType>
 #include <QVariant>
 
+#include <utility>
+
 namespace Glyphor {
 
 // The common part of every setting: its key in the registry that holds it.
@@ -78,12 +80,12 @@ public:
         return stored.canConvert<Record>() ? stored.value<Record>() : Record();
     }
 
-    void save(const Record& record)
+    // What could not be read of the record before is over.
+    void save(Record record)
     {
-        Record own = record;
-        if constexpr (requires { own.unread; })
-            own.unread = {};
-        registry().setValue(key(), QVariant::fromValue(own));
+        if constexpr (requires { record.unread; })
+            record.unread = {};
+        registry().setValue(key(), QVariant::fromValue(std::move(record)));
     }
 };
 

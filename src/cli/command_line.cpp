@@ -303,8 +303,8 @@ void CommandLine::progressFinished()
         progressConsole_.ShowStatus({});
 }
 
-int CommandLine::ask(const QString& reason, const QString& subject,
-                     const ParameterKeywordTable& keywords)
+int CommandLine::askKeyword(const QString& reason, const QString& subject,
+                            const ParameterKeywordTable& keywords)
 {
     console_.PrintLine(reason);
     for (;;) {
@@ -323,14 +323,14 @@ int CommandLine::ask(const QString& reason, const QString& subject,
 
 int CommandLine::askFontFormat(EncodingType&)
 {
-    return ask(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
+    return askKeyword(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
 }
 
 int CommandLine::askMergeMode()
 {
-    return ask(u"Duplicate characters have been found in both fonts. How should duplicate "
-               "characters be handled?"_s,
-               u"merge mode"_s, MergeKeywords());
+    return askKeyword(u"Duplicate characters have been found in both fonts. How should duplicate "
+                      "characters be handled?"_s,
+                      u"merge mode"_s, MergeKeywords());
 }
 
 } // namespace Glyphor

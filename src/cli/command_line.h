@@ -47,7 +47,8 @@ public:
 private:
     void execute(const OptionOccurrence& occurrence, Session& session);
     void perform(ActionType kind, Session& session);
-    int ask(const QString& reason, const QString& subject, const ParameterKeywordTable& keywords);
+    int askKeyword(const QString& reason, const QString& subject,
+                   const ParameterKeywordTable& keywords);
 
     CommandLineParser parser_;
     Console console_;

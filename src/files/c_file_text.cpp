@@ -43,7 +43,7 @@ QString InComment(QString text)
     return text;
 }
 
-bool IsIdentifierCharacter(QChar character)
+bool IsIdentifierPart(QChar character)
 {
     return (character >= u'0' && character <= u'9') || (character >= u'A' && character <= u'Z') ||
            (character >= u'a' && character <= u'z') || character == u'_';
@@ -65,7 +65,7 @@ QByteArray CName(const QString& fontName)
     QByteArray name;
     name.reserve(stem.size());
     for (const QChar character : stem)
-        name.append(IsIdentifierCharacter(character) ? character.toLatin1() : '_');
+        name.append(IsIdentifierPart(character) ? character.toLatin1() : '_');
     return name;
 }
 

@@ -11,14 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QByteArrayView Magic = "GUIP";
-constexpr QByteArrayView TrailerName = "SIF";
+constexpr QByteArrayView SifMagic = "GUIP";
+constexpr QByteArrayView SifTrailerName = "SIF";
 
 constexpr qint64 RunCountOffset = 14;
-constexpr qint64 HeaderSize = 16;
+constexpr qint64 SifHeaderSize = 16;
 constexpr qint64 RunSize = 4;
 
-constexpr int RecordSize(FontFormat format)
+constexpr int SifRecordSize(FontFormat format)
 {
     return IsLegacyFormat(format) ? 12 : 16;
 }
@@ -33,12 +33,12 @@ QString FontFileSIF::FailureTitle() const
 std::vector<CodeRun> FontFileSIF::ReadRuns(const LittleEndianBytes& bytes) const
 {
     const int count = bytes.U16(RunCountOffset);
-    if (!bytes.Holds(HeaderSize, RunSize * count))
+    if (!bytes.Holds(SifHeaderSize, RunSize * count))
         Fail(Engine::tr("It is too short for its %1 ranges of characters.").arg(count));
     std::vector<CodeRun> runs;
     int next = 0;
     for (int index = 0; index < count; ++index) {
-        const qint64 at = HeaderSize + RunSize * index;
+        const qint64 at = SifHeaderSize + RunSize * index;
         const CodeRun run = {bytes.U16(at), bytes.U16(at + 2)};
         if (run.first < next || run.last < run.first)
             Fail(Engine::tr("Its ranges of characters are not in ascending order."));
@@ -75,11 +75,11 @@ std::vector<FontFileSIF::CharRecord> FontFileSIF::ReadRecords(const LittleEndian
                                                               const FontMetrics& font)
 {
     std::vector<CharRecord> records;
-    qint64 at = HeaderSize + RunSize * qint64(runs.size());
+    qint64 at = SifHeaderSize + RunSize * qint64(runs.size());
     for (const CodeRun& run : runs) {
         for (int code = run.first; code <= run.last; ++code) {
             records.push_back(ReadRecord(bytes, at, static_cast<quint16>(code), font));
-            at += RecordSize(font.format);
+            at += SifRecordSize(font.format);
         }
     }
     return records;
@@ -122,9 +122,9 @@ std::unique_ptr<Font> FontFileSIF::Read()
 {
     const QByteArray contents = Contents();
     const LittleEndianBytes bytes(contents);
-    if (!contents.startsWith(Magic) || bytes.Size() < HeaderSize)
+    if (!contents.startsWith(SifMagic) || bytes.Size() < SifHeaderSize)
         Fail(Engine::tr("It does not begin with \"GUIP\" and a header."));
-    std::optional<FontFormat> format = TrailerFormat(bytes, TrailerName);
+    std::optional<FontFormat> format = TrailerFormat(bytes, SifTrailerName);
     EncodingType encoding = Answer().encoding.value_or(EncodingType::Unicode);
     const bool isAnswered = !format;
     if (!format)
@@ -138,8 +138,8 @@ std::unique_ptr<Font> FontFileSIF::Read()
     auto font = MakeFont(bytes, *format, encoding);
     const std::vector<CodeRun> runs = ReadRuns(bytes);
     const std::vector<CharRecord> records = ReadRecords(bytes, runs, font->Metrics());
-    const qint64 bitmapOffset =
-        HeaderSize + RunSize * qint64(runs.size()) + RecordSize(*format) * qint64(records.size());
+    const qint64 bitmapOffset = SifHeaderSize + RunSize * qint64(runs.size()) +
+                                SifRecordSize(*format) * qint64(records.size());
     qint64 expected = bitmapOffset + (isAnswered ? 0 : TrailerSize);
     for (const CharRecord& record : records)
         expected += BitmapSize(record.metrics, font->Metrics());
@@ -170,7 +170,7 @@ void FontFileSIF::Write(const Font& font)
     const FontFormat format = font.Metrics().format;
     Replace([&](const Sink& sink) {
         QByteArray bytes;
-        AppendHeader(bytes, Magic, font.Metrics());
+        AppendHeader(bytes, SifMagic, font.Metrics());
         const std::vector<CodeRun> runs = font.EnabledRuns();
         Append16(bytes, {static_cast<int>(runs.size())});
         qint64 count = 0;
@@ -178,13 +178,13 @@ void FontFileSIF::Write(const Font& font)
             Append16(bytes, {run.first, run.last});
             count += run.Size();
         }
-        const qint64 bitmapOffset = bytes.size() + RecordSize(format) * count;
+        const qint64 bitmapOffset = bytes.size() + SifRecordSize(format) * count;
         AppendRecords(font, static_cast<quint32>(bitmapOffset), bytes, sink);
         font.ForEachEnabled([&](quint16, const Character& character) {
             character.bitmap->Write(bytes);
             PassOn(bytes, sink);
         });
-        AppendTrailer(bytes, TrailerName, format);
+        AppendTrailer(bytes, SifTrailerName, format);
         PassOn(bytes, sink, 0);
     });
 }

@@ -10,19 +10,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QByteArrayView Magic = "GUIX";
-constexpr QByteArrayView TrailerName = "XBF";
+constexpr QByteArrayView XbfMagic = "GUIX";
+constexpr QByteArrayView XbfTrailerName = "XBF";
 constexpr QByteArrayView ToolTag = "KSTX";
 
 constexpr qint64 FirstCodeOffset = 14;
 constexpr qint64 LastCodeOffset = 16;
-constexpr qint64 HeaderSize = 18;
+constexpr qint64 XbfHeaderSize = 18;
 constexpr qint64 EntrySize = 6;
 
 // Longer tool texts are not looked for.
 constexpr int ToolTextLimit = 512;
 
-constexpr int RecordSize(FontFormat format)
+constexpr int XbfRecordSize(FontFormat format)
 {
     return IsLegacyFormat(format) ? 4 : 12;
 }
@@ -49,7 +49,7 @@ std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBy
 {
     const int first = bytes.U16(FirstCodeOffset);
     const int last = bytes.U16(LastCodeOffset);
-    const qint64 dataOffset = HeaderSize + EntrySize * (last - first + 1);
+    const qint64 dataOffset = XbfHeaderSize + EntrySize * (last - first + 1);
     const qint64 dataEnd = bytes.Size() - TrailerSize;
     if (last < first || dataOffset > dataEnd)
         Fail(Engine::tr("It is too short for its table of the codes 0x%1 to 0x%2.")
@@ -57,7 +57,7 @@ std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBy
     std::vector<TableEntry> entries;
     qint64 total = 0;
     for (int code = first; code <= last; ++code) {
-        const qint64 at = HeaderSize + EntrySize * (code - first);
+        const qint64 at = XbfHeaderSize + EntrySize * (code - first);
         const TableEntry entry = {static_cast<quint16>(code), bytes.U32(at), bytes.U16(at + 4)};
         if (entry.offset == 0 && entry.size == 0)
             continue;
@@ -76,7 +76,7 @@ void FontFileXBF::ReadChar(const LittleEndianBytes& bytes, const TableEntry& ent
                            Font& font) const
 {
     const FontFormat format = font.Metrics().format;
-    if (entry.size < RecordSize(format))
+    if (entry.size < XbfRecordSize(format))
         FailAtChar(entry.code, Engine::tr("is too small"));
     const auto field = [&](int index) { return bytes.U16(entry.offset + 2 * index); };
     const auto offset = [&](int index) { return bytes.I16(entry.offset + 2 * index); };
@@ -96,20 +96,20 @@ void FontFileXBF::ReadChar(const LittleEndianBytes& bytes, const TableEntry& ent
         bytesPerLine = field(5);
     }
     CheckBytesPerLine(entry.code, bytesPerLine, metrics.width, font);
-    if (RecordSize(format) + BitmapSize(metrics, font.Metrics()) != entry.size)
+    if (XbfRecordSize(format) + BitmapSize(metrics, font.Metrics()) != entry.size)
         FailAtChar(entry.code,
                    Engine::tr("has a size in the table that is not the size of its pixels"));
-    AddChar(font, entry.code, metrics, bytes, entry.offset + RecordSize(format));
+    AddChar(font, entry.code, metrics, bytes, entry.offset + XbfRecordSize(format));
 }
 
 std::unique_ptr<Font> FontFileXBF::Read()
 {
     const QByteArray contents = Contents();
     const LittleEndianBytes bytes(contents);
-    if (!contents.startsWith(Magic))
+    if (!contents.startsWith(XbfMagic))
         Fail(Engine::tr("It does not begin with \"GUIX\"."));
-    const std::optional<FontFormat> format = TrailerFormat(bytes, TrailerName);
-    if (!format || bytes.Size() < HeaderSize + TrailerSize)
+    const std::optional<FontFormat> format = TrailerFormat(bytes, XbfTrailerName);
+    if (!format || bytes.Size() < XbfHeaderSize + TrailerSize)
         Fail(Engine::tr(
             "It does not end with \"XBF\" and the font's format, so some of it may be missing."));
     auto font = MakeFont(bytes, *format, Answer().encoding.value_or(EncodingType::Unicode));
@@ -129,8 +129,8 @@ void FontFileXBF::AppendTable(const Font& font, QByteArray& bytes, const Sink& s
     const int first = runs.front().first;
     const int last = runs.back().last;
     Append16(bytes, {first, last});
-    const int recordSize = RecordSize(font.Metrics().format);
-    auto offset = static_cast<quint32>(HeaderSize + EntrySize * (last - first + 1));
+    const int recordSize = XbfRecordSize(font.Metrics().format);
+    auto offset = static_cast<quint32>(XbfHeaderSize + EntrySize * (last - first + 1));
     int next = first;
     font.ForEachEnabled([&](quint16 code, const Character& character) {
         bytes.append(EntrySize * (code - next), '\0');
@@ -158,18 +158,18 @@ void FontFileXBF::Write(const Font& font)
     const FontFormat format = font.Metrics().format;
     Replace([&](const Sink& sink) {
         QByteArray bytes;
-        AppendHeader(bytes, Magic, font.Metrics());
+        AppendHeader(bytes, XbfMagic, font.Metrics());
         AppendTable(font, bytes, sink);
         font.ForEachEnabled([&](quint16, const Character& character) {
             AppendChar(character, bytes);
             PassOn(bytes, sink);
         });
-        AppendTrailer(bytes, TrailerName, format);
+        AppendTrailer(bytes, XbfTrailerName, format);
         if (const QByteArray text = font.ToolText().toLatin1(); !text.isEmpty()) {
             bytes.append(text);
             bytes.append(ToolTag);
             Append16(bytes, {static_cast<int>(text.size())});
-            AppendTrailer(bytes, TrailerName, format);
+            AppendTrailer(bytes, XbfTrailerName, format);
         }
         PassOn(bytes, sink, 0);
     });

@@ -3,14 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <limits>
 
 namespace Glyphor {
 
 namespace {
-
-constexpr int MinOffset = std::numeric_limits<qint8>::min();
-constexpr int MaxOffset = std::numeric_limits<qint8>::max();
 
 // The C text of every byte value, with the comma and the blank behind it: Length characters, padded
 // to a size that is copied in one move.
@@ -107,7 +103,7 @@ bool CharBitmap::InsertColumnLeft()
 
 bool CharBitmap::InsertRowTop()
 {
-    if (!CanInsertRow() || info_.yPos == MinOffset)
+    if (!CanInsertRow() || info_.yPos == CharInfo::MinOffset)
         return false;
     PixelPlane::InsertRowTop(data_, Layout());
     ++info_.height;
@@ -174,7 +170,7 @@ void CharBitmap::Clear()
         info_.yPos = 0;
         info_.height = info_.font.height;
     } else {
-        info_.yPos = static_cast<qint8>(std::min<int>(info_.font.baseline, MaxOffset));
+        info_.yPos = static_cast<qint8>(std::min<int>(info_.font.baseline, CharInfo::MaxOffset));
         info_.height = 1;
     }
     data_ = QByteArray(Layout().Size(), '\0');
@@ -200,7 +196,7 @@ bool CharBitmap::DeleteColumnLeft()
 
 bool CharBitmap::DeleteRowTop()
 {
-    if (!CanDeleteRow() || info_.yPos == MaxOffset)
+    if (!CanDeleteRow() || info_.yPos == CharInfo::MaxOffset)
         return false;
     PixelPlane::DeleteRowTop(data_, Layout());
     --info_.height;

@@ -27,6 +27,8 @@ struct CharMetrics
 struct CharInfo
 {
     static constexpr int MaxSize = 255;
+    static constexpr int MinOffset = -128;
+    static constexpr int MaxOffset = 127;
 
     const FontMetrics& font;
     quint8 width = 0;

@@ -3,14 +3,10 @@
 #include "model/char_bitmap_framed.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace Glyphor {
 
 namespace {
-
-constexpr int MinOffset = std::numeric_limits<qint8>::min();
-constexpr int MaxOffset = std::numeric_limits<qint8>::max();
 
 // True where the top row can go without a change of the picture.
 bool HasEmptyTopRow(const Character& character)
@@ -201,8 +197,8 @@ int Font::TopRowRoom(bool insert) const
     ForEachChar([&](quint16, const Character& character) {
         const CharInfo& info = character.info;
         // Beyond the largest offset empty rows are added to the bitmap.
-        const int down = MaxOffset - info.yPos + CharInfo::MaxSize - info.height;
-        room = std::min(room, insert ? down : info.yPos - MinOffset);
+        const int down = CharInfo::MaxOffset - info.yPos + CharInfo::MaxSize - info.height;
+        room = std::min(room, insert ? down : info.yPos - CharInfo::MinOffset);
     });
     return room;
 }
@@ -210,7 +206,7 @@ int Font::TopRowRoom(bool insert) const
 void Font::MoveDown(CodeSet& grown)
 {
     ForEachChar([&](quint16 code, Character& character) {
-        if (character.info.yPos == MaxOffset) {
+        if (character.info.yPos == CharInfo::MaxOffset) {
             character.bitmap->InsertRowTop(); // which moves it up
             grown.Set(code, true);
         }
@@ -282,7 +278,7 @@ bool Font::DeleteRowTop()
         return false;
     if (!IsLegacyFormat(metrics_.format))
         MoveUp([](quint16, const Character& character) {
-            return character.info.yPos == MaxOffset - 1 && HasEmptyTopRow(character);
+            return character.info.yPos == CharInfo::MaxOffset - 1 && HasEmptyTopRow(character);
         });
     return true;
 }

@@ -11,8 +11,8 @@ namespace Glyphor {
 
 namespace {
 
-constexpr qint64 ShowDelay = 80; // milliseconds
-constexpr qint64 TurnDelay = 20; // between two turns of the window
+constexpr qint64 BarDelay = 80;        // milliseconds
+constexpr qint64 WindowTurnDelay = 20; // between two turns of the window
 
 bool IsInput(QEvent::Type type)
 {
@@ -75,7 +75,7 @@ void ProgressArea::BeginWork(const QString& text, int maximum)
 
 void ProgressArea::SetWork(int value)
 {
-    if (sinceBegin_.elapsed() < ShowDelay || sinceTurn_.elapsed() < TurnDelay)
+    if (sinceBegin_.elapsed() < BarDelay || sinceTurn_.elapsed() < WindowTurnDelay)
         return;
     Show(text_, value, maximum_);
     QApplication::instance()->installEventFilter(this);

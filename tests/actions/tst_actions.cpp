@@ -70,9 +70,9 @@ private Q_SLOTS:
         QVERIFY(interface.performed.isEmpty() && session.Stack().LogLines().isEmpty());
 
         CountAction unshared(session, total, 1);
-        QVERIFY_EXCEPTION_THROWN(unshared.Run(), std::bad_weak_ptr);
-        QVERIFY_EXCEPTION_THROWN(unshared.Undo(), std::bad_weak_ptr);
-        QVERIFY_EXCEPTION_THROWN(unshared.Redo(), std::bad_weak_ptr);
+        QVERIFY_THROWS_EXCEPTION(std::bad_weak_ptr, unshared.Run());
+        QVERIFY_THROWS_EXCEPTION(std::bad_weak_ptr, unshared.Undo());
+        QVERIFY_THROWS_EXCEPTION(std::bad_weak_ptr, unshared.Redo());
     }
 
     void LogTexts()

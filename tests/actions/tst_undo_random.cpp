@@ -16,7 +16,8 @@ constexpr quint16 LastCode = 0x4A;
 
 enum class Kind { Any, Exact };
 
-// Random edits of a font whose characters lie at every limit: any, or those alone that lose nothing.
+// Random edits of a font whose characters lie at every limit: any, or those alone that lose
+// nothing.
 class RandomEdits
 {
 public:

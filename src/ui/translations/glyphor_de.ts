@@ -709,6 +709,50 @@ Erwartete Größe: %2 Byte.<byte value="xd"/>
         <source>Its contents are damaged (FreeType error %1).</source>
         <translation>Ihr Inhalt ist beschädigt (FreeType-Fehler %1).</translation>
     </message>
+    <message>
+        <source>Beside the font: %1</source>
+        <translation>Neben der Schrift: %1</translation>
+    </message>
+    <message>
+        <source>More than a font</source>
+        <translation>Mehr als eine Schrift</translation>
+    </message>
+    <message>
+        <source>The file %1 holds more than a font. Replace all of it?</source>
+        <translation>Die Datei %1 enthält mehr als eine Schrift. Alles ersetzen?</translation>
+    </message>
+    <message>
+        <source>The file %1 holds more than a font; save under another name.</source>
+        <translation>Die Datei %1 enthält mehr als eine Schrift; bitte unter einem anderen Namen speichern.</translation>
+    </message>
+    <message>
+        <source>It is not an ordinary file.</source>
+        <translation>Sie ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
+        <source>Hard links</source>
+        <translation>Harte Links</translation>
+    </message>
+    <message>
+        <source>The file %1 had other names (hard links). They keep its old contents.</source>
+        <translation>Die Datei %1 hatte weitere Namen (harte Links). Dort bleibt der alte Inhalt.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no log of this program, so no log was written.</source>
+        <translation>Die Datei %1 ist kein Protokoll dieses Programms, daher wurde keines geschrieben.</translation>
+    </message>
+    <message>
+        <source>The file holds more than its first font, which alone was read. Beside it: %1</source>
+        <translation>Die Datei enthält mehr als ihre erste Schrift; nur diese wurde gelesen. Daneben: %1</translation>
+    </message>
+    <message>
+        <source>The file %1 is encoded in UTF-16 or UTF-32. Save it in UTF-8 with an editor, and open it again.</source>
+        <translation>Die Datei %1 ist in UTF-16 oder UTF-32 kodiert. Bitte in einem Editor als UTF-8 speichern und wieder öffnen.</translation>
+    </message>
+    <message>
+        <source>It claims more memory than a font of its size needs.</source>
+        <translation>Sie verlangt mehr Speicher, als eine Schrift ihrer Größe braucht.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
