@@ -9,15 +9,25 @@ target_compile_definitions(glyphor_options INTERFACE
     QT_NO_KEYWORDS
     QT_NO_URL_CAST_FROM_STRING)
 
+set(sanitizers "")
 if(GLYPHOR_SANITIZE)
-    target_compile_options(glyphor_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(glyphor_options INTERFACE -fsanitize=address,undefined)
+    list(APPEND sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
+endif()
+if(GLYPHOR_FUZZ)
+    list(APPEND sanitizers -fsanitize=fuzzer-no-link)
+endif()
+if(sanitizers)
+    target_compile_options(glyphor_options INTERFACE ${sanitizers} -fno-omit-frame-pointer)
+    target_link_options(glyphor_options INTERFACE ${sanitizers})
 endif()
 
-if(GLYPHOR_FUZZ)
-    target_compile_options(glyphor_options INTERFACE -fsanitize=fuzzer-no-link)
-    target_link_options(glyphor_options INTERFACE -fsanitize=fuzzer-no-link)
+# FreeType's source, for the sanitizers and the fuzzers to see into it as well.
+if(GLYPHOR_FREETYPE_SOURCE)
+    set(FT_DISABLE_HARFBUZZ ON)
+    add_subdirectory(${GLYPHOR_FREETYPE_SOURCE} freetype EXCLUDE_FROM_ALL)
+    set_target_properties(freetype PROPERTIES UNITY_BUILD OFF)
+    target_compile_options(freetype PRIVATE ${sanitizers})
+    add_library(Freetype::Freetype ALIAS freetype)
 endif()
 
 # glyphor_floor(NAME SOURCES file... USES library...)

@@ -3,6 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/progress.h"
+#include "app/shown_text.h"
 #include "render/font_database.h"
 
 #include <QEventLoop>
@@ -109,8 +110,9 @@ InstalledFont FindInstalledFont(const QString& family, const QString& style)
                                   : Engine::tr("Families with a similar name: %1")
                                         .arg(Nearest(families, family).join(u", "_s));
     }
-    throw CriticalException(Engine::tr("Font %1 %2 could not be found!").arg(family, style) +
-                            u'\n' + hint);
+    throw CriticalException(
+        Engine::tr("Font %1 %2 could not be found!").arg(Shown(family), Shown(style)) + u'\n' +
+        hint);
 }
 
 QString InstalledFontTable()

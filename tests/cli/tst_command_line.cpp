@@ -77,7 +77,7 @@ private Q_SLOTS:
         QFETCH(const bool, inPoints);
         Test::RecordingInterface interface;
         if (height == 0) {
-            QVERIFY_EXCEPTION_THROWN((void)ParseHeight(text), CriticalException);
+            QVERIFY_THROWS_EXCEPTION(CriticalException, (void)ParseHeight(text));
             return;
         }
         const FontSize size = ParseHeight(text);
@@ -113,7 +113,7 @@ private Q_SLOTS:
             QCOMPARE(commandLine.askMergeMode(), 3);
         }
         const Answers none("nonsense\n");
-        QVERIFY_EXCEPTION_THROWN(commandLine.askFontFormat(encoding), CriticalException);
+        QVERIFY_THROWS_EXCEPTION(CriticalException, commandLine.askFontFormat(encoding));
     }
 
     void Requests()
