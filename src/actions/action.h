@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/log_entry.h"
 #include "app/action_type.h"
 #include "model/code_set.h"
 
@@ -32,8 +33,11 @@ public:
     // Applies one elementary step, the first time too. Must not throw.
     virtual void RedoOnce() = 0;
 
+    // What the action tells in the log, if anything.
+    [[nodiscard]] virtual LogEntry Log() const = 0;
+
     // The action's line in the log; empty for none.
-    [[nodiscard]] virtual QString LogText() const = 0;
+    [[nodiscard]] virtual QString LogText() const { return Log().Text(); }
 
     // The codes that undo and redo change; empty where that is the font as a whole.
     [[nodiscard]] virtual CodeSet AffectedCodes() const { return {}; }
@@ -56,8 +60,8 @@ public:
     // How many elementary steps are in force: 0 or the repeat count.
     [[nodiscard]] int Applied() const { return applied_; }
 
-    // The log message of the type, or of the action's own type; empty where there is none.
-    [[nodiscard]] QString MessageFor(ActionType type = ActionType::None) const;
+    // The log message of the type, or of the action's own type; null where there is none.
+    [[nodiscard]] const char* MessageFor(ActionType type = ActionType::None) const;
 
 protected:
     // `repeat` elementary steps are applied, undone and redone as one.
@@ -97,10 +101,8 @@ private:
 // What log lines of character actions begin with: one code, or a range of codes.
 [[nodiscard]] QString RangePrefix(quint16 first, quint16 last);
 
-// A line of the log in the language of the window.
-[[nodiscard]] QString TranslatedLog(const QString& line);
-
-// The texts of the log. %1 is a range prefix or a file path, %2 and %3 a pixel, %4 an index.
-[[nodiscard]] QString LogMessage(ActionType type);
+// The texts of the log. %1 is a range prefix or a file path, %2 and %3 a pixel, %4 an index. Null
+// where a type has none.
+[[nodiscard]] const char* LogMessage(ActionType type);
 
 } // namespace Glyphor

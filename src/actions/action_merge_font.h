@@ -30,9 +30,9 @@ public:
     void UndoOnce() override { Swap(); }
     void RedoOnce() override { Swap(); }
     [[nodiscard]] CodeSet AffectedCodes() const override;
-    [[nodiscard]] QString LogText() const override
+    [[nodiscard]] LogEntry Log() const override
     {
-        return MessageFor().arg(Shown(Args().source.path));
+        return LogEntry(MessageFor(), {Shown(Args().source.path)});
     }
 
 private:

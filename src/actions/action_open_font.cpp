@@ -136,11 +136,11 @@ void ActionOpenFont::RedoOnce()
     CurrentSession().ReplaceFont(std::move(font_), Args().path);
 }
 
-QString ActionOpenFont::LogText() const
+LogEntry ActionOpenFont::Log() const
 {
-    if (Type() == ActionType::CreateFont)
-        return MessageFor().arg(Args().size.PixelHeight());
-    return MessageFor().arg(Shown(Args().path));
+    const bool isCreated = Type() == ActionType::CreateFont;
+    return LogEntry(MessageFor(),
+                    {isCreated ? QString::number(Args().size.PixelHeight()) : Shown(Args().path)});
 }
 
 } // namespace Glyphor

@@ -23,7 +23,10 @@ public:
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
-    [[nodiscard]] QString LogText() const override { return MessageFor().arg(Shown(Args().path)); }
+    [[nodiscard]] LogEntry Log() const override
+    {
+        return LogEntry(MessageFor(), {Shown(Args().path)});
+    }
     void ApplyTo(CodeSet& codes) const override { codes |= pattern_; }
 
 private:

@@ -106,10 +106,11 @@ void ActionSaveFile::RedoOnce()
         CurrentSession().SetSaved(Args().path);
 }
 
-QString ActionSaveFile::LogText() const
+LogEntry ActionSaveFile::Log() const
 {
-    return (IsKerning() ? u"Saved kerning file: %1"_s : u"Saved font file: %1"_s)
-        .arg(Shown(Args().path));
+    return LogEntry(IsKerning() ? QT_TRANSLATE_NOOP("Engine", "Saved kerning file: %1")
+                                : QT_TRANSLATE_NOOP("Engine", "Saved font file: %1"),
+                    {Shown(Args().path)});
 }
 
 } // namespace Glyphor

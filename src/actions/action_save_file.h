@@ -22,7 +22,7 @@ public:
     bool Execute() override;
     void UndoOnce() override {}
     void RedoOnce() override;
-    [[nodiscard]] QString LogText() const override;
+    [[nodiscard]] LogEntry Log() const override;
     [[nodiscard]] bool IsUndoable() const override { return false; }
 
 private:

@@ -1,104 +1,14 @@
 #include "actions/edit_actions.h"
 
+#include "actions/edit_table.h"
 #include "actions/session.h"
+#include "app/engine_texts.h"
 
 #include <algorithm>
-#include <array>
-#include <type_traits>
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-// An edit of the bitmap as a step; false where the bitmap refuses it.
-template <auto Edit>
-bool EditBitmap(Character& character)
-{
-    CharBitmap& bitmap = *character.bitmap;
-    if constexpr (std::is_same_v<decltype((bitmap.*Edit)()), bool>) {
-        return (bitmap.*Edit)();
-    } else {
-        (bitmap.*Edit)();
-        return true;
-    }
-}
-
-// The last column and the last row stay: a deletion leaves no character without pixels.
-template <auto Edit>
-bool DeleteColumn(Character& character)
-{
-    return character.info.width > 1 && EditBitmap<Edit>(character);
-}
-
-template <auto Edit>
-bool DeleteRow(Character& character)
-{
-    return character.info.height > 1 && EditBitmap<Edit>(character);
-}
-
-// A metric changed by one as a step. Metrics wrap.
-template <auto Metric>
-bool Increase(Character& character)
-{
-    ++(character.info.*Metric);
-    return true;
-}
-
-template <auto Metric>
-bool Decrease(Character& character)
-{
-    --(character.info.*Metric);
-    return true;
-}
-
-struct CharStep
-{
-    ActionType type;
-    bool (*apply)(Character&);
-    bool (*revert)(Character&); // deleted pixels come back empty
-};
-
-using Bitmap = CharBitmap;
-
-// From InsertColumnRight on, without a gap.
-constexpr std::array<CharStep, 18> CharSteps = {{
-    {ActionType::InsertColumnRight, EditBitmap<&Bitmap::InsertColumnRight>,
-     EditBitmap<&Bitmap::UndoInsertColumnRight>},
-    {ActionType::InsertColumnLeft, EditBitmap<&Bitmap::InsertColumnLeft>,
-     EditBitmap<&Bitmap::UndoInsertColumnLeft>},
-    {ActionType::InsertRowTop, EditBitmap<&Bitmap::InsertRowTop>,
-     EditBitmap<&Bitmap::UndoInsertRowTop>},
-    {ActionType::InsertRowBottom, EditBitmap<&Bitmap::InsertRowBottom>,
-     EditBitmap<&Bitmap::UndoInsertRowBottom>},
-    {ActionType::ShiftRight, EditBitmap<&Bitmap::ShiftRight>, EditBitmap<&Bitmap::ShiftLeft>},
-    {ActionType::ShiftLeft, EditBitmap<&Bitmap::ShiftLeft>, EditBitmap<&Bitmap::ShiftRight>},
-    {ActionType::ShiftUp, EditBitmap<&Bitmap::ShiftUp>, EditBitmap<&Bitmap::ShiftDown>},
-    {ActionType::ShiftDown, EditBitmap<&Bitmap::ShiftDown>, EditBitmap<&Bitmap::ShiftUp>},
-    {ActionType::MoveRight, Increase<&CharInfo::xPos>, Decrease<&CharInfo::xPos>},
-    {ActionType::MoveLeft, Decrease<&CharInfo::xPos>, Increase<&CharInfo::xPos>},
-    {ActionType::MoveUp, Decrease<&CharInfo::yPos>, Increase<&CharInfo::yPos>},
-    {ActionType::MoveDown, Increase<&CharInfo::yPos>, Decrease<&CharInfo::yPos>},
-    {ActionType::IncreaseCursorDistance, Increase<&CharInfo::cursorDistance>,
-     Decrease<&CharInfo::cursorDistance>},
-    {ActionType::DecreaseCursorDistance, Decrease<&CharInfo::cursorDistance>,
-     Increase<&CharInfo::cursorDistance>},
-    {ActionType::DeleteColumnRight, DeleteColumn<&Bitmap::DeleteColumnRight>,
-     EditBitmap<&Bitmap::UndoDeleteColumnRight>},
-    {ActionType::DeleteColumnLeft, DeleteColumn<&Bitmap::DeleteColumnLeft>,
-     EditBitmap<&Bitmap::InsertColumnLeft>},
-    {ActionType::DeleteRowTop, DeleteRow<&Bitmap::DeleteRowTop>,
-     EditBitmap<&Bitmap::UndoDeleteRowTop>},
-    {ActionType::DeleteRowBottom, DeleteRow<&Bitmap::DeleteRowBottom>,
-     EditBitmap<&Bitmap::InsertRowBottom>},
-}};
-
-const CharStep& StepOf(ActionType type)
-{
-    const int index = static_cast<int>(type) - static_cast<int>(CharSteps.front().type);
-    return CharSteps.at(static_cast<std::size_t>(index));
-}
 
 CodeSet RangeOf(quint16 first, quint16 last)
 {
@@ -107,36 +17,10 @@ CodeSet RangeOf(quint16 first, quint16 last)
     return codes;
 }
 
-// `grown` gets what undoing an insertion at the top has to know.
-void ApplyFontStep(ActionType type, Font& font, CodeSet* grown = nullptr)
+// Like Toggle, after the state that it leads to.
+LogEntry StateEntry(bool isEnabled)
 {
-    switch (type) {
-    case ActionType::FontInsertRowTop:
-        font.InsertRowTop(grown);
-        break;
-    case ActionType::FontInsertRowBottom:
-        font.InsertRowBottom();
-        break;
-    case ActionType::FontDeleteRowTop:
-        font.DeleteRowTop();
-        break;
-    default:
-        font.DeleteRowBottom();
-        break;
-    }
-}
-
-// Not for an insertion at the top.
-ActionType OppositeFontStep(ActionType type)
-{
-    switch (type) {
-    case ActionType::FontInsertRowBottom:
-        return ActionType::FontDeleteRowBottom;
-    case ActionType::FontDeleteRowTop:
-        return ActionType::FontInsertRowTop;
-    default:
-        return ActionType::FontInsertRowBottom;
-    }
+    return LogEntry(LogMessage(isEnabled ? ActionType::Enable : ActionType::Disable));
 }
 
 } // namespace
@@ -173,7 +57,7 @@ void ActionChar::RedoOnce()
         CurrentFont()->SetEnabledCodes(codes);
         return;
     }
-    const auto apply = StepOf(Type()).apply;
+    const auto apply = EditOf(Type())->apply;
     ForEachChar([&](quint16 code, Character& character) {
         if (!apply(character))
             ++refused_[code];
@@ -186,18 +70,17 @@ void ActionChar::UndoOnce()
         RedoOnce();
         return;
     }
-    if (Type() >= ActionType::DeleteColumnRight)
-        CurrentSession().MarkChanged(); // as deleted pixels come back empty
-    const auto revert = StepOf(Type()).revert;
+    const Edit& edit = *EditOf(Type());
+    bool isExact = CanBeUndone(edit, *CurrentFont());
     ForEachChar([&](quint16 code, Character& character) {
         const auto refused = refused_.find(code);
-        if (refused == refused_.end()) {
-            if (!revert(character))
-                CurrentSession().MarkChanged();
-        } else if (--*refused == 0) {
+        if (refused == refused_.end())
+            isExact = edit.revert(character) && isExact;
+        else if (--*refused == 0)
             refused_.erase(refused);
-        }
     });
+    if (!isExact)
+        CurrentSession().MarkChanged();
 }
 
 CodeSet ActionChar::AffectedCodes() const
@@ -205,60 +88,38 @@ CodeSet ActionChar::AffectedCodes() const
     return RangeOf(Args().first, Args().last);
 }
 
-QString ActionChar::LogText() const
+LogEntry ActionChar::Log() const
 {
-    QString message = MessageFor();
-    if (Type() == ActionType::Toggle)
-        message = message.arg(target_ ? u"Enabled"_s : u"Disabled"_s);
-    return RangePrefix(Args().first, Args().last) + message;
+    const LogEntry entry =
+        Type() == ActionType::Toggle ? StateEntry(target_) : LogEntry(MessageFor());
+    return entry.About(RangePrefix(Args().first, Args().last));
 }
 
 bool ActionFont::Execute()
 {
-    const Font* const font = CurrentFont();
-    if (font == nullptr)
+    if (CurrentFont() == nullptr)
         return false;
-    const bool isInsertion =
-        Type() == ActionType::FontInsertRowTop || Type() == ActionType::FontInsertRowBottom;
-    const int height = font->Metrics().height;
-    const int minimum = IsLegacyFormat(font->Metrics().format) ? 1 : 0;
-    const bool atTop =
-        Type() == ActionType::FontInsertRowTop || Type() == ActionType::FontDeleteRowTop;
-    int possible = isInsertion ? CharInfo::MaxSize - height : height - minimum;
-    if (atTop)
-        possible = std::min(possible, font->TopRowRoom(isInsertion));
+    const int possible = EditOf(Type())->room(*CurrentFont());
     SetRepeat(std::min(Repeat(), possible));
     return possible > 0;
 }
 
 void ActionFont::RedoOnce()
 {
-    CodeSet* grown = nullptr;
-    if (Type() == ActionType::FontInsertRowTop)
-        grown = &grown_.emplace_back();
-    ApplyFontStep(Type(), *CurrentFont(), grown);
+    EditOf(Type())->applyToFont(*CurrentFont(), grown_.emplace_back());
 }
 
 void ActionFont::UndoOnce()
 {
-    if (Type() == ActionType::FontInsertRowTop) {
-        CurrentFont()->UndoInsertRowTop(grown_.back());
-        grown_.pop_back();
-        return;
-    }
-    if (Type() >= ActionType::FontDeleteRowTop && IsLegacyFormat(CurrentFont()->Metrics().format))
-        CurrentSession().MarkChanged(); // as deleted pixels come back empty
-    ApplyFontStep(OppositeFontStep(Type()), *CurrentFont());
+    const Edit& edit = *EditOf(Type());
+    if (!edit.revertFont(*CurrentFont(), grown_.back()) || !CanBeUndone(edit, *CurrentFont()))
+        CurrentSession().MarkChanged();
+    grown_.pop_back();
 }
 
 CodeSet ActionPixelIndex::AffectedCodes() const
 {
     return RangeOf(Args().code, Args().code);
-}
-
-int ActionPixelIndex::IndexToSet() const
-{
-    return static_cast<int>(Type()) - static_cast<int>(ActionType::SetPixelIndex0);
 }
 
 CharBitmap& ActionPixelIndex::Bitmap() const
@@ -271,7 +132,7 @@ bool ActionPixelIndex::Execute()
     SetRepeat(1);
     if (CurrentFont() == nullptr || CurrentFont()->FindChar(Args().code) == nullptr)
         return false;
-    return !IsSet() || Bitmap().GetPixelIndex(Args().x, Args().y) != IndexToSet();
+    return Bitmap().GetPixelIndex(Args().x, Args().y) != EditOf(Type())->index;
 }
 
 void ActionPixelIndex::RedoOnce()
@@ -281,20 +142,8 @@ void ActionPixelIndex::RedoOnce()
     const int y = Args().y;
     Args().previousIndex = bitmap.GetPixelIndex(x, y);
     framedBefore_ = FramedBytes();
-    switch (Type()) {
-    case ActionType::IncreasePixelIndex:
-        bitmap.IncPixelIndex(x, y);
-        break;
-    case ActionType::DecreasePixelIndex:
-        bitmap.DecPixelIndex(x, y);
-        break;
-    case ActionType::InvertPixelIndex:
-        bitmap.InvertPixelIndex(x, y);
-        break;
-    default:
-        bitmap.SetPixelIndex(x, y, IndexToSet());
-        break;
-    }
+    const Edit& edit = *EditOf(Type());
+    edit.applyToPixel(bitmap, x, y, edit.index);
 }
 
 void ActionPixelIndex::UndoOnce()
@@ -312,11 +161,13 @@ QByteArray ActionPixelIndex::FramedBytes() const
 }
 
 // The messages begin at %2, so the code fills that, x comes next, and the index finds no place.
-QString ActionPixelIndex::LogText() const
+LogEntry ActionPixelIndex::Log() const
 {
-    const QString text =
-        MessageFor(IsSet() ? ActionType::SetPixelIndex0 : Type()).arg(Args().code).arg(Args().x);
-    return IsSet() ? text.arg(Args().y) : text;
+    QStringList arguments = {QString::number(Args().code), QString::number(Args().x)};
+    if (EditOf(Type())->index < 0)
+        return LogEntry(MessageFor(), arguments);
+    arguments.append(QString::number(Args().y));
+    return LogEntry(EditThatSets(0).log, arguments);
 }
 
 ActionCharState::ActionCharState(Session& session, ActionType type) : ActionWithArgs(session, type)
@@ -364,12 +215,11 @@ void ActionCharState::ApplyTo(CodeSet& codes) const
     codes.SetRange(Args().first, Args().last, target_);
 }
 
-QString ActionCharState::LogText() const
+LogEntry ActionCharState::Log() const
 {
-    QString message = MessageFor();
-    if (Type() == ActionType::Toggle)
-        message = message.arg(target_ ? u"Enabled"_s : u"Disabled"_s);
-    return RangePrefix(Args().first, Args().last) + message;
+    const LogEntry entry =
+        Type() == ActionType::Toggle ? StateEntry(target_) : LogEntry(MessageFor());
+    return entry.About(RangePrefix(Args().first, Args().last));
 }
 
 bool ActionCharDelete::Execute()
@@ -401,13 +251,14 @@ void ActionCharDelete::UndoOnce()
     font.SetEnabledCodes(previousCodes_);
 }
 
-QString ActionCharDelete::LogText() const
+LogEntry ActionCharDelete::Log() const
 {
     const int first = codes_.Next(0);
     int last = first;
     for (int code = first; code < CodeSet::Count; code = codes_.Next(code + 1))
         last = code;
-    return RangePrefix(static_cast<quint16>(first), static_cast<quint16>(last)) + u"Deleted."_s;
+    return LogEntry(QT_TRANSLATE_NOOP("Engine", "Deleted."))
+        .About(RangePrefix(static_cast<quint16>(first), static_cast<quint16>(last)));
 }
 
 } // namespace Glyphor

@@ -33,7 +33,7 @@ public:
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] CodeSet AffectedCodes() const override;
-    [[nodiscard]] QString LogText() const override;
+    [[nodiscard]] LogEntry Log() const override;
 
 private:
     template <typename Visit>
@@ -57,7 +57,7 @@ public:
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
-    [[nodiscard]] QString LogText() const override { return MessageFor(); }
+    [[nodiscard]] LogEntry Log() const override { return LogEntry(MessageFor()); }
 
 private:
     std::vector<CodeSet> grown_; // by each step at the top: which characters got a row of their own
@@ -83,11 +83,9 @@ public:
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] CodeSet AffectedCodes() const override;
-    [[nodiscard]] QString LogText() const override;
+    [[nodiscard]] LogEntry Log() const override;
 
 private:
-    [[nodiscard]] bool IsSet() const { return Type() >= ActionType::SetPixelIndex0; }
-    [[nodiscard]] int IndexToSet() const;
     [[nodiscard]] CharBitmap& Bitmap() const;
     [[nodiscard]] QByteArray FramedBytes() const;
 
@@ -125,7 +123,7 @@ public:
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] CodeSet AffectedCodes() const override;
-    [[nodiscard]] QString LogText() const override;
+    [[nodiscard]] LogEntry Log() const override;
     void ApplyTo(CodeSet& codes) const override;
 
 private:
@@ -146,7 +144,7 @@ public:
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] CodeSet AffectedCodes() const override { return codes_; };
-    [[nodiscard]] QString LogText() const override;
+    [[nodiscard]] LogEntry Log() const override;
 
 private:
     CodeSet codes_;

@@ -12,7 +12,7 @@ namespace {
 
 QString StatusTip(const QString& tip, const QString& lastAction)
 {
-    return lastAction.isEmpty() ? tip : tip + u": %1"_s.arg(TranslatedLog(lastAction));
+    return lastAction.isEmpty() ? tip : tip + u": %1"_s.arg(lastAction);
 }
 
 } // namespace
@@ -34,6 +34,11 @@ void UndoAction::redo()
 int UndoAction::id() const
 {
     return static_cast<int>(action_->Type());
+}
+
+QString UndoAction::ShownText() const
+{
+    return action_->Log().Translated();
 }
 
 UndoStack::UndoStack()
@@ -71,6 +76,26 @@ void UndoStack::Clear()
     ActionStack::Clear();
 }
 
+// Several actions that are undone as one have a text of the window's.
+QString UndoStack::ShownText(int index) const
+{
+    const QUndoCommand* const done = command(index);
+    if (done == nullptr)
+        return {};
+    const auto* const single = dynamic_cast<const UndoAction*>(done);
+    return single != nullptr ? single->ShownText() : done->text();
+}
+
+QString UndoStack::ShownUndoText() const
+{
+    return canUndo() ? ShownText(index() - 1) : QString();
+}
+
+QString UndoStack::ShownRedoText() const
+{
+    return canRedo() ? ShownText(index()) : QString();
+}
+
 // A command keeps its own tip until there is more to say.
 void UndoStack::AddUndoCommand(QAction* command)
 {
@@ -79,7 +104,7 @@ void UndoStack::AddUndoCommand(QAction* command)
         return;
     command->setEnabled(canUndo());
     if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(tr("Undo last action"), undoText()));
+        command->setStatusTip(StatusTip(tr("Undo last action"), ShownUndoText()));
 }
 
 void UndoStack::AddRedoCommand(QAction* command)
@@ -89,7 +114,7 @@ void UndoStack::AddRedoCommand(QAction* command)
         return;
     command->setEnabled(canRedo());
     if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(tr("Redo last action"), redoText()));
+        command->setStatusTip(StatusTip(tr("Redo last action"), ShownRedoText()));
 }
 
 // Most runs have no commands, and nobody to read the tips.
@@ -106,8 +131,8 @@ void UndoStack::UpdateCommands()
             command->setStatusTip(tip);
         }
     };
-    update(undoCommands_, canUndo(), StatusTip(tr("Undo last action"), undoText()));
-    update(redoCommands_, canRedo(), StatusTip(tr("Redo last action"), redoText()));
+    update(undoCommands_, canUndo(), StatusTip(tr("Undo last action"), ShownUndoText()));
+    update(redoCommands_, canRedo(), StatusTip(tr("Redo last action"), ShownRedoText()));
 }
 
 } // namespace Glyphor

@@ -20,6 +20,9 @@ public:
     void redo() override;
     [[nodiscard]] int id() const override;
 
+    // As its text, in the language of the window.
+    [[nodiscard]] QString ShownText() const;
+
 private:
     std::shared_ptr<Action> action_;
 };
@@ -40,11 +43,16 @@ public:
     // Forgets the history.
     void Clear();
 
+    // What undo and redo would do now, in the language of the window; empty for nothing.
+    [[nodiscard]] QString ShownUndoText() const;
+    [[nodiscard]] QString ShownRedoText() const;
+
     // The commands stay their owner's.
     void AddUndoCommand(QAction* command);
     void AddRedoCommand(QAction* command);
 
 private:
+    [[nodiscard]] QString ShownText(int index) const;
     void UpdateCommands();
 
     bool hasUndone_ = false; // actions that a new one drops

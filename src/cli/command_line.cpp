@@ -3,6 +3,7 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
 #include "actions/edit_actions.h"
+#include "actions/edit_table.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/error_file.h"
@@ -73,10 +74,11 @@ int CountOf(const OptionOccurrence& occurrence, std::size_t parameter)
 // Null for the kinds that a front end handles itself.
 std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
 {
-    if (kind >= ActionType::InsertColumnRight && kind <= ActionType::DeleteRowBottom)
+    if (const Edit* const edit = EditOf(kind)) {
+        if (edit->target == EditTarget::Font)
+            return std::make_shared<ActionFont>(session, kind);
         return std::make_shared<ActionChar>(session, kind);
-    if (kind >= ActionType::FontInsertRowTop && kind <= ActionType::FontDeleteRowBottom)
-        return std::make_shared<ActionFont>(session, kind);
+    }
     switch (kind) {
     case ActionType::CreateFont:
     case ActionType::OpenFont:

@@ -1,6 +1,6 @@
 #include "cli/command_line_option.h"
 
-#include "app/action_type.h"
+#include "actions/edit_table.h"
 #include "model/font_format.h"
 
 #include <algorithm>
@@ -11,9 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int Value(ActionType type)
+std::vector<ParameterKeywordTable::Entry> KeywordsOf(EditTarget target)
 {
-    return static_cast<int>(type);
+    std::vector<ParameterKeywordTable::Entry> entries;
+    for (const Edit& edit : EditTable()) {
+        if (edit.target == target && !edit.keyword.isEmpty())
+            entries.push_back({edit.keyword, edit.help, static_cast<int>(edit.type)});
+    }
+    return entries;
 }
 
 CommandLineParameter Text(const QString& placeholder,
@@ -231,59 +236,13 @@ const ParameterKeywordTable& MergeKeywords()
 
 const ParameterKeywordTable& FontEditKeywords()
 {
-    static const ParameterKeywordTable table({
-        {u"INSTOP"_s, u"Inserts a row at the top of the font."_s,
-         Value(ActionType::FontInsertRowTop)},
-        {u"INSBOTTOM"_s, u"Inserts a row at the bottom of the font."_s,
-         Value(ActionType::FontInsertRowBottom)},
-        {u"DELTOP"_s, u"Deletes a row at the top of the font."_s,
-         Value(ActionType::FontDeleteRowTop)},
-        {u"DELBOTTOM"_s, u"Deletes a row at the bottom of the font."_s,
-         Value(ActionType::FontDeleteRowBottom)},
-    });
+    static const ParameterKeywordTable table(KeywordsOf(EditTarget::Font));
     return table;
 }
 
 const ParameterKeywordTable& CharEditKeywords()
 {
-    static const ParameterKeywordTable table({
-        {u"SHIFTR"_s, u"Shifts pixel data of character range to the right by <value> px."_s,
-         Value(ActionType::ShiftRight)},
-        {u"SHIFTL"_s, u"Shifts pixel data of character range to the left by <value> px."_s,
-         Value(ActionType::ShiftLeft)},
-        {u"SHIFTU"_s, u"Shifts pixel data of character range up by <value> px."_s,
-         Value(ActionType::ShiftUp)},
-        {u"SHIFTD"_s, u"Shifts pixel data of character range down by <value> px."_s,
-         Value(ActionType::ShiftDown)},
-        {u"MOVER"_s, u"Moves the character range by <value> pixels to the right."_s,
-         Value(ActionType::MoveRight)},
-        {u"MOVEL"_s, u"Moves the character range by <value> pixels to the left."_s,
-         Value(ActionType::MoveLeft)},
-        {u"MOVEU"_s, u"Moves the character range by <value> pixels up."_s,
-         Value(ActionType::MoveUp)},
-        {u"MOVED"_s, u"Moves the character range by <value> pixels down."_s,
-         Value(ActionType::MoveDown)},
-        {u"INST"_s, u"Insert <value> rows at the top of the character range."_s,
-         Value(ActionType::InsertRowTop)},
-        {u"INSB"_s, u"Insert <value> rows at the bottom of the character range."_s,
-         Value(ActionType::InsertRowBottom)},
-        {u"INSL"_s, u"Insert <value> columns on the left of the character range."_s,
-         Value(ActionType::InsertColumnLeft)},
-        {u"INSR"_s, u"Insert <value> columns on the right of the character range."_s,
-         Value(ActionType::InsertColumnRight)},
-        {u"DELT"_s, u"Delete <value> rows from the top of the character range."_s,
-         Value(ActionType::DeleteRowTop)},
-        {u"DELB"_s, u"Delete <value> rows from the bottom of the character range."_s,
-         Value(ActionType::DeleteRowBottom)},
-        {u"DELL"_s, u"Delete <value> columns from the left of the character range."_s,
-         Value(ActionType::DeleteColumnLeft)},
-        {u"DELR"_s, u"Delete <value> columns from the right of the character range."_s,
-         Value(ActionType::DeleteColumnRight)},
-        {u"CINC"_s, u"Increments the cursor distance for the given range <value> times."_s,
-         Value(ActionType::IncreaseCursorDistance)},
-        {u"CDEC"_s, u"Decrements the cursor distance for the given range <value> times."_s,
-         Value(ActionType::DecreaseCursorDistance)},
-    });
+    static const ParameterKeywordTable table(KeywordsOf(EditTarget::Character));
     return table;
 }
 

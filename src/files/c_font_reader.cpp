@@ -220,7 +220,7 @@ void CFontReader::FindTable()
             return;
         }
     }
-    scanner_.FailAtEnd(ToText(tableType_) + Engine::tr(" structure not found!"));
+    scanner_.FailAtEnd(Engine::tr("%1 structure not found!").arg(ToText(tableType_)));
 }
 
 void CFontReader::ReadTable(const FontMetrics& font)
@@ -234,11 +234,12 @@ void CFontReader::ReadTable(const FontMetrics& font)
         if (scanner_.Current() == '}')
             return;
         if (scanner_.Current() != '{' || entries_.size() == CodeSet::Count)
-            scanner_.Fail(ToText(tableType_) + Engine::tr(" entry not found!"));
+            scanner_.Fail(Engine::tr("%1 entry not found!").arg(ToText(tableType_)));
         scanner_.SetPosition(scanner_.Position() + 1);
         const std::string_view entry = scanner_.Until('}', "\r\n{");
         if (entry.data() == nullptr)
-            scanner_.Fail(ToText(tableType_) + Engine::tr(" entry did not end in the same line!"));
+            scanner_.Fail(
+                Engine::tr("%1 entry did not end in the same line!").arg(ToText(tableType_)));
         ReadEntry(entry, font);
         progress.SetValue(static_cast<int>(scanner_.Position()));
     }

@@ -183,10 +183,10 @@ void CScanner::FailAt(std::size_t position, const QString& message) const
             lineStart = at + 1;
         }
     }
-    throw CriticalException(Engine::tr("Error reading C file!"),
-                            message + Engine::tr("\n\nError occured in:\nLine: %1\nColumn: %2")
-                                          .arg(line)
-                                          .arg(position - lineStart + 1));
+    throw CriticalException(
+        Engine::tr("Error reading C file!"),
+        Engine::tr("%1\n\nError occured in:\nLine: %2\nColumn: %3")
+            .arg(message, QString::number(line), QString::number(position - lineStart + 1)));
 }
 
 } // namespace Glyphor

@@ -1,5 +1,7 @@
 #include "files/file_types.h"
 
+#include "app/engine_texts.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -22,12 +24,13 @@ constexpr std::array SifSuffixes = {".sif"_L1};
 } // namespace
 
 constexpr std::array<FileTypeRow, 6> FileTypeTable = {{
-    {FileType::TrueType, "TrueType font formats"_L1, TrueTypeSuffixes},
-    {FileType::TrueTypeCollection, "TrueType font formats"_L1, CollectionSuffixes},
-    {FileType::Bdf, "Glyph Bitmap Distribution Format"_L1, BdfSuffixes},
-    {FileType::C, "C fonts"_L1, CSuffixes},
-    {FileType::Xbf, "External Bitmap Fonts"_L1, XbfSuffixes},
-    {FileType::Sif, "System Independent Fonts"_L1, SifSuffixes},
+    {FileType::TrueType, QT_TRANSLATE_NOOP("Engine", "TrueType font formats"), TrueTypeSuffixes},
+    {FileType::TrueTypeCollection, QT_TRANSLATE_NOOP("Engine", "TrueType font formats"),
+     CollectionSuffixes},
+    {FileType::Bdf, QT_TRANSLATE_NOOP("Engine", "Glyph Bitmap Distribution Format"), BdfSuffixes},
+    {FileType::C, QT_TRANSLATE_NOOP("Engine", "C fonts"), CSuffixes},
+    {FileType::Xbf, QT_TRANSLATE_NOOP("Engine", "External Bitmap Fonts"), XbfSuffixes},
+    {FileType::Sif, QT_TRANSLATE_NOOP("Engine", "System Independent Fonts"), SifSuffixes},
 }};
 
 namespace {
@@ -59,23 +62,22 @@ QString FontFileFilter(bool forSaving)
     for (std::size_t index = 0; index < FileTypeTable.size();) {
         const FileTypeRow& group = FileTypeTable[index];
         QStringList patterns;
-        for (;
-             index < FileTypeTable.size() && FileTypeTable[index].description == group.description;
+        for (; index < FileTypeTable.size() && FileTypeTable[index].Group() == group.Group();
              ++index)
             patterns += Patterns(FileTypeTable[index].suffixes);
         if (forSaving && !IsWritten(group.type))
             continue;
-        entries.append(u"%1 (%2)"_s.arg(group.description, patterns.join(u' ')));
+        entries.append(u"%1 (%2)"_s.arg(Engine::tr(group.description), patterns.join(u' ')));
         for (const QString& pattern : std::as_const(patterns))
             all += pattern + u' ';
     }
-    entries.append(u"All supported file types (%1)"_s.arg(all));
+    entries.append(u"%1 (%2)"_s.arg(Engine::tr("All supported file types"), all));
     return entries.join(u";;"_s);
 }
 
 QString KerningFileFilter()
 {
-    return u"Kerning C files (%1)"_s.arg(Patterns(CSuffixes).join(u' '));
+    return u"%1 (%2)"_s.arg(Engine::tr("Kerning C files"), Patterns(CSuffixes).join(u' '));
 }
 
 bool IsBinaryKerningName(QStringView fileName)

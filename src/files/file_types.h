@@ -7,6 +7,7 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <string_view>
 
 namespace Glyphor {
 
@@ -16,8 +17,10 @@ enum class FileType { TrueType, TrueTypeCollection, Bdf, C, Xbf, Sif };
 struct FileTypeRow
 {
     FileType type;
-    QLatin1StringView description;
+    const char* description; // that kinds of one group share; to be translated
     std::span<const QLatin1StringView> suffixes;
+
+    [[nodiscard]] constexpr std::string_view Group() const { return description; }
 };
 
 // In the order in which a name is tested.
@@ -26,7 +29,8 @@ extern const std::array<FileTypeRow, 6> FileTypeTable;
 // The first kind one of whose suffixes ends the name, in any letter case.
 [[nodiscard]] std::optional<FileType> FileTypeOf(QStringView fileName);
 
-// What file dialogs offer: an entry for each group of kinds, then one for all of them.
+// What file dialogs offer, in the language of the window: an entry for each group of kinds, then
+// one for all of them.
 [[nodiscard]] QString FontFileFilter(bool forSaving);
 [[nodiscard]] QString KerningFileFilter();
 

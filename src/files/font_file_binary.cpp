@@ -133,10 +133,12 @@ void FontFileBinary::AddChar(Font& font, quint16 code, const CharMetrics& metric
                              const LittleEndianBytes& bytes, qint64 offset) const
 {
     if (!metrics.FitFields())
-        FailAtChar(code, Engine::tr("has a size or an offset that no character can have"));
+        FailAtChar(
+            code,
+            Engine::tr("The character 0x%1 has a size or an offset that no character can have."));
     const qint64 size = BitmapSize(metrics, font.Metrics());
     if (!bytes.Holds(offset, size))
-        FailAtChar(code, Engine::tr("has pixels outside the file"));
+        FailAtChar(code, Engine::tr("The character 0x%1 has pixels outside the file."));
     const QByteArrayView part = bytes.Part(offset, size);
     font.AddChar(code, metrics,
                  {reinterpret_cast<const uchar*>(part.data()), std::size_t(part.size())});
@@ -146,8 +148,9 @@ void FontFileBinary::CheckBytesPerLine(quint16 code, int bytesPerLine, int width
                                        const Font& font) const
 {
     if (bytesPerLine != (font.Metrics().bitsPerPixel * width + 7) / 8)
-        FailAtChar(code, Engine::tr("has rows of %1 bytes, which is not what its width of %2 needs")
-                             .arg(QString::number(bytesPerLine), QString::number(width)));
+        Fail(Engine::tr("The character 0x%1 has rows of %2 bytes, which is not what its width of "
+                        "%3 needs.")
+                 .arg(Hex4Text(code), QString::number(bytesPerLine), QString::number(width)));
 }
 
 void FontFileBinary::Fail(const QString& reason) const
@@ -159,7 +162,7 @@ void FontFileBinary::Fail(const QString& reason) const
 
 void FontFileBinary::FailAtChar(quint16 code, const QString& reason) const
 {
-    Fail(Engine::tr("The character 0x%1 %2.").arg(Hex4Text(code), reason));
+    Fail(reason.arg(Hex4Text(code)));
 }
 
 } // namespace Glyphor

@@ -90,17 +90,18 @@ void FontFileSIF::CheckSize(const LittleEndianBytes& bytes, qint64 expected, boo
 {
     if (bytes.Size() == expected)
         return;
-    const QString sizes =
-        Engine::tr("File size of input file: %1 bytes.\r\nFile size that was expected: %2 "
-                   "bytes.\r\n\r\n")
-            .arg(QString::number(bytes.Size()), QString::number(expected));
+    const QString size = QString::number(bytes.Size());
+    const QString expectedSize = QString::number(expected);
     if (isAnswered)
         throw CriticalException(
             FailureTitle(),
-            sizes + Engine::tr(
-                        "The previously entered font format may not be correct or the file may be "
-                        "corrupted."));
-    Fail(Engine::tr("It may be corrupted.\r\n") + sizes.trimmed());
+            Engine::tr("File size of input file: %1 bytes.\r\nFile size that was expected: %2 "
+                       "bytes.\r\n\r\nThe previously entered font format may not be correct or "
+                       "the file may be corrupted.")
+                .arg(size, expectedSize));
+    Fail(Engine::tr("It may be corrupted.\r\nFile size of input file: %1 bytes.\r\nFile size that "
+                    "was expected: %2 bytes.")
+             .arg(size, expectedSize));
 }
 
 void FontFileSIF::AddChars(const LittleEndianBytes& bytes, const std::vector<CharRecord>& records,
@@ -111,7 +112,8 @@ void FontFileSIF::AddChars(const LittleEndianBytes& bytes, const std::vector<Cha
         if (IsLegacyFormat(font.Metrics().format))
             CheckBytesPerLine(record.code, record.bytesPerLine, record.metrics.width, font);
         if (record.offset != bitmapOffset)
-            FailAtChar(record.code, Engine::tr("points to other pixels than its own"));
+            FailAtChar(record.code,
+                       Engine::tr("The character 0x%1 points to other pixels than its own."));
         AddChar(font, record.code, record.metrics, bytes, bitmapOffset);
         bitmapOffset += BitmapSize(record.metrics, font.Metrics());
         progress.Advance();

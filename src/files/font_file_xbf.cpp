@@ -62,7 +62,7 @@ std::vector<FontFileXBF::TableEntry> FontFileXBF::ReadTable(const LittleEndianBy
         if (entry.offset == 0 && entry.size == 0)
             continue;
         if (entry.offset < dataOffset || entry.offset + entry.size > dataEnd)
-            FailAtChar(entry.code, Engine::tr("lies outside the file"));
+            FailAtChar(entry.code, Engine::tr("The character 0x%1 lies outside the file."));
         total += entry.size;
         entries.push_back(entry);
     }
@@ -77,7 +77,7 @@ void FontFileXBF::ReadChar(const LittleEndianBytes& bytes, const TableEntry& ent
 {
     const FontFormat format = font.Metrics().format;
     if (entry.size < XbfRecordSize(format))
-        FailAtChar(entry.code, Engine::tr("is too small"));
+        FailAtChar(entry.code, Engine::tr("The character 0x%1 is too small."));
     const auto field = [&](int index) { return bytes.U16(entry.offset + 2 * index); };
     const auto offset = [&](int index) { return bytes.I16(entry.offset + 2 * index); };
     CharMetrics metrics;
@@ -97,8 +97,10 @@ void FontFileXBF::ReadChar(const LittleEndianBytes& bytes, const TableEntry& ent
     }
     CheckBytesPerLine(entry.code, bytesPerLine, metrics.width, font);
     if (XbfRecordSize(format) + BitmapSize(metrics, font.Metrics()) != entry.size)
-        FailAtChar(entry.code,
-                   Engine::tr("has a size in the table that is not the size of its pixels"));
+        FailAtChar(
+            entry.code,
+            Engine::tr(
+                "The character 0x%1 has a size in the table that is not the size of its pixels."));
     AddChar(font, entry.code, metrics, bytes, entry.offset + XbfRecordSize(format));
 }
 

@@ -8,16 +8,31 @@ namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// For texts that are marked for the translations.
+constexpr QLatin1StringView Text(const char* text)
+{
+    return QLatin1StringView(text);
+}
+
+} // namespace
+
 constexpr std::array<FormatNameRow, FormatCount> FormatNameTable = {{
-    {"Legacy, 1bpp"_L1, FontFormat::Legacy, true, "Standard, 1bpp"_L1},
-    {"Legacy, anti-aliased, 2bpp"_L1, FontFormat::LegacyAA2, true,
-     "Standard, anti-aliased, 2bpp"_L1},
-    {"Legacy, anti-aliased, 4bpp"_L1, FontFormat::LegacyAA4, true,
-     "Standard, anti-aliased, 4bpp"_L1},
-    {"Standard, 1bpp"_L1, FontFormat::Standard, false, "Extended, 1bpp"_L1},
-    {"Standard, framed"_L1, FontFormat::Framed, false, "Extended, framed"_L1},
-    {"Standard, anti-aliased, 2bpp"_L1, FontFormat::AA2, false, "Extended, anti-aliased, 2bpp"_L1},
-    {"Standard, anti-aliased, 4bpp"_L1, FontFormat::AA4, false, "Extended, anti-aliased, 4bpp"_L1},
+    {Text(QT_TRANSLATE_NOOP("Engine", "Legacy, 1bpp")), FontFormat::Legacy, true,
+     Text(QT_TRANSLATE_NOOP("Engine", "Standard, 1bpp"))},
+    {Text(QT_TRANSLATE_NOOP("Engine", "Legacy, anti-aliased, 2bpp")), FontFormat::LegacyAA2, true,
+     Text(QT_TRANSLATE_NOOP("Engine", "Standard, anti-aliased, 2bpp"))},
+    {Text(QT_TRANSLATE_NOOP("Engine", "Legacy, anti-aliased, 4bpp")), FontFormat::LegacyAA4, true,
+     Text(QT_TRANSLATE_NOOP("Engine", "Standard, anti-aliased, 4bpp"))},
+    {Text(QT_TRANSLATE_NOOP("Engine", "Standard, 1bpp")), FontFormat::Standard, false,
+     Text(QT_TRANSLATE_NOOP("Engine", "Extended, 1bpp"))},
+    {Text(QT_TRANSLATE_NOOP("Engine", "Standard, framed")), FontFormat::Framed, false,
+     Text(QT_TRANSLATE_NOOP("Engine", "Extended, framed"))},
+    {Text(QT_TRANSLATE_NOOP("Engine", "Standard, anti-aliased, 2bpp")), FontFormat::AA2, false,
+     Text(QT_TRANSLATE_NOOP("Engine", "Extended, anti-aliased, 2bpp"))},
+    {Text(QT_TRANSLATE_NOOP("Engine", "Standard, anti-aliased, 4bpp")), FontFormat::AA4, false,
+     Text(QT_TRANSLATE_NOOP("Engine", "Extended, anti-aliased, 4bpp"))},
 }};
 
 constexpr std::array<FontTypeNameRow, 10> FontTypeNameTable = {{

@@ -1,7 +1,7 @@
 #include "ui/format_box.h"
 
+#include "app/engine_texts.h"
 #include "ui/dialog_parts.h"
-#include "ui/translated_names.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -40,11 +40,11 @@ void FormatBox::AddGroup(const QString& heading, bool isLegacy)
     for (const FormatNameRow& row : FormatNameTable) {
         if (row.legacy != isLegacy)
             continue;
-        addItem(Translated(row.displayName), int(row.format));
-        setItemData(
-            count() - 1,
-            tr("Known as <b>%1</b> before Tavix V6.36.").arg(Translated(row.formerDisplayName)),
-            Qt::ToolTipRole);
+        addItem(Engine::tr(row.displayName.data()), int(row.format));
+        setItemData(count() - 1,
+                    tr("Known as <b>%1</b> before Tavix V6.36.")
+                        .arg(Engine::tr(row.formerDisplayName.data())),
+                    Qt::ToolTipRole);
     }
 }
 

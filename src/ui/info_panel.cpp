@@ -1,10 +1,10 @@
 #include "ui/info_panel.h"
 
+#include "app/engine_texts.h"
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
 #include "ui/dialog_parts.h"
-#include "ui/translated_names.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -99,7 +99,7 @@ void InfoPanel::ShowFont(const Font& font)
         enabled += int(font.IsEnabled(quint16(code)));
     }
     Set(tr("Font name"), font.Name());
-    Set(tr("Format"), Translated(FormatDisplayName(metrics.format)));
+    Set(tr("Format"), Engine::tr(FormatDisplayName(metrics.format).data()));
     Set(tr("Encoding"),
         metrics.encoding == EncodingType::Unicode ? tr("Unicode") : tr("Shift JIS"));
     Set(tr("Height"), pixels(metrics.height));

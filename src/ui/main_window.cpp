@@ -1,8 +1,10 @@
 #include "ui/main_window.h"
 
 #include "actions/edit_actions.h"
+#include "actions/edit_table.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/settings.h"
 #include "app/version.h"
@@ -10,6 +12,7 @@
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
 #include "ui/dialog_parts.h"
+#include "ui/font_indexer.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
 #include "ui/progress_area.h"
@@ -46,15 +49,6 @@ constexpr int ResizeDelay = 50;    // milliseconds
 constexpr int MessageDelay = 6000; // milliseconds
 constexpr quint32 StateVersion = 2;
 
-// Characters of legacy formats have the font's rows and no offset.
-bool NeedsRowsOfItsOwn(ActionType type)
-{
-    const bool isRowEdit = type == ActionType::InsertRowTop ||
-                           type == ActionType::InsertRowBottom ||
-                           type == ActionType::DeleteRowTop || type == ActionType::DeleteRowBottom;
-    return isRowEdit || (type >= ActionType::MoveRight && type <= ActionType::MoveDown);
-}
-
 QAction* AddTool(QToolBar& bar, QAction* command, const QString& icon)
 {
     command->setIcon(QIcon(u":/icons/%1.svg"_s.arg(icon)));
@@ -68,14 +62,16 @@ MainWindow::MainWindow(Session& session) : session_(session)
 {
     InitResources();
     setAcceptDrops(true);
+    indexer_ = new FontIndexer(this);
     BuildWidgets();
-    menus_ = new MenuBar(this, this);
+    menus_ = new MenuBar(this);
+    connect(menus_, &MenuBar::CommandTriggered, this, &MainWindow::OnActionTriggered);
     setMenuBar(menus_);
     BuildToolBar();
     BuildStatusBar();
     ConnectViews();
-    session_.Stack().AddUndoCommand(menus_->Command(quint32(WindowCommand::Undo)));
-    session_.Stack().AddRedoCommand(menus_->Command(quint32(WindowCommand::Redo)));
+    session_.Stack().AddUndoCommand(menus_->Command(WindowCommand::Undo));
+    session_.Stack().AddRedoCommand(menus_->Command(WindowCommand::Redo));
     resizeTimer_.setSingleShot(true);
     resizeTimer_.setInterval(ResizeDelay);
     connect(&resizeTimer_, &QTimer::timeout, this, &MainWindow::OnTimerResize);
@@ -85,10 +81,6 @@ MainWindow::MainWindow(Session& session) : session_(session)
 
 MainWindow::~MainWindow()
 {
-    if (indexing_ != nullptr) {
-        indexing_->requestInterruption();
-        indexing_->wait();
-    }
     // These outlive what the slots use.
     for (QObject* const sender : std::initializer_list<QObject*>{
              &session_.Stack(), qApp, table_, editor_, splitter_, subSplitter_, upperSplitter_})
@@ -135,26 +127,26 @@ void MainWindow::BuildToolBar()
     auto* const bar = addToolBar(tr("Tools"));
     bar->setObjectName(u"tools"_s);
     bar->setIconSize({20, 20});
-    const auto add = [&](quint32 id, const QString& icon) {
-        return AddTool(*bar, menus_->Command(id), icon);
+    const auto add = [&](auto command, const QString& icon) {
+        return AddTool(*bar, menus_->Command(command), icon);
     };
-    add(quint32(ActionType::CreateFont), u"new"_s);
-    add(quint32(ActionType::OpenFont), u"open"_s);
-    openButton_ = qobject_cast<QToolButton*>(
-        bar->widgetForAction(menus_->Command(quint32(ActionType::OpenFont))));
+    add(ActionType::CreateFont, u"new"_s);
+    add(ActionType::OpenFont, u"open"_s);
+    openButton_ =
+        qobject_cast<QToolButton*>(bar->widgetForAction(menus_->Command(ActionType::OpenFont)));
     recentMenu_ = new QMenu(this);
     openButton_->setMenu(recentMenu_);
     openButton_->setPopupMode(QToolButton::MenuButtonPopup);
     auto* const showRecent = new QShortcut(Qt::ALT | Qt::Key_Down, openButton_);
     showRecent->setContext(Qt::WidgetShortcut);
     connect(showRecent, &QShortcut::activated, openButton_, &QToolButton::showMenu);
-    add(quint32(ActionType::SaveFont), u"save"_s);
+    add(ActionType::SaveFont, u"save"_s);
     bar->addSeparator();
-    add(quint32(WindowCommand::Undo), u"undo"_s);
-    add(quint32(WindowCommand::Redo), u"redo"_s);
+    add(WindowCommand::Undo, u"undo"_s);
+    add(WindowCommand::Redo, u"redo"_s);
     bar->addSeparator();
-    add(quint32(ActionType::Toggle), u"toggle"_s);
-    add(quint32(WindowCommand::GoToCharacter), u"goto"_s);
+    add(ActionType::Toggle, u"toggle"_s);
+    add(WindowCommand::GoToCharacter, u"goto"_s);
     bar->addSeparator();
     pencil_ = new QAction(QIcon(u":/icons/pencil.svg"_s), tr("Pencil"), this);
     pencil_->setCheckable(true);
@@ -188,7 +180,12 @@ void MainWindow::ConnectViews()
             statusBar()->clearMessage();
         status_->setText(text.isEmpty() ? tr("Ready") : text);
     });
-    connect(progress_, &ProgressArea::BackgroundStopped, this, &MainWindow::OnIndexingStopped);
+    connect(progress_, &ProgressArea::BackgroundStopped, indexer_, &FontIndexer::Stop);
+    connect(indexer_, &FontIndexer::Counted, this, [this](int count) {
+        progress_->BeginBackground(Engine::tr("Indexing font files..."), count);
+    });
+    connect(indexer_, &FontIndexer::FileDone, this, &MainWindow::OnDatabaseFileDone);
+    connect(indexer_, &FontIndexer::Ended, this, &MainWindow::OnDatabaseThreadFinished);
     connect(table_, &CharTableView::CurrentChanged, this, &MainWindow::OnCurrentChanged);
     connect(table_, &CharTableView::SelectionChanged, this, &MainWindow::UpdateCommands);
     connect(table_, &CharTableView::Activated, this, [this] {
@@ -202,15 +199,16 @@ void MainWindow::ConnectViews()
     connect(editor_, &CharBitmapView::PixelSelected, this, &MainWindow::UpdateCommands);
     connect(editor_, &CharBitmapView::StatusChanged, pixelStatus_, &QLabel::setText);
     connect(editor_, &CharBitmapView::MenuRequested, this,
-            [this](QPoint place) { menus_->PixelIndexMenu()->exec(place); });
+            [this](QPoint place) { menus_->Submenu(SubmenuId::PixelIndex)->exec(place); });
     connect(editor_, &CharBitmapView::PixelInverted, this, &MainWindow::OnPixelInverted);
     connect(editor_, &CharBitmapView::StrokeBegun, this, [this] { isStroking_ = true; });
     connect(editor_, &CharBitmapView::PixelPainted, this, &MainWindow::PaintPixel);
     connect(editor_, &CharBitmapView::StrokeEnded, this, &MainWindow::EndStroke);
     // Elsewhere their keys mean something else.
-    for (int id = int(ActionType::IncreasePixelIndex); id <= int(ActionType::SetPixelIndex15);
-         ++id) {
-        QAction* const command = menus_->Command(quint32(id));
+    for (const Edit& edit : EditTable()) {
+        if (edit.target != EditTarget::Pixel)
+            continue;
+        QAction* const command = menus_->Command(edit.type);
         command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         editor_->addAction(command);
     }
@@ -250,7 +248,7 @@ void MainWindow::RestoreState()
     preview_->RestoreState(preview);
     editor_->SetZoom(zoom);
     pencil_->setChecked(hasPencil);
-    menus_->Command(quint32(WindowCommand::AllCharacters))->setChecked(showsAll);
+    menus_->Command(WindowCommand::AllCharacters)->setChecked(showsAll);
     table_->SetShowAll(showsAll);
 }
 
@@ -261,7 +259,7 @@ void MainWindow::SaveState()
     stream << StateVersion << saveState() << splitter_->saveState() << subSplitter_->saveState()
            << upperSplitter_->saveState() << recentFiles_ << preview_->State()
            << qint32(editor_->Zoom()) << pencil_->isChecked()
-           << menus_->Command(quint32(WindowCommand::AllCharacters))->isChecked();
+           << menus_->Command(WindowCommand::AllCharacters)->isChecked();
     Settings::Instance().mainWindow.save({saveGeometry(), state});
 }
 
@@ -384,38 +382,38 @@ void MainWindow::UpdateCommands()
         selected &= font->ExistingCodes();
     const bool hasCharacter = hasFont && selected.Next(0) < CodeSet::Count;
     const bool hasPixel = hasFont && editor_->SelectedPixel().x() >= 0;
-    const auto enable = [this](int id, bool state) {
-        menus_->Command(quint32(id))->setEnabled(state);
+    const auto enable = [this](auto command, bool state) {
+        menus_->Command(command)->setEnabled(state);
     };
-    for (const ActionType id :
+    for (const ActionType action :
          {ActionType::MergeFont, ActionType::SaveFontAs, ActionType::SavePattern,
-          ActionType::ReadPattern, ActionType::Enable, ActionType::Disable, ActionType::DisableAll,
-          ActionType::FontInsertRowTop, ActionType::FontInsertRowBottom,
-          ActionType::FontDeleteRowTop, ActionType::FontDeleteRowBottom})
-        enable(int(id), hasFont);
+          ActionType::ReadPattern, ActionType::Enable, ActionType::Disable, ActionType::DisableAll})
+        enable(action, hasFont);
     // A font that was rendered has no file of its own yet.
     const auto type = FileTypeOf(session_.Path());
     const bool hasFile = type && IsWritten(*type);
-    enable(int(ActionType::SaveFont), hasFont && (session_.IsModified() || !hasFile));
-    enable(int(ActionType::SaveKerning), hasFont && font->HasKerning());
-    enable(int(WindowCommand::AllCharacters), hasFont);
-    enable(int(WindowCommand::GoToCharacter), hasFont);
-    enable(int(ActionType::Toggle), hasCharacter);
+    enable(ActionType::SaveFont, hasFont && (session_.IsModified() || !hasFile));
+    enable(ActionType::SaveKerning, hasFont && font->HasKerning());
+    enable(WindowCommand::AllCharacters, hasFont);
+    enable(WindowCommand::GoToCharacter, hasFont);
+    enable(ActionType::Toggle, hasCharacter);
     const bool isLegacy = hasFont && IsLegacyFormat(font->Metrics().format);
-    for (int id = int(ActionType::InsertColumnRight); id <= int(ActionType::DeleteRowBottom); ++id)
-        enable(id, hasCharacter && !(isLegacy && NeedsRowsOfItsOwn(ActionType(id))));
     const int maximum = hasFont ? (1 << font->Metrics().bitsPerPixel) - 1 : -1;
-    for (int id = int(ActionType::IncreasePixelIndex); id <= int(ActionType::SetPixelIndex15); ++id)
-        enable(id, hasPixel && id - int(ActionType::SetPixelIndex0) <= maximum);
+    for (const Edit& edit : EditTable()) {
+        const bool hasTarget = edit.target == EditTarget::Character ? hasCharacter
+                               : edit.target == EditTarget::Pixel   ? hasPixel
+                                                                    : hasFont;
+        enable(edit.type, hasTarget && !(isLegacy && edit.notForLegacy) && edit.index <= maximum);
+    }
     pencil_->setEnabled(hasFont);
     pencilIndex_->setEnabled(hasFont);
 }
 
-bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QString& logText)
+bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QString&)
 {
     if (action == nullptr)
         return false;
-    ShowMessage(TranslatedLog(logText));
+    ShowMessage(action->Log().Translated());
     if (action->Type() == ActionType::OpenFont)
         AddRecentFile(session_.Path());
     RefreshViews();

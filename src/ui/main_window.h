@@ -21,7 +21,8 @@ namespace Glyphor {
 class CharBitmapView;
 class CharPixelItem;
 class CharTableView;
-class FontDatabaseThread;
+struct Edit;
+class FontIndexer;
 class InfoPanel;
 class MenuBar;
 class ProgressArea;
@@ -74,11 +75,8 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
-Q_SIGNALS:
-    void FontsIndexed();
-
 private:
-    Q_SLOT void OnActionTriggered();
+    Q_SLOT void OnActionTriggered(quint32 id);
     Q_SLOT void OnSplitterMoved(int position, int index);
     Q_SLOT void OnSplitterSubMoved(int position, int index);
     Q_SLOT void OnTimerResize();
@@ -87,7 +85,6 @@ private:
     Q_SLOT void OnProgbarClose();
     Q_SLOT void OnDatabaseFileDone(int done);
     Q_SLOT void OnDatabaseThreadFinished();
-    Q_SLOT void OnIndexingStopped();
     Q_SLOT void OnCurrentChanged(int code);
     Q_SLOT void OnPixelInverted();
 
@@ -104,7 +101,8 @@ private:
 
     void RunAction(const std::shared_ptr<Action>& action);
     void RunWindowCommand(quint32 id);
-    void RunSelectionEdit(ActionType type);
+    void RunEdit(const Edit& edit);
+    void RunSelectionEdit(const Edit& edit);
     void RunStateChange(ActionType type);
     void DeleteSelection();
     void RunPixelCommand(ActionType type);
@@ -134,7 +132,6 @@ private:
 
     void ChangeRange(ActionType type);
     void GoToCharacter();
-    void IndexFonts();
     void ShowPreferences();
     void EditPreferences(int page, QWidget* parent);
     void ShowAbout();
@@ -177,8 +174,7 @@ private:
     CodeSet movedCodes_;             // that undo or redo changed
     bool isStroking_ = false;
     bool strokeHasSteps_ = false;
-    FontDatabaseThread* indexing_ = nullptr;
-    bool indexesAgain_ = false; // once the indexing under way has ended
+    FontIndexer* indexer_ = nullptr;
     const void* shownFont_ = nullptr;
 };
 

@@ -3,17 +3,17 @@
 #include "ui/main_window.h"
 
 #include "actions/edit_actions.h"
+#include "actions/edit_table.h"
 #include "actions/session.h"
-#include "app/engine_texts.h"
 #include "app/settings.h"
 #include "app/version.h"
 #include "cli/command_line_parser.h"
 #include "cli/installed_fonts.h"
-#include "render/font_database.h"
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
 #include "ui/code_dialogs.h"
 #include "ui/font_dialog.h"
+#include "ui/font_indexer.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
 #include "ui/preferences_dialog.h"
@@ -38,26 +38,17 @@ namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
-void MainWindow::OnActionTriggered()
+void MainWindow::OnActionTriggered(quint32 id)
 {
-    if (const auto* const command = qobject_cast<QAction*>(sender()))
-        RunCommand(CommandId(*command));
+    RunCommand(id);
 }
 
 void MainWindow::RunCommand(quint32 id)
 {
     editor_->EndStroke();
     const auto type = ActionType(id);
-    if (type >= ActionType::InsertColumnRight && type <= ActionType::DeleteRowBottom) {
-        RunSelectionEdit(type);
-        return;
-    }
-    if (type >= ActionType::FontInsertRowTop && type <= ActionType::FontDeleteRowBottom) {
-        RunAction(std::make_shared<ActionFont>(session_, type));
-        return;
-    }
-    if (type >= ActionType::IncreasePixelIndex && type <= ActionType::SetPixelIndex15) {
-        RunPixelCommand(type);
+    if (const Edit* const edit = EditOf(type)) {
+        RunEdit(*edit);
         return;
     }
     switch (type) {
@@ -104,6 +95,21 @@ void MainWindow::RunCommand(quint32 id)
     }
 }
 
+void MainWindow::RunEdit(const Edit& edit)
+{
+    switch (edit.target) {
+    case EditTarget::Character:
+        RunSelectionEdit(edit);
+        break;
+    case EditTarget::Font:
+        RunAction(std::make_shared<ActionFont>(session_, edit.type));
+        break;
+    case EditTarget::Pixel:
+        RunPixelCommand(edit.type);
+        break;
+    }
+}
+
 void MainWindow::RunWindowCommand(quint32 id)
 {
     switch (WindowCommand(id)) {
@@ -118,7 +124,7 @@ void MainWindow::RunWindowCommand(quint32 id)
         GoToCharacter();
         break;
     case WindowCommand::IndexFonts:
-        IndexFonts();
+        indexer_->Start();
         break;
     case WindowCommand::Preferences:
         ShowPreferences();
@@ -171,7 +177,7 @@ void MainWindow::RunMacro(const QString& text, const std::function<void()>& work
 void MainWindow::MoveInHistory(bool isUndo)
 {
     UndoStack& stack = session_.Stack();
-    const QString text = TranslatedLog(isUndo ? stack.undoText() : stack.redoText());
+    const QString text = isUndo ? stack.ShownUndoText() : stack.ShownRedoText();
     movedCodes_ = {};
     {
         const QScopedValueRollback move(isMovingInHistory_, true);
@@ -197,12 +203,12 @@ void MainWindow::RunForEach(const CodeSet& codes, const QString& text, const Mak
         });
 }
 
-void MainWindow::RunSelectionEdit(ActionType type)
+void MainWindow::RunSelectionEdit(const Edit& edit)
 {
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
-    RunForEach(codes, TranslatedLog(LogMessage(type)), [&](const CodeRun& run) {
-        auto action = std::make_shared<ActionChar>(session_, type);
+    RunForEach(codes, LogEntry(edit.log).Translated(), [&](const CodeRun& run) {
+        auto action = std::make_shared<ActionChar>(session_, edit.type);
         action->Args() = {run.first, run.last};
         return action;
     });
@@ -224,8 +230,9 @@ void MainWindow::RunStateChange(ActionType type)
     else
         codes &= font.EnabledCodes();
     const bool isOne = codes.Next(codes.Next(0) + 1) == CodeSet::Count;
-    const ActionType change = isOne ? type : enables ? ActionType::Enable : ActionType::Disable;
-    RunForEach(codes, TranslatedLog(LogMessage(change)), [&](const CodeRun& run) {
+    const ActionType state = enables ? ActionType::Enable : ActionType::Disable;
+    const ActionType change = isOne ? type : state;
+    RunForEach(codes, LogEntry(LogMessage(state)).Translated(), [&](const CodeRun& run) {
         auto action = std::make_shared<ActionCharState>(session_, change);
         action->Args().first = run.first;
         action->Args().last = run.last;
@@ -254,8 +261,7 @@ void MainWindow::RunPixelCommand(ActionType type)
 void MainWindow::PaintPixel(int x, int y, bool inverts)
 {
     const ActionType type =
-        inverts ? ActionType::InvertPixelIndex
-                : ActionType(int(ActionType::SetPixelIndex0) + pencilIndex_->value());
+        inverts ? ActionType::InvertPixelIndex : EditThatSets(pencilIndex_->value()).type;
     const auto action = std::make_shared<ActionPixelIndex>(session_, type);
     action->Args().code = quint16(table_->CurrentCode());
     action->Args().x = x;
@@ -296,29 +302,11 @@ void MainWindow::GoToCharacter()
 {
     const Font& font = *session_.CurrentFont();
     CodeSet shown = font.ExistingCodes();
-    if (!menus_->Command(quint32(WindowCommand::AllCharacters))->isChecked())
+    if (!menus_->Command(WindowCommand::AllCharacters)->isChecked())
         shown &= font.EnabledCodes();
     GoToDialog dialog(shown, font.Metrics().encoding, this);
     if (dialog.exec() == QDialog::Accepted && table_->SetCurrentCode(dialog.Code()))
         table_->setFocus();
-}
-
-void MainWindow::IndexFonts()
-{
-    if (indexing_ != nullptr) { // with the directories that were set when it began
-        indexesAgain_ = true;
-        indexing_->requestInterruption();
-        return;
-    }
-    indexing_ = new FontDatabaseThread(this);
-    connect(indexing_, &FontDatabaseThread::initFileCount, this, [this](int count) {
-        progress_->BeginBackground(Engine::tr("Indexing font files..."), count);
-    });
-    connect(indexing_, &FontDatabaseThread::fileDone, this, &MainWindow::OnDatabaseFileDone);
-    connect(indexing_, &FontDatabaseThread::hasFinished, this,
-            &MainWindow::OnDatabaseThreadFinished);
-    connect(indexing_, &QThread::finished, indexing_, &QObject::deleteLater);
-    indexing_->start();
 }
 
 void MainWindow::OnDatabaseFileDone(int done)
@@ -326,21 +314,9 @@ void MainWindow::OnDatabaseFileDone(int done)
     progress_->SetBackground(done);
 }
 
-void MainWindow::OnIndexingStopped()
-{
-    if (indexing_ != nullptr)
-        indexing_->requestInterruption();
-}
-
 void MainWindow::OnDatabaseThreadFinished()
 {
-    indexing_->wait();
-    indexing_ = nullptr;
     progress_->EndBackground();
-    if (std::exchange(indexesAgain_, false))
-        IndexFonts();
-    else
-        Q_EMIT FontsIndexed();
 }
 
 void MainWindow::New()
@@ -359,22 +335,22 @@ void MainWindow::New()
 // The installed fonts are indexed when they are first asked for; the dialog fills then.
 bool MainWindow::AskFont(ActionOpenFontArgs& args)
 {
-    if (indexing_ == nullptr && FontDatabase::Current()->Families().empty())
-        IndexFonts();
+    if (!indexer_->HasBegun())
+        indexer_->Start();
     FontDialog dialog(this);
-    dialog.SetIndexing(indexing_ != nullptr);
-    connect(this, &MainWindow::FontsIndexed, &dialog, [&dialog] {
+    dialog.SetIndexing(indexer_->IsIndexing());
+    connect(indexer_, &FontIndexer::Indexed, &dialog, [&dialog] {
         dialog.Fill();
         dialog.SetIndexing(false);
     });
     connect(&dialog, &FontDialog::IndexRequested, this, [this, &dialog] {
-        IndexFonts();
+        indexer_->Start();
         dialog.SetIndexing(true);
     });
-    connect(&dialog, &FontDialog::StopRequested, this, &MainWindow::OnIndexingStopped);
+    connect(&dialog, &FontDialog::StopRequested, indexer_, &FontIndexer::Stop);
     connect(&dialog, &FontDialog::DirectoriesRequested, this, [this, &dialog] {
         EditPreferences(PreferencesDialog::Fonts, &dialog);
-        dialog.SetIndexing(indexing_ != nullptr);
+        dialog.SetIndexing(indexer_->IsIndexing());
     });
     if (dialog.exec() != QDialog::Accepted)
         return false;
@@ -403,10 +379,8 @@ void MainWindow::EditPreferences(int page, QWidget* parent)
         dialog.ShowPage(PreferencesDialog::Page(page));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const bool isIndexed =
-        indexing_ != nullptr || !FontDatabase::Current()->Families().empty() || parent != this;
-    if (directories() != previous && isIndexed)
-        IndexFonts();
+    if (directories() != previous && (indexer_->HasBegun() || parent != this))
+        indexer_->Start();
     ApplySettings();
     RefreshViews();
 }
@@ -460,14 +434,14 @@ void MainWindow::ShowContextMenu(QPoint globalPosition)
             [this] { RunStateChange(ActionType::Enable); });
     connect(menu.addAction(tr("&Disable")), &QAction::triggered, this,
             [this] { RunStateChange(ActionType::Disable); });
-    QAction* const toggle = menus_->Command(quint32(ActionType::Toggle));
+    QAction* const toggle = menus_->Command(ActionType::Toggle);
     menu.addAction(toggle);
     connect(menu.addAction(tr("De&lete")), &QAction::triggered, this, &MainWindow::DeleteSelection);
     for (QAction* const action : menu.actions())
         action->setEnabled(toggle->isEnabled()); // they all need a character
     menu.addSeparator();
-    for (QAction* const action : menus_->EditMenu()->actions()) {
-        if (action->menu() != nullptr && action->menu() != menus_->PixelIndexMenu())
+    for (QAction* const action : menus_->Submenu(SubmenuId::Edit)->actions()) {
+        if (action->menu() != nullptr && action->menu() != menus_->Submenu(SubmenuId::PixelIndex))
             menu.addMenu(action->menu());
     }
     menu.exec(globalPosition);

@@ -15,7 +15,6 @@
 #include "ui/font_generation_dialog.h"
 #include "ui/format_box.h"
 #include "ui/merge_mode_dialog.h"
-#include "ui/translated_names.h"
 
 #include <QCloseEvent>
 #include <QDir>
@@ -110,14 +109,14 @@ bool MainWindow::OpenFile(const QString& path)
 
 void MainWindow::Open()
 {
-    const QString path = AskOpenPath(tr("Open font file"), TranslatedFilter(FontFileFilter(false)));
+    const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
     if (!path.isEmpty())
         OpenFile(path);
 }
 
 void MainWindow::Merge()
 {
-    const QString path = AskOpenPath(tr("Open font file"), TranslatedFilter(FontFileFilter(false)));
+    const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
     if (path.isEmpty())
         return;
     Guarded([&] {
@@ -183,8 +182,8 @@ bool MainWindow::SaveAs()
     const auto type = FileTypeOf(session_.Path());
     const bool isKept = type && IsWritten(*type);
     const QString suffix = isKept ? u'.' + QFileInfo(session_.Path()).suffix() : u".c"_s;
-    const QString path = AskSavePath(tr("Save font file"), ProposedName(suffix),
-                                     TranslatedFilter(FontFileFilter(true)));
+    const QString path =
+        AskSavePath(tr("Save font file"), ProposedName(suffix), FontFileFilter(true));
     return !path.isEmpty() && SaveTo(path, ActionType::SaveFontAs);
 }
 
@@ -219,8 +218,8 @@ QString MainWindow::ProposedName(const QString& suffix) const
 
 void MainWindow::SaveKerning()
 {
-    const QString path = AskSavePath(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s),
-                                     TranslatedFilter(KerningFileFilter()));
+    const QString path =
+        AskSavePath(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter());
     if (!path.isEmpty())
         SaveTo(path, ActionType::SaveKerning);
 }

@@ -3,8 +3,6 @@
 #include <QAction>
 #include <QCoreApplication>
 
-#include <string_view>
-
 namespace Glyphor {
 
 namespace {
@@ -16,12 +14,7 @@ QString Translated(const char* text)
 
 } // namespace
 
-quint32 CommandId(const QAction& action)
-{
-    return action.data().toUInt();
-}
-
-MenuBar::MenuBar(QWidget* parent, QObject* receiver) : QMenuBar(parent), receiver_(receiver)
+MenuBar::MenuBar(QWidget* parent) : QMenuBar(parent)
 {
     Build(MenuTable(), nullptr);
 }
@@ -46,13 +39,10 @@ void MenuBar::Build(std::span<const MenuRow> rows, QMenu* parent)
 
 void MenuBar::AddSubmenu(const MenuRow& row, QMenu* parent)
 {
-    const std::string_view text = row.text;
     QMenu* const menu =
         parent != nullptr ? parent->addMenu(Translated(row.text)) : addMenu(Translated(row.text));
-    if (text == "Pi&xel index")
-        pixelIndexMenu_ = menu;
-    if (text == "&Edit")
-        editMenu_ = menu;
+    if (row.submenuId != SubmenuId::None)
+        submenus_.insert(row.submenuId, menu);
     Build(row.Rows(), menu);
 }
 
@@ -69,7 +59,8 @@ void MenuBar::AddCommand(const MenuRow& row, QMenu* parent)
         command->setCheckable(true);
         command->setChecked(row.checked != 0);
     }
-    connect(command, SIGNAL(triggered()), receiver_, SLOT(OnActionTriggered()));
+    connect(command, &QAction::triggered, this,
+            [this, id = row.commandId] { Q_EMIT CommandTriggered(id); });
     if (parent != nullptr)
         parent->addAction(command);
     commands_.insert(row.commandId, command);

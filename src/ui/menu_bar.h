@@ -13,27 +13,28 @@ class MenuBar final : public QMenuBar
     Q_OBJECT
 
 public:
-    // Every command calls the receiver's OnActionTriggered() slot.
-    MenuBar(QWidget* parent, QObject* receiver);
+    explicit MenuBar(QWidget* parent);
 
     // Null for an unknown number.
     [[nodiscard]] QAction* Command(quint32 id) const { return commands_.value(id); }
+    [[nodiscard]] QAction* Command(ActionType action) const { return Command(CommandId(action)); }
+    [[nodiscard]] QAction* Command(WindowCommand command) const
+    {
+        return Command(CommandId(command));
+    }
 
-    [[nodiscard]] QMenu* PixelIndexMenu() const { return pixelIndexMenu_; }
-    [[nodiscard]] QMenu* EditMenu() const { return editMenu_; }
+    [[nodiscard]] QMenu* Submenu(SubmenuId id) const { return submenus_.value(id); }
+
+Q_SIGNALS:
+    void CommandTriggered(quint32 id);
 
 private:
     void Build(std::span<const MenuRow> rows, QMenu* parent);
     void AddSubmenu(const MenuRow& row, QMenu* parent);
     void AddCommand(const MenuRow& row, QMenu* parent);
 
-    QObject* receiver_;
     QHash<quint32, QAction*> commands_;
-    QMenu* pixelIndexMenu_ = nullptr;
-    QMenu* editMenu_ = nullptr;
+    QHash<SubmenuId, QMenu*> submenus_;
 };
-
-// The number of the command that an action of the menus is.
-[[nodiscard]] quint32 CommandId(const QAction& action);
 
 } // namespace Glyphor

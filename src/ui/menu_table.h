@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/action_type.h"
+
 #include <QtGlobal>
 
 #include <span>
@@ -21,20 +23,35 @@ enum class WindowCommand : quint32 {
     UserManual = 65
 };
 
+// The number that commands have in the menus and their actions.
+[[nodiscard]] constexpr quint32 CommandId(ActionType action)
+{
+    return static_cast<quint32>(action);
+}
+
+[[nodiscard]] constexpr quint32 CommandId(WindowCommand command)
+{
+    return static_cast<quint32>(command);
+}
+
+// Submenus that the window has to find.
+enum class SubmenuId : quint8 { None, Edit, PixelIndex };
+
 // One entry of a menu. Texts are null where there is none.
 // NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): the order is that of a row's reading
 struct MenuRow
 {
-    MenuRowKind kind;
-    const char* text;
-    const char* shortcut;
-    const char* statusTip;
-    quint32 commandId;
-    quint8 disabled; // at the start
-    quint8 checkable;
-    quint8 checked;
-    const MenuRow* submenu;
-    qint32 submenuCount;
+    MenuRowKind kind = MenuRowKind::Separator;
+    const char* text = nullptr;
+    const char* shortcut = nullptr;
+    const char* statusTip = nullptr;
+    quint32 commandId = 0;
+    quint8 disabled = 0; // at the start
+    quint8 checkable = 0;
+    quint8 checked = 0;
+    const MenuRow* submenu = nullptr;
+    qint32 submenuCount = 0;
+    SubmenuId submenuId = SubmenuId::None;
 
     [[nodiscard]] std::span<const MenuRow> Rows() const
     {

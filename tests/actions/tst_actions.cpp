@@ -77,15 +77,16 @@ private Q_SLOTS:
 
     void LogTexts()
     {
+        const auto message = [](ActionType type) { return QString::fromLatin1(LogMessage(type)); };
         QCOMPARE(RangePrefix(0x41, 0x41), u"[Char 0x0041]: "_s);
         QCOMPARE(RangePrefix(0x20, 0xABCD), u"[Range 0x0020-0xABCD]: "_s);
-        QCOMPARE(LogMessage(ActionType::Disable), u"Disabled."_s);
-        QCOMPARE(LogMessage(ActionType::DisableAll), u"Disabled."_s);
-        QCOMPARE(LogMessage(ActionType::SetPixelIndex0), u"Set pixel index (%2,%3) to %4."_s);
-        QVERIFY(LogMessage(ActionType::SaveFont).isEmpty());
+        QCOMPARE(message(ActionType::Disable), u"Disabled."_s);
+        QCOMPARE(message(ActionType::DisableAll), u"Disabled."_s);
+        QCOMPARE(message(ActionType::SetPixelIndex0), u"Set pixel index (%2,%3) to %4."_s);
+        QVERIFY(message(ActionType::SaveFont).isEmpty());
         int texts = 0;
         for (int type = 0; type <= 64; ++type)
-            texts += LogMessage(ActionType(type)).isEmpty() ? 0 : 1;
+            texts += message(ActionType(type)).isEmpty() ? 0 : 1;
         QCOMPARE(texts, 34);
     }
 };

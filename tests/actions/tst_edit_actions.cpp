@@ -67,7 +67,8 @@ private Q_SLOTS:
         QCOMPARE(after == before, isRefused);
         QCOMPARE(after.mid(after.lastIndexOf('\n')), lastBefore); // "D" is outside
         QCOMPARE(session.Stack().LogLines(),
-                 QStringList(2, u"[Range 0x0041-0x0043]: "_s + LogMessage(ActionType(type))));
+                 QStringList(2, u"[Range 0x0041-0x0043]: "_s +
+                                    QString::fromLatin1(LogMessage(ActionType(type)))));
 
         session.Stack().undo();
         const QByteArray undone = Test::Snapshot(font);
@@ -145,7 +146,8 @@ private Q_SLOTS:
         const int sign = type < 28 ? 1 : -1;
         QCOMPARE(int(font.Metrics().height), 4 + sign * done);
         QCOMPARE(int(font.Metrics().baseline), 3 + (type % 2 == 0 ? sign * done : 0));
-        QVERIFY(session.Stack().LogLines().contains(LogMessage(ActionType(type))));
+        QVERIFY(
+            session.Stack().LogLines().contains(QString::fromLatin1(LogMessage(ActionType(type)))));
         session.Stack().undo();
         QCOMPARE(int(font.Metrics().height), 4);
         QCOMPARE(Test::Snapshot(font) == before, sign > 0 || !IsLegacyFormat(FontFormat(format)));

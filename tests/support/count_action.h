@@ -21,7 +21,10 @@ public:
     bool Execute() override { return Args().step != 0; }
     void UndoOnce() override { total_ -= Args().step; }
     void RedoOnce() override { total_ += Args().step; }
-    [[nodiscard]] QString LogText() const override { return text_; }
+    [[nodiscard]] LogEntry Log() const override
+    {
+        return text_.isEmpty() ? LogEntry() : LogEntry("%1", {text_});
+    }
 
 private:
     int& total_;

@@ -1,14 +1,15 @@
 #include "actions/action.h"
 #include "app/engine_texts.h"
+#include "files/file_types.h"
 #include "support/test_main.h"
 #include "ui/application.h"
 #include "ui/info_panel.h"
 #include "ui/menu_bar.h"
-#include "ui/translated_names.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace Glyphor {
@@ -16,17 +17,6 @@ namespace Glyphor {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class Receiver final : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<quint32> triggered;
-
-public Q_SLOTS:
-    void OnActionTriggered() { triggered.append(CommandId(*qobject_cast<QAction*>(sender()))); }
-};
 
 // A line for each entry: indentation, text, shortcut, number and state.
 void Describe(const QList<QAction*>& actions, int depth, QStringList& lines)
@@ -39,8 +29,7 @@ void Describe(const QList<QAction*>& actions, int depth, QStringList& lines)
             line += action->text() + u':';
         } else {
             line += action->text() + u'|' + action->shortcut().toString() + u'|' +
-                    QString::number(CommandId(*action)) +
-                    (action->isEnabled() ? QString() : u"|off"_s) +
+                    action->data().toString() + (action->isEnabled() ? QString() : u"|off"_s) +
                     (action->isChecked() ? u"|checked"_s : QString());
         }
         lines.append(line);
@@ -58,8 +47,7 @@ class TestMenus : public QObject
 private Q_SLOTS:
     void Tree()
     {
-        Receiver receiver;
-        const MenuBar bar(nullptr, &receiver);
+        const MenuBar bar(nullptr);
         QStringList lines;
         Describe(bar.actions(), 0, lines);
         QFile file(QStringLiteral(TEST_SOURCES "/ui/menus.txt"));
@@ -72,19 +60,20 @@ private Q_SLOTS:
 
     void StatusTips()
     {
-        Receiver receiver;
-        const MenuBar bar(nullptr, &receiver);
+        const MenuBar bar(nullptr);
         const QHash<quint32, QString> tips = {
-            {2, u"Open a font file of the type TTF, BDF, XBF, C or SIF"_s},
-            {14, u"Shift pixel data up"_s},
-            {18, u"Shift pixel data up"_s},
-            {53, u"Set the current pixel to index 15"_s},
-            {57, u"Show enabled characters only"_s},
-            {65, u"Open the user manual (will be opened in a web browser)"_s}};
+            {CommandId(ActionType::OpenFont),
+             u"Open a font file of the type TTF, BDF, XBF, C or SIF"_s},
+            {CommandId(ActionType::ShiftUp), u"Shift pixel data up"_s},
+            {CommandId(ActionType::MoveUp), u"Shift pixel data up"_s},
+            {CommandId(ActionType::SetPixelIndex15), u"Set the current pixel to index 15"_s},
+            {CommandId(WindowCommand::AllCharacters), u"Show enabled characters only"_s},
+            {CommandId(WindowCommand::UserManual),
+             u"Open the user manual (will be opened in a web browser)"_s}};
         for (auto tip = tips.begin(); tip != tips.end(); ++tip)
             QCOMPARE(bar.Command(tip.key())->statusTip(), tip.value());
-        QCOMPARE(bar.PixelIndexMenu()->title(), u"Pi&xel index"_s);
-        QVERIFY(bar.Command(99) == nullptr);
+        QCOMPARE(bar.Submenu(SubmenuId::PixelIndex)->title(), u"Pi&xel index"_s);
+        QVERIFY(bar.Command(quint32(99)) == nullptr);
     }
 
     void German()
@@ -95,18 +84,22 @@ private Q_SLOTS:
         QVERIFY(!LoadTexts(QLocale(QLocale::English), texts, toolkitTexts));
         QVERIFY(LoadTexts(QLocale(QLocale::German), texts, toolkitTexts));
         QCoreApplication::installTranslator(&texts);
-        Receiver receiver;
-        const MenuBar bar(nullptr, &receiver);
+        const MenuBar bar(nullptr);
         QCOMPARE(bar.actions().constFirst()->text(), u"&Datei"_s);
-        QCOMPARE(bar.PixelIndexMenu()->title(), u"Pi&xelindex"_s);
-        QCOMPARE(TranslatedFilter(u"C fonts (*.c);;All supported file types (*.c *.sif)"_s),
-                 u"C-Schriften (*.c);;Alle unterstützten Dateitypen (*.c *.sif)"_s);
+        QCOMPARE(bar.Submenu(SubmenuId::PixelIndex)->title(), u"Pi&xelindex"_s);
+        const QString filter = FontFileFilter(true);
+        QVERIFY(filter.startsWith(u"C-Schriften (*.c *.cpp "_s));
+        QVERIFY(filter.contains(u" *.sif);;Alle unterstützten Dateitypen (*.c "_s) ||
+                filter.contains(u"(*.sif);;Alle unterstützten Dateitypen (*.c "_s));
         QCOMPARE(Engine::tr("Given file does not exist!"),
                  u"Die angegebene Datei gibt es nicht!"_s);
-        QCOMPARE(TranslatedLog(u"[Char 0x0041]: Set pixel index (65,3) to 4."_s),
-                 u"[Char 0x0041]: Pixelindex (65,3) auf 4 gesetzt."_s);
-        QCOMPARE(TranslatedLog(u"[Font]: Opened font file: a]: b.c"_s),
-                 u"[Font]: Schriftdatei geöffnet: a]: b.c"_s);
+        const LogEntry pixel =
+            LogEntry(LogMessage(ActionType::SetPixelIndex0), {u"65"_s, u"3"_s, u"4"_s})
+                .About(RangePrefix(0x41, 0x41));
+        QCOMPARE(pixel.Text(), u"[Char 0x0041]: Set pixel index (65,3) to 4."_s);
+        QCOMPARE(pixel.Translated(), u"[Char 0x0041]: Pixelindex (65,3) auf 4 gesetzt."_s);
+        QCOMPARE(LogEntry(LogMessage(ActionType::OpenFont), {u"a]: %1.c"_s}).Translated(),
+                 u"[Font]: Schriftdatei geöffnet: a]: %1.c"_s);
         const InfoPanel info;
         QCOMPARE(info.findChildren<QLabel*>().size(), 40); // no two captions became one
         QCoreApplication::removeTranslator(&texts);
@@ -114,12 +107,14 @@ private Q_SLOTS:
 
     void CommandsTellTheirNumber()
     {
-        Receiver receiver;
-        const MenuBar bar(nullptr, &receiver);
-        bar.Command(1)->trigger();
-        bar.Command(3)->trigger(); // disabled
-        bar.Command(64)->trigger();
-        QCOMPARE(receiver.triggered, (QList<quint32>{1, 64}));
+        const MenuBar bar(nullptr);
+        QSignalSpy triggered(&bar, &MenuBar::CommandTriggered);
+        bar.Command(ActionType::CreateFont)->trigger();
+        bar.Command(ActionType::SaveFont)->trigger(); // disabled
+        bar.Command(WindowCommand::CommandLineOptions)->trigger();
+        QCOMPARE(triggered.size(), 2);
+        QCOMPARE(triggered[0][0].toUInt(), CommandId(ActionType::CreateFont));
+        QCOMPARE(triggered[1][0].toUInt(), CommandId(WindowCommand::CommandLineOptions));
     }
 };
 

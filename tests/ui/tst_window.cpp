@@ -1,4 +1,5 @@
 #include "actions/action_save_file.h"
+#include "actions/edit_table.h"
 #include "actions/session.h"
 #include "app/progress.h"
 #include "app/settings.h"
@@ -9,6 +10,7 @@
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
 #include "ui/font_generation_dialog.h"
+#include "ui/font_indexer.h"
 #include "ui/format_box.h"
 #include "ui/main_window.h"
 #include "ui/menu_bar.h"
@@ -103,12 +105,17 @@ class TestWindow : public QObject
         return folder_.filePath(QString::fromUtf8(name));
     }
 
-    [[nodiscard]] bool IsEnabled(int id) const
+    template <typename Command>
+    [[nodiscard]] bool IsEnabled(Command command) const
     {
-        return window_->Menus().Command(quint32(id))->isEnabled();
+        return window_->Menus().Command(command)->isEnabled();
     }
 
-    void Trigger(int id) const { window_->Menus().Command(quint32(id))->trigger(); }
+    template <typename Command>
+    void Trigger(Command command) const
+    {
+        window_->Menus().Command(command)->trigger();
+    }
 
     [[nodiscard]] Font& CurrentFont() const { return *session_->CurrentFont(); }
 
@@ -153,49 +160,75 @@ private Q_SLOTS:
 
     void EnablingRules()
     {
-        for (const int id : {3, 4, 5, 6, 7, 8, 33, 34, 35, 30, 57, 58, 55, 56})
-            QVERIFY2(!IsEnabled(id), qPrintable(QString::number(id)));
-        QVERIFY(IsEnabled(1) && IsEnabled(2) && IsEnabled(62));
+        for (const auto id :
+             {ActionType::SaveFont, ActionType::SaveFontAs, ActionType::SavePattern,
+              ActionType::SaveKerning, ActionType::MergeFont, ActionType::InsertColumnRight,
+              ActionType::Toggle, ActionType::ReadPattern, ActionType::IncreasePixelIndex,
+              ActionType::Enable})
+            QVERIFY2(!IsEnabled(id), qPrintable(QString::number(CommandId(id))));
+        for (const auto id : {WindowCommand::AllCharacters, WindowCommand::GoToCharacter,
+                              WindowCommand::Undo, WindowCommand::Redo})
+            QVERIFY2(!IsEnabled(id), qPrintable(QString::number(CommandId(id))));
+        QVERIFY(IsEnabled(ActionType::CreateFont) && IsEnabled(ActionType::OpenFont) &&
+                IsEnabled(WindowCommand::Preferences));
         OpenSample();
-        QVERIFY(!IsEnabled(3)); // nothing has changed
-        for (const int id : {4, 5, 7, 8, 25, 26, 30, 32, 33, 34, 57, 58})
-            QVERIFY2(IsEnabled(id), qPrintable(QString::number(id)));
-        QVERIFY(!IsEnabled(6)); // there is no kerning
-        QVERIFY(!IsEnabled(37));
+        QVERIFY(!IsEnabled(ActionType::SaveFont)); // nothing has changed
+        for (const auto id :
+             {ActionType::SaveFontAs, ActionType::SavePattern, ActionType::MergeFont,
+              ActionType::InsertColumnRight, ActionType::DeleteRowBottom,
+              ActionType::FontInsertRowTop, ActionType::Enable, ActionType::DisableAll,
+              ActionType::Toggle, ActionType::ReadPattern})
+            QVERIFY2(IsEnabled(id), qPrintable(QString::number(CommandId(id))));
+        for (const auto id : {WindowCommand::AllCharacters, WindowCommand::GoToCharacter})
+            QVERIFY2(IsEnabled(id), qPrintable(QString::number(CommandId(id))));
+        QVERIFY(!IsEnabled(ActionType::SaveKerning)); // there is no kerning
+        QVERIFY(!IsEnabled(ActionType::InvertPixelIndex));
         window_->Table().SetCurrentCode('A');
         QVERIFY(window_->Editor().SelectItem(window_->Editor().ItemAt(0, 0)));
-        for (int id = 35; id <= 53; ++id)
-            QCOMPARE(IsEnabled(id), id <= 38 + 3); // 2 bits per pixel
-        window_->Table().SetCurrentCode('D');      // there is no character
-        QVERIFY(!IsEnabled(8) && !IsEnabled(35));
+        constexpr int maximum = 3; // 2 bits per pixel
+        for (const Edit& edit : EditTable()) {
+            if (edit.target == EditTarget::Pixel)
+                QCOMPARE(IsEnabled(edit.type), edit.index <= maximum);
+        }
+        window_->Table().SetCurrentCode('D'); // there is no character
+        QVERIFY(!IsEnabled(ActionType::InsertColumnRight) &&
+                !IsEnabled(ActionType::IncreasePixelIndex));
     }
 
     void CommandsEditAndUndo_data()
     {
-        QTest::addColumn<int>("id");
-        for (const int id : {8,  9,  10, 11, 12, 13, 14, 15, 16, 17, 18, 19,
-                             20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 32, 33})
-            QTest::addRow("command %d", id) << id;
+        QTest::addColumn<ActionType>("type");
+        for (const Edit& edit : EditTable()) {
+            if (edit.target != EditTarget::Pixel)
+                QTest::addRow("command %d", int(edit.type)) << edit.type;
+        }
+        for (const ActionType type : {ActionType::DisableAll, ActionType::Toggle})
+            QTest::addRow("command %d", int(type)) << type;
     }
 
     void CommandsEditAndUndo()
     {
-        QFETCH(const int, id);
+        QFETCH(const ActionType, type);
         OpenSample(FontFormat::AA4);
         window_->Table().SetCurrentCode('B');
         CurrentFont().FindChar('B')->info.yPos = 0;
         const QByteArray before = Test::Snapshot(CurrentFont());
-        Trigger(id);
+        Trigger(type);
         QVERIFY(Test::Snapshot(CurrentFont()) != before);
-        QVERIFY(window_->isWindowModified() && IsEnabled(55));
-        QVERIFY(window_->Menus().Command(55)->statusTip().startsWith(u"Undo last action: "_s));
+        QVERIFY(window_->isWindowModified() && IsEnabled(WindowCommand::Undo));
+        QVERIFY(window_->Menus()
+                    .Command(WindowCommand::Undo)
+                    ->statusTip()
+                    .startsWith(u"Undo last action: "_s));
         const QByteArray after = Test::Snapshot(CurrentFont());
-        Trigger(55);
+        Trigger(WindowCommand::Undo);
         // Deleted pixels do not come back, which is a change to save.
-        QCOMPARE(window_->isWindowModified(), id >= 22 && id <= 25);
-        if (id < 22 || id > 25)
+        const Edit* const edit = EditOf(type);
+        const bool losesPixels = edit != nullptr && edit->undo == Undo::LosesPixels;
+        QCOMPARE(window_->isWindowModified(), losesPixels);
+        if (!losesPixels)
             QCOMPARE(Test::Snapshot(CurrentFont()), before);
-        Trigger(56);
+        Trigger(WindowCommand::Redo);
         QCOMPARE(Test::Snapshot(CurrentFont()).size(), after.size());
     }
 
@@ -204,14 +237,14 @@ private Q_SLOTS:
         OpenSample();
         QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
         const QByteArray before = Test::Snapshot(CurrentFont());
-        Trigger(16);
+        Trigger(ActionType::MoveRight);
         QCOMPARE(int(CurrentFont().FindChar('B')->info.xPos), -4);
         QCOMPARE(int(CurrentFont().FindChar(0x80)->info.xPos), -12);
-        Trigger(33);
+        Trigger(ActionType::Toggle);
         QVERIFY(!CurrentFont().HasEnabledChars());
         QCOMPARE(session_->Stack().count(), 2);
-        Trigger(55);
-        Trigger(55);
+        Trigger(WindowCommand::Undo);
+        Trigger(WindowCommand::Undo);
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
     }
 
@@ -224,16 +257,16 @@ private Q_SLOTS:
         const int top = editor.Top();
         QVERIFY(editor.SelectItem(editor.ItemAt(1, top)));
         const CharBitmap& bitmap = *CurrentFont().FindChar('B')->bitmap;
-        Trigger(38 + 9);
+        Trigger(ActionType::SetPixelIndex9);
         QCOMPARE(bitmap.GetPixelIndex(1, 0), 9);
-        Trigger(35);
+        Trigger(ActionType::IncreasePixelIndex);
         QCOMPARE(bitmap.GetPixelIndex(1, 0), 10);
-        Trigger(37);
+        Trigger(ActionType::InvertPixelIndex);
         QCOMPARE(bitmap.GetPixelIndex(1, 0), 5);
         QCOMPARE(editor.CurrentPixel()->PixelPosition(), QPoint(1, 0)); // it stays selected
         QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 85);
         window_->Table().SetCurrentCode('A');
-        Trigger(55); // and back to the character
+        Trigger(WindowCommand::Undo); // and back to the character
         QCOMPARE(window_->Table().CurrentCode(), int('B'));
         QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 170);
     }
@@ -247,13 +280,13 @@ private Q_SLOTS:
         window_->Table().SetCurrentCode('B');
         CharBitmapView& editor = window_->Editor();
         QVERIFY(editor.SelectItem(editor.ItemAt(1, 2)));
-        Trigger(18); // up by a row
+        Trigger(ActionType::MoveUp); // up by a row
         const QPoint marked = editor.SelectedPixel();
         QCOMPARE(marked, QPoint(1, 1));
         QCOMPARE(editor.CurrentPixel()->Row(), 2);
-        Trigger(38 + 9);
+        Trigger(ActionType::SetPixelIndex9);
         QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(1, 1), 9);
-        Trigger(8); // another column
+        Trigger(ActionType::InsertColumnRight); // another column
         QCOMPARE(editor.scene()->selectedItems().size(), 1);
         window_->Table().SetCurrentCode('A');
         QCOMPARE(editor.scene()->selectedItems().size(), 0);
@@ -269,9 +302,9 @@ private Q_SLOTS:
         editor.setFocus();
         editor.SelectFirstPixel();
         QTest::keyClick(editor.viewport(), Qt::Key_Space);
-        QVERIFY(window_->isWindowModified() && IsEnabled(3));
+        QVERIFY(window_->isWindowModified() && IsEnabled(ActionType::SaveFont));
         QVERIFY(!session_->Stack().canUndo());
-        Trigger(3);
+        Trigger(ActionType::SaveFont);
         QVERIFY(!window_->isWindowModified());
     }
 
@@ -305,29 +338,29 @@ private Q_SLOTS:
     {
         OpenSample(FontFormat::AA4);
         window_->Table().SetCurrentCode('B');
-        Trigger(33);
+        Trigger(ActionType::Toggle);
         QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
-        Trigger(57); // enabled ones only
-        Trigger(16);
+        Trigger(WindowCommand::AllCharacters); // enabled ones only
+        Trigger(ActionType::MoveRight);
         QCOMPARE(int(CurrentFont().FindChar('B')->info.xPos), -5);
         QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
-        Trigger(16);
+        Trigger(ActionType::MoveRight);
         QCOMPARE(int(CurrentFont().FindChar('B')->info.xPos), -5);
-        Trigger(57);
+        Trigger(WindowCommand::AllCharacters);
     }
 
     void UndoShowsWhatItChanged()
     {
         OpenSample(FontFormat::AA4);
         window_->Table().SetCurrentCode('B');
-        Trigger(33);
+        Trigger(ActionType::Toggle);
         window_->Table().SetCurrentCode('A');
-        Trigger(55);
+        Trigger(WindowCommand::Undo);
         QCOMPARE(window_->Table().CurrentCode(), int('B'));
         QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
         const CodeSet selected = window_->Table().SelectedCodes();
-        Trigger(16);
-        Trigger(55);
+        Trigger(ActionType::MoveRight);
+        Trigger(WindowCommand::Undo);
         QCOMPARE(window_->Table().SelectedCodes(), selected);
     }
 
@@ -335,10 +368,18 @@ private Q_SLOTS:
     {
         OpenSample(FontFormat::LegacyAA4);
         window_->Table().SetCurrentCode('B');
-        for (const int id : {10, 11, 16, 17, 18, 19, 24, 25})
-            QVERIFY2(!IsEnabled(id), qPrintable(QString::number(id)));
-        for (const int id : {8, 9, 12, 15, 20, 21, 22, 23, 26, 29})
-            QVERIFY2(IsEnabled(id), qPrintable(QString::number(id)));
+        for (const auto id :
+             {ActionType::InsertRowTop, ActionType::InsertRowBottom, ActionType::MoveRight,
+              ActionType::MoveLeft, ActionType::MoveUp, ActionType::MoveDown,
+              ActionType::DeleteRowTop, ActionType::DeleteRowBottom})
+            QVERIFY2(!IsEnabled(id), qPrintable(QString::number(CommandId(id))));
+        for (const auto id :
+             {ActionType::InsertColumnRight, ActionType::InsertColumnLeft, ActionType::ShiftRight,
+              ActionType::ShiftDown, ActionType::IncreaseCursorDistance,
+              ActionType::DecreaseCursorDistance, ActionType::DeleteColumnRight,
+              ActionType::DeleteColumnLeft, ActionType::FontInsertRowTop,
+              ActionType::FontDeleteRowBottom})
+            QVERIFY2(IsEnabled(id), qPrintable(QString::number(CommandId(id))));
     }
 
     void StrokesAreOneStep()
@@ -355,9 +396,9 @@ private Q_SLOTS:
         }
         QCOMPARE(session_->Stack().count(), 2);
         QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 0);
-        Trigger(55);
+        Trigger(WindowCommand::Undo);
         QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 15);
-        Trigger(55);
+        Trigger(WindowCommand::Undo);
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
         Q_EMIT editor.StrokeBegun();
         Q_EMIT editor.StrokeEnded();
@@ -368,9 +409,9 @@ private Q_SLOTS:
     {
         OpenSample();
         QVERIFY(window_->windowTitle().startsWith(u"sample.sif[*]"_s));
-        Trigger(26);
+        Trigger(ActionType::FontInsertRowTop);
         QVERIFY(window_->isWindowModified());
-        Trigger(3);
+        Trigger(ActionType::SaveFont);
         QVERIFY(!window_->isWindowModified());
         Session other;
         QVERIFY(session_->Path().endsWith(u"sample.sif"_s));
@@ -475,7 +516,7 @@ private Q_SLOTS:
                 dialog.template findChild<QComboBox*>()->setCurrentIndex(index);
                 dialog.accept();
             });
-            Trigger(62);
+            Trigger(WindowCommand::Preferences);
             QCOMPARE(window_->Table().RowLabel(4), label);
         }
     }
@@ -497,7 +538,7 @@ private Q_SLOTS:
         QFETCH(const bool, saves);
         OpenSample();
         const QByteArray old = Test::ReadAll(Path("sample.sif"));
-        Trigger(26);
+        Trigger(ActionType::FontInsertRowTop);
         BoxAnswer answer{QMessageBox::StandardButton(button)};
         QCOMPARE(window_->close(), closes);
         QCOMPARE(answer.text, u"Save file?: Save current file?"_s);
@@ -509,7 +550,7 @@ private Q_SLOTS:
         FontFileSample(FontFormat::AA4, Path("drop.sif"));
         QVERIFY(Drop(Path("drop.sif")));
         QVERIFY(session_->CurrentFont() != nullptr);
-        QCOMPARE(MainWindow::CommandOfFile(u"a.TXT"_s), 34U);
+        QCOMPARE(MainWindow::CommandOfFile(u"a.TXT"_s), CommandId(ActionType::ReadPattern));
         QCOMPARE(MainWindow::CommandOfFile(u"a.png"_s), 0U);
         Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe7e00"));
         CurrentFont().SetEnabled(0x42, 0x42, false);
@@ -567,8 +608,8 @@ private Q_SLOTS:
 
     void IndexingCanBeStopped()
     {
-        QSignalSpy ends(window_.get(), &MainWindow::FontsIndexed);
-        Trigger(59);
+        QSignalSpy ends(window_->findChild<FontIndexer*>(), &FontIndexer::Indexed);
+        Trigger(WindowCommand::IndexFonts);
         window_->Progress().Stop();
         QVERIFY(ends.wait(20000));
         QVERIFY(!window_->Progress().isVisible());
@@ -579,14 +620,14 @@ private Q_SLOTS:
         OpenSample();
         window_->resize(900, 500);
         window_->Editor().SetZoom(12);
-        Trigger(57);
+        Trigger(WindowCommand::AllCharacters);
         window_->close();
         window_ = std::make_unique<MainWindow>(*session_);
         SetCurrentInterface(window_.get());
         window_->show();
         QCOMPARE(window_->size(), QSize(900, 500));
         QCOMPARE(window_->Editor().Zoom(), 12);
-        QVERIFY(!window_->Menus().Command(57)->isChecked());
+        QVERIFY(!window_->Menus().Command(WindowCommand::AllCharacters)->isChecked());
     }
 
     void TheManualIsFound() { QVERIFY(MainWindow::ManualUrl().isLocalFile()); }

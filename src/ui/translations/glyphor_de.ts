@@ -470,18 +470,6 @@ Die aktuelle Schrift im Format „%1“ kann nicht mit der anderen im Format „
         <translation>Ein Schriftmaß von %1 ist nicht möglich, nur 0 bis 255.</translation>
     </message>
     <message>
-        <source> structure not found!</source>
-        <translation>: Struktur nicht gefunden!</translation>
-    </message>
-    <message>
-        <source> entry not found!</source>
-        <translation>: Eintrag nicht gefunden!</translation>
-    </message>
-    <message>
-        <source> entry did not end in the same line!</source>
-        <translation>: Der Eintrag endet nicht in derselben Zeile!</translation>
-    </message>
-    <message>
         <source>Error parsing integer!</source>
         <translation>Ganze Zahl nicht lesbar!</translation>
     </message>
@@ -546,18 +534,6 @@ Die aktuelle Schrift im Format „%1“ kann nicht mit der anderen im Format „
         <translation>Fehler beim Lesen der C-Datei!</translation>
     </message>
     <message>
-        <source>
-
-Error occured in:
-Line: %1
-Column: %2</source>
-        <translation>
-
-Stelle des Fehlers:
-Zeile: %1
-Spalte: %2</translation>
-    </message>
-    <message>
         <source>Unsupported format!</source>
         <translation>Nicht unterstütztes Format!</translation>
     </message>
@@ -574,24 +550,8 @@ Spalte: %2</translation>
         <translation>Sie endet mit der Zahl %1, die kein Schriftformat ist.</translation>
     </message>
     <message>
-        <source>has a size or an offset that no character can have</source>
-        <translation>hat eine Größe oder einen Versatz, den kein Zeichen haben kann</translation>
-    </message>
-    <message>
-        <source>has pixels outside the file</source>
-        <translation>hat Pixel außerhalb der Datei</translation>
-    </message>
-    <message>
-        <source>has rows of %1 bytes, which is not what its width of %2 needs</source>
-        <translation>hat Zeilen von %1 Byte, was nicht zu seiner Breite von %2 passt</translation>
-    </message>
-    <message>
         <source>The file %1 can&apos;t be used as a font. %2</source>
         <translation>Die Datei %1 ist nicht als Schrift verwendbar. %2</translation>
-    </message>
-    <message>
-        <source>The character 0x%1 %2.</source>
-        <translation>Das Zeichen 0x%1 %2.</translation>
     </message>
     <message>
         <source>Reading of SIF file failed!</source>
@@ -606,30 +566,6 @@ Spalte: %2</translation>
         <translation>Ihre Zeichenbereiche sind nicht aufsteigend geordnet.</translation>
     </message>
     <message>
-        <source>File size of input file: %1 bytes.<byte value="xd"/>
-File size that was expected: %2 bytes.<byte value="xd"/>
-<byte value="xd"/>
-</source>
-        <translation>Größe der Datei: %1 Byte.<byte value="xd"/>
-Erwartete Größe: %2 Byte.<byte value="xd"/>
-<byte value="xd"/>
-</translation>
-    </message>
-    <message>
-        <source>The previously entered font format may not be correct or the file may be corrupted.</source>
-        <translation>Vielleicht ist das zuvor gewählte Schriftformat falsch oder die Datei beschädigt.</translation>
-    </message>
-    <message>
-        <source>It may be corrupted.<byte value="xd"/>
-</source>
-        <translation>Sie ist vielleicht beschädigt.<byte value="xd"/>
-</translation>
-    </message>
-    <message>
-        <source>points to other pixels than its own</source>
-        <translation>zeigt auf andere Pixel als seine eigenen</translation>
-    </message>
-    <message>
         <source>It does not begin with &quot;GUIP&quot; and a header.</source>
         <translation>Sie beginnt nicht mit „GUIP“ und einem Kopf.</translation>
     </message>
@@ -642,20 +578,8 @@ Erwartete Größe: %2 Byte.<byte value="xd"/>
         <translation>Sie ist zu kurz für ihre Tabelle der Codes 0x%1 bis 0x%2.</translation>
     </message>
     <message>
-        <source>lies outside the file</source>
-        <translation>liegt außerhalb der Datei</translation>
-    </message>
-    <message>
         <source>Its characters overlap.</source>
         <translation>Ihre Zeichen überlappen sich.</translation>
-    </message>
-    <message>
-        <source>is too small</source>
-        <translation>ist zu klein</translation>
-    </message>
-    <message>
-        <source>has a size in the table that is not the size of its pixels</source>
-        <translation>hat in der Tabelle eine andere Größe als seine Pixel</translation>
     </message>
     <message>
         <source>It does not begin with &quot;GUIX&quot;.</source>
@@ -752,6 +676,76 @@ Erwartete Größe: %2 Byte.<byte value="xd"/>
     <message>
         <source>It claims more memory than a font of its size needs.</source>
         <translation>Sie verlangt mehr Speicher, als eine Schrift ihrer Größe braucht.</translation>
+    </message>
+    <message>
+        <source>%1 structure not found!</source>
+        <translation>%1: Struktur nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>%1 entry not found!</source>
+        <translation>%1: Eintrag nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>%1 entry did not end in the same line!</source>
+        <translation>%1: Der Eintrag endet nicht in derselben Zeile!</translation>
+    </message>
+    <message>
+        <source>%1
+
+Error occured in:
+Line: %2
+Column: %3</source>
+        <translation>%1
+
+Stelle des Fehlers:
+Zeile: %2
+Spalte: %3</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 has a size or an offset that no character can have.</source>
+        <translation>Das Zeichen 0x%1 hat eine Größe oder einen Versatz, den kein Zeichen haben kann.</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 has pixels outside the file.</source>
+        <translation>Das Zeichen 0x%1 hat Pixel außerhalb der Datei.</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 has rows of %2 bytes, which is not what its width of %3 needs.</source>
+        <translation>Das Zeichen 0x%1 hat Zeilen von %2 Byte, was nicht zu seiner Breite von %3 passt.</translation>
+    </message>
+    <message>
+        <source>File size of input file: %1 bytes.<byte value="xd"/>
+File size that was expected: %2 bytes.<byte value="xd"/>
+<byte value="xd"/>
+The previously entered font format may not be correct or the file may be corrupted.</source>
+        <translation>Größe der Datei: %1 Byte.<byte value="xd"/>
+Erwartete Größe: %2 Byte.<byte value="xd"/>
+<byte value="xd"/>
+Vielleicht ist das zuvor gewählte Schriftformat falsch oder die Datei beschädigt.</translation>
+    </message>
+    <message>
+        <source>It may be corrupted.<byte value="xd"/>
+File size of input file: %1 bytes.<byte value="xd"/>
+File size that was expected: %2 bytes.</source>
+        <translation>Sie ist vielleicht beschädigt.<byte value="xd"/>
+Größe der Datei: %1 Byte.<byte value="xd"/>
+Erwartete Größe: %2 Byte.</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 points to other pixels than its own.</source>
+        <translation>Das Zeichen 0x%1 zeigt auf andere Pixel als seine eigenen.</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 lies outside the file.</source>
+        <translation>Das Zeichen 0x%1 liegt außerhalb der Datei.</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 is too small.</source>
+        <translation>Das Zeichen 0x%1 ist zu klein.</translation>
+    </message>
+    <message>
+        <source>The character 0x%1 has a size in the table that is not the size of its pixels.</source>
+        <translation>Das Zeichen 0x%1 hat in der Tabelle eine andere Größe als seine Pixel.</translation>
     </message>
 </context>
 <context>

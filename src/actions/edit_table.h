@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/action_type.h"
+#include "model/font.h"
+
+#include <QLatin1StringView>
+
+#include <span>
+
+namespace Glyphor {
+
+// What an edit changes, and so what it needs.
+enum class EditTarget { Character, Font, Pixel };
+
+// Whether undoing an edit brings back everything. Where it loses pixels, the font counts as changed
+// from then on; those that only a legacy font keeps in its characters are lost there alone.
+enum class Undo { Exact, LosesPixels, LosesPixelsOfLegacyFonts };
+
+// One edit of the pixels or metrics of a font: all that there is to know about it, but for its menu
+// entry. Functions return false where they are refused, and then change nothing.
+struct Edit
+{
+    ActionType type;
+    EditTarget target;
+    QLatin1StringView keyword; // of -editchar or -editfont; empty for edits of the window alone
+    QLatin1StringView help;    // in the usage text
+    const char* log;           // see LogEntry; null where it is that of another edit
+    Undo undo = Undo::Exact;
+    bool notForLegacy = false; // whose characters have the font's height, and no offsets
+
+    bool (*apply)(Character&) = nullptr; // of a character
+    bool (*revert)(Character&) = nullptr;
+
+    // Of a font. `grown` gets, or tells, which characters got a row of their own; see
+    // Font::InsertRowTop(). `room` is how many steps are possible.
+    bool (*applyToFont)(Font&, CodeSet& grown) = nullptr;
+    bool (*revertFont)(Font&, const CodeSet& grown) = nullptr;
+    int (*room)(const Font&) = nullptr;
+
+    void (*applyToPixel)(CharBitmap&, int x, int y, int index) = nullptr;
+    int index = -1; // that a pixel is set to; -1 for edits that do not set one
+};
+
+// In the order in which the usage text lists keywords.
+[[nodiscard]] std::span<const Edit> EditTable();
+
+// Null for a type that is no edit.
+[[nodiscard]] const Edit* EditOf(ActionType type);
+
+// False where undoing the edit leaves pixels of the font lost.
+[[nodiscard]] bool CanBeUndone(const Edit& edit, const Font& font);
+
+// The edit that sets a pixel to an index, which must be 0 to 15.
+[[nodiscard]] const Edit& EditThatSets(int index);
+
+} // namespace Glyphor

@@ -1,0 +1,47 @@
+#include "actions/log_entry.h"
+
+#include "app/engine_texts.h"
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// How long the part is that tells what an entry is about, "[Font]: ", which has no language.
+qsizetype PrefixLength(const QString& text)
+{
+    constexpr auto end = "]: "_L1;
+    const qsizetype found = text.startsWith(u'[') ? text.indexOf(end) : -1;
+    return found < 0 ? 0 : found + end.size();
+}
+
+} // namespace
+
+LogEntry LogEntry::About(const QString& prefix) const
+{
+    LogEntry entry = *this;
+    entry.prefix_ = prefix;
+    return entry;
+}
+
+QString LogEntry::Filled(QString text) const
+{
+    for (const QString& argument : arguments_)
+        text = text.arg(argument);
+    return prefix_ + text;
+}
+
+QString LogEntry::Text() const
+{
+    return Filled(QString::fromLatin1(text_));
+}
+
+QString LogEntry::Translated() const
+{
+    const QString english = QString::fromLatin1(text_);
+    const QString translated = text_ != nullptr ? Engine::tr(text_) : QString();
+    return Filled(english.left(PrefixLength(english)) + translated.mid(PrefixLength(translated)));
+}
+
+} // namespace Glyphor
