@@ -58,9 +58,9 @@ void CopyFont(const Font& font)
 {
     Font copy(font.Metrics().format, font.Metrics().encoding);
     const CodeSet& codes = font.ExistingCodes();
-    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1)) {
-        const Character& from = *font.FindChar(static_cast<quint16>(code));
-        Character& to = copy.AddChar(static_cast<quint16>(code));
+    for (const quint16 code : codes) {
+        const Character& from = *font.FindChar(code);
+        Character& to = copy.AddChar(code);
         to.info.SetWidth(from.info.width);
         to.info.height = from.info.height;
         to.bitmap->AssignData(

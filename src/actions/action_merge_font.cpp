@@ -66,7 +66,7 @@ bool ActionMergeFont::Execute()
     CodeSet duplicates = incoming;
     duplicates &= font->ExistingCodes();
     duplicates &= font->EnabledCodes(); // what is disabled is not missed
-    if (duplicates.Next(0) < CodeSet::Count) {
+    if (!duplicates.IsEmpty()) {
         MergeMode mode = Args().mode;
         if (mode == MergeMode::Ask)
             mode = static_cast<MergeMode>(CurrentInterface().askMergeMode());
@@ -75,9 +75,8 @@ bool ActionMergeFont::Execute()
         else if (mode != MergeMode::Replace)
             return false;
     }
-    for (int code = incoming.Next(0); code < CodeSet::Count; code = incoming.Next(code + 1)) {
-        const auto code16 = static_cast<quint16>(code);
-        characters_[code16] = CopyInto(*font, *other->FindChar(code16));
+    for (const quint16 code : incoming) {
+        characters_[code] = CopyInto(*font, *other->FindChar(code));
     }
     enabled_ = font->EnabledCodes();
     enabled_ |= incoming;

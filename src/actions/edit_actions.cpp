@@ -173,7 +173,7 @@ LogEntry ActionPixelIndex::Log() const
 ActionCharState::ActionCharState(Session& session, ActionType type) : ActionWithArgs(session, type)
 {
     if (type == ActionType::DisableAll)
-        Args().last = CodeSet::Count - 1;
+        Args().last = CodeSet::Limit - 1;
 }
 
 bool ActionCharState::Execute()
@@ -200,8 +200,8 @@ void ActionCharState::RedoOnce()
 void ActionCharState::UndoOnce()
 {
     Font& font = *CurrentFont();
-    for (int code = created_.Next(0); code < CodeSet::Count; code = created_.Next(code + 1))
-        font.RemoveChar(static_cast<quint16>(code));
+    for (const quint16 code : created_)
+        font.RemoveChar(code);
     font.SetEnabledCodes(Args().previousCodes);
 }
 
@@ -228,7 +228,7 @@ bool ActionCharDelete::Execute()
     if (CurrentFont() == nullptr)
         return false;
     codes_ &= CurrentFont()->ExistingCodes();
-    return codes_.Next(0) < CodeSet::Count;
+    return !codes_.IsEmpty();
 }
 
 void ActionCharDelete::RedoOnce()
@@ -237,8 +237,8 @@ void ActionCharDelete::RedoOnce()
     previousCodes_ = font.EnabledCodes();
     CodeSet enabled = previousCodes_;
     enabled -= codes_;
-    for (int code = codes_.Next(0); code < CodeSet::Count; code = codes_.Next(code + 1))
-        removed_[static_cast<quint16>(code)] = font.RemoveChar(static_cast<quint16>(code));
+    for (const quint16 code : codes_)
+        removed_[code] = font.RemoveChar(code);
     font.SetEnabledCodes(enabled);
 }
 
@@ -253,12 +253,11 @@ void ActionCharDelete::UndoOnce()
 
 LogEntry ActionCharDelete::Log() const
 {
-    const int first = codes_.Next(0);
-    int last = first;
-    for (int code = first; code < CodeSet::Count; code = codes_.Next(code + 1))
+    quint16 last = 0;
+    for (const quint16 code : codes_)
         last = code;
     return LogEntry(QT_TRANSLATE_NOOP("Engine", "Deleted."))
-        .About(RangePrefix(static_cast<quint16>(first), static_cast<quint16>(last)));
+        .About(RangePrefix(*codes_.begin(), last));
 }
 
 } // namespace Glyphor

@@ -68,8 +68,8 @@ void PatternFile::Write(const CodeSet& codes)
 {
     QByteArray bytes;
     AppendUnit(bytes, ByteOrderMark);
-    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1))
-        AppendUnit(bytes, static_cast<quint16>(code));
+    for (const quint16 code : codes)
+        AppendUnit(bytes, code);
     Replace(bytes);
 }
 

@@ -138,7 +138,7 @@ void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state)
     if (!selection) {
         selection.emplace();
         if (!state)
-            selection->SetRange(0, CodeSet::Count - 1, true);
+            selection->SetRange(0, CodeSet::Limit - 1, true);
     }
     range = Ordered(range);
     selection->SetRange(range.first, range.last, state);

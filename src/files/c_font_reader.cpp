@@ -233,7 +233,7 @@ void CFontReader::ReadTable(const FontMetrics& font)
             scanner_.SetPosition(scanner_.Position() + 1);
         if (scanner_.Current() == '}')
             return;
-        if (scanner_.Current() != '{' || entries_.size() == CodeSet::Count)
+        if (scanner_.Current() != '{' || entries_.size() == CodeSet::Limit)
             scanner_.Fail(Engine::tr("%1 entry not found!").arg(ToText(tableType_)));
         scanner_.SetPosition(scanner_.Position() + 1);
         const std::string_view entry = scanner_.Until('}', "\r\n{");
@@ -324,7 +324,7 @@ void CFontReader::ReadBlock()
 void CFontReader::AssignBlock(std::size_t at, int first, int last, int index)
 {
     const auto size = static_cast<int>(entries_.size());
-    if (first < 0 || last < first || last >= CodeSet::Count || index < 0 || index >= size ||
+    if (first < 0 || last < first || last >= CodeSet::Limit || index < 0 || index >= size ||
         last - first >= size - index)
         scanner_.FailAt(at, Engine::tr("The property block points outside the character table."));
     for (int code = first; code <= last; ++code) {

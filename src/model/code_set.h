@@ -4,6 +4,8 @@
 
 #include <array>
 #include <bit>
+#include <cstddef>
+#include <numeric>
 
 namespace Glyphor {
 
@@ -11,7 +13,47 @@ namespace Glyphor {
 class CodeSet
 {
 public:
-    static constexpr int Count = 0x10000;
+    static constexpr int Limit = 0x10000;
+
+    // Walks the codes whose bits are set, in ascending order.
+    class Iterator
+    {
+    public:
+        using value_type = quint16;
+        using difference_type = std::ptrdiff_t;
+
+        Iterator() = default;
+        Iterator(const CodeSet& set, int code) : set_(&set), code_(code) {}
+
+        [[nodiscard]] quint16 operator*() const { return static_cast<quint16>(code_); }
+        Iterator& operator++()
+        {
+            code_ = set_->Next(code_ + 1);
+            return *this;
+        }
+        Iterator operator++(int)
+        {
+            const Iterator before = *this;
+            ++*this;
+            return before;
+        }
+        bool operator==(const Iterator&) const = default;
+
+    private:
+        const CodeSet* set_ = nullptr;
+        int code_ = Limit;
+    };
+
+    [[nodiscard]] Iterator begin() const { return {*this, Next(0)}; }
+    [[nodiscard]] Iterator end() const { return {*this, Limit}; }
+
+    [[nodiscard]] bool IsEmpty() const { return Next(0) == Limit; }
+
+    [[nodiscard]] int Count() const
+    {
+        return std::accumulate(words_.begin(), words_.end(), 0,
+                               [](int sum, quint64 word) { return sum + std::popcount(word); });
+    }
 
     [[nodiscard]] bool Test(quint16 code) const
     {
@@ -31,7 +73,7 @@ public:
             Set(static_cast<quint16>(code), state);
     }
 
-    // The first code at or after `from` (0 to Count) whose bit has the state; Count if there is
+    // The first code at or after `from` (0 to Limit) whose bit has the state; Limit if there is
     // none.
     [[nodiscard]] int Next(int from, bool state = true) const
     {
@@ -43,7 +85,7 @@ public:
             if (word != 0)
                 return index * WordBits + std::countr_zero(word);
         }
-        return Count;
+        return Limit;
     }
 
     CodeSet& operator&=(const CodeSet& other)
@@ -72,7 +114,7 @@ public:
 
 private:
     static constexpr int WordBits = 64;
-    static constexpr int WordCount = Count / WordBits;
+    static constexpr int WordCount = Limit / WordBits;
 
     std::array<quint64, WordCount> words_{};
 };

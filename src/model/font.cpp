@@ -154,14 +154,14 @@ bool Font::HasEnabledChars() const
 {
     CodeSet codes = enabled_;
     codes &= existing_;
-    return codes.Next(0) != CodeSet::Count;
+    return !codes.IsEmpty();
 }
 
 std::vector<CodeRun> RunsOf(const CodeSet& codes)
 {
     std::vector<CodeRun> runs;
     int end = 0;
-    for (int first = codes.Next(0); first < CodeSet::Count; first = codes.Next(end)) {
+    for (int first = codes.Next(0); first < CodeSet::Limit; first = codes.Next(end)) {
         end = codes.Next(first, false);
         runs.push_back({static_cast<quint16>(first), static_cast<quint16>(end - 1)});
     }
@@ -183,9 +183,8 @@ int Font::CharDataWidth(const Character& character) const
 template <typename Edit>
 void Font::ForEachChar(Edit edit) const
 {
-    for (int code = existing_.Next(0); code < CodeSet::Count; code = existing_.Next(code + 1)) {
-        const auto index = static_cast<std::size_t>(code);
-        edit(static_cast<quint16>(code), *(*pages_[index / PageSize])[index % PageSize]);
+    for (const quint16 code : existing_) {
+        edit(code, *(*pages_[code / PageSize])[code % PageSize]);
     }
 }
 

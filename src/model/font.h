@@ -114,8 +114,8 @@ public:
     {
         CodeSet codes = enabled_;
         codes &= existing_;
-        for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1))
-            visit(static_cast<quint16>(code), *FindChar(static_cast<quint16>(code)));
+        for (const quint16 code : codes)
+            visit(code, *FindChar(code));
     }
 
     // The enabled characters as maximal runs of consecutive codes, in ascending order.

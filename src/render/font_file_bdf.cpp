@@ -69,10 +69,10 @@ std::unique_ptr<Font> FontFileBDF::Read()
 
 void FontFileBDF::RenderCodes(Font& font)
 {
-    Progress progress(Engine::tr("Loading font..."), CodeSet::Count - 1);
+    Progress progress(Engine::tr("Loading font..."), CodeSet::Limit - 1);
     RenderedGlyph glyph;
     quint8 maxWidth = 0;
-    for (int index = 0; index < CodeSet::Count; ++index) {
+    for (int index = 0; index < CodeSet::Limit; ++index) {
         progress.SetValue(index);
         const auto code = static_cast<quint16>(index);
         if (face_.RenderGlyph(code, glyph) && AddGlyph(font, code, glyph))

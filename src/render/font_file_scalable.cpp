@@ -105,7 +105,7 @@ void FontFileScalable::RenderCharmap(Font& font)
     Progress progress(Engine::tr("Rendering font..."), face_.GlyphCount());
     std::size_t pairCount = 0;
     CodeSet visited; // a code that comes up again gives the same glyph again
-    int notVisited = CodeSet::Count;
+    int notVisited = CodeSet::Limit;
     face_.WalkCharmap([&](quint16 faceCode, FT_UInt glyphIndex) {
         if (visited.Test(faceCode))
             return true;

@@ -53,7 +53,7 @@ int CharTableView::FirstCodeWithPixels() const
 {
     const CodeSet& codes = font_->ExistingCodes();
     const int first = codes.Next(rows_.front() * Columns);
-    for (int code = first; code < CodeSet::Count; code = codes.Next(code + 1)) {
+    for (int code = first; code < CodeSet::Limit; code = codes.Next(code + 1)) {
         const CharInfo& info = font_->FindChar(quint16(code))->info;
         if (RowIndexOf(code) >= 0 && info.width > 1 && info.Rows() > 0)
             return code;
@@ -96,10 +96,10 @@ void CharTableView::UpdateRows()
     CodeSet codes = font_->ExistingCodes();
     if (!showAll_)
         codes &= font_->EnabledCodes();
-    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1)) {
+    for (const quint16 code : codes) {
         if (rows_.empty() || rows_.back() != code / Columns)
             rows_.push_back(code / Columns);
-        const int width = font_->FindChar(quint16(code))->info.width;
+        const int width = font_->FindChar(code)->info.width;
         maxWidth_ = std::max(maxWidth_, width);
         if (width > 1) { // or characters without pixels would decide
             ++counts[std::size_t(width)];
@@ -270,7 +270,7 @@ void CharTableView::PaintCell(QPainter& painter, int code, const QRect& cell) co
 
 bool CharTableView::SetCurrentCode(int code)
 {
-    if (code < 0 || code >= CodeSet::Count || RowIndexOf(code) < 0)
+    if (code < 0 || code >= CodeSet::Limit || RowIndexOf(code) < 0)
         return false;
     Select(code, Qt::NoModifier);
     return true;
@@ -418,7 +418,7 @@ void CharTableView::keyPressEvent(QKeyEvent* event)
     }
     const bool withControl = (event->modifiers() & Qt::ControlModifier) != 0;
     if (event->matches(QKeySequence::SelectAll)) {
-        SelectSpan(0, CodeSet::Count - 1);
+        SelectSpan(0, CodeSet::Limit - 1);
         viewport()->update();
         Q_EMIT SelectionChanged();
         return;

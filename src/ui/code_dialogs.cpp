@@ -186,8 +186,8 @@ QList<int> GoToDialog::NamedLike(const QString& text) const
     QList<int> whole;
     QList<int> parts;
     const Encoding& encoding = EncodingFor(encoding_);
-    for (int code = codes_.Next(0); code < CodeSet::Count; code = codes_.Next(code + 1)) {
-        const QLatin1StringView name = encoding.CharName(quint16(code));
+    for (const quint16 code : codes_) {
+        const QLatin1StringView name = encoding.CharName(code);
         if (!std::ranges::all_of(words,
                                  [name](const QString& word) { return name.contains(word); }))
             continue;

@@ -72,7 +72,7 @@ std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
     bool isNumber = false;
     const uint code =
         isHexadecimal ? trimmed.mid(2).toUInt(&isNumber, 16) : trimmed.toUInt(&isNumber, 10);
-    if (!isNumber || code >= CodeSet::Count)
+    if (!isNumber || code >= CodeSet::Limit)
         return std::nullopt;
     return isUnicode ? Encoded(quint16(code), encoding) : std::optional(quint16(code));
 }
@@ -87,7 +87,7 @@ const std::vector<UnicodeBlock>& UnicodeBlocks()
 {
     static const std::vector<UnicodeBlock> blocks = [] {
         std::vector<UnicodeBlock> list;
-        for (int code = 0; code < CodeSet::Count; ++code) {
+        for (int code = 0; code < CodeSet::Limit; ++code) {
             const auto code16 = quint16(code);
             if (BlockIndex(code16) < 0)
                 continue;

@@ -203,7 +203,7 @@ QString GenerationPreview::MissingFrom(const Font& font) const
     if (!tellsMissing_ || !args_.selection)
         return missing;
     const CodeSet& codes = *args_.selection;
-    for (int unicode = codes.Next(0); unicode < CodeSet::Count && missing.size() < most;
+    for (int unicode = codes.Next(0); unicode < CodeSet::Limit && missing.size() < most;
          unicode = codes.Next(unicode + 1)) {
         const auto code = Encoded(quint16(unicode), font.Metrics().encoding);
         if (QChar(unicode).isPrint() && (!code || font.FindChar(*code) == nullptr))

@@ -91,13 +91,8 @@ void InfoPanel::ShowFont(const Font& font)
 {
     const FontMetrics& metrics = font.Metrics();
     const auto pixels = [](int value) { return tr("%1 px").arg(value); };
-    int enabled = 0;
-    int all = 0;
-    const CodeSet& codes = font.ExistingCodes();
-    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1)) {
-        ++all;
-        enabled += int(font.IsEnabled(quint16(code)));
-    }
+    CodeSet enabled = font.EnabledCodes();
+    enabled &= font.ExistingCodes();
     Set(tr("Font name"), font.Name());
     Set(tr("Format"), Engine::tr(FormatDisplayName(metrics.format).data()));
     Set(tr("Encoding"),
@@ -106,7 +101,8 @@ void InfoPanel::ShowFont(const Font& font)
     Set(tr("Baseline"), pixels(metrics.baseline));
     Set(tr("Lowercase height"), pixels(metrics.lowercaseHeight));
     Set(tr("Capital height"), pixels(metrics.capitalHeight));
-    Set(tr("Enabled characters"), tr("%1 of %2").arg(enabled).arg(all));
+    Set(tr("Enabled characters"),
+        tr("%1 of %2").arg(enabled.Count()).arg(font.ExistingCodes().Count()));
     Set(tr("Flash"), tr("%L1 bytes").arg(FlashSize(font)));
 }
 

@@ -380,7 +380,7 @@ void MainWindow::UpdateCommands()
     CodeSet selected = table_->SelectedCodes();
     if (hasFont)
         selected &= font->ExistingCodes();
-    const bool hasCharacter = hasFont && selected.Next(0) < CodeSet::Count;
+    const bool hasCharacter = hasFont && !selected.IsEmpty();
     const bool hasPixel = hasFont && editor_->SelectedPixel().x() >= 0;
     const auto enable = [this](auto command, bool state) {
         menus_->Command(command)->setEnabled(state);

@@ -186,7 +186,7 @@ void MainWindow::MoveInHistory(bool isUndo)
     ShowMessage((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(text));
     const int current = table_->CurrentCode();
     const int first = movedCodes_.Next(0);
-    if (first < CodeSet::Count && (current < 0 || !movedCodes_.Test(quint16(current))))
+    if (first < CodeSet::Limit && (current < 0 || !movedCodes_.Test(quint16(current))))
         table_->SetCurrentCode(first);
 }
 
@@ -219,17 +219,16 @@ void MainWindow::RunStateChange(ActionType type)
     const Font& font = *session_.CurrentFont();
     CodeSet codes = table_->SelectedCodes();
     codes &= font.ExistingCodes();
-    const int first = codes.Next(0);
-    if (first == CodeSet::Count)
+    if (codes.IsEmpty())
         return;
     // All of the selection becomes the opposite of its first character.
     const bool enables = type == ActionType::Enable ||
-                         (type == ActionType::Toggle && !font.IsEnabled(quint16(first)));
+                         (type == ActionType::Toggle && !font.IsEnabled(*codes.begin()));
     if (enables)
         codes -= font.EnabledCodes();
     else
         codes &= font.EnabledCodes();
-    const bool isOne = codes.Next(codes.Next(0) + 1) == CodeSet::Count;
+    const bool isOne = codes.Count() == 1;
     const ActionType state = enables ? ActionType::Enable : ActionType::Disable;
     const ActionType change = isOne ? type : state;
     RunForEach(codes, LogEntry(LogMessage(state)).Translated(), [&](const CodeRun& run) {

@@ -52,7 +52,7 @@ private Q_SLOTS:
             const CodeSet read = PatternFile(Path()).Read();
             QVERIFY(failure.isEmpty());
             QList<int> found;
-            for (int code = read.Next(0); code < CodeSet::Count; code = read.Next(code + 1))
+            for (const quint16 code : read)
                 found.append(code);
             QCOMPARE(found, codes);
             QCOMPARE(interface.warnings.size(), warnings);

@@ -57,10 +57,10 @@ inline QByteArray Snapshot(const Font& font, bool onlyEnabled = false)
                             int(metrics.lowercaseHeight), int(metrics.capitalHeight)})
         text += QByteArray::number(value) + ' ';
     const CodeSet& codes = font.ExistingCodes();
-    for (int code = codes.Next(0); code < CodeSet::Count; code = codes.Next(code + 1)) {
-        if (onlyEnabled && !font.IsEnabled(quint16(code)))
+    for (const quint16 code : codes) {
+        if (onlyEnabled && !font.IsEnabled(code))
             continue;
-        const Character& character = *font.FindChar(quint16(code));
+        const Character& character = *font.FindChar(code);
         text += '\n' + QByteArray::number(code);
         for (const int value :
              {int(character.info.width), int(character.info.height), int(character.info.xPos),

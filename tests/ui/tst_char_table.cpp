@@ -23,7 +23,7 @@ class TestCharTable : public QObject
     {
         QList<int> codes;
         const CodeSet& set = table_->SelectedCodes();
-        for (int code = set.Next(0); code < CodeSet::Count; code = set.Next(code + 1))
+        for (const quint16 code : set)
             codes.append(code);
         return codes;
     }
