@@ -177,7 +177,7 @@ void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
     switch (occurrence.Id()) {
     case OptionId::Enable:
     case OptionId::Disable:
-        SelectRange(selection, occurrence.Get<CharRange>(0), occurrence.Id() == OptionId::Enable);
+        SelectRange(selection, occurrence.Get<CodeRange>(0), occurrence.Id() == OptionId::Enable);
         return;
     case OptionId::ReadPattern:
         SelectPattern(selection, occurrence.Get<QString>(0));
@@ -267,7 +267,7 @@ bool CommandLine::requestAction(Action& action)
         return true;
     }
     if (auto* const edit = dynamic_cast<ActionChar*>(&action)) {
-        const CharRange range = Ordered(current_->Get<CharRange>(1));
+        const CodeRange range = Ordered(current_->Get<CodeRange>(1));
         edit->Args() = {range.first, range.last};
         edit->SetRepeat(CountOf(*current_, 2));
         return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/code_range.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -86,18 +88,9 @@ struct CommandLineOption
     [[nodiscard]] QString Form() const;
 };
 
-// Character codes as given: the last may be the smaller one.
-struct CharRange
-{
-    quint16 first = 0;
-    quint16 last = 0;
-
-    bool operator==(const CharRange&) const = default;
-};
-
-// A parsed value; nothing for an optional parameter that was left out. A keyword stands as its
-// value in the keyword table.
-using ParameterValue = std::variant<std::monostate, int, QString, CharRange>;
+// A parsed value; nothing for an optional parameter that was left out. The last code of a range may
+// be the smaller one. A keyword stands as its value in the keyword table.
+using ParameterValue = std::variant<std::monostate, int, QString, CodeRange>;
 
 // One use of an option among the arguments.
 struct OptionOccurrence

@@ -61,7 +61,7 @@ quint16 ParseCode(const QString& text)
     return static_cast<quint16>(number);
 }
 
-CharRange ParseRange(const QString& text, const QString& placeholder)
+CodeRange ParseRange(const QString& text, const QString& placeholder)
 {
     if (text.compare("all"_L1, Qt::CaseInsensitive) == 0)
         return {0, std::numeric_limits<quint16>::max()};

@@ -122,7 +122,7 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool
     return options;
 }
 
-CharRange Ordered(CharRange range)
+CodeRange Ordered(CodeRange range)
 {
     if (range.first > range.last) {
         CurrentInterface().warning(
@@ -133,7 +133,7 @@ CharRange Ordered(CharRange range)
     return range;
 }
 
-void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state)
+void SelectRange(std::optional<CodeSet>& selection, CodeRange range, bool state)
 {
     if (!selection) {
         selection.emplace();

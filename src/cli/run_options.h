@@ -23,11 +23,11 @@ struct RunOptions
 [[nodiscard]] FontSize ParseHeight(const QString& text);
 
 // The range in ascending order, after a warning where it was reversed.
-[[nodiscard]] CharRange Ordered(CharRange range);
+[[nodiscard]] CodeRange Ordered(CodeRange range);
 
 // Applies an -enable or -disable range to the character selection, which begins empty where its
 // first option enables, and full where it disables.
-void SelectRange(std::optional<CodeSet>& selection, CharRange range, bool state);
+void SelectRange(std::optional<CodeSet>& selection, CodeRange range, bool state);
 
 // Adds the characters of a pattern file to the selection, which begins empty where this is first.
 void SelectPattern(std::optional<CodeSet>& selection, const QString& path);

@@ -41,7 +41,7 @@ private:
     const Font& font_;
     const Encoding& encoding_;
     CFileText& text_;
-    std::vector<CodeRun> runs_;
+    std::vector<CodeRange> runs_;
     QByteArray identifier_;
     QByteArray arrayPrefix_;
     bool isUnicode_; // Shift JIS codes have neither names nor named areas here
@@ -62,7 +62,7 @@ FontWriter::FontWriter(const Font& font, CFileText& text)
       isLegacy_(IsLegacyFormat(font.Metrics().format)),
       tableSuffix_(isLegacy_ ? "" : "_EXT")
 {
-    for (const CodeRun& run : runs_)
+    for (const CodeRange& run : runs_)
         count_ += run.Size();
 }
 
@@ -135,7 +135,7 @@ void FontWriter::CharInfoTable()
 
 void FontWriter::PropertyBlock(int index, int firstChar)
 {
-    const CodeRun& run = runs_[static_cast<std::size_t>(index)];
+    const CodeRange& run = runs_[static_cast<std::size_t>(index)];
     const QByteArray type = "GUI_FONT_PROP" + tableSuffix_;
     text_.Line("static GUI_CONST_STORAGE ", type, " ", identifier_, "_Prop", Decimal(index + 1),
                " = {");

@@ -30,16 +30,16 @@ QString FontFileSIF::FailureTitle() const
     return Engine::tr("Reading of SIF file failed!");
 }
 
-std::vector<CodeRun> FontFileSIF::ReadRuns(const LittleEndianBytes& bytes) const
+std::vector<CodeRange> FontFileSIF::ReadRuns(const LittleEndianBytes& bytes) const
 {
     const int count = bytes.U16(RunCountOffset);
     if (!bytes.Holds(SifHeaderSize, RunSize * count))
         Fail(Engine::tr("It is too short for its %1 ranges of characters.").arg(count));
-    std::vector<CodeRun> runs;
+    std::vector<CodeRange> runs;
     int next = 0;
     for (int index = 0; index < count; ++index) {
         const qint64 at = SifHeaderSize + RunSize * index;
-        const CodeRun run = {bytes.U16(at), bytes.U16(at + 2)};
+        const CodeRange run = {bytes.U16(at), bytes.U16(at + 2)};
         if (run.first < next || run.last < run.first)
             Fail(Engine::tr("Its ranges of characters are not in ascending order."));
         next = run.last + 1;
@@ -71,12 +71,12 @@ FontFileSIF::CharRecord FontFileSIF::ReadRecord(const LittleEndianBytes& bytes, 
 }
 
 std::vector<FontFileSIF::CharRecord> FontFileSIF::ReadRecords(const LittleEndianBytes& bytes,
-                                                              const std::vector<CodeRun>& runs,
+                                                              const std::vector<CodeRange>& runs,
                                                               const FontMetrics& font)
 {
     std::vector<CharRecord> records;
     qint64 at = SifHeaderSize + RunSize * qint64(runs.size());
-    for (const CodeRun& run : runs) {
+    for (const CodeRange& run : runs) {
         for (int code = run.first; code <= run.last; ++code) {
             records.push_back(ReadRecord(bytes, at, static_cast<quint16>(code), font));
             at += SifRecordSize(font.format);
@@ -138,7 +138,7 @@ std::unique_ptr<Font> FontFileSIF::Read()
         format = static_cast<FontFormat>(answer);
     }
     auto font = MakeFont(bytes, *format, encoding);
-    const std::vector<CodeRun> runs = ReadRuns(bytes);
+    const std::vector<CodeRange> runs = ReadRuns(bytes);
     const std::vector<CharRecord> records = ReadRecords(bytes, runs, font->Metrics());
     const qint64 bitmapOffset = SifHeaderSize + RunSize * qint64(runs.size()) +
                                 SifRecordSize(*format) * qint64(records.size());
@@ -173,10 +173,10 @@ void FontFileSIF::Write(const Font& font)
     Replace([&](const Sink& sink) {
         QByteArray bytes;
         AppendHeader(bytes, SifMagic, font.Metrics());
-        const std::vector<CodeRun> runs = font.EnabledRuns();
+        const std::vector<CodeRange> runs = font.EnabledRuns();
         Append16(bytes, {static_cast<int>(runs.size())});
         qint64 count = 0;
-        for (const CodeRun& run : runs) {
+        for (const CodeRange& run : runs) {
             Append16(bytes, {run.first, run.last});
             count += run.Size();
         }

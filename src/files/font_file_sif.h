@@ -32,11 +32,11 @@ private:
     static void AppendRecords(const Font& font, quint32 bitmapOffset, QByteArray& bytes,
                               const Sink& sink);
 
-    [[nodiscard]] std::vector<CodeRun> ReadRuns(const LittleEndianBytes& bytes) const;
+    [[nodiscard]] std::vector<CodeRange> ReadRuns(const LittleEndianBytes& bytes) const;
     [[nodiscard]] static CharRecord ReadRecord(const LittleEndianBytes& bytes, qint64 at,
                                                quint16 code, const FontMetrics& font);
     [[nodiscard]] static std::vector<CharRecord> ReadRecords(const LittleEndianBytes& bytes,
-                                                             const std::vector<CodeRun>& runs,
+                                                             const std::vector<CodeRange>& runs,
                                                              const FontMetrics& font);
     void CheckSize(const LittleEndianBytes& bytes, qint64 expected, bool isAnswered) const;
     void AddChars(const LittleEndianBytes& bytes, const std::vector<CharRecord>& records,

@@ -127,7 +127,7 @@ std::unique_ptr<Font> FontFileXBF::Read()
 
 void FontFileXBF::AppendTable(const Font& font, QByteArray& bytes, const Sink& sink)
 {
-    const std::vector<CodeRun> runs = font.EnabledRuns();
+    const std::vector<CodeRange> runs = font.EnabledRuns();
     const int first = runs.front().first;
     const int last = runs.back().last;
     Append16(bytes, {first, last});

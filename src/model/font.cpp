@@ -157,9 +157,9 @@ bool Font::HasEnabledChars() const
     return !codes.IsEmpty();
 }
 
-std::vector<CodeRun> RunsOf(const CodeSet& codes)
+std::vector<CodeRange> RunsOf(const CodeSet& codes)
 {
-    std::vector<CodeRun> runs;
+    std::vector<CodeRange> runs;
     int end = 0;
     for (int first = codes.Next(0); first < CodeSet::Limit; first = codes.Next(end)) {
         end = codes.Next(first, false);
@@ -168,7 +168,7 @@ std::vector<CodeRun> RunsOf(const CodeSet& codes)
     return runs;
 }
 
-std::vector<CodeRun> Font::EnabledRuns() const
+std::vector<CodeRange> Font::EnabledRuns() const
 {
     CodeSet codes = enabled_;
     codes &= existing_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/char_bitmap.h"
+#include "model/code_range.h"
 #include "model/code_set.h"
 
 #include <QString>
@@ -30,18 +31,8 @@ struct Character
     std::vector<KerningPair> kerning;
 };
 
-// A stretch of consecutive codes, all enabled.
-struct CodeRun
-{
-    quint16 first;
-    quint16 last;
-
-    [[nodiscard]] int Size() const { return last - first + 1; }
-    bool operator==(const CodeRun&) const = default;
-};
-
 // The maximal runs of consecutive codes of a set, in ascending order.
-[[nodiscard]] std::vector<CodeRun> RunsOf(const CodeSet& codes);
+[[nodiscard]] std::vector<CodeRange> RunsOf(const CodeSet& codes);
 
 // One bitmap font: its metrics, its characters by code, and the codes that are enabled. Only
 // characters that exist and are enabled are saved.
@@ -119,7 +110,7 @@ public:
     }
 
     // The enabled characters as maximal runs of consecutive codes, in ascending order.
-    [[nodiscard]] std::vector<CodeRun> EnabledRuns() const;
+    [[nodiscard]] std::vector<CodeRange> EnabledRuns() const;
 
     // Bytes of one pixel row of the character in a file, all planes together.
     [[nodiscard]] int CharDataWidth(const Character& character) const;

@@ -142,7 +142,7 @@ private:
     void ShowMessage(const QString& text);
     void RefreshViews();
     void RunTogether(const std::function<void()>& work);
-    using MakeAction = std::function<std::shared_ptr<Action>(const CodeRun&)>;
+    using MakeAction = std::function<std::shared_ptr<Action>(const CodeRange&)>;
     void RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make);
     void RunMacro(const QString& text, const std::function<void()>& work);
     void MoveInHistory(bool isUndo);

@@ -193,12 +193,12 @@ void MainWindow::MoveInHistory(bool isUndo)
 // One action for each run of codes, undone as one.
 void MainWindow::RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make)
 {
-    const std::vector<CodeRun> runs = RunsOf(codes);
+    const std::vector<CodeRange> runs = RunsOf(codes);
     if (runs.size() == 1)
         RunAction(make(runs.front()));
     else if (!runs.empty())
         RunMacro(tr("Selection: %1").arg(text), [&] {
-            for (const CodeRun& run : runs)
+            for (const CodeRange& run : runs)
                 make(run)->Run();
         });
 }
@@ -207,7 +207,7 @@ void MainWindow::RunSelectionEdit(const Edit& edit)
 {
     CodeSet codes = table_->SelectedCodes();
     codes &= session_.CurrentFont()->ExistingCodes();
-    RunForEach(codes, LogEntry(edit.log).Translated(), [&](const CodeRun& run) {
+    RunForEach(codes, LogEntry(edit.log).Translated(), [&](const CodeRange& run) {
         auto action = std::make_shared<ActionChar>(session_, edit.type);
         action->Args() = {run.first, run.last};
         return action;
@@ -231,7 +231,7 @@ void MainWindow::RunStateChange(ActionType type)
     const bool isOne = codes.Count() == 1;
     const ActionType state = enables ? ActionType::Enable : ActionType::Disable;
     const ActionType change = isOne ? type : state;
-    RunForEach(codes, LogEntry(LogMessage(state)).Translated(), [&](const CodeRun& run) {
+    RunForEach(codes, LogEntry(LogMessage(state)).Translated(), [&](const CodeRange& run) {
         auto action = std::make_shared<ActionCharState>(session_, change);
         action->Args().first = run.first;
         action->Args().last = run.last;

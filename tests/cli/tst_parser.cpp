@@ -128,9 +128,9 @@ private Q_SLOTS:
         QCOMPARE(occurrences[1].Get<QString>(0), u"a.ttf"_s);
         QCOMPARE(occurrences[2].Get<int>(0), 1);
         QCOMPARE(occurrences[3].Get<int>(0), 1);
-        QCOMPARE(occurrences[4].Get<CharRange>(0), (CharRange{0x7E, 32}));
-        QCOMPARE(occurrences[5].Get<CharRange>(0), (CharRange{0, 0xFFFF}));
-        QCOMPARE(occurrences[6].Get<CharRange>(0), (CharRange{160, 160}));
+        QCOMPARE(occurrences[4].Get<CodeRange>(0), (CodeRange{0x7E, 32}));
+        QCOMPARE(occurrences[5].Get<CodeRange>(0), (CodeRange{0, 0xFFFF}));
+        QCOMPARE(occurrences[6].Get<CodeRange>(0), (CodeRange{160, 160}));
         QCOMPARE(occurrences[7].Get<int>(1), 2);
         QCOMPARE(occurrences[8].Get<int>(0), 16);
         QCOMPARE(occurrences[9].Get<int>(0), 26);

@@ -33,7 +33,7 @@ QByteArray Dump(const Font& font)
     add({int(metrics.format), metrics.height, metrics.height, 1, 1, metrics.baseline,
          metrics.lowercaseHeight, metrics.capitalHeight});
     text += '\n';
-    for (const CodeRun& run : font.EnabledRuns()) {
+    for (const CodeRange& run : font.EnabledRuns()) {
         for (int code = run.first; code <= run.last; ++code) {
             const Character& character = *font.FindChar(quint16(code));
             const CharInfo& info = character.info;

@@ -27,14 +27,14 @@ private Q_SLOTS:
         font.SetEnabled(0xFFF1, 0xFFF1, false);
         font.AddChar(0xFFF1);
         QVERIFY(!font.IsEnabled(0xFFF1));
-        QCOMPARE(font.EnabledRuns(), (std::vector<CodeRun>{{0xFFF0, 0xFFF0}, {0xFFF2, 0xFFFF}}));
+        QCOMPARE(font.EnabledRuns(), (std::vector<CodeRange>{{0xFFF0, 0xFFF0}, {0xFFF2, 0xFFFF}}));
     }
 
     void WholeRange()
     {
         Font font(FontFormat::Standard, EncodingType::Unicode);
         font.SetEnabled(0, 0xFFFF, true);
-        QCOMPARE(font.EnabledRuns(), (std::vector<CodeRun>{{0, 0xFFFF}}));
+        QCOMPARE(font.EnabledRuns(), (std::vector<CodeRange>{{0, 0xFFFF}}));
         QCOMPARE(font.EnabledRuns().front().Size(), 0x10000);
         font.SetEnabled(0, 0xFFFF, false);
         QVERIFY(font.EnabledRuns().empty());

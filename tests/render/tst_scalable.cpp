@@ -151,7 +151,7 @@ private Q_SLOTS:
     {
         Test::RecordingInterface interface;
         const auto font = Render("hostile.ttf", At(10));
-        QCOMPARE(font->EnabledRuns(), (std::vector<CodeRun>{{0, 0xFFFF}}));
+        QCOMPARE(font->EnabledRuns(), (std::vector<CodeRange>{{0, 0xFFFF}}));
         QCOMPARE(interface.warnings,
                  QStringList{u"The font has too many kerning pairs; some were left out."_s});
     }
@@ -218,13 +218,13 @@ private Q_SLOTS:
         filter.SetRange(0x4E9C, 0x4E9C, true);
         filter.SetRange('A', 'A', true);
         QCOMPARE(Render("outlines.ttf", At(20), filter)->EnabledRuns(),
-                 (std::vector<CodeRun>{{'A', 'A'}, {0x4E9C, 0x4E9C}}));
+                 (std::vector<CodeRange>{{'A', 'A'}, {0x4E9C, 0x4E9C}}));
         QVERIFY(!Render("outlines.ttf", At(20), CodeSet())->HasEnabledChars());
 
         RenderOptions options = At(20, FontFormat::LegacyAA4);
         options.encoding = EncodingType::ShiftJis;
         const auto font = Render("outlines.ttf", options, filter);
-        QCOMPARE(font->EnabledRuns(), (std::vector<CodeRun>{{'A', 'A'}, {0x889F, 0x889F}}));
+        QCOMPARE(font->EnabledRuns(), (std::vector<CodeRange>{{'A', 'A'}, {0x889F, 0x889F}}));
         // 0x83A0 is the Greek letter with the glyph of "A".
         QCOMPARE(font->FindChar(0x889F)->kerning,
                  (std::vector<KerningPair>{{' ', 1}, {'A', -2}, {0x839F, -2}, {'A', -2}}));
