@@ -272,8 +272,7 @@ bool Replacement::Commit()
     constexpr mode_t permissions = 0777;
     if (old_) {
         KeepOwner();
-        if (::fchmod(file_, old_->st_mode & permissions) != 0)
-            return Fail();
+        ::fchmod(file_, old_->st_mode & permissions); // some file systems have one mode for all
     }
     ::fsync(file_); // not every file system can
     if (temporary_.isEmpty() && !GiveName())
