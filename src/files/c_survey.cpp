@@ -7,6 +7,7 @@
 #include <array>
 #include <optional>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Glyphor {
@@ -277,7 +278,8 @@ private:
         while (!open.empty()) {
             Item& item = *open.back();
             open.pop_back();
-            item.isOfFont = true;
+            if (std::exchange(item.isOfFont, true))
+                continue; // every block refers to the table
             ForEachIdentifier(item.body, [&](std::string_view word) {
                 const auto found = definitions_.find(word);
                 if (found == definitions_.end() || items_[found->second].isOfFont)

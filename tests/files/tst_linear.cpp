@@ -79,7 +79,7 @@ private Q_SLOTS:
         QVERIFY(Test::IsLinear([&](int size) { read(sample + piece.repeated(size)); }, count));
     }
 
-    void BinaryFiles()
+    void ManyRuns()
     {
         const auto make = [](int count) {
             auto font = std::make_unique<Font>(FontFormat::AA2, EncodingType::Unicode);
@@ -92,6 +92,7 @@ private Q_SLOTS:
             const auto font = make(count);
             FontFileXBF(folder_.filePath(u"%1.xbf"_s.arg(count))).Write(*font);
             FontFileSIF(folder_.filePath(u"%1.sif"_s.arg(count))).Write(*font);
+            FontFileC(folder_.filePath(u"%1.c"_s.arg(count)), {"\n", std::nullopt}).Write(*font);
         };
         constexpr int count = 0x4000;
         write(count);
@@ -102,6 +103,12 @@ private Q_SLOTS:
         QVERIFY(Test::IsLinear(
             [&](int size) { (void)FontFileSIF(folder_.filePath(u"%1.sif"_s.arg(size))).Read(); },
             count));
+        constexpr int few = 0x800;
+        write(few);
+        write(2 * few);
+        QVERIFY(Test::IsLinear(
+            [&](int size) { (void)FontFileC(folder_.filePath(u"%1.c"_s.arg(size)), {}).Read(); },
+            few));
     }
 };
 
