@@ -46,8 +46,8 @@ void BlankComments(QByteArray& text)
 
 void BlankTabs(QByteArray& text)
 {
-    for (const char character : {'\t', '\v', '\f'})
-        text.replace(character, ' ');
+    for (char& character : text)
+        character = character == '\t' || character == '\v' || character == '\f' ? ' ' : character;
 }
 
 } // namespace

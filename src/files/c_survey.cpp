@@ -84,6 +84,14 @@ std::string_view DeclaredName(std::string_view head)
     return last;
 }
 
+// The characters that the cutting of a text looks at.
+constexpr std::array<bool, 256> IsMark = [] {
+    std::array<bool, 256> marks{};
+    for (const unsigned char mark : {'#', '{', '}', ';', '"', '\''})
+        marks[mark] = true;
+    return marks;
+}();
+
 // Cuts a text into its items.
 class ItemList
 {
@@ -95,7 +103,11 @@ public:
 private:
     void Split()
     {
-        while ((at_ = text_.find_first_of("#{};\"'", at_)) != std::string_view::npos) {
+        for (;;) {
+            while (at_ < text_.size() && !IsMark[static_cast<unsigned char>(text_[at_])])
+                ++at_;
+            if (at_ >= text_.size())
+                break;
             switch (text_[at_]) {
             case '#':
                 SkipDirective();
