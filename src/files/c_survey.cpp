@@ -87,8 +87,8 @@ std::string_view DeclaredName(std::string_view head)
 // The characters that the cutting of a text looks at.
 constexpr std::array<bool, 256> IsMark = [] {
     std::array<bool, 256> marks{};
-    for (const unsigned char mark : {'#', '{', '}', ';', '"', '\''})
-        marks[mark] = true;
+    for (const char mark : std::string_view("#{};\"'"))
+        marks[static_cast<unsigned char>(mark)] = true;
     return marks;
 }();
 
