@@ -6,9 +6,9 @@
 #include "actions/session.h"
 #include "files/font_file.h"
 #include "timing.h"
-#include "ui/char_bitmap_view.h"
-#include "ui/char_table_view.h"
-#include "ui/main_window.h"
+#include "ui/editor/char_bitmap_view.h"
+#include "ui/table/char_table_view.h"
+#include "ui/window/main_window.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
-#include "ui/main_window.h"
+#include "ui/window/main_window.h"
 #include "actions/session.h"
 #include "cli/command_line.h"
-#include "ui/application.h"
+#include "ui/support/application.h"
 
 #include <cstdio>
 #include <cstdlib>

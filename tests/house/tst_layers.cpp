@@ -8,36 +8,46 @@ namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
-// Compares the includes of every file with the table of floors in docs/architecture.md.
+// Compares the includes of every file with the tables of docs/architecture.md.
 class TestLayers : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void FloorsIncludeOnlyTheFloorsBelow()
+    void FoldersIncludeOnlyWhatTheirTableAllows_data()
     {
-        const QHash<QString, QStringList> allowed = ReadTable();
-        QVERIFY(allowed.size() >= 6);
-        static const QRegularExpression include(u"^#include \"([a-z]+)/"_s,
-                                                QRegularExpression::MultilineOption);
+        QTest::addColumn<QString>("parent");
+        QTest::addColumn<int>("folders");
+        QTest::newRow("floors") << QString() << 7;
+        QTest::newRow("rooms of the window's floor") << u"ui/"_s << 7;
+    }
+
+    void FoldersIncludeOnlyWhatTheirTableAllows()
+    {
+        QFETCH(QString, parent);
+        QFETCH(int, folders);
+        const QHash<QString, QStringList> allowed = ReadTable(parent);
+        QCOMPARE(allowed.size(), folders);
+        const QRegularExpression include(u"^#include \"%1([a-z]+)/"_s.arg(parent),
+                                         QRegularExpression::MultilineOption);
         int count = 0;
-        for (auto floor = allowed.begin(); floor != allowed.end(); ++floor) {
-            QDirIterator files(Sources(u"/src/"_s + floor.key()), {u"*.h"_s, u"*.cpp"_s});
+        for (auto folder = allowed.begin(); folder != allowed.end(); ++folder) {
+            QDirIterator files(Sources(u"/src/"_s + parent + folder.key()), {u"*.h"_s, u"*.cpp"_s},
+                               QDir::Files, QDirIterator::Subdirectories);
             while (files.hasNext()) {
                 const QString file = files.next();
                 auto matches = include.globalMatch(QString::fromUtf8(Test::ReadAll(file)));
                 while (matches.hasNext()) {
                     const QString included = matches.next().captured(1);
-                    QVERIFY2(included == floor.key() || floor.value().contains(included),
+                    QVERIFY2(included == folder.key() || folder.value().contains(included),
                              qUtf8Printable(file + u" includes "_s + included));
                     ++count;
                 }
             }
         }
         QVERIFY(count > 50);
-        const QStringList folders =
-            QDir(Sources(u"/src"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        for (const QString& folder : folders)
+        const QDir sources(Sources(u"/src/"_s + parent));
+        for (const QString& folder : sources.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
             QVERIFY2(allowed.contains(folder), qUtf8Printable(folder));
     }
 
@@ -48,10 +58,10 @@ private:
     }
 
     // Rows like "| files | ... | model, app |".
-    static QHash<QString, QStringList> ReadTable()
+    static QHash<QString, QStringList> ReadTable(const QString& parent)
     {
-        static const QRegularExpression row(u"^\\| `([a-z]+)/` \\|.*\\| ([a-z, ]*|-) \\|$"_s,
-                                            QRegularExpression::MultilineOption);
+        const QRegularExpression row(u"^\\| `%1([a-z]+)/` \\|.*\\| ([a-z, ]*|-) \\|$"_s.arg(parent),
+                                     QRegularExpression::MultilineOption);
         QHash<QString, QStringList> table;
         auto rows =
             row.globalMatch(QString::fromUtf8(Test::ReadAll(Sources(u"/docs/architecture.md"_s))));

@@ -1,7 +1,7 @@
 #include "support/sample_font.h"
 #include "support/test_main.h"
-#include "ui/char_picture.h"
-#include "ui/char_table_view.h"
+#include "ui/support/char_picture.h"
+#include "ui/table/char_table_view.h"
 
 #include <QElapsedTimer>
 #include <QScrollBar>

@@ -1,6 +1,6 @@
 #include "support/sample_font.h"
 #include "support/test_main.h"
-#include "ui/char_bitmap_view.h"
+#include "ui/editor/char_bitmap_view.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -2,9 +2,9 @@
 #include "app/engine_texts.h"
 #include "files/file_types.h"
 #include "support/test_main.h"
-#include "ui/application.h"
-#include "ui/info_panel.h"
-#include "ui/menu_bar.h"
+#include "ui/support/application.h"
+#include "ui/window/info_panel.h"
+#include "ui/window/menu_bar.h"
 
 #include <QAction>
 #include <QLabel>

@@ -1,8 +1,8 @@
 #include "support/sample_font.h"
 #include "support/test_main.h"
-#include "ui/dialog_parts.h"
-#include "ui/info_panel.h"
-#include "ui/text_preview.h"
+#include "ui/preview/text_preview.h"
+#include "ui/support/dialog_parts.h"
+#include "ui/window/info_panel.h"
 
 #include <QLineEdit>
 #include <QTest>

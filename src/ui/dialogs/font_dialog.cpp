@@ -1,0 +1,368 @@
+#include "ui/dialogs/font_dialog.h"
+
+#include "actions/action_open_font.h"
+#include "app/critical_exception.h"
+#include "app/engine_texts.h"
+#include "app/settings.h"
+#include "app/user_interface.h"
+#include "ui/dialogs/font_size_box.h"
+#include "ui/preview/text_preview.h"
+#include "ui/support/dialog_parts.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QCoreApplication>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <new>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint32 UsualWeight = 400;
+constexpr int ReadableHeight = 60; // of the sample, in pixels of the screen
+
+struct ScriptRow
+{
+    const char* name;
+    int bit; // of the OS/2 table's Unicode ranges
+};
+
+constexpr std::array<ScriptRow, 28> Scripts = {{
+    {QT_TRANSLATE_NOOP("Script", "Latin"), 0},
+    {QT_TRANSLATE_NOOP("Script", "Greek"), 7},
+    {QT_TRANSLATE_NOOP("Script", "Cyrillic"), 9},
+    {QT_TRANSLATE_NOOP("Script", "Armenian"), 10},
+    {QT_TRANSLATE_NOOP("Script", "Hebrew"), 11},
+    {QT_TRANSLATE_NOOP("Script", "Arabic"), 13},
+    {QT_TRANSLATE_NOOP("Script", "Devanagari"), 15},
+    {QT_TRANSLATE_NOOP("Script", "Bengali"), 16},
+    {QT_TRANSLATE_NOOP("Script", "Gurmukhi"), 17},
+    {QT_TRANSLATE_NOOP("Script", "Gujarati"), 18},
+    {QT_TRANSLATE_NOOP("Script", "Tamil"), 20},
+    {QT_TRANSLATE_NOOP("Script", "Telugu"), 21},
+    {QT_TRANSLATE_NOOP("Script", "Kannada"), 22},
+    {QT_TRANSLATE_NOOP("Script", "Malayalam"), 23},
+    {QT_TRANSLATE_NOOP("Script", "Thai"), 24},
+    {QT_TRANSLATE_NOOP("Script", "Lao"), 25},
+    {QT_TRANSLATE_NOOP("Script", "Georgian"), 26},
+    {QT_TRANSLATE_NOOP("Script", "Mathematical operators"), 38},
+    {QT_TRANSLATE_NOOP("Script", "Box drawing"), 43},
+    {QT_TRANSLATE_NOOP("Script", "Hiragana"), 49},
+    {QT_TRANSLATE_NOOP("Script", "Katakana"), 50},
+    {QT_TRANSLATE_NOOP("Script", "Hangul"), 56},
+    {QT_TRANSLATE_NOOP("Script", "CJK ideographs"), 59},
+    {QT_TRANSLATE_NOOP("Script", "Tibetan"), 70},
+    {QT_TRANSLATE_NOOP("Script", "Ethiopic"), 75},
+    {QT_TRANSLATE_NOOP("Script", "Khmer"), 80},
+    {QT_TRANSLATE_NOOP("Script", "Mongolian"), 81},
+    {QT_TRANSLATE_NOOP("Script", "Braille"), 82},
+}};
+
+bool HasRange(const FontFamily& family, int bit)
+{
+    const QList<quint32>& words = family.UnicodeRanges();
+    return bit / 32 < words.size() && (words[bit / 32] >> (bit % 32) & 1) != 0;
+}
+
+// A text that the face has characters for.
+QString SampleOf(const FreeTypeFace& face)
+{
+    constexpr qsizetype length = 40;
+    const QString usual = FontDialog::tr("The quick brown fox 0123456789");
+    QString own;
+    bool hasUsual = false;
+    face.WalkCharmap([&](quint16 code, FT_UInt) {
+        hasUsual = hasUsual || code == u'a';
+        if (QChar(code).isLetter() && own.size() < length)
+            own.append(QChar(code));
+        return !hasUsual;
+    });
+    return hasUsual ? usual : own;
+}
+
+} // namespace
+
+FontDialog::FontDialog(QWidget* parent)
+    : QDialog(parent),
+      search_(new QLineEdit),
+      script_(new QComboBox),
+      families_(new QListWidget),
+      styles_(new QTreeWidget),
+      size_(new FontSizeBox),
+      strip_(new TextStrip),
+      status_(PlainLabel()),
+      index_(new QPushButton)
+{
+    setWindowTitle(tr("New font"));
+    auto* const directories = new QPushButton(tr("Font &directories..."));
+    for (QPushButton* const button : {index_, directories})
+        button->setAutoDefault(false);
+    auto* const indexRow = new QHBoxLayout;
+    indexRow->addWidget(status_, 1);
+    indexRow->addWidget(index_);
+    indexRow->addWidget(directories);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addWidget(MakeChoices(), 1);
+    layout->addWidget(MakeSample());
+    layout->addLayout(indexRow);
+    ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
+
+    const FontDialogData stored = Settings::Instance().fontDialog.load();
+    wantedFamily_ = stored.family;
+    wantedStyle_ = stored.style;
+    size_->SetSize({stored.size, stored.inPoints});
+    script_->setCurrentIndex(std::max(0, script_->findData(stored.script, Qt::UserRole + 1)));
+    resize(720, 560);
+    RestoreGeometry(*this, stored.geometry);
+
+    connect(index_, &QPushButton::clicked, this, [this] {
+        if (isIndexing_)
+            Q_EMIT StopRequested();
+        else
+            Q_EMIT IndexRequested();
+    });
+    connect(directories, &QPushButton::clicked, this, &FontDialog::DirectoriesRequested);
+    connect(search_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        searched_ = text.trimmed(); // without what was completed
+        ShowFamilies();
+    });
+    connect(script_, &QComboBox::currentIndexChanged, this, &FontDialog::ShowFamilies);
+    connect(families_, &QListWidget::currentRowChanged, this, &FontDialog::ShowStyles);
+    connect(styles_, &QTreeWidget::currentItemChanged, this, &FontDialog::ShowSample);
+    connect(styles_, &QTreeWidget::itemActivated, this, [this] {
+        if (ok_->isEnabled())
+            accept();
+    });
+    connect(size_, &FontSizeBox::Changed, this, &FontDialog::ShowSample);
+    Fill();
+    search_->setFocus();
+}
+
+FontDialog::~FontDialog()
+{
+    FontDialogData record = Settings::Instance().fontDialog.load();
+    record.geometry = saveGeometry();
+    if (result() == Accepted) {
+        record.family = wantedFamily_;
+        record.style = wantedStyle_;
+        record.size = Size().value;
+        record.inPoints = Size().inPoints;
+        record.script = script_->currentData(Qt::UserRole + 1).toString();
+    }
+    Settings::Instance().fontDialog.save(record);
+    strip_->SetFont(nullptr);
+}
+
+QWidget* FontDialog::MakeChoices()
+{
+    script_->addItem(tr("All scripts"), -1);
+    for (const ScriptRow& row : Scripts) {
+        script_->addItem(QCoreApplication::translate("Script", row.name), row.bit);
+        script_->setItemData(script_->count() - 1, QString::fromLatin1(row.name), Qt::UserRole + 1);
+    }
+    search_->setClearButtonEnabled(true);
+    search_->setPlaceholderText(tr("A part of the name"));
+    styles_->setHeaderLabels({tr("Style"), tr("Weight"), tr("Slant")});
+    styles_->setRootIsDecorated(false);
+    families_->setAccessibleName(tr("Families"));
+    styles_->setAccessibleName(tr("Styles"));
+    auto* const searchRow = new QHBoxLayout;
+    searchRow->addWidget(LabelFor(*search_, tr("&Search:")));
+    searchRow->addWidget(search_, 1);
+    searchRow->addWidget(LabelFor(*script_, tr("S&cript:")));
+    searchRow->addWidget(script_);
+    auto* const left = new QWidget;
+    auto* const leftLayout = new QVBoxLayout(left);
+    leftLayout->setContentsMargins(0, 0, 0, 0);
+    leftLayout->addWidget(LabelFor(*families_, tr("&Families:")));
+    leftLayout->addWidget(families_, 1);
+    auto* const right = new QWidget;
+    auto* const rightLayout = new QVBoxLayout(right);
+    rightLayout->setContentsMargins(0, 0, 0, 0);
+    rightLayout->addWidget(LabelFor(*styles_, tr("S&tyles:")));
+    rightLayout->addWidget(styles_, 1);
+    auto* const splitter = new QSplitter;
+    splitter->addWidget(left);
+    splitter->addWidget(right);
+    splitter->setChildrenCollapsible(false);
+    auto* const choices = new QWidget;
+    auto* const layout = new QVBoxLayout(choices);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(searchRow);
+    layout->addWidget(splitter, 1);
+    return choices;
+}
+
+QWidget* FontDialog::MakeSample()
+{
+    auto* const sizeRow = new QHBoxLayout;
+    sizeRow->addWidget(LabelFor(*size_, tr("&Height:")));
+    sizeRow->addWidget(size_);
+    sizeRow->addStretch();
+    auto* const area = new QScrollArea;
+    area->setWidget(strip_);
+    area->setWidgetResizable(true);
+    area->setMinimumHeight(90);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto* const sample = new QWidget;
+    auto* const layout = new QVBoxLayout(sample);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(sizeRow);
+    layout->addWidget(area, 1);
+    return sample;
+}
+
+void FontDialog::Fill()
+{
+    database_ = FontDatabase::Current();
+    UpdateCompleter();
+    ShowFamilies();
+}
+
+void FontDialog::SetIndexing(bool isIndexing)
+{
+    isIndexing_ = isIndexing;
+    index_->setText(isIndexing ? tr("Stop inde&xing") : tr("Inde&x again"));
+    ShowStatus();
+}
+
+void FontDialog::ShowStatus()
+{
+    status_->setText(isIndexing_ ? Engine::tr("Indexing font files...")
+                                 : tr("Families: %L1 of %L2")
+                                       .arg(families_->count())
+                                       .arg(qsizetype(database_->Families().size())));
+}
+
+void FontDialog::UpdateCompleter()
+{
+    QStringList names;
+    for (const auto& family : database_->Families())
+        names.append(family->Name());
+    auto* const completer = new QCompleter(names, search_);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setCompletionMode(QCompleter::InlineCompletion); // the list below shows the others
+    search_->setCompleter(completer);
+}
+
+void FontDialog::ShowFamilies()
+{
+    const int bit = script_->currentData().toInt();
+    const QString wanted = wantedFamily_;
+    const QSignalBlocker blocker(families_);
+    families_->clear();
+    for (const auto& family : database_->Families()) {
+        if (family->Name().contains(searched_, Qt::CaseInsensitive) &&
+            (bit < 0 || HasRange(*family, bit)))
+            families_->addItem(family->Name());
+    }
+    const QList<QListWidgetItem*> found = families_->findItems(wanted, Qt::MatchFixedString);
+    families_->setCurrentItem(found.isEmpty() ? families_->item(0) : found.constFirst());
+    ShowStatus();
+    ShowStyles();
+}
+
+const FontFamily* FontDialog::Family() const
+{
+    const QListWidgetItem* const item = families_->currentItem();
+    return item != nullptr ? database_->Find(item->text()) : nullptr;
+}
+
+QString FontDialog::Style() const
+{
+    const QTreeWidgetItem* const item = styles_->currentItem();
+    return item != nullptr ? item->text(0) : QString();
+}
+
+void FontDialog::ShowStyles()
+{
+    const FontFamily* const family = Family();
+    const QString wanted = wantedStyle_;
+    const QSignalBlocker blocker(styles_);
+    styles_->clear();
+    bool hasUsual = false;
+    for (const QString& name : family != nullptr ? family->StyleNames() : QStringList()) {
+        const FaceStyle style = family->Style(name);
+        const QString weight = style.weight > 0 ? QString::number(style.weight) : QString();
+        auto* const item =
+            new QTreeWidgetItem({name, weight, style.italic ? tr("italic") : tr("upright")});
+        styles_->addTopLevelItem(item);
+        const bool isUsual = style.weight == UsualWeight && !style.italic;
+        const QTreeWidgetItem* const chosen = styles_->currentItem();
+        const bool isBetter =
+            isUsual && !hasUsual && chosen != nullptr && chosen->text(0) != wanted;
+        if (chosen == nullptr || name == wanted || isBetter)
+            styles_->setCurrentItem(item);
+        hasUsual = hasUsual || isUsual;
+    }
+    styles_->resizeColumnToContents(0);
+    if (family != nullptr)
+        wantedFamily_ = family->Name();
+    ShowSample();
+}
+
+// In the real face and at the real size; failures show when the font is made.
+void FontDialog::ShowSample()
+{
+    strip_->SetFont(nullptr);
+    sample_.reset();
+    ok_->setEnabled(!Path().isEmpty());
+    if (Path().isEmpty())
+        return;
+    wantedStyle_ = Style();
+    const QString text = SampleOf(Family()->Face(Style()));
+    ActionOpenFontArgs args;
+    args.path = Path();
+    args.faceIndex = FaceIndex();
+    args.format = FontFormat::AA4;
+    args.size = Size();
+    args.selection.emplace();
+    for (const QChar character : text)
+        args.selection->Set(character.unicode(), true);
+    UserInterface silent;
+    const InterfaceScope scope(silent);
+    try {
+        sample_ = ReadFont(args);
+    } catch (const CriticalException&) {
+        return;
+    } catch (const std::bad_alloc&) {
+        return;
+    }
+    strip_->SetText(text);
+    strip_->SetZoom(std::clamp(ReadableHeight / std::max<int>(1, sample_->Metrics().height), 1, 4));
+    strip_->SetFont(sample_.get());
+}
+
+QString FontDialog::Path() const
+{
+    const FontFamily* const family = Family();
+    return family != nullptr ? family->Path(Style()) : QString();
+}
+
+int FontDialog::FaceIndex() const
+{
+    const FontFamily* const family = Family();
+    return family != nullptr ? family->FaceIndex(Style()) : 0;
+}
+
+FontSize FontDialog::Size() const
+{
+    return size_->Size();
+}
+
+} // namespace Glyphor

@@ -1,0 +1,36 @@
+#include "ui/dialogs/font_size_box.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QSpinBox>
+
+namespace Glyphor {
+
+FontSizeBox::FontSizeBox(QWidget* parent)
+    : QWidget(parent), value_(new QSpinBox), unit_(new QComboBox)
+{
+    value_->setRange(1, 1000);
+    unit_->addItems({tr("px"), tr("pt")});
+    unit_->setAccessibleName(tr("Unit of the height"));
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(value_, 1);
+    layout->addWidget(unit_);
+    setFocusProxy(value_);
+    connect(value_, &QSpinBox::valueChanged, this, &FontSizeBox::Changed);
+    connect(unit_, &QComboBox::currentIndexChanged, this, &FontSizeBox::Changed);
+}
+
+FontSize FontSizeBox::Size() const
+{
+    return {value_->value(), unit_->currentIndex() == 1};
+}
+
+void FontSizeBox::SetSize(const FontSize& size)
+{
+    value_->setValue(size.value);
+    unit_->setCurrentIndex(int(size.inPoints));
+    value_->selectAll();
+}
+
+} // namespace Glyphor

@@ -1,0 +1,388 @@
+#include "ui/editor/char_bitmap_view.h"
+
+#include "ui/support/char_picture.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Glyphor {
+
+namespace {
+
+constexpr int ResizeDelay = 20; // milliseconds
+constexpr int MaxZoom = 64;
+
+} // namespace
+
+CharBitmapView::CharBitmapView(QWidget* parent) : QGraphicsView(parent)
+{
+    scene_.setItemIndexMethod(QGraphicsScene::NoIndex); // cells move all at once
+    setScene(&scene_);
+    setAccessibleName(tr("Pixels of the character"));
+    setAcceptDrops(false); // the window takes them
+    setFrameShape(QFrame::NoFrame);
+    setBackgroundRole(QPalette::Window);
+    setBackgroundBrush(palette().window());
+    resizeTimer_.setSingleShot(true);
+    resizeTimer_.setInterval(ResizeDelay);
+    connect(&resizeTimer_, &QTimer::timeout, this, &CharBitmapView::OnTimerResize);
+    hint_ = scene_.addText(tr("This character has no pixels.\nInsert a row or a column to draw."));
+    hint_->setDefaultTextColor(palette().color(QPalette::WindowText));
+    hint_->hide();
+}
+
+int CharBitmapView::Top() const
+{
+    if (character_ == nullptr || IsLegacyFormat(character_->info.font.format))
+        return 0;
+    return character_->info.yPos;
+}
+
+void CharBitmapView::SetCharacter(Character* character)
+{
+    const QPoint selected =
+        current_ != nullptr ? QPoint(current_->Column(), current_->Row()) : QPoint(-1, -1);
+    const bool isOther = character != character_;
+    if (isOther)
+        EndStroke();
+    character_ = character;
+    const int columns = character != nullptr ? character->info.width : 0;
+    const int rows = character != nullptr ? character->info.font.height : 0;
+    const bool isResized = columns != columns_ || rows != rows_;
+    if (isResized || isOther)
+        ForgetPixel();
+    columns_ = columns;
+    rows_ = rows;
+    const QPoint guides = GuidePlace();
+    const bool hasOtherGuides = guides != guides_;
+    guides_ = guides;
+    hint_->setVisible(character != nullptr && (columns == 0 || rows == 0));
+    if (isResized)
+        UpdateItems();
+    if (isResized || hasOtherGuides)
+        PlaceItems();
+    if (character_ != nullptr) {
+        const FramePlane frame(*character_);
+        for (CharPixelItem* const item : items_)
+            item->UpdateFrom(*character_, frame);
+    }
+    if (current_ != nullptr && current_->CellState() != CharPixelItem::Pixel)
+        ForgetPixel();
+    CharPixelItem* const same = isOther ? nullptr : ItemAt(selected.x(), selected.y());
+    if (current_ == nullptr && same != nullptr && same->CellState() == CharPixelItem::Pixel) {
+        current_ = same;
+        current_->setSelected(true);
+        scene_.setFocusItem(current_);
+    }
+    Q_EMIT PixelSelected(current_);
+}
+
+// Where the cursor goes and where the characters stand, in the grid.
+QPoint CharBitmapView::GuidePlace() const
+{
+    if (character_ == nullptr)
+        return {-1, -1};
+    const CharInfo& info = character_->info;
+    return {info.cursorDistance - info.xPos, info.font.baseline};
+}
+
+// There is one item for each cell: they are made or dropped until the number fits.
+void CharBitmapView::UpdateItems()
+{
+    const auto count = static_cast<std::size_t>(columns_) * static_cast<std::size_t>(rows_);
+    while (items_.size() > count) {
+        delete items_.back();
+        items_.pop_back();
+    }
+    while (items_.size() < count) {
+        items_.push_back(new CharPixelItem(*this));
+        scene_.addItem(items_.back());
+    }
+    for (std::size_t index = 0; index < count; ++index)
+        items_[index]->Place(static_cast<int>(index) % columns_,
+                             static_cast<int>(index) / columns_);
+}
+
+// Room for the cursor distance beyond the pixels, unless it is far away.
+int CharBitmapView::ShownColumns() const
+{
+    const int room = std::max(4, columns_);
+    return guides_.x() > columns_ && guides_.x() <= columns_ + room ? guides_.x() : columns_;
+}
+
+// The size of a cell at which the whole grid can be seen.
+qreal CharBitmapView::FittingSize() const
+{
+    return std::max(2.0, std::floor(std::min(qreal(viewport()->width() - 4) / ShownColumns(),
+                                             qreal(viewport()->height() - 4) / rows_)));
+}
+
+void CharBitmapView::PlaceItems()
+{
+    if (items_.empty()) {
+        scene_.setSceneRect(hint_->sceneBoundingRect());
+        return;
+    }
+    cellSize_ = zoom_ > 0 ? std::max(2.0, qreal(zoom_)) : FittingSize();
+    scene_.setSceneRect(0, 0, ShownColumns() * cellSize_, rows_ * cellSize_);
+    for (CharPixelItem* const item : items_)
+        item->setGeometry(
+            {item->Column() * cellSize_, item->Row() * cellSize_, cellSize_, cellSize_});
+    viewport()->update();
+}
+
+CharPixelItem* CharBitmapView::ItemAt(int column, int row) const
+{
+    if (column < 0 || row < 0 || column >= columns_ || row >= rows_)
+        return nullptr;
+    return items_[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+                  static_cast<std::size_t>(column)];
+}
+
+bool CharBitmapView::SelectItem(CharPixelItem* item)
+{
+    if (item == nullptr || item->CellState() != CharPixelItem::Pixel)
+        return false;
+    if (current_ != nullptr && current_ != item) {
+        current_->setSelected(false);
+        current_->update();
+    }
+    current_ = item;
+    item->setSelected(true);
+    item->setFocus();
+    item->update();
+    ensureVisible(item, 0, 0);
+    Q_EMIT PixelSelected(item);
+    return true;
+}
+
+void CharBitmapView::SelectFirstPixel()
+{
+    const auto pixel = std::ranges::find(items_, CharPixelItem::Pixel, &CharPixelItem::CellState);
+    if (pixel != items_.end())
+        SelectItem(*pixel);
+}
+
+QPoint CharBitmapView::SelectedPixel() const
+{
+    return current_ != nullptr ? current_->PixelPosition() : QPoint(-1, -1);
+}
+
+// Takes mark and focus from the cell, before it is one of something else.
+void CharBitmapView::ForgetPixel()
+{
+    if (current_ != nullptr)
+        current_->setSelected(false);
+    scene_.setFocusItem(nullptr);
+    current_ = nullptr;
+}
+
+void CharBitmapView::ClearPixel()
+{
+    ForgetPixel();
+    Q_EMIT PixelSelected(nullptr);
+}
+
+// Straight on the bitmap, with the row of the grid as the row of the bitmap.
+void CharBitmapView::InvertPixel(int column, int row)
+{
+    character_->bitmap->InvertPixelIndex(column, row);
+    SetCharacter(character_);
+    Q_EMIT PixelInverted();
+}
+
+// Thin guides for the baseline and the cursor distance.
+void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
+{
+    if (items_.empty())
+        return;
+    QPen pen(QColor(230, 30, 30), 2);
+    painter->setPen(pen);
+    const qreal baseline = guides_.y() * cellSize_;
+    if (guides_.y() <= rows_)
+        painter->drawLine(QPointF(0, baseline), QPointF(scene_.width(), baseline));
+    pen.setColor(QColor(40, 90, 220));
+    painter->setPen(pen);
+    const qreal advance = guides_.x() * cellSize_;
+    if (guides_.x() >= 0 && guides_.x() <= ShownColumns())
+        painter->drawLine(QPointF(advance, 0), QPointF(advance, scene_.height()));
+}
+
+void CharBitmapView::resizeEvent(QResizeEvent* event)
+{
+    QGraphicsView::resizeEvent(event);
+    resizeTimer_.start();
+}
+
+void CharBitmapView::OnTimerResize()
+{
+    PlaceItems();
+}
+
+void CharBitmapView::SetZoom(int zoom)
+{
+    zoom_ = std::max(0, zoom);
+    PlaceItems();
+}
+
+// Zooms; all the way out fits the view again.
+void CharBitmapView::wheelEvent(QWheelEvent* event)
+{
+    constexpr int notch = 120; // touch pads turn in smaller parts
+    wheelAngle_ += event->angleDelta().y();
+    const int steps = wheelAngle_ / notch;
+    wheelAngle_ -= steps * notch;
+    event->accept();
+    if (items_.empty() || steps == 0)
+        return;
+    const int fitting = static_cast<int>(FittingSize());
+    const int zoom =
+        std::clamp(static_cast<int>(cellSize_) + 2 * steps, 2, std::max(MaxZoom, fitting));
+    SetZoom(zoom <= fitting && steps < 0 ? 0 : zoom);
+}
+
+// Space is a shortcut as well, but here it is the cell's.
+bool CharBitmapView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && current_ != nullptr) {
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Space && key->modifiers() == Qt::NoModifier) {
+            event->accept();
+            return true;
+        }
+    }
+    return QGraphicsView::event(event);
+}
+
+// The arrow keys begin at the first pixel.
+void CharBitmapView::keyPressEvent(QKeyEvent* event)
+{
+    const bool isArrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+    if (current_ == nullptr && isArrow)
+        SelectFirstPixel();
+    else if (current_ != nullptr)
+        QGraphicsView::keyPressEvent(event);
+    else
+        event->ignore();
+}
+
+void CharBitmapView::ShowStatus(const CharPixelItem& item)
+{
+    const QPoint place = item.PixelPosition();
+    if (character_ == nullptr || place.x() < 0)
+        return;
+    const int index = character_->bitmap->GetPixelIndex(place.x(), place.y());
+    Q_EMIT StatusChanged(
+        tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index));
+}
+
+// The grid goes on beyond its ends.
+QPoint CharBitmapView::CellAt(QPoint place) const
+{
+    const QPointF cell = mapToScene(place) / cellSize_;
+    return {static_cast<int>(std::floor(cell.x())), static_cast<int>(std::floor(cell.y()))};
+}
+
+void CharBitmapView::Paint(QPoint cell)
+{
+    CharPixelItem* const item = ItemAt(cell.x(), cell.y());
+    if (item == nullptr || item->CellState() != CharPixelItem::Pixel ||
+        !painted_.insert(item).second)
+        return;
+    const bool inverts = QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier);
+    Q_EMIT PixelPainted(item->Column(), item->Row() - Top(), inverts);
+    ShowStatus(*item);
+}
+
+// Paints all cells on the way, as a fast mouse skips some.
+void CharBitmapView::PaintTo(QPoint place)
+{
+    const QPoint cell = CellAt(place);
+    const QPoint way = cell - lastCell_;
+    const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
+    for (int step = 1; step <= steps; ++step)
+        Paint(lastCell_ + way * (qreal(step) / steps));
+    if (steps == 0)
+        Paint(cell);
+    lastCell_ = cell;
+}
+
+void CharBitmapView::mousePressEvent(QMouseEvent* event)
+{
+    EndStroke();
+    if (!pencil_ || event->button() != Qt::LeftButton || character_ == nullptr) {
+        // Beside the cells there is nothing to select, and the selected one stays.
+        if (itemAt(event->pos()) != nullptr)
+            QGraphicsView::mousePressEvent(event);
+        return;
+    }
+    isPainting_ = true;
+    lastCell_ = CellAt(event->pos());
+    Q_EMIT StrokeBegun();
+    PaintTo(event->pos());
+}
+
+void CharBitmapView::mouseMoveEvent(QMouseEvent* event)
+{
+    // The release may have gone elsewhere.
+    if (isPainting_ && !event->buttons().testFlag(Qt::LeftButton))
+        EndStroke();
+    if (isPainting_)
+        PaintTo(event->pos());
+    else
+        QGraphicsView::mouseMoveEvent(event);
+}
+
+void CharBitmapView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (isPainting_)
+        EndStroke();
+    else
+        QGraphicsView::mouseReleaseEvent(event);
+}
+
+// The frame tells where the keys go.
+void CharBitmapView::paintEvent(QPaintEvent* event)
+{
+    QGraphicsView::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+}
+
+void CharBitmapView::focusInEvent(QFocusEvent* event)
+{
+    QGraphicsView::focusInEvent(event);
+    viewport()->update();
+}
+
+void CharBitmapView::focusOutEvent(QFocusEvent* event)
+{
+    QGraphicsView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void CharBitmapView::hideEvent(QHideEvent* event)
+{
+    EndStroke();
+    QGraphicsView::hideEvent(event);
+}
+
+void CharBitmapView::EndStroke()
+{
+    if (!isPainting_)
+        return;
+    isPainting_ = false;
+    painted_.clear();
+    Q_EMIT StrokeEnded();
+}
+
+} // namespace Glyphor

@@ -1,0 +1,215 @@
+#include "ui/preview/generation_preview.h"
+
+#include "app/critical_exception.h"
+#include "app/progress.h"
+#include "app/user_interface.h"
+#include "ui/preview/text_preview.h"
+#include "ui/support/dialog_parts.h"
+#include "ui/window/info_panel.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <functional>
+#include <new>
+
+namespace Glyphor {
+
+namespace {
+
+constexpr int ShowDelay = 120;   // milliseconds
+constexpr qint64 TurnDelay = 15; // between two turns of the window
+
+// Keeps the warnings of a rendering that is only a preview, and lets the window work meanwhile.
+class PreviewInterface final : public UserInterface
+{
+public:
+    // `isStopped` is asked now and then.
+    explicit PreviewInterface(std::function<bool()> isStopped)
+        : scope_(*this), isStopped_(std::move(isStopped))
+    {
+        sinceTurn_.start();
+    }
+
+    void warning(const QString&, const QString& text) override { warnings.append(text); }
+
+    bool progressChanged(const QString&, int, int) override
+    {
+        if (sinceTurn_.elapsed() >= TurnDelay) {
+            const InterfaceScope window(scope_.Previous());
+            QCoreApplication::processEvents();
+            sinceTurn_.start();
+        }
+        return !isStopped_();
+    }
+
+    QStringList warnings;
+
+private:
+    InterfaceScope scope_;
+    std::function<bool()> isStopped_;
+    QElapsedTimer sinceTurn_;
+};
+
+} // namespace
+
+GenerationPreview::GenerationPreview(QWidget* parent)
+    : QWidget(parent),
+      strip_(new TextStrip),
+      field_(new QLineEdit),
+      sizes_(PlainLabel()),
+      notes_(PlainLabel())
+{
+    auto* const label = new QLabel(tr("&Sample:"));
+    label->setBuddy(field_);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(field_, 1);
+    auto* const area = new QScrollArea;
+    area->setWidget(strip_);
+    area->setWidgetResizable(true);
+    area->setMinimumSize(300, 130);
+    area->setFocusPolicy(Qt::NoFocus);
+    strip_->SetZoom(2);
+    notes_->setWordWrap(true);
+    sizes_->setWordWrap(true);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(row);
+    layout->addWidget(area, 1);
+    layout->addWidget(sizes_);
+    layout->addWidget(notes_);
+    timer_.setSingleShot(true);
+    timer_.setInterval(ShowDelay);
+    connect(&timer_, &QTimer::timeout, this, &GenerationPreview::Render);
+    connect(field_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        strip_->SetText(text);
+        if (!args_.path.isEmpty())
+            Show(args_, tellsMissing_);
+    });
+}
+
+GenerationPreview::~GenerationPreview()
+{
+    strip_->SetFont(nullptr);
+}
+
+QString GenerationPreview::Sample() const
+{
+    return field_->text();
+}
+
+void GenerationPreview::SetSample(const QString& sample)
+{
+    field_->setText(sample);
+    field_->setCursorPosition(0);
+}
+
+void GenerationPreview::Show(const ActionOpenFontArgs& args, bool tellsMissing)
+{
+    args_ = args;
+    tellsMissing_ = tellsMissing;
+    isStale_ = true;
+    timer_.start();
+}
+
+void GenerationPreview::ShowFault(const QString& fault)
+{
+    Stop();
+    SetFont(nullptr);
+    sizes_->clear();
+    notes_->setText(fault);
+}
+
+void GenerationPreview::Stop()
+{
+    timer_.stop();
+    isStale_ = true;
+}
+
+void GenerationPreview::SetFont(std::unique_ptr<Font> font)
+{
+    strip_->SetFont(font.get());
+    font_ = std::move(font);
+}
+
+// The window has its turns in here, so this can come up again before it ends.
+void GenerationPreview::Render()
+{
+    if (isRendering_) {
+        timer_.start();
+        return;
+    }
+    const QScopedValueRollback rendering(isRendering_, true);
+    isStale_ = false;
+    try {
+        RenderSample();
+        RenderAll();
+        Q_EMIT Finished();
+    } catch (const WorkStopped&) {
+        // Something else is to be shown.
+    } catch (const CriticalException& error) {
+        ShowFault(error.Text());
+    } catch (const std::bad_alloc&) {
+        ShowFault(tr("There is not enough memory."));
+    }
+}
+
+void GenerationPreview::RenderSample()
+{
+    PreviewInterface interface([this] { return isStale_; });
+    ActionOpenFontArgs args = args_;
+    CodeSet codes;
+    for (const QChar character : field_->text())
+        codes.Set(character.unicode(), true);
+    if (args.selection)
+        codes &= *args.selection;
+    args.selection = codes;
+    SetFont(ReadFont(args));
+    sizes_->setText(
+        tr("Line height: %1 px, em size: %2 px").arg(font_->Metrics().height).arg(EmSize(args)));
+    notes_->clear();
+}
+
+void GenerationPreview::RenderAll()
+{
+    PreviewInterface interface([this] { return isStale_; });
+    const std::unique_ptr<Font> all = ReadFont(args_);
+    int count = 0;
+    all->ForEachEnabled([&count](quint16, const Character&) { ++count; });
+    sizes_->setText(tr("Line height: %1 px, em size: %2 px, characters: %L3, flash: %L4 bytes")
+                        .arg(QString::number(all->Metrics().height), QString::number(EmSize(args_)))
+                        .arg(count)
+                        .arg(FlashSize(*all)));
+    QStringList notes = interface.warnings;
+    if (count == 0)
+        notes.append(tr("The font has none of these characters."));
+    else if (const QString missing = MissingFrom(*all); !missing.isEmpty())
+        notes.append(tr("Not in the font: %1").arg(missing));
+    notes_->setText(notes.join(u'\n'));
+}
+
+// The first ones of the selected characters that did not come out.
+QString GenerationPreview::MissingFrom(const Font& font) const
+{
+    constexpr qsizetype most = 40;
+    QString missing;
+    if (!tellsMissing_ || !args_.selection)
+        return missing;
+    const CodeSet& codes = *args_.selection;
+    for (int unicode = codes.Next(0); unicode < CodeSet::Limit && missing.size() < most;
+         unicode = codes.Next(unicode + 1)) {
+        const auto code = Encoded(quint16(unicode), font.Metrics().encoding);
+        if (QChar(unicode).isPrint() && (!code || font.FindChar(*code) == nullptr))
+            missing.append(QChar(unicode));
+    }
+    return missing;
+}
+
+} // namespace Glyphor

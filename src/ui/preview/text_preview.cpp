@@ -1,0 +1,256 @@
+#include "ui/preview/text_preview.h"
+
+#include "model/encoding.h"
+#include "ui/support/char_picture.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QDataStream>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Margin = 6; // around the text, in pixels of the screen
+
+} // namespace
+
+TextStrip::TextStrip(QWidget* parent) : QWidget(parent)
+{
+    setAccessibleName(tr("Sample in the font's pixels"));
+}
+
+// As large as the text: what is around it scrolls.
+void TextStrip::Resized()
+{
+    setMinimumSize(sizeHint());
+    update();
+}
+
+void TextStrip::SetFont(const Font* font)
+{
+    font_ = font;
+    Resized();
+}
+
+void TextStrip::SetText(const QString& text)
+{
+    text_ = text;
+    Resized();
+}
+
+void TextStrip::SetZoom(int zoom)
+{
+    zoom_ = zoom;
+    Resized();
+}
+
+void TextStrip::SetKerning(bool isOn)
+{
+    kerning_ = isOn;
+    Resized();
+}
+
+void TextStrip::SetColours(const QColor& ink, const QColor& paper)
+{
+    ink_ = ink;
+    paper_ = paper;
+    update();
+}
+
+const Character* TextStrip::Find(QChar character) const
+{
+    quint16 code = character.unicode();
+    const bool isEncoded =
+        font_ != nullptr &&
+        EncodingFor(EncodingType::Unicode).Convert(font_->Metrics().encoding, code);
+    return isEncoded && font_->IsEnabled(code) ? font_->FindChar(code) : nullptr;
+}
+
+int TextStrip::KerningBetween(QChar left, QChar right) const
+{
+    const Character* const character = Find(left);
+    quint16 code = right.unicode();
+    if (!kerning_ || character == nullptr ||
+        !EncodingFor(EncodingType::Unicode).Convert(font_->Metrics().encoding, code))
+        return 0;
+    const auto pair = std::ranges::find(character->kerning, code, &KerningPair::right);
+    return pair == character->kerning.end() ? 0 : pair->distance;
+}
+
+// Missing characters show as boxes.
+int TextStrip::MissingWidth() const
+{
+    return std::max(3, font_->Metrics().height / 2);
+}
+
+QList<int> TextStrip::Positions() const
+{
+    QList<int> positions;
+    int x = 0;
+    for (qsizetype index = 0; font_ != nullptr && index < text_.size(); ++index) {
+        if (index > 0)
+            x += KerningBetween(text_[index - 1], text_[index]);
+        positions.append(x);
+        const Character* const character = Find(text_[index]);
+        x += character != nullptr ? int(character->info.cursorDistance) : MissingWidth();
+    }
+    positions.append(x);
+    return positions;
+}
+
+QSize TextStrip::sizeHint() const
+{
+    const int height = font_ != nullptr ? font_->Metrics().height : 16;
+    return {Positions().last() * zoom_ + 2 * Margin, height * zoom_ + 2 * Margin};
+}
+
+void TextStrip::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), paper_);
+    if (font_ == nullptr)
+        return;
+    const QList<int> positions = Positions();
+    for (qsizetype index = 0; index < text_.size(); ++index) {
+        const Character* const character = Find(text_[index]);
+        if (character == nullptr) {
+            PaintMissing(painter, positions[index]);
+            continue;
+        }
+        const QImage picture = CharPicture(*character, ink_, paper_);
+        const CharInfo& info = character->info;
+        const bool isLegacy = IsLegacyFormat(info.font.format);
+        const QPoint origin(positions[index] + info.xPos, isLegacy ? 0 : info.yPos);
+        painter.drawImage(QRect(origin * zoom_ + QPoint(Margin, Margin), picture.size() * zoom_),
+                          picture);
+    }
+}
+
+void TextStrip::PaintMissing(QPainter& painter, int x) const
+{
+    const int height = font_->Metrics().height;
+    painter.setPen(QPen(ink_, 1, Qt::DotLine));
+    painter.drawRect(QRect(QPoint(x, 0) * zoom_ + QPoint(Margin, Margin),
+                           QSize(MissingWidth() - 1, height - 1) * zoom_));
+}
+
+TextPreview::TextPreview(QWidget* parent)
+    : QWidget(parent),
+      strip_(new TextStrip),
+      field_(new QLineEdit(tr("The quick brown fox jumps over the lazy dog. 0123456789"))),
+      zoom_(new QSpinBox),
+      kerning_(new QCheckBox(tr("&Kerning"))),
+      inkButton_(new QToolButton),
+      paperButton_(new QToolButton)
+{
+    auto* const label = new QLabel(tr("Sa&mple:"));
+    label->setBuddy(field_);
+    field_->setAccessibleName(tr("Sample text"));
+    zoom_->setRange(1, 8);
+    zoom_->setPrefix(tr("×"));
+    zoom_->setAccessibleName(tr("Zoom of the sample"));
+    ShowColour(*inkButton_, ink_);
+    ShowColour(*paperButton_, paper_);
+    inkButton_->setToolTip(tr("Colour of the ink"));
+    paperButton_->setToolTip(tr("Colour of the paper"));
+    for (QToolButton* const button : {inkButton_, paperButton_})
+        button->setAccessibleName(button->toolTip());
+
+    auto* const controls = new QHBoxLayout;
+    for (QWidget* const widget :
+         std::initializer_list<QWidget*>{label, field_, zoom_, kerning_, inkButton_, paperButton_})
+        controls->addWidget(widget, widget == field_ ? 1 : 0);
+    auto* const area = new QScrollArea;
+    area->setWidget(strip_);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::StyledPanel);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 4, 6, 4);
+    layout->addLayout(controls);
+    layout->addWidget(area, 1);
+
+    connect(field_, &QLineEdit::textChanged, strip_, &TextStrip::SetText);
+    connect(zoom_, &QSpinBox::valueChanged, strip_, &TextStrip::SetZoom);
+    connect(kerning_, &QCheckBox::toggled, strip_, &TextStrip::SetKerning);
+    connect(inkButton_, &QToolButton::clicked, this,
+            [this] { ChooseColour(ink_, *inkButton_, tr("Ink")); });
+    connect(paperButton_, &QToolButton::clicked, this,
+            [this] { ChooseColour(paper_, *paperButton_, tr("Paper")); });
+    zoom_->setValue(2);
+    field_->setCursorPosition(0);
+    strip_->SetText(field_->text());
+}
+
+void TextPreview::SetFont(const Font* font)
+{
+    strip_->SetFont(font);
+    kerning_->setEnabled(font != nullptr && font->HasKerning());
+}
+
+QByteArray TextPreview::State() const
+{
+    QByteArray state;
+    QDataStream stream(&state, QIODevice::WriteOnly);
+    stream << field_->text() << qint32(zoom_->value()) << kerning_->isChecked() << ink_ << paper_;
+    return state;
+}
+
+void TextPreview::RestoreState(const QByteArray& state)
+{
+    QDataStream stream(state);
+    QString text;
+    qint32 zoom = 0;
+    bool hasKerning = false;
+    QColor ink;
+    QColor paper;
+    stream >> text >> zoom >> hasKerning >> ink >> paper;
+    if (stream.status() != QDataStream::Ok)
+        return;
+    field_->setText(text);
+    field_->setCursorPosition(0);
+    zoom_->setValue(zoom);
+    kerning_->setChecked(hasKerning);
+    ink_ = ink;
+    paper_ = paper;
+    ShowColour(*inkButton_, ink_);
+    ShowColour(*paperButton_, paper_);
+    strip_->SetColours(ink_, paper_);
+}
+
+void TextPreview::Refresh()
+{
+    strip_->Resized();
+}
+
+void TextPreview::ChooseColour(QColor& colour, QToolButton& button, const QString& title)
+{
+    const QColor chosen = QColorDialog::getColor(colour, this, title);
+    if (!chosen.isValid())
+        return;
+    colour = chosen;
+    ShowColour(button, chosen);
+    strip_->SetColours(ink_, paper_);
+}
+
+void TextPreview::ShowColour(QToolButton& button, const QColor& colour)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(colour);
+    button.setIcon(pixmap);
+}
+
+} // namespace Glyphor

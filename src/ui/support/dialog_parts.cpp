@@ -1,0 +1,109 @@
+#include "ui/support/dialog_parts.h"
+
+#include "app/settings.h"
+#include "app/shown_text.h"
+#include "model/code_set.h"
+#include "model/code_text.h"
+#include "model/encoding.h"
+#include "model/unicode_table.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
+                             QDialogButtonBox::StandardButtons kinds)
+{
+    auto* const buttons = new QDialogButtonBox(kinds, Qt::Horizontal, &dialog);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    layout.addWidget(buttons);
+    return buttons;
+}
+
+QMessageBox::StandardButton ShowPlainBox(QWidget* parent, QMessageBox::Icon icon,
+                                         const QString& title, const QString& text,
+                                         QMessageBox::StandardButtons buttons,
+                                         QMessageBox::StandardButton defaultButton)
+{
+    QMessageBox box(icon, title, text, buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(defaultButton);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+QLabel* PlainLabel(const QString& text)
+{
+    auto* const label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QString TitlePart(const QString& name)
+{
+    return Shown(name).replace("[*]"_L1, "[*][*]"_L1);
+}
+
+QLabel* LabelFor(QWidget& buddy, const QString& text)
+{
+    auto* const label = new QLabel(text);
+    label->setBuddy(&buddy);
+    return label;
+}
+
+std::optional<quint16> Encoded(quint16 unicode, EncodingType encoding)
+{
+    quint16 code = unicode;
+    const bool isEncoded = EncodingFor(EncodingType::Unicode).Convert(encoding, code);
+    return isEncoded ? std::optional(code) : std::nullopt;
+}
+
+std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
+{
+    const QString trimmed = text.trimmed();
+    if (trimmed.size() == 1 && !trimmed[0].isDigit())
+        return Encoded(trimmed[0].unicode(), encoding);
+    const bool isUnicode = trimmed.startsWith(u"U+"_s, Qt::CaseInsensitive);
+    const bool isHexadecimal = isUnicode || trimmed.startsWith(u"0x"_s, Qt::CaseInsensitive);
+    bool isNumber = false;
+    const uint code =
+        isHexadecimal ? trimmed.mid(2).toUInt(&isNumber, 16) : trimmed.toUInt(&isNumber, 10);
+    if (!isNumber || code >= CodeSet::Limit)
+        return std::nullopt;
+    return isUnicode ? Encoded(quint16(code), encoding) : std::optional(quint16(code));
+}
+
+QString CodeText(int code)
+{
+    const bool isHexadecimal = Settings::Instance().numeralSystem.value() != 0;
+    return isHexadecimal ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
+}
+
+const std::vector<UnicodeBlock>& UnicodeBlocks()
+{
+    static const std::vector<UnicodeBlock> blocks = [] {
+        std::vector<UnicodeBlock> list;
+        for (int code = 0; code < CodeSet::Limit; ++code) {
+            const auto code16 = quint16(code);
+            if (BlockIndex(code16) < 0)
+                continue;
+            const auto [first, last] = BlockRange(code16);
+            list.push_back({QString(BlockName(code16)), first, last});
+            code = last;
+        }
+        return list;
+    }();
+    return blocks;
+}
+
+void RestoreGeometry(QDialog& dialog, const QByteArray& geometry)
+{
+    if (!geometry.isEmpty())
+        dialog.restoreGeometry(geometry);
+}
+
+} // namespace Glyphor

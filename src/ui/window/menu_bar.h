@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/window/menu_table.h"
+
+#include <QHash>
+#include <QMenuBar>
+
+namespace Glyphor {
+
+// The menus of the main window, made from the menu table, and their commands by number.
+class MenuBar final : public QMenuBar
+{
+    Q_OBJECT
+
+public:
+    explicit MenuBar(QWidget* parent);
+
+    // Null for an unknown number.
+    [[nodiscard]] QAction* Command(quint32 id) const { return commands_.value(id); }
+    [[nodiscard]] QAction* Command(ActionType action) const { return Command(CommandId(action)); }
+    [[nodiscard]] QAction* Command(WindowCommand command) const
+    {
+        return Command(CommandId(command));
+    }
+
+    [[nodiscard]] QMenu* Submenu(SubmenuId id) const { return submenus_.value(id); }
+
+Q_SIGNALS:
+    void CommandTriggered(quint32 id);
+
+private:
+    void Build(std::span<const MenuRow> rows, QMenu* parent);
+    void AddSubmenu(const MenuRow& row, QMenu* parent);
+    void AddCommand(const MenuRow& row, QMenu* parent);
+
+    QHash<quint32, QAction*> commands_;
+    QHash<SubmenuId, QMenu*> submenus_;
+};
+
+} // namespace Glyphor
