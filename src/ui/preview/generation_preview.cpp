@@ -5,7 +5,6 @@
 #include "app/user_interface.h"
 #include "ui/preview/text_preview.h"
 #include "ui/support/dialog_parts.h"
-#include "ui/window/info_panel.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
