@@ -9,6 +9,7 @@
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/table/char_table_view.h"
 #include "ui/window/main_window.h"
+#include "ui/window/menu_bar.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -68,7 +69,7 @@ void MeasureTable()
     Measure("selecting a character far away", [&] { table.SetCurrentCode(code += 7001); });
     Measure("scrolling by a page",
             [&] { table.verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd); });
-    const auto run = [&](ActionType type) { window.RunCommand(quint32(type)); };
+    const auto run = [&](ActionType type) { window.Menus().Command(type)->trigger(); };
     Measure("an edit of one character", [&] { run(ActionType::InsertColumnRight); });
     Measure("an edit of the font", [&] { run(ActionType::FontInsertRowTop); });
     std::printf("A font of 8,192 characters with gaps, all selected\n");
@@ -77,7 +78,7 @@ void MeasureTable()
     QKeyEvent selectAll(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
     QCoreApplication::sendEvent(&table, &selectAll);
     Measure("an edit of them", [&] { run(ActionType::ShiftLeft); });
-    Measure("undoing it", [&] { window.RunCommand(quint32(WindowCommand::Undo)); });
+    Measure("undoing it", [&] { window.Menus().Command(WindowCommand::Undo)->trigger(); });
     SetCurrentInterface(nullptr);
 }
 
@@ -97,10 +98,11 @@ void MeasureEditor()
     int column = 0;
     Measure("selecting a pixel", [&] { editor.SelectItem(editor.ItemAt(++column, 100)); });
     Measure("an edit of a pixel",
-            [&] { window.RunCommand(quint32(ActionType::InvertPixelIndex)); });
-    Measure("an edit of the character", [&] { window.RunCommand(quint32(ActionType::ShiftLeft)); });
+            [&] { window.Menus().Command(ActionType::InvertPixelIndex)->trigger(); });
+    Measure("an edit of the character",
+            [&] { window.Menus().Command(ActionType::ShiftLeft)->trigger(); });
     Measure("a change of the width",
-            [&] { window.RunCommand(quint32(ActionType::DeleteColumnLeft)); });
+            [&] { window.Menus().Command(ActionType::DeleteColumnLeft)->trigger(); });
     Measure("painting all of it", [&] { (void)editor.grab(); });
     SetCurrentInterface(nullptr);
 }

@@ -1,10 +1,14 @@
+#include "actions/session.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/editor/char_bitmap_view.h"
+#include "ui/editor/pencil_tool.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
 
 namespace Glyphor {
@@ -30,7 +34,7 @@ class TestEditor : public QObject
         view_ = std::make_unique<CharBitmapView>();
         view_->resize(220, 200);
         view_->show();
-        view_->SetCharacter(&character);
+        view_->SetCharacter(&character, 'B');
         QTest::qWait(40); // for the delayed layout
     }
 
@@ -64,7 +68,7 @@ private Q_SLOTS:
             for (int x = 0; x < 5; ++x)
                 for (int y = 0; y < 2; ++y)
                     font_->FindChar('B')->bitmap->SetPixelIndex(x, y, int(x == 1 && y == 0));
-            view_->SetCharacter(font_->FindChar('B'));
+            view_->SetCharacter(font_->FindChar('B'), 'B');
         }
         QCOMPARE(view_->ColumnCount(), 5);
         QCOMPARE(view_->RowCount(), 4);
@@ -88,7 +92,7 @@ private Q_SLOTS:
         Character& character = *font_->FindChar('B');
         for (const auto& [index, alpha] : {std::pair(0, 0), std::pair(5, 85), std::pair(15, 255)}) {
             character.bitmap->SetPixelIndex(2, 0, index);
-            view_->SetCharacter(&character);
+            view_->SetCharacter(&character, 'B');
             const QColor colour = view_->ItemAt(2, 1)->Colour();
             QCOMPARE(colour.alpha(), alpha);
             QCOMPARE(colour.rgb() & 0xFFFFFF, 0U);
@@ -123,15 +127,11 @@ private Q_SLOTS:
     void Space()
     {
         Show(FontFormat::Standard);
-        const CharBitmap& bitmap = *font_->FindChar('B')->bitmap;
         QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(3, 1));
-        const int before = bitmap.GetPixelIndex(3, 1);
-        const int other = bitmap.GetPixelIndex(3, 0);
-        QSignalSpy inversions(view_.get(), &CharBitmapView::PixelInverted);
+        QSignalSpy inversions(view_.get(), &CharBitmapView::InversionRequested);
         QTest::keyClick(view_->viewport(), Qt::Key_Space);
-        QCOMPARE(bitmap.GetPixelIndex(3, 1), 1 - before);
-        QCOMPARE(bitmap.GetPixelIndex(3, 0), other);
         QCOMPARE(inversions.count(), 1);
+        QCOMPARE(inversions[0], (QVariantList{3, 1}));
     }
 
     void HoverTellsTheIndex()
@@ -147,40 +147,37 @@ private Q_SLOTS:
         QCOMPARE(texts.takeFirst()[0].toString(), QString());
     }
 
-    void Pencil()
-    {
-        Show(FontFormat::AA4);
-        view_->SetPencil(true);
-        QSignalSpy painted(view_.get(), &CharBitmapView::PixelPainted);
-        QSignalSpy ends(view_.get(), &CharBitmapView::StrokeEnded);
-        QTest::mousePress(view_->viewport(), Qt::LeftButton, {}, Place(0, 1));
-        QTest::mouseMove(view_->viewport(), Place(1, 1));
-        QTest::mouseMove(view_->viewport(), Place(1, 0)); // outside
-        QTest::mouseRelease(view_->viewport(), Qt::LeftButton, {}, Place(1, 0));
-        QCOMPARE(painted.count(), 2);
-        QCOMPARE(painted[1], (QVariantList{1, 0, false}));
-        QCOMPARE(ends.count(), 1);
-    }
-
-    // A fast mouse skips cells, and comes back to some.
+    // A fast mouse skips cells, comes back to some, and is let go elsewhere.
     void PencilPaintsTheWayOnce()
     {
+        Session session;
         Show(FontFormat::AA4);
-        view_->SetPencil(true);
-        QSignalSpy painted(view_.get(), &CharBitmapView::PixelPainted);
-        QSignalSpy ends(view_.get(), &CharBitmapView::StrokeEnded);
+        session.ReplaceFont(std::move(font_), {});
+        PencilTool pencil(session, *view_);
+        pencil.ShowFont(session.CurrentFont());
+        pencil.Command().setChecked(true);
+        QSignalSpy ends(&pencil, &PencilTool::StrokeEnded);
         const auto move = [this](QPoint place, Qt::MouseButtons buttons) {
             QMouseEvent event(QEvent::MouseMove, place, view_->viewport()->mapToGlobal(place),
                               Qt::NoButton, buttons, Qt::NoModifier);
             QApplication::sendEvent(view_->viewport(), &event);
         };
+        const CharBitmap& bitmap = *view_->CurrentCharacter()->bitmap;
+        for (int x = 0; x < 5; ++x)
+            session.CurrentFont()->FindChar('B')->bitmap->SetPixelIndex(x, 0, 0);
         QTest::mousePress(view_->viewport(), Qt::LeftButton, {}, Place(0, 1));
         move(Place(4, 1), Qt::LeftButton);
+        move(Place(4, 0), Qt::LeftButton); // outside
+        for (int x = 0; x < 5; ++x)
+            QCOMPARE(bitmap.GetPixelIndex(x, 0), 15);
+        pencil.IndexBox().setValue(3);
         move(Place(0, 1), Qt::LeftButton);
-        QCOMPARE(painted.count(), 5);
-        move(Place(0, 2), Qt::NoButton); // the release went elsewhere
+        QCOMPARE(bitmap.GetPixelIndex(2, 0), 15);
+        const int below = bitmap.GetPixelIndex(0, 1);
+        move(Place(0, 2), Qt::NoButton);
         QCOMPARE(ends.count(), 1);
-        QCOMPARE(painted.count(), 5);
+        QCOMPARE(bitmap.GetPixelIndex(0, 1), below);
+        QCOMPARE(session.Stack().count(), 1);
     }
 
     void KeysAloneSelect()

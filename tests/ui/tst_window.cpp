@@ -10,10 +10,12 @@
 #include "ui/dialogs/font_generation_dialog.h"
 #include "ui/dialogs/format_box.h"
 #include "ui/dialogs/preferences_dialog.h"
+#include "ui/document/document.h"
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/preview/text_preview.h"
 #include "ui/table/char_table_view.h"
+#include "ui/window/help.h"
 #include "ui/window/main_window.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/progress_area.h"
@@ -27,6 +29,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -123,7 +126,7 @@ class TestWindow : public QObject
     {
         const QString path = Path("sample.sif");
         FontFileSample(format, path);
-        QVERIFY(window_->OpenFile(path));
+        QVERIFY(window_->CurrentDocument().OpenFile(path));
         window_->Table().SetCurrentCode('A');
     }
 
@@ -385,24 +388,42 @@ private Q_SLOTS:
     void StrokesAreOneStep()
     {
         OpenSample(FontFormat::AA4);
+        CurrentFont().FindChar('B')->info.yPos = 0;
         window_->Table().SetCurrentCode('B');
+        CurrentFont().FindChar('B')->bitmap->SetPixelIndex(0, 1, 15); // as the pencil paints
         const QByteArray before = Test::Snapshot(CurrentFont());
-        CharBitmapView& editor = window_->Editor();
-        for (const bool inverts : {false, true}) {
-            Q_EMIT editor.StrokeBegun();
-            for (int x = 0; x < 4; ++x)
-                Q_EMIT editor.PixelPainted(x, 1, inverts);
-            Q_EMIT editor.StrokeEnded();
+        const auto stroke = [this](int first, int last, Qt::KeyboardModifiers modifiers = {}) {
+            CharBitmapView& editor = window_->Editor();
+            const auto place = [&](int column) {
+                return editor.mapFromScene(
+                    editor.ItemAt(column, 1 + editor.Top())->rect().center());
+            };
+            QTest::mousePress(editor.viewport(), Qt::LeftButton, modifiers, place(first));
+            QMouseEvent move(QEvent::MouseMove, place(last),
+                             editor.viewport()->mapToGlobal(place(last)), Qt::NoButton,
+                             Qt::LeftButton, modifiers);
+            QApplication::sendEvent(editor.viewport(), &move);
+            QTest::mouseRelease(editor.viewport(), Qt::LeftButton, modifiers, place(last));
+        };
+        stroke(0, 3);
+        QCOMPARE(session_->Stack().count(), 0); // it selects
+        for (QAction* const tool : window_->findChildren<QAction*>()) {
+            if (tool->text() == u"Pencil"_s)
+                tool->trigger();
         }
+        stroke(0, 3);
+        QCOMPARE(session_->Stack().count(), 1);
+        for (int x = 0; x < 4; ++x)
+            QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(x, 1), 15);
+        stroke(3, 0, Qt::ControlModifier);
         QCOMPARE(session_->Stack().count(), 2);
-        QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 0);
+        for (int x = 0; x < 4; ++x)
+            QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(x, 1), 0);
         Trigger(WindowCommand::Undo);
-        QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 15);
+        stroke(0, 3); // changes nothing
+        QVERIFY(session_->Stack().canRedo());
         Trigger(WindowCommand::Undo);
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
-        Q_EMIT editor.StrokeBegun();
-        Q_EMIT editor.StrokeEnded();
-        QVERIFY(!session_->Stack().canUndo());
     }
 
     void SavesAndTells()
@@ -415,7 +436,7 @@ private Q_SLOTS:
         QVERIFY(!window_->isWindowModified());
         Session other;
         QVERIFY(session_->Path().endsWith(u"sample.sif"_s));
-        QVERIFY(window_->OpenFile(session_->Path()));
+        QVERIFY(window_->CurrentDocument().OpenFile(session_->Path()));
         QCOMPARE(int(CurrentFont().Metrics().height), 4);
     }
 
@@ -424,7 +445,7 @@ private Q_SLOTS:
     {
         const QByteArray name = "<h1>[*]&amp;\n.sif";
         FontFileSample(FontFormat::AA2, Path(name.constData()));
-        QVERIFY(window_->OpenFile(Path(name.constData())));
+        QVERIFY(window_->CurrentDocument().OpenFile(Path(name.constData())));
         QVERIFY(window_->windowTitle().startsWith(u"<h1>[*][*]&amp;\\n.sif[*] "_s));
         for (const QLabel* const label : window_->statusBar()->findChildren<QLabel*>())
             QCOMPARE(label->textFormat(), Qt::PlainText);
@@ -434,7 +455,7 @@ private Q_SLOTS:
             box.accept();
         });
         Test::WriteAll(Path("<b>x.xbf"), "nothing");
-        QVERIFY(!window_->OpenFile(Path("<b>x.xbf")));
+        QVERIFY(!window_->CurrentDocument().OpenFile(Path("<b>x.xbf")));
         QVERIFY(isPlain);
     }
 
@@ -444,7 +465,7 @@ private Q_SLOTS:
         const QByteArray text = Test::ReadAll(Path("code.c")) + "int used;\n";
         Test::WriteAll(Path("code.c"), text);
         BoxAnswer told(QMessageBox::Ok);
-        QVERIFY(window_->OpenFile(Path("code.c")));
+        QVERIFY(window_->CurrentDocument().OpenFile(Path("code.c")));
         QVERIFY(told.text.endsWith(u"Beside it: used"_s));
         for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
             BoxAnswer answer(button);
@@ -462,7 +483,7 @@ private Q_SLOTS:
         Test::WriteAll(Path("bad.c"), "nothing");
         const Font* const before = session_->CurrentFont();
         BoxAnswer answer(QMessageBox::Ok);
-        QVERIFY(!window_->OpenFile(Path("bad.c")));
+        QVERIFY(!window_->CurrentDocument().OpenFile(Path("bad.c")));
         QVERIFY(answer.text.startsWith(u"Error reading C file!: GUI_FONT structure"_s));
         QCOMPARE(session_->CurrentFont(), before);
     }
@@ -472,19 +493,19 @@ private Q_SLOTS:
         const QString path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
         {
             const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) { dialog.reject(); });
-            QVERIFY(!window_->OpenFile(path));
+            QVERIFY(!window_->CurrentDocument().OpenFile(path));
             QVERIFY(answer.wasAsked && session_->CurrentFont() == nullptr);
         }
         const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) {
             dialog.template findChild<QSpinBox*>()->setValue(20);
             dialog.accept();
         });
-        QVERIFY(window_->OpenFile(path));
+        QVERIFY(window_->CurrentDocument().OpenFile(path));
         QVERIFY(answer.wasAsked && session_->CurrentFont()->FindChar('A') != nullptr);
         // A file that is no font is told so without a question.
         Test::WriteAll(Path("text.ttf"), "text");
         BoxAnswer box(QMessageBox::Ok);
-        QVERIFY(!window_->OpenFile(Path("text.ttf")));
+        QVERIFY(!window_->CurrentDocument().OpenFile(Path("text.ttf")));
         QVERIFY(box.text.startsWith(u"Font creation failed!"_s));
     }
 
@@ -495,14 +516,14 @@ private Q_SLOTS:
         Test::WriteAll(Path("old.sif"), Test::ReadAll(Path("old.sif")).chopped(4));
         {
             const DialogAnswer<FormatDialog> answer([](auto& dialog) { dialog.reject(); });
-            QVERIFY(!window_->OpenFile(Path("old.sif")));
+            QVERIFY(!window_->CurrentDocument().OpenFile(Path("old.sif")));
         }
         const DialogAnswer<FormatDialog> answer([](auto& dialog) {
             dialog.template findChild<FormatBox*>()->SetFormat(FontFormat::LegacyAA4);
             dialog.template findChild<EncodingBox*>()->SetEncoding(EncodingType::ShiftJis);
             dialog.accept();
         });
-        QVERIFY(window_->OpenFile(Path("old.sif")));
+        QVERIFY(window_->CurrentDocument().OpenFile(Path("old.sif")));
         QCOMPARE(CurrentFont().Metrics().format, FontFormat::LegacyAA4);
         QCOMPARE(CurrentFont().Metrics().encoding, EncodingType::ShiftJis);
     }
@@ -550,8 +571,8 @@ private Q_SLOTS:
         FontFileSample(FontFormat::AA4, Path("drop.sif"));
         QVERIFY(Drop(Path("drop.sif")));
         QVERIFY(session_->CurrentFont() != nullptr);
-        QCOMPARE(MainWindow::CommandOfFile(u"a.TXT"_s), CommandId(ActionType::ReadPattern));
-        QCOMPARE(MainWindow::CommandOfFile(u"a.png"_s), 0U);
+        QCOMPARE(Document::PurposeOf(u"a.TXT"_s), ActionType::ReadPattern);
+        QCOMPARE(Document::PurposeOf(u"a.png"_s), ActionType::None);
         Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe7e00"));
         CurrentFont().SetEnabled(0x42, 0x42, false);
         Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe4200"));
@@ -630,7 +651,7 @@ private Q_SLOTS:
         QVERIFY(!window_->Menus().Command(WindowCommand::AllCharacters)->isChecked());
     }
 
-    void TheManualIsFound() { QVERIFY(MainWindow::ManualUrl().isLocalFile()); }
+    void TheManualIsFound() { QVERIFY(ManualUrl().isLocalFile()); }
 
     void BrokenStateGivesTheDefaults()
     {

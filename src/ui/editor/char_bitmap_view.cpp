@@ -44,14 +44,15 @@ int CharBitmapView::Top() const
     return character_->info.yPos;
 }
 
-void CharBitmapView::SetCharacter(Character* character)
+void CharBitmapView::SetCharacter(const Character* character, int code)
 {
     const QPoint selected =
         current_ != nullptr ? QPoint(current_->Column(), current_->Row()) : QPoint(-1, -1);
     const bool isOther = character != character_;
     if (isOther)
-        EndStroke();
+        Q_EMIT CharacterLeft();
     character_ = character;
+    code_ = code;
     const int columns = character != nullptr ? character->info.width : 0;
     const int rows = character != nullptr ? character->info.font.height : 0;
     const bool isResized = columns != columns_ || rows != rows_;
@@ -189,14 +190,6 @@ void CharBitmapView::ClearPixel()
     Q_EMIT PixelSelected(nullptr);
 }
 
-// Straight on the bitmap, with the row of the grid as the row of the bitmap.
-void CharBitmapView::InvertPixel(int column, int row)
-{
-    character_->bitmap->InvertPixelIndex(column, row);
-    SetCharacter(character_);
-    Q_EMIT PixelInverted();
-}
-
 // Thin guides for the baseline and the cursor distance.
 void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
 {
@@ -282,69 +275,17 @@ void CharBitmapView::ShowStatus(const CharPixelItem& item)
         tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index));
 }
 
-// The grid goes on beyond its ends.
 QPoint CharBitmapView::CellAt(QPoint place) const
 {
     const QPointF cell = mapToScene(place) / cellSize_;
     return {static_cast<int>(std::floor(cell.x())), static_cast<int>(std::floor(cell.y()))};
 }
 
-void CharBitmapView::Paint(QPoint cell)
-{
-    CharPixelItem* const item = ItemAt(cell.x(), cell.y());
-    if (item == nullptr || item->CellState() != CharPixelItem::Pixel ||
-        !painted_.insert(item).second)
-        return;
-    const bool inverts = QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier);
-    Q_EMIT PixelPainted(item->Column(), item->Row() - Top(), inverts);
-    ShowStatus(*item);
-}
-
-// Paints all cells on the way, as a fast mouse skips some.
-void CharBitmapView::PaintTo(QPoint place)
-{
-    const QPoint cell = CellAt(place);
-    const QPoint way = cell - lastCell_;
-    const int steps = std::max(std::abs(way.x()), std::abs(way.y()));
-    for (int step = 1; step <= steps; ++step)
-        Paint(lastCell_ + way * (qreal(step) / steps));
-    if (steps == 0)
-        Paint(cell);
-    lastCell_ = cell;
-}
-
+// Beside the cells there is nothing to select, and the selected one stays.
 void CharBitmapView::mousePressEvent(QMouseEvent* event)
 {
-    EndStroke();
-    if (!pencil_ || event->button() != Qt::LeftButton || character_ == nullptr) {
-        // Beside the cells there is nothing to select, and the selected one stays.
-        if (itemAt(event->pos()) != nullptr)
-            QGraphicsView::mousePressEvent(event);
-        return;
-    }
-    isPainting_ = true;
-    lastCell_ = CellAt(event->pos());
-    Q_EMIT StrokeBegun();
-    PaintTo(event->pos());
-}
-
-void CharBitmapView::mouseMoveEvent(QMouseEvent* event)
-{
-    // The release may have gone elsewhere.
-    if (isPainting_ && !event->buttons().testFlag(Qt::LeftButton))
-        EndStroke();
-    if (isPainting_)
-        PaintTo(event->pos());
-    else
-        QGraphicsView::mouseMoveEvent(event);
-}
-
-void CharBitmapView::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (isPainting_)
-        EndStroke();
-    else
-        QGraphicsView::mouseReleaseEvent(event);
+    if (itemAt(event->pos()) != nullptr)
+        QGraphicsView::mousePressEvent(event);
 }
 
 // The frame tells where the keys go.
@@ -368,21 +309,6 @@ void CharBitmapView::focusOutEvent(QFocusEvent* event)
 {
     QGraphicsView::focusOutEvent(event);
     viewport()->update();
-}
-
-void CharBitmapView::hideEvent(QHideEvent* event)
-{
-    EndStroke();
-    QGraphicsView::hideEvent(event);
-}
-
-void CharBitmapView::EndStroke()
-{
-    if (!isPainting_)
-        return;
-    isPainting_ = false;
-    painted_.clear();
-    Q_EMIT StrokeEnded();
 }
 
 } // namespace Glyphor

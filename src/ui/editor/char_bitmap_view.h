@@ -5,7 +5,6 @@
 #include <QGraphicsView>
 #include <QTimer>
 
-#include <set>
 #include <vector>
 
 namespace Glyphor {
@@ -20,9 +19,10 @@ public:
     explicit CharBitmapView(QWidget* parent = nullptr);
 
     // Null for none. The character must outlive its use here; call it again after every change.
-    void SetCharacter(Character* character);
+    void SetCharacter(const Character* character, int code);
 
     [[nodiscard]] const Character* CurrentCharacter() const { return character_; }
+    [[nodiscard]] int CurrentCode() const { return code_; }
 
     // Null where no pixel is selected.
     [[nodiscard]] CharPixelItem* CurrentPixel() const { return current_; }
@@ -52,14 +52,8 @@ public:
     [[nodiscard]] int Zoom() const { return zoom_; }
     void SetZoom(int zoom);
 
-    // In pencil mode a press and a drag paint instead of selecting.
-    void SetPencil(bool isOn) { pencil_ = isOn; }
-
-    // Ends the stroke of the pencil, if there is one.
-    void EndStroke();
-
-    // A character that was changed without an action.
-    void InvertPixel(int column, int row);
+    // The cell at a place in the viewport, in a grid that goes on beyond its ends.
+    [[nodiscard]] QPoint CellAt(QPoint place) const;
 
 Q_SIGNALS:
     // Null where no pixel is selected.
@@ -69,12 +63,12 @@ Q_SIGNALS:
     void StatusChanged(const QString& text);
 
     void MenuRequested(QPoint globalPosition);
-    void PixelInverted();
 
-    // Positions are those of the character's bitmap, each once in a stroke.
-    void StrokeBegun();
-    void PixelPainted(int x, int y, bool inverts);
-    void StrokeEnded();
+    // With the row of the grid, whose first may lie above the character's.
+    void InversionRequested(int column, int row);
+
+    // Another character is about to be shown.
+    void CharacterLeft();
 
 protected:
     void drawForeground(QPainter* painter, const QRectF& rect) override;
@@ -82,13 +76,10 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     Q_SLOT void OnTimerResize();
@@ -96,13 +87,11 @@ private:
     void PlaceItems();
     void ForgetPixel();
     [[nodiscard]] QPoint GuidePlace() const;
-    void Paint(QPoint cell);
-    void PaintTo(QPoint place);
-    [[nodiscard]] QPoint CellAt(QPoint place) const;
     [[nodiscard]] qreal FittingSize() const;
     [[nodiscard]] int ShownColumns() const;
 
-    Character* character_ = nullptr;
+    const Character* character_ = nullptr;
+    int code_ = -1;
     QGraphicsScene scene_;
     QTimer resizeTimer_;
     QGraphicsTextItem* hint_;           // where there are no pixels
@@ -112,12 +101,8 @@ private:
     int rows_ = 0;
     QPoint guides_ = {-1, -1};
     qreal cellSize_ = 1;
-    int zoom_ = 0; // size of a cell in pixels; 0 fits the view
-    bool pencil_ = false;
-    bool isPainting_ = false;
-    QPoint lastCell_;                  // that the stroke passed
-    std::set<CharPixelItem*> painted_; // in the stroke
-    int wheelAngle_ = 0;               // that was turned and has not zoomed yet
+    int zoom_ = 0;       // size of a cell in pixels; 0 fits the view
+    int wheelAngle_ = 0; // that was turned and has not zoomed yet
 };
 
 } // namespace Glyphor

@@ -141,7 +141,7 @@ void CharPixelItem::keyPressEvent(QKeyEvent* event)
         view_.SelectItem(view_.ItemAt(column_, row_ + 1));
         break;
     case Qt::Key_Space:
-        view_.InvertPixel(column_, row_);
+        Q_EMIT view_.InversionRequested(column_, row_);
         break;
     case Qt::Key_Menu:
         Q_EMIT view_.MenuRequested(

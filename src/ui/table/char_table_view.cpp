@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Margin = 3; // around the pixels in a cell
+constexpr int CellMargin = 3; // around the pixels in a cell
 constexpr int MinCellSize = 24;
 
 } // namespace
@@ -128,8 +128,8 @@ void CharTableView::UpdateSizes()
 {
     const int fontHeight = font_ != nullptr ? std::max<int>(1, font_->Metrics().height) : 1;
     const int available = (viewport()->width() - HeaderWidth()) / Columns;
-    cellWidth_ = std::max({MinCellSize, available, maxWidth_ + 2 * Margin});
-    cellHeight_ = std::max(MinCellSize, fontHeight * Zoom(usualWidth_) + 2 * Margin);
+    cellWidth_ = std::max({MinCellSize, available, maxWidth_ + 2 * CellMargin});
+    cellHeight_ = std::max(MinCellSize, fontHeight * Zoom(usualWidth_) + 2 * CellMargin);
     const int width = HeaderWidth() + Columns * cellWidth_;
     const int height = HeaderHeight() + int(rows_.size()) * cellHeight_;
     verticalScrollBar()->setRange(0, std::max(0, height - viewport()->height()));
@@ -143,7 +143,7 @@ void CharTableView::UpdateSizes()
 // The largest whole number at which a character fits its cell. What is usual has the same size.
 int CharTableView::Zoom(int width) const
 {
-    return std::max(1, (cellWidth_ - 2 * Margin) / std::max(width, usualWidth_));
+    return std::max(1, (cellWidth_ - 2 * CellMargin) / std::max(width, usualWidth_));
 }
 
 int CharTableView::RowIndexOf(int code) const

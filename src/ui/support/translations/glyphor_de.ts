@@ -855,6 +855,91 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::Commands</name>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Aktivieren</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Deaktivieren</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::Document</name>
+    <message>
+        <source>Text files (*.txt)</source>
+        <translation>Textdateien (*.txt)</translation>
+    </message>
+    <message>
+        <source>Instance %1</source>
+        <translation>Instanz %1</translation>
+    </message>
+    <message>
+        <source>Open font file</source>
+        <translation>Schriftdatei öffnen</translation>
+    </message>
+    <message>
+        <source>Save font file</source>
+        <translation>Schriftdatei speichern</translation>
+    </message>
+    <message>
+        <source>Save kerning file</source>
+        <translation>Kerning-Datei speichern</translation>
+    </message>
+    <message>
+        <source>Read pattern file</source>
+        <translation>Musterdatei lesen</translation>
+    </message>
+    <message>
+        <source>Save pattern file</source>
+        <translation>Musterdatei speichern</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>Keine zuletzt geöffneten Dateien</translation>
+    </message>
+    <message>
+        <source>Save file?</source>
+        <translation>Datei speichern?</translation>
+    </message>
+    <message>
+        <source>Save current file?</source>
+        <translation>Aktuelle Datei speichern?</translation>
+    </message>
+    <message>
+        <source>Load pattern file?</source>
+        <translation>Musterdatei laden?</translation>
+    </message>
+    <message>
+        <source>Apply the pattern file %1 to this font?</source>
+        <translation>Die Musterdatei %1 auf diese Schrift anwenden?</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::EditCommands</name>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>Selection: %1</source>
+        <translation>Auswahl: %1</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::EnableRangeDialog</name>
     <message>
         <source>Codes as entered</source>
@@ -1142,6 +1227,13 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::Guarded</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht aus.</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::InfoPanel</name>
     <message>
         <source>Information</source>
@@ -1271,32 +1363,8 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
 <context>
     <name>Glyphor::MainWindow</name>
     <message>
-        <source>Tools</source>
-        <translation>Werkzeuge</translation>
-    </message>
-    <message>
-        <source>Pencil</source>
-        <translation>Stift</translation>
-    </message>
-    <message>
-        <source>Paint pixels by clicking and dragging (Ctrl inverts them)</source>
-        <translation>Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
-    </message>
-    <message>
-        <source>Index that the pencil paints</source>
-        <translation>Index, den der Stift malt</translation>
-    </message>
-    <message>
-        <source>Ready</source>
-        <translation>Bereit</translation>
-    </message>
-    <message>
         <source>Stopped.</source>
         <translation>Abgebrochen.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Speicher reicht nicht aus.</translation>
     </message>
     <message>
         <source>No font</source>
@@ -1305,104 +1373,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Installed fonts</source>
         <translation>Installierte Schriften</translation>
-    </message>
-    <message>
-        <source>Undone: %1</source>
-        <translation>Rückgängig: %1</translation>
-    </message>
-    <message>
-        <source>Redone: %1</source>
-        <translation>Wiederholt: %1</translation>
-    </message>
-    <message>
-        <source>Selection: %1</source>
-        <translation>Auswahl: %1</translation>
-    </message>
-    <message>
-        <source>Stroke</source>
-        <translation>Strich</translation>
-    </message>
-    <message>
-        <source>About %1</source>
-        <translation>Über %1</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Bitmap fonts for embedded displays.&lt;/p&gt;&lt;p&gt;Qt %3, FreeType %4&lt;/p&gt;&lt;p&gt;© Morvek&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Bitmap-Schriften für eingebettete Displays.&lt;/p&gt;&lt;p&gt;Qt %3, FreeType %4&lt;/p&gt;&lt;p&gt;© Morvek&lt;/p&gt;</translation>
-    </message>
-    <message>
-        <source>&amp;Enable</source>
-        <translation>&amp;Aktivieren</translation>
-    </message>
-    <message>
-        <source>&amp;Disable</source>
-        <translation>&amp;Deaktivieren</translation>
-    </message>
-    <message>
-        <source>De&amp;lete</source>
-        <translation>&amp;Löschen</translation>
-    </message>
-    <message>
-        <source>Text files (*.txt)</source>
-        <translation>Textdateien (*.txt)</translation>
-    </message>
-    <message>
-        <source>Instance %1</source>
-        <translation>Instanz %1</translation>
-    </message>
-    <message>
-        <source>Open font file</source>
-        <translation>Schriftdatei öffnen</translation>
-    </message>
-    <message>
-        <source>Save font file</source>
-        <translation>Schriftdatei speichern</translation>
-    </message>
-    <message>
-        <source>Save kerning file</source>
-        <translation>Kerning-Datei speichern</translation>
-    </message>
-    <message>
-        <source>Read pattern file</source>
-        <translation>Musterdatei lesen</translation>
-    </message>
-    <message>
-        <source>Save pattern file</source>
-        <translation>Musterdatei speichern</translation>
-    </message>
-    <message>
-        <source>The file %1 does not exist.</source>
-        <translation>Die Datei %1 gibt es nicht.</translation>
-    </message>
-    <message>
-        <source>No recent files</source>
-        <translation>Keine zuletzt geöffneten Dateien</translation>
-    </message>
-    <message>
-        <source>Save file?</source>
-        <translation>Datei speichern?</translation>
-    </message>
-    <message>
-        <source>Save current file?</source>
-        <translation>Aktuelle Datei speichern?</translation>
-    </message>
-    <message>
-        <source>Load pattern file?</source>
-        <translation>Musterdatei laden?</translation>
-    </message>
-    <message>
-        <source>Apply the pattern file %1 to this font?</source>
-        <translation>Die Musterdatei %1 auf diese Schrift anwenden?</translation>
-    </message>
-    <message>
-        <source>User manual</source>
-        <translation>Benutzerhandbuch</translation>
-    </message>
-    <message>
-        <source>No web browser could be started. The manual is here:
-%1</source>
-        <translation>Es konnte kein Webbrowser gestartet werden. Das Handbuch ist hier:
-%1</translation>
     </message>
 </context>
 <context>
@@ -1424,6 +1394,25 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Do not replace, keep old characters.</source>
         <translation>Nicht ersetzen, die alten Zeichen behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::PencilTool</name>
+    <message>
+        <source>Pencil</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Paint pixels by clicking and dragging (Ctrl inverts them)</source>
+        <translation>Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
+    </message>
+    <message>
+        <source>Index that the pencil paints</source>
+        <translation>Index, den der Stift malt</translation>
+    </message>
+    <message>
+        <source>Stroke</source>
+        <translation>Strich</translation>
     </message>
 </context>
 <context>
@@ -1549,6 +1538,13 @@ Was soll mit ihnen geschehen?</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::StatusLine</name>
+    <message>
+        <source>Ready</source>
+        <translation>Bereit</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::TextPreview</name>
     <message>
         <source>The quick brown fox jumps over the lazy dog. 0123456789</source>
@@ -1599,6 +1595,13 @@ Was soll mit ihnen geschehen?</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::ToolBar</name>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::UndoStack</name>
     <message>
         <source>Undo last action</source>
@@ -1607,6 +1610,27 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Redo last action</source>
         <translation>Letzte Aktion wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>User manual</source>
+        <translation>Benutzerhandbuch</translation>
+    </message>
+    <message>
+        <source>No web browser could be started. The manual is here:
+%1</source>
+        <translation>Es konnte kein Webbrowser gestartet werden. Das Handbuch ist hier:
+%1</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>Über %1</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Bitmap fonts for embedded displays.&lt;/p&gt;&lt;p&gt;Qt %3, FreeType %4&lt;/p&gt;&lt;p&gt;© Morvek&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Bitmap-Schriften für eingebettete Displays.&lt;/p&gt;&lt;p&gt;Qt %3, FreeType %4&lt;/p&gt;&lt;p&gt;© Morvek&lt;/p&gt;</translation>
     </message>
 </context>
 <context>

@@ -4,7 +4,8 @@
 
 namespace Glyphor {
 
-// The user interface of a run with windows: what there is to say is shown in boxes.
+// The user interface of a run with windows: what there is to say and to
+// ask is shown in boxes.
 class GuiInterface : public UserInterface
 {
 public:
@@ -12,6 +13,8 @@ public:
     void warning(const QString& title, const QString& text) override;
     void critical(const QString& title, const QString& text) override;
     Answer ask(const QString& title, const QString& text) override;
+    int askFontFormat(EncodingType& encoding) override;
+    int askMergeMode() override;
 };
 
 } // namespace Glyphor

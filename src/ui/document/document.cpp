@@ -1,6 +1,4 @@
-// The commands of the main window that open and save files.
-
-#include "ui/window/main_window.h"
+#include "ui/document/document.h"
 
 #include "actions/action_merge_font.h"
 #include "actions/action_read_pattern.h"
@@ -8,21 +6,18 @@
 #include "actions/font_files.h"
 #include "actions/pattern_file.h"
 #include "actions/session.h"
-#include "app/progress.h"
 #include "app/shown_text.h"
+#include "app/user_interface.h"
+#include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
-#include "ui/dialogs/format_box.h"
-#include "ui/dialogs/merge_mode_dialog.h"
+#include "ui/document/font_indexer.h"
 #include "ui/support/dialog_parts.h"
-#include "ui/table/char_table_view.h"
+#include "ui/support/guarded.h"
 
-#include <QCloseEvent>
 #include <QDir>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMimeData>
 #include <QRegularExpression>
 
 namespace Glyphor {
@@ -35,7 +30,7 @@ constexpr qsizetype MaxRecentFiles = 10;
 
 QString PatternFilter()
 {
-    return MainWindow::tr("Text files (*.txt)");
+    return Document::tr("Text files (*.txt)");
 }
 
 // The faces of a scalable font by name, in the order of their indices.
@@ -54,48 +49,80 @@ QStringList FaceNames(const QString& path)
     int index = 0;
     for (const NamedInstance& instance : face.NamedInstances()) {
         ++index;
-        names.append(instance.name.isEmpty() ? MainWindow::tr("Instance %1").arg(index)
+        names.append(instance.name.isEmpty() ? Document::tr("Instance %1").arg(index)
                                              : instance.name);
     }
     return names;
 }
 
-QString LocalFileOf(const QMimeData& data)
-{
-    const QList<QUrl> urls = data.urls();
-    return urls.isEmpty() ? QString() : urls.constFirst().toLocalFile();
-}
-
 } // namespace
 
-// The options of the command line act on the window's font; what they leave open is asked for.
-bool MainWindow::requestAction(Action& action)
+Document::Document(Session& session, FontIndexer& indexer, QWidget& window)
+    : QObject(&window), session_(session), indexer_(indexer), window_(window)
+{}
+
+void Document::Create()
 {
-    auto* const open = dynamic_cast<ActionOpenFont*>(&action);
-    return open == nullptr || CompleteArgs(open->Args());
+    ActionOpenFontArgs args;
+    if (!AskFont(args))
+        return;
+    Guarded([&] {
+        const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::CreateFont);
+        action->Args() = args;
+        if (AskGeneration(action->Args()) && AskToSave())
+            action->Run();
+    });
 }
 
-bool MainWindow::CompleteArgs(ActionOpenFontArgs& args)
+// The installed fonts are indexed when they are first asked for; the dialog fills then.
+bool Document::AskFont(ActionOpenFontArgs& args)
+{
+    if (!indexer_.HasBegun())
+        indexer_.Start();
+    FontDialog dialog(&window_);
+    dialog.SetIndexing(indexer_.IsIndexing());
+    connect(&indexer_, &FontIndexer::Indexed, &dialog, [&dialog] {
+        dialog.Fill();
+        dialog.SetIndexing(false);
+    });
+    connect(&dialog, &FontDialog::IndexRequested, this, [this, &dialog] {
+        indexer_.Start();
+        dialog.SetIndexing(true);
+    });
+    connect(&dialog, &FontDialog::StopRequested, &indexer_, &FontIndexer::Stop);
+    connect(&dialog, &FontDialog::DirectoriesRequested, this, [this, &dialog] {
+        Q_EMIT DirectoriesRequested(&dialog);
+        dialog.SetIndexing(indexer_.IsIndexing());
+    });
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    args.path = dialog.Path();
+    args.faceIndex = dialog.FaceIndex();
+    args.size = dialog.Size();
+    return true;
+}
+
+bool Document::CompleteArgs(ActionOpenFontArgs& args)
 {
     const auto type = FileTypeOf(args.path);
     const bool isComplete = !type || !IsScalable(*type) || args.size.value > 0;
     return isComplete || AskGeneration(args);
 }
 
-bool MainWindow::AskGeneration(ActionOpenFontArgs& args)
+bool Document::AskGeneration(ActionOpenFontArgs& args)
 {
     CheckInputFile(args.path);
     const QStringList faces = FaceNames(args.path);
     if (faces.isEmpty())
         return true; // opening it will tell what is wrong
-    FontGenerationDialog dialog(args, faces, this);
+    FontGenerationDialog dialog(args, faces, &window_);
     if (dialog.exec() != QDialog::Accepted)
         return false;
     args = dialog.Args();
     return true;
 }
 
-bool MainWindow::OpenFile(const QString& path)
+bool Document::OpenFile(const QString& path)
 {
     bool isOpened = false;
     if (AskToSave())
@@ -107,14 +134,14 @@ bool MainWindow::OpenFile(const QString& path)
     return isOpened;
 }
 
-void MainWindow::Open()
+void Document::Open()
 {
     const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
     if (!path.isEmpty())
         OpenFile(path);
 }
 
-void MainWindow::Merge()
+void Document::Merge()
 {
     const QString path = AskOpenPath(tr("Open font file"), FontFileFilter(false));
     if (path.isEmpty())
@@ -133,20 +160,19 @@ void MainWindow::Merge()
 }
 
 // Files of all kinds are shown first, which the last filter is for.
-QString MainWindow::AskOpenPath(const QString& title, const QString& filter)
+QString Document::AskOpenPath(const QString& title, const QString& filter)
 {
     QString selected = filter.section(u";;"_s, -1);
-    QString path = QFileDialog::getOpenFileName(this, title, Folder(), filter, &selected);
+    QString path = QFileDialog::getOpenFileName(&window_, title, Folder(), filter, &selected);
     if (!path.isEmpty())
         folder_ = QFileInfo(path).path();
     return path;
 }
 
 // A name without a suffix gets the first one of the filter that is chosen.
-QString MainWindow::AskSavePath(const QString& title, const QString& proposed,
-                                const QString& filter)
+QString Document::AskSavePath(const QString& title, const QString& proposed, const QString& filter)
 {
-    QFileDialog dialog(this, title, Folder());
+    QFileDialog dialog(&window_, title, Folder());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filter.split(u";;"_s));
     const auto takeSuffix = [&dialog](const QString& chosen) {
@@ -171,23 +197,26 @@ QString MainWindow::AskSavePath(const QString& title, const QString& proposed,
 }
 
 // Fonts are not saved over the scalable ones that they come from.
-bool MainWindow::Save()
+bool Document::HasOwnFile() const
 {
     const auto type = FileTypeOf(session_.Path());
-    return type && IsWritten(*type) ? SaveTo(session_.Path(), ActionType::SaveFont) : SaveAs();
+    return type && IsWritten(*type);
 }
 
-bool MainWindow::SaveAs()
+bool Document::Save()
 {
-    const auto type = FileTypeOf(session_.Path());
-    const bool isKept = type && IsWritten(*type);
-    const QString suffix = isKept ? u'.' + QFileInfo(session_.Path()).suffix() : u".c"_s;
+    return HasOwnFile() ? SaveTo(session_.Path(), ActionType::SaveFont) : SaveAs();
+}
+
+bool Document::SaveAs()
+{
+    const QString suffix = HasOwnFile() ? u'.' + QFileInfo(session_.Path()).suffix() : u".c"_s;
     const QString path =
         AskSavePath(tr("Save font file"), ProposedName(suffix), FontFileFilter(true));
     return !path.isEmpty() && SaveTo(path, ActionType::SaveFontAs);
 }
 
-bool MainWindow::SaveTo(const QString& path, ActionType type)
+bool Document::SaveTo(const QString& path, ActionType type)
 {
     bool isSaved = false;
     Guarded([&] {
@@ -202,7 +231,7 @@ bool MainWindow::SaveTo(const QString& path, ActionType type)
 
 // Where files are looked for and saved: the last folder that the user chose, or that of the font,
 // but not one for installed fonts.
-QString MainWindow::Folder() const
+QString Document::Folder() const
 {
     if (!folder_.isEmpty())
         return folder_;
@@ -211,12 +240,12 @@ QString MainWindow::Folder() const
     return isOwn ? font.path() : QDir::homePath();
 }
 
-QString MainWindow::ProposedName(const QString& suffix) const
+QString Document::ProposedName(const QString& suffix) const
 {
     return QFileInfo(session_.Path()).completeBaseName() + suffix;
 }
 
-void MainWindow::SaveKerning()
+void Document::SaveKerning()
 {
     const QString path =
         AskSavePath(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter());
@@ -224,14 +253,14 @@ void MainWindow::SaveKerning()
         SaveTo(path, ActionType::SaveKerning);
 }
 
-void MainWindow::OpenPattern()
+void Document::OpenPattern()
 {
     const QString path = AskOpenPath(tr("Read pattern file"), PatternFilter());
     if (!path.isEmpty())
         ReadPattern(path);
 }
 
-void MainWindow::SavePattern()
+void Document::SavePattern()
 {
     const QString path =
         AskSavePath(tr("Save pattern file"), ProposedName(u".txt"_s), PatternFilter());
@@ -244,7 +273,7 @@ void MainWindow::SavePattern()
     });
 }
 
-bool MainWindow::ReadPattern(const QString& path)
+bool Document::ReadPattern(const QString& path)
 {
     bool isRead = false;
     Guarded([&] {
@@ -252,99 +281,70 @@ bool MainWindow::ReadPattern(const QString& path)
         action->Args().path = path;
         isRead = action->Run();
         if (!isRead)
-            warning(tr("Read pattern file"), tr("The file %1 does not exist.").arg(Shown(path)));
+            CurrentInterface().warning(tr("Read pattern file"),
+                                       tr("The file %1 does not exist.").arg(Shown(path)));
     });
     return isRead;
 }
 
-quint32 MainWindow::CommandOfFile(const QString& path)
-{
-    if (FileTypeOf(path))
-        return quint32(ActionType::OpenFont);
-    const bool isText = path.endsWith(u".txt"_s, Qt::CaseInsensitive);
-    return quint32(isText ? ActionType::ReadPattern : ActionType::None);
-}
-
-int MainWindow::askFontFormat(EncodingType& encoding)
-{
-    FormatDialog dialog(this);
-    if (dialog.exec() != QDialog::Accepted)
-        throw WorkStopped();
-    encoding = dialog.Encoding();
-    return int(dialog.Format());
-}
-
-int MainWindow::askMergeMode()
-{
-    MergeModeDialog dialog(this);
-    return dialog.exec() == QDialog::Accepted ? int(dialog.Mode()) : 0;
-}
-
-void MainWindow::AddRecentFile(const QString& path)
+void Document::AddRecentFile(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     recentFiles_.removeAll(absolute);
     recentFiles_.prepend(absolute);
     recentFiles_ = recentFiles_.first(std::min(recentFiles_.size(), MaxRecentFiles));
-    SaveState();
+    Q_EMIT RecentFilesChanged();
 }
 
-void MainWindow::ShowRecentFiles()
+void Document::FillRecentMenu(QMenu& menu)
 {
-    recentMenu_->clear();
+    menu.clear();
     for (const QString& path : std::as_const(recentFiles_)) {
         QAction* const entry =
-            recentMenu_->addAction(Shown(QFileInfo(path).fileName()).replace(u'&', u"&&"_s));
+            menu.addAction(Shown(QFileInfo(path).fileName()).replace(u'&', u"&&"_s));
         entry->setStatusTip(Shown(path));
         connect(entry, &QAction::triggered, this, [this, path] { OpenFile(path); });
     }
     if (recentFiles_.isEmpty())
-        recentMenu_->addAction(tr("No recent files"))->setEnabled(false);
+        menu.addAction(tr("No recent files"))->setEnabled(false);
 }
 
-// False where the user wants to stay.
-bool MainWindow::AskToSave()
+bool Document::AskToSave()
 {
     if (!session_.IsModified())
         return true;
     const auto answer =
-        ShowPlainBox(this, QMessageBox::Question, tr("Save file?"), tr("Save current file?"),
+        ShowPlainBox(&window_, QMessageBox::Question, tr("Save file?"), tr("Save current file?"),
                      QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     return answer == QMessageBox::No || (answer == QMessageBox::Yes && Save());
 }
 
-void MainWindow::closeEvent(QCloseEvent* event)
+ActionType Document::PurposeOf(const QString& path)
 {
-    if (!AskToSave()) {
-        event->ignore();
-        return;
-    }
-    SaveState();
-    event->accept();
+    if (FileTypeOf(path))
+        return ActionType::OpenFont;
+    return path.endsWith(u".txt"_s, Qt::CaseInsensitive) ? ActionType::ReadPattern
+                                                         : ActionType::None;
 }
 
-void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+bool Document::TakesDrop(const QString& path) const
 {
-    const quint32 command = CommandOfFile(LocalFileOf(*event->mimeData()));
-    if (command == quint32(ActionType::OpenFont) ||
-        (command == quint32(ActionType::ReadPattern) && session_.CurrentFont() != nullptr))
-        event->acceptProposedAction();
+    const ActionType purpose = PurposeOf(path);
+    return purpose == ActionType::OpenFont ||
+           (purpose == ActionType::ReadPattern && session_.CurrentFont() != nullptr);
 }
 
-void MainWindow::dropEvent(QDropEvent* event)
+bool Document::Drop(const QString& path)
 {
-    const QString path = LocalFileOf(*event->mimeData());
-    bool isTaken = false;
-    if (CommandOfFile(path) == quint32(ActionType::OpenFont)) {
-        isTaken = OpenFile(path);
-    } else if (session_.CurrentFont() != nullptr) {
-        const auto answer = ShowPlainBox(
-            this, QMessageBox::Question, tr("Load pattern file?"),
-            tr("Apply the pattern file %1 to this font?").arg(Shown(QFileInfo(path).fileName())),
-            QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
-        isTaken = answer == QMessageBox::Yes && ReadPattern(path);
-    }
-    event->setAccepted(isTaken);
+    if (!TakesDrop(path))
+        return false;
+    if (PurposeOf(path) == ActionType::OpenFont)
+        return OpenFile(path);
+    const auto answer = ShowPlainBox(
+        &window_, QMessageBox::Question, tr("Load pattern file?"),
+        tr("Apply the pattern file %1 to this font?").arg(Shown(QFileInfo(path).fileName())),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    return answer == QMessageBox::Yes && ReadPattern(path);
 }
 
 } // namespace Glyphor

@@ -1,0 +1,194 @@
+#include "ui/window/edit_commands.h"
+
+#include "actions/edit_actions.h"
+#include "actions/edit_table.h"
+#include "actions/session.h"
+#include "ui/dialogs/code_dialogs.h"
+#include "ui/editor/char_bitmap_view.h"
+#include "ui/support/guarded.h"
+#include "ui/table/char_table_view.h"
+
+#include <QScopedValueRollback>
+
+namespace Glyphor {
+
+namespace {
+
+void RunAction(const std::shared_ptr<Action>& action)
+{
+    Guarded([&action] { action->Run(); });
+}
+
+} // namespace
+
+EditCommands::EditCommands(Session& session, CharTableView& table, CharBitmapView& editor,
+                           QWidget& window)
+    : QObject(&window), session_(session), table_(table), editor_(editor), window_(window)
+{}
+
+CodeSet EditCommands::SelectedCharacters() const
+{
+    if (session_.CurrentFont() == nullptr)
+        return {};
+    CodeSet codes = table_.SelectedCodes();
+    codes &= session_.CurrentFont()->ExistingCodes();
+    return codes;
+}
+
+void EditCommands::RunEdit(const Edit& edit)
+{
+    switch (edit.target) {
+    case EditTarget::Character:
+        RunSelectionEdit(edit);
+        break;
+    case EditTarget::Font:
+        RunAction(std::make_shared<ActionFont>(session_, edit.type));
+        break;
+    case EditTarget::Pixel:
+        RunPixelEdit(edit);
+        break;
+    }
+}
+
+// Several actions that are undone as one.
+void EditCommands::RunMacro(const QString& text, const std::function<void()>& work)
+{
+    session_.Stack().beginMacro(text);
+    RunTogether(work);
+    session_.Stack().endMacro();
+    Q_EMIT Done(text);
+}
+
+// What several actions have changed is told once, at their end.
+void EditCommands::RunTogether(const std::function<void()>& work)
+{
+    {
+        const QScopedValueRollback atWork(isAtWork_, true);
+        Guarded(work);
+    }
+    Q_EMIT Changed();
+}
+
+void EditCommands::Undo()
+{
+    MoveInHistory(true);
+}
+
+void EditCommands::Redo()
+{
+    MoveInHistory(false);
+}
+
+void EditCommands::NoteChange(const Action* action)
+{
+    if (isMovingInHistory_ && action != nullptr)
+        movedCodes_ |= action->AffectedCodes();
+}
+
+// Brings the view back to what changed.
+void EditCommands::MoveInHistory(bool isUndo)
+{
+    UndoStack& stack = session_.Stack();
+    const QString text = isUndo ? stack.ShownUndoText() : stack.ShownRedoText();
+    movedCodes_ = {};
+    {
+        const QScopedValueRollback move(isMovingInHistory_, true);
+        RunTogether([&] { isUndo ? stack.undo() : stack.redo(); });
+    }
+    Q_EMIT Done((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(text));
+    const int current = table_.CurrentCode();
+    const int first = movedCodes_.Next(0);
+    if (first < CodeSet::Limit && (current < 0 || !movedCodes_.Test(quint16(current))))
+        table_.SetCurrentCode(first);
+}
+
+// One action for each run of codes, undone as one.
+void EditCommands::RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make)
+{
+    const std::vector<CodeRange> runs = RunsOf(codes);
+    if (runs.size() == 1)
+        RunAction(make(runs.front()));
+    else if (!runs.empty())
+        RunMacro(tr("Selection: %1").arg(text), [&] {
+            for (const CodeRange& run : runs)
+                make(run)->Run();
+        });
+}
+
+void EditCommands::RunSelectionEdit(const Edit& edit)
+{
+    RunForEach(SelectedCharacters(), LogEntry(edit.log).Translated(), [&](const CodeRange& run) {
+        auto action = std::make_shared<ActionChar>(session_, edit.type);
+        action->Args() = {run.first, run.last};
+        return action;
+    });
+}
+
+void EditCommands::ChangeSelection(ActionType type)
+{
+    const Font& font = *session_.CurrentFont();
+    CodeSet codes = SelectedCharacters();
+    if (codes.IsEmpty())
+        return;
+    // All of the selection becomes the opposite of its first character.
+    const bool enables = type == ActionType::Enable ||
+                         (type == ActionType::Toggle && !font.IsEnabled(*codes.begin()));
+    if (enables)
+        codes -= font.EnabledCodes();
+    else
+        codes &= font.EnabledCodes();
+    const bool isOne = codes.Count() == 1;
+    const ActionType state = enables ? ActionType::Enable : ActionType::Disable;
+    const ActionType change = isOne ? type : state;
+    RunForEach(codes, LogEntry(LogMessage(state)).Translated(), [&](const CodeRange& run) {
+        auto action = std::make_shared<ActionCharState>(session_, change);
+        action->Args().first = run.first;
+        action->Args().last = run.last;
+        return action;
+    });
+}
+
+void EditCommands::DeleteSelection()
+{
+    RunAction(std::make_shared<ActionCharDelete>(session_, table_.SelectedCodes()));
+}
+
+void EditCommands::RunPixelEdit(const Edit& edit)
+{
+    const QPoint pixel = editor_.SelectedPixel();
+    if (pixel.x() < 0)
+        return;
+    const auto action = std::make_shared<ActionPixelIndex>(session_, edit.type);
+    action->Args().code = quint16(editor_.CurrentCode());
+    action->Args().x = pixel.x();
+    action->Args().y = pixel.y();
+    RunAction(action);
+}
+
+void EditCommands::ChangeRange(ActionType type)
+{
+    const Font& font = *session_.CurrentFont();
+    EnableRangeDialog dialog(type == ActionType::Enable, font.ExistingCodes(),
+                             font.Metrics().encoding, &window_);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const auto action = std::make_shared<ActionCharState>(session_, type);
+    action->Args().first = dialog.First();
+    action->Args().last = dialog.Last();
+    RunAction(action);
+}
+
+void EditCommands::DisableAll()
+{
+    RunAction(std::make_shared<ActionCharState>(session_, ActionType::DisableAll));
+}
+
+void EditCommands::InvertPixel(int column, int row)
+{
+    Font& font = *session_.CurrentFont();
+    font.FindChar(quint16(editor_.CurrentCode()))->bitmap->InvertPixelIndex(column, row);
+    session_.MarkChanged();
+    Q_EMIT Changed();
+}
+
+} // namespace Glyphor

@@ -1,0 +1,88 @@
+#include "ui/window/panes.h"
+
+#include "ui/editor/char_bitmap_view.h"
+#include "ui/preview/text_preview.h"
+#include "ui/table/char_table_view.h"
+#include "ui/window/info_panel.h"
+
+#include <QScrollArea>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+Panes::Panes()
+    : QSplitter(Qt::Horizontal),
+      table_(new CharTableView),
+      editor_(new CharBitmapView),
+      info_(new InfoPanel),
+      preview_(new TextPreview),
+      subSplitter_(new QSplitter(Qt::Vertical)),
+      upperSplitter_(new QSplitter(Qt::Horizontal))
+{
+    auto* const infoArea = new QScrollArea;
+    infoArea->setWidget(info_);
+    infoArea->setWidgetResizable(true);
+    infoArea->setFrameShape(QFrame::NoFrame);
+    infoArea->setMinimumWidth(180);
+    infoArea->setFocusPolicy(Qt::NoFocus);
+    upperSplitter_->addWidget(editor_);
+    upperSplitter_->addWidget(infoArea);
+    upperSplitter_->setStretchFactor(0, 1);
+    upperSplitter_->setSizes({360, 260});
+    subSplitter_->addWidget(upperSplitter_);
+    subSplitter_->addWidget(preview_);
+    subSplitter_->setStretchFactor(0, 1);
+    subSplitter_->setSizes({520, 130});
+    addWidget(table_);
+    addWidget(subSplitter_);
+    setSizes({620, 620});
+    for (QSplitter* const splitter :
+         std::initializer_list<QSplitter*>{this, subSplitter_, upperSplitter_}) {
+        splitter->setStyleSheet(u"QSplitterHandle { background: #bbbbbb; }"_s);
+        splitter->setChildrenCollapsible(false);
+    }
+    connect(table_, &CharTableView::CurrentChanged, this, &Panes::ShowCurrentCharacter);
+    connect(table_, &CharTableView::Activated, this, [this] {
+        editor_->setFocus();
+        if (editor_->CurrentPixel() == nullptr)
+            editor_->SelectFirstPixel();
+    });
+}
+
+std::array<QSplitter*, 2> Panes::SubSplitters() const
+{
+    return {subSplitter_, upperSplitter_};
+}
+
+void Panes::ShowFont(const Font* font)
+{
+    font_ = font;
+    editor_->SetCharacter(nullptr, -1);
+    table_->SetFont(font);
+    ShowCurrentCharacter();
+    preview_->SetFont(font);
+}
+
+void Panes::ShowChanges()
+{
+    table_->Refresh();
+    ShowCurrentCharacter();
+    preview_->Refresh();
+}
+
+void Panes::ShowCurrentCharacter()
+{
+    const int code = table_->CurrentCode();
+    const bool hasCode = font_ != nullptr && code >= 0;
+    editor_->SetCharacter(hasCode ? font_->FindChar(quint16(code)) : nullptr, code);
+    info_->Show(font_, code);
+}
+
+void Panes::ShowHexadecimal(bool isOn)
+{
+    table_->SetHexadecimal(isOn);
+    info_->SetHexadecimal(isOn);
+}
+
+} // namespace Glyphor

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QSplitter>
+
+#include <array>
+
+namespace Glyphor {
+
+class CharBitmapView;
+class CharTableView;
+class Font;
+class InfoPanel;
+class TextPreview;
+
+// The views of the font side by side: the table of characters, and beside it the editor with the
+// information, above the sample text.
+class Panes final : public QSplitter
+{
+    Q_OBJECT
+
+public:
+    Panes();
+
+    [[nodiscard]] CharTableView& Table() const { return *table_; }
+    [[nodiscard]] CharBitmapView& Editor() const { return *editor_; }
+    [[nodiscard]] InfoPanel& Info() const { return *info_; }
+    [[nodiscard]] TextPreview& Preview() const { return *preview_; }
+
+    // The splitters inside: of editor and sample, and of editor and information.
+    [[nodiscard]] std::array<QSplitter*, 2> SubSplitters() const;
+
+    // Null for no font. Another font is shown from its beginning.
+    void ShowFont(const Font* font);
+
+    // After a change of the font, or of its character.
+    void ShowChanges();
+
+    // Shows the table's current character in the other views.
+    void ShowCurrentCharacter();
+
+    void ShowHexadecimal(bool isOn);
+
+private:
+    CharTableView* table_;
+    CharBitmapView* editor_;
+    InfoPanel* info_;
+    TextPreview* preview_;
+    QSplitter* subSplitter_;
+    QSplitter* upperSplitter_;
+    const Font* font_ = nullptr;
+};
+
+} // namespace Glyphor

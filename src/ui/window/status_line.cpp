@@ -1,0 +1,34 @@
+#include "ui/window/status_line.h"
+
+#include "ui/support/dialog_parts.h"
+#include "ui/window/progress_area.h"
+
+#include <QLabel>
+
+namespace Glyphor {
+
+StatusLine::StatusLine()
+    : work_(PlainLabel(tr("Ready"))), pixel_(PlainLabel()), progress_(new ProgressArea)
+{
+    addWidget(work_, 1);
+    addPermanentWidget(pixel_);
+    addPermanentWidget(progress_);
+    connect(progress_, &ProgressArea::TextChanged, this, [this](const QString& text) {
+        if (!text.isEmpty())
+            clearMessage();
+        work_->setText(text.isEmpty() ? tr("Ready") : text);
+    });
+}
+
+void StatusLine::Tell(const QString& text)
+{
+    constexpr int delay = 6000; // milliseconds
+    showMessage(text, delay);
+}
+
+void StatusLine::TellPixel(const QString& text)
+{
+    pixel_->setText(text);
+}
+
+} // namespace Glyphor
