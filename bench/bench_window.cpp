@@ -7,7 +7,7 @@
 #include "files/font_file.h"
 #include "timing.h"
 #include "ui/editor/char_bitmap_view.h"
-#include "ui/table/char_table_view.h"
+#include "ui/table/character_table.h"
 #include "ui/window/main_window.h"
 #include "ui/window/menu_bar.h"
 
@@ -61,12 +61,12 @@ void MeasureTable()
         session.ReplaceFont(MakeFont(0x10000, 16), QStringLiteral("large.c"));
         window.actionChanged(nullptr);
     };
-    CharTableView& table = window.Table();
+    CharacterTable& table = window.Table();
     std::printf("A font of 65,536 characters\n");
     Measure("making and showing it", show);
     Measure("making it alone", [] { (void)MakeFont(0x10000, 16); });
     int code = 0;
-    Measure("selecting a character far away", [&] { table.SetCurrentCode(code += 7001); });
+    Measure("selecting a character far away", [&] { table.SelectCode(code += 7001); });
     Measure("scrolling by a page",
             [&] { table.verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd); });
     const auto run = [&](ActionType type) { window.Menus().Command(type)->trigger(); };
@@ -90,11 +90,11 @@ void MeasureEditor()
     window.show();
     session.ReplaceFont(MakeFont(2, 255), QStringLiteral("tall.c"));
     window.actionChanged(nullptr);
-    CharTableView& table = window.Table();
+    CharacterTable& table = window.Table();
     CharBitmapView& editor = window.Editor();
     std::printf("A character of 255 x 255 pixels\n");
     int code = 0;
-    Measure("showing it", [&] { table.SetCurrentCode(code = 1 - code); });
+    Measure("showing it", [&] { table.SelectCode(code = 1 - code); });
     int column = 0;
     Measure("selecting a pixel", [&] { editor.SelectItem(editor.ItemAt(++column, 100)); });
     Measure("an edit of a pixel",

@@ -23,14 +23,14 @@ const BlockRecord* FindBlock(quint16 code)
 
 } // namespace
 
-std::span<const CharacterRecord> CharacterTable()
+std::span<const CharacterRecord> CharacterRecords()
 {
     return CharacterData::Characters;
 }
 
 QLatin1StringView CharacterName(quint16 code)
 {
-    const auto table = CharacterTable();
+    const auto table = CharacterRecords();
     const auto record = std::ranges::lower_bound(table, code, {}, &CharacterRecord::code);
     if (record == table.end() || record->code != code)
         return {};
@@ -39,7 +39,7 @@ QLatin1StringView CharacterName(quint16 code)
 
 const CharacterRecord* FirstOfCategory(CharacterCategory category)
 {
-    const auto table = CharacterTable();
+    const auto table = CharacterRecords();
     const auto record =
         std::ranges::find(table, static_cast<quint8>(category), &CharacterRecord::category);
     return record == table.end() ? nullptr : &*record;

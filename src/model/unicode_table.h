@@ -13,7 +13,7 @@ namespace Glyphor {
 enum class CharacterCategory : quint8 { LowercaseLetter = 4, UppercaseLetter = 8 };
 
 // All assigned codes of the Basic Multilingual Plane, in ascending order.
-[[nodiscard]] std::span<const CharacterData::CharacterRecord> CharacterTable();
+[[nodiscard]] std::span<const CharacterData::CharacterRecord> CharacterRecords();
 
 // Empty for a code that is not assigned.
 [[nodiscard]] QLatin1StringView CharacterName(quint16 code);

@@ -33,7 +33,7 @@ private Q_SLOTS:
 
     void CharactersAscend()
     {
-        const auto table = CharacterTable();
+        const auto table = CharacterRecords();
         QCOMPARE(table.size(), std::size_t(16890));
         for (std::size_t index = 1; index < table.size(); ++index)
             QVERIFY(table[index - 1].code < table[index].code);

@@ -112,6 +112,9 @@ private Q_SLOTS:
         QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(1, 1));
         QCOMPARE(CurrentCell(), QPoint(1, 1));
         QCOMPARE(view_->CurrentPixel()->PixelPosition(), QPoint(1, 0));
+        QCOMPARE(view_->accessibleDescription(),
+                 u"Index of pixel [1, 0]: %1"_s.arg(
+                     view_->CurrentCharacter()->bitmap->GetPixelIndex(1, 0)));
         QVERIFY(selections.count() > 0);
         const auto press = [this](Qt::Key key) { QTest::keyClick(view_->viewport(), key); };
         press(Qt::Key_Up); // there is no pixel
@@ -154,6 +157,7 @@ private Q_SLOTS:
         Show(FontFormat::AA4);
         session.ReplaceFont(std::move(font_), {});
         PencilTool pencil(session, *view_);
+        const std::unique_ptr<QSpinBox> box(&pencil.IndexBox());
         pencil.ShowFont(session.CurrentFont());
         pencil.Command().setChecked(true);
         QSignalSpy ends(&pencil, &PencilTool::StrokeEnded);

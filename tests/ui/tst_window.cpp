@@ -14,7 +14,7 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/preview/text_preview.h"
-#include "ui/table/char_table_view.h"
+#include "ui/table/character_table.h"
 #include "ui/window/help.h"
 #include "ui/window/main_window.h"
 #include "ui/window/menu_bar.h"
@@ -127,7 +127,7 @@ class TestWindow : public QObject
         const QString path = Path("sample.sif");
         FontFileSample(format, path);
         QVERIFY(window_->CurrentDocument().OpenFile(path));
-        window_->Table().SetCurrentCode('A');
+        window_->Table().SelectCode('A');
     }
 
     static void FontFileSample(FontFormat format, const QString& path);
@@ -186,14 +186,14 @@ private Q_SLOTS:
             QVERIFY2(IsEnabled(id), qPrintable(QString::number(CommandId(id))));
         QVERIFY(!IsEnabled(ActionType::SaveKerning)); // there is no kerning
         QVERIFY(!IsEnabled(ActionType::InvertPixelIndex));
-        window_->Table().SetCurrentCode('A');
+        window_->Table().SelectCode('A');
         QVERIFY(window_->Editor().SelectItem(window_->Editor().ItemAt(0, 0)));
         constexpr int maximum = 3; // 2 bits per pixel
         for (const Edit& edit : EditTable()) {
             if (edit.target == EditTarget::Pixel)
                 QCOMPARE(IsEnabled(edit.type), edit.index <= maximum);
         }
-        window_->Table().SetCurrentCode('D'); // there is no character
+        window_->Table().SelectCode('D'); // there is no character
         QVERIFY(!IsEnabled(ActionType::InsertColumnRight) &&
                 !IsEnabled(ActionType::IncreasePixelIndex));
     }
@@ -213,7 +213,7 @@ private Q_SLOTS:
     {
         QFETCH(const ActionType, type);
         OpenSample(FontFormat::AA4);
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         CurrentFont().FindChar('B')->info.yPos = 0;
         const QByteArray before = Test::Snapshot(CurrentFont());
         Trigger(type);
@@ -255,7 +255,7 @@ private Q_SLOTS:
     {
         OpenSample(FontFormat::AA4);
         CurrentFont().FindChar('B')->info.yPos = 1;
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         CharBitmapView& editor = window_->Editor();
         const int top = editor.Top();
         QVERIFY(editor.SelectItem(editor.ItemAt(1, top)));
@@ -268,7 +268,7 @@ private Q_SLOTS:
         QCOMPARE(bitmap.GetPixelIndex(1, 0), 5);
         QCOMPARE(editor.CurrentPixel()->PixelPosition(), QPoint(1, 0)); // it stays selected
         QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 85);
-        window_->Table().SetCurrentCode('A');
+        window_->Table().SelectCode('A');
         Trigger(WindowCommand::Undo); // and back to the character
         QCOMPARE(window_->Table().CurrentCode(), int('B'));
         QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 170);
@@ -280,7 +280,7 @@ private Q_SLOTS:
         OpenSample(FontFormat::AA4);
         CurrentFont().SetHeight(6);
         CurrentFont().FindChar('B')->info.yPos = 2;
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         CharBitmapView& editor = window_->Editor();
         QVERIFY(editor.SelectItem(editor.ItemAt(1, 2)));
         Trigger(ActionType::MoveUp); // up by a row
@@ -291,7 +291,7 @@ private Q_SLOTS:
         QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(1, 1), 9);
         Trigger(ActionType::InsertColumnRight); // another column
         QCOMPARE(editor.scene()->selectedItems().size(), 1);
-        window_->Table().SetCurrentCode('A');
+        window_->Table().SelectCode('A');
         QCOMPARE(editor.scene()->selectedItems().size(), 0);
         QVERIFY(editor.scene()->focusItem() == nullptr);
     }
@@ -300,7 +300,7 @@ private Q_SLOTS:
     {
         OpenSample(FontFormat::Standard);
         CurrentFont().FindChar('B')->info.yPos = 0;
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         CharBitmapView& editor = window_->Editor();
         editor.setFocus();
         editor.SelectFirstPixel();
@@ -316,7 +316,7 @@ private Q_SLOTS:
     {
         OpenSample(FontFormat::AA4);
         CurrentFont().FindChar('B')->info.yPos = 0;
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         const QByteArray before = Test::Snapshot(CurrentFont());
         window_->Table().setFocus();
         QTest::keyClick(&window_->Table(), Qt::Key_R, Qt::ShiftModifier); // there is no such one
@@ -340,7 +340,7 @@ private Q_SLOTS:
     void HiddenCharactersAreNotEdited()
     {
         OpenSample(FontFormat::AA4);
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         Trigger(ActionType::Toggle);
         QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
         Trigger(WindowCommand::AllCharacters); // enabled ones only
@@ -355,9 +355,9 @@ private Q_SLOTS:
     void UndoShowsWhatItChanged()
     {
         OpenSample(FontFormat::AA4);
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         Trigger(ActionType::Toggle);
-        window_->Table().SetCurrentCode('A');
+        window_->Table().SelectCode('A');
         Trigger(WindowCommand::Undo);
         QCOMPARE(window_->Table().CurrentCode(), int('B'));
         QTest::keyClick(&window_->Table(), Qt::Key_A, Qt::ControlModifier);
@@ -370,7 +370,7 @@ private Q_SLOTS:
     void LegacyCharactersHaveTheRowsOfTheFont()
     {
         OpenSample(FontFormat::LegacyAA4);
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         for (const auto id :
              {ActionType::InsertRowTop, ActionType::InsertRowBottom, ActionType::MoveRight,
               ActionType::MoveLeft, ActionType::MoveUp, ActionType::MoveDown,
@@ -389,7 +389,7 @@ private Q_SLOTS:
     {
         OpenSample(FontFormat::AA4);
         CurrentFont().FindChar('B')->info.yPos = 0;
-        window_->Table().SetCurrentCode('B');
+        window_->Table().SelectCode('B');
         CurrentFont().FindChar('B')->bitmap->SetPixelIndex(0, 1, 15); // as the pencil paints
         const QByteArray before = Test::Snapshot(CurrentFont());
         const auto stroke = [this](int first, int last, Qt::KeyboardModifiers modifiers = {}) {
@@ -531,14 +531,14 @@ private Q_SLOTS:
     void PreferencesTakeEffectAtOnce()
     {
         OpenSample();
-        QCOMPARE(window_->Table().RowLabel(4), u"0x0040"_s);
+        QCOMPARE(window_->Table().model()->headerData(0, Qt::Vertical).toString(), u"0x0040"_s);
         for (const auto& [index, label] : {std::pair(0, u"64"_s), std::pair(1, u"0x0040"_s)}) {
             const DialogAnswer<PreferencesDialog> answer([index](auto& dialog) {
                 dialog.template findChild<QComboBox*>()->setCurrentIndex(index);
                 dialog.accept();
             });
             Trigger(WindowCommand::Preferences);
-            QCOMPARE(window_->Table().RowLabel(4), label);
+            QCOMPARE(window_->Table().model()->headerData(0, Qt::Vertical).toString(), label);
         }
     }
 
@@ -605,6 +605,7 @@ private Q_SLOTS:
         QTimer::singleShot(0, window_.get(), [&] {
             QVERIFY(window_->Progress().isVisible());
             QTest::keyClick(&window_->Table(), Qt::Key_Right);
+            Trigger(ActionType::FontInsertRowTop); // as screen readers do, without a key
             if (way == 0)
                 QTest::mouseClick(window_->Progress().findChild<QAbstractButton*>(),
                                   Qt::LeftButton);
@@ -622,6 +623,7 @@ private Q_SLOTS:
         };
         QVERIFY_THROWS_EXCEPTION(WorkStopped, work());
         QVERIFY(!window_->Progress().isVisible() && window_->isVisible());
+        QVERIFY(!session_->IsModified());
         QCOMPARE(window_->Table().CurrentCode(), current);
         QTest::keyClick(&window_->Table(), Qt::Key_Right);
         QCOMPARE(window_->Table().CurrentCode(), current + 1);

@@ -10,6 +10,7 @@ FontSizeBox::FontSizeBox(QWidget* parent)
     : QWidget(parent), value_(new QSpinBox), unit_(new QComboBox)
 {
     value_->setRange(1, 1000);
+    value_->setAccessibleName(tr("Height"));
     unit_->addItems({tr("px"), tr("pt")});
     unit_->setAccessibleName(tr("Unit of the height"));
     auto* const layout = new QHBoxLayout(this);

@@ -106,6 +106,7 @@ QWidget* PreferencesDialog::MakeFontsPage()
     buttons->addWidget(remove);
     buttons->addStretch();
     auto* const row = new QHBoxLayout;
+    directories_->setAccessibleName(tr("Additional font directories"));
     row->addWidget(directories_, 1);
     row->addLayout(buttons);
     auto* const note = new QLabel(tr("System directories are always searched recursively.<br>"

@@ -303,7 +303,7 @@ void Document::FillRecentMenu(QMenu& menu)
         QAction* const entry =
             menu.addAction(Shown(QFileInfo(path).fileName()).replace(u'&', u"&&"_s));
         entry->setStatusTip(Shown(path));
-        connect(entry, &QAction::triggered, this, [this, path] { OpenFile(path); });
+        connect(entry, &QAction::triggered, this, [this, path] { Q_EMIT OpeningRequested(path); });
     }
     if (recentFiles_.isEmpty())
         menu.addAction(tr("No recent files"))->setEnabled(false);

@@ -61,6 +61,7 @@ public:
     void FillRecentMenu(QMenu& menu);
 
 Q_SIGNALS:
+    void OpeningRequested(const QString& path); // of a recent file
     void RecentFilesChanged();
     void DirectoriesRequested(QWidget* parent); // a change of those that are indexed
 

@@ -81,7 +81,7 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
         current_->setSelected(true);
         scene_.setFocusItem(current_);
     }
-    Q_EMIT PixelSelected(current_);
+    TellPixel();
 }
 
 // Where the cursor goes and where the characters stand, in the grid.
@@ -159,7 +159,7 @@ bool CharBitmapView::SelectItem(CharPixelItem* item)
     item->setFocus();
     item->update();
     ensureVisible(item, 0, 0);
-    Q_EMIT PixelSelected(item);
+    TellPixel();
     return true;
 }
 
@@ -187,7 +187,7 @@ void CharBitmapView::ForgetPixel()
 void CharBitmapView::ClearPixel()
 {
     ForgetPixel();
-    Q_EMIT PixelSelected(nullptr);
+    TellPixel();
 }
 
 // Thin guides for the baseline and the cursor distance.
@@ -265,14 +265,27 @@ void CharBitmapView::keyPressEvent(QKeyEvent* event)
         event->ignore();
 }
 
-void CharBitmapView::ShowStatus(const CharPixelItem& item)
+// Empty for a cell that is no pixel.
+QString CharBitmapView::Description(const CharPixelItem& item) const
 {
     const QPoint place = item.PixelPosition();
     if (character_ == nullptr || place.x() < 0)
-        return;
+        return {};
     const int index = character_->bitmap->GetPixelIndex(place.x(), place.y());
-    Q_EMIT StatusChanged(
-        tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index));
+    return tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index);
+}
+
+void CharBitmapView::ShowStatus(const CharPixelItem& item)
+{
+    if (const QString text = Description(item); !text.isEmpty())
+        Q_EMIT StatusChanged(text);
+}
+
+// To the commands, and to those who don't see the mark.
+void CharBitmapView::TellPixel()
+{
+    setAccessibleDescription(current_ != nullptr ? Description(*current_) : QString());
+    Q_EMIT PixelSelected(current_);
 }
 
 QPoint CharBitmapView::CellAt(QPoint place) const

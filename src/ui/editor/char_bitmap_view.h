@@ -86,6 +86,8 @@ private:
     void UpdateItems();
     void PlaceItems();
     void ForgetPixel();
+    void TellPixel();
+    [[nodiscard]] QString Description(const CharPixelItem& item) const;
     [[nodiscard]] QPoint GuidePlace() const;
     [[nodiscard]] qreal FittingSize() const;
     [[nodiscard]] int ShownColumns() const;

@@ -9,7 +9,7 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/pencil_tool.h"
-#include "ui/table/char_table_view.h"
+#include "ui/table/character_table.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
 #include "ui/window/menu_bar.h"
@@ -85,7 +85,7 @@ void Commands::RunWindowCommand(quint32 id)
     case WindowCommand::Redo:
         return parts_.edits.Redo();
     case WindowCommand::AllCharacters:
-        return parts_.panes.Table().SetShowAll(parts_.menus.Command(id)->isChecked());
+        return parts_.panes.Table().ShowAll(parts_.menus.Command(id)->isChecked());
     case WindowCommand::GoToCharacter:
         return GoToCharacter();
     case WindowCommand::IndexFonts:
@@ -108,7 +108,7 @@ void Commands::GoToCharacter()
     if (!parts_.menus.Command(WindowCommand::AllCharacters)->isChecked())
         shown &= font.EnabledCodes();
     GoToDialog dialog(shown, font.Metrics().encoding, &window_);
-    if (dialog.exec() == QDialog::Accepted && parts_.panes.Table().SetCurrentCode(dialog.Code()))
+    if (dialog.exec() == QDialog::Accepted && parts_.panes.Table().SelectCode(dialog.Code()))
         parts_.panes.Table().setFocus();
 }
 

@@ -6,7 +6,7 @@
 #include "ui/dialogs/code_dialogs.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/guarded.h"
-#include "ui/table/char_table_view.h"
+#include "ui/table/character_table.h"
 
 #include <QScopedValueRollback>
 
@@ -21,7 +21,7 @@ void RunAction(const std::shared_ptr<Action>& action)
 
 } // namespace
 
-EditCommands::EditCommands(Session& session, CharTableView& table, CharBitmapView& editor,
+EditCommands::EditCommands(Session& session, CharacterTable& table, CharBitmapView& editor,
                            QWidget& window)
     : QObject(&window), session_(session), table_(table), editor_(editor), window_(window)
 {}
@@ -99,7 +99,7 @@ void EditCommands::MoveInHistory(bool isUndo)
     const int current = table_.CurrentCode();
     const int first = movedCodes_.Next(0);
     if (first < CodeSet::Limit && (current < 0 || !movedCodes_.Test(quint16(current))))
-        table_.SetCurrentCode(first);
+        table_.SelectCode(first);
 }
 
 // One action for each run of codes, undone as one.

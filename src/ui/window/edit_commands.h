@@ -13,7 +13,7 @@ class QWidget;
 namespace Glyphor {
 
 class CharBitmapView;
-class CharTableView;
+class CharacterTable;
 struct Edit;
 class Session;
 
@@ -25,7 +25,7 @@ class EditCommands final : public QObject
 
 public:
     // It belongs to the window. The others must outlive it.
-    EditCommands(Session& session, CharTableView& table, CharBitmapView& editor, QWidget& window);
+    EditCommands(Session& session, CharacterTable& table, CharBitmapView& editor, QWidget& window);
 
     void RunEdit(const Edit& edit);
 
@@ -67,7 +67,7 @@ private:
     void MoveInHistory(bool isUndo);
 
     Session& session_;
-    CharTableView& table_;
+    CharacterTable& table_;
     CharBitmapView& editor_;
     QWidget& window_;
     bool isAtWork_ = false;

@@ -52,7 +52,7 @@ void InfoPanel::Set(const QString& caption, const QString& value)
     QString shown = value;
     // A place to break lines of long names.
     label->setText(shown.replace(u'_', u"_\u200B"_s));
-    label->setAccessibleName(caption + u": "_s + value);
+    label->setAccessibleName(value); // the caption is its label
 }
 
 QString InfoPanel::Value(const QString& caption) const

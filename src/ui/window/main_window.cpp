@@ -13,7 +13,7 @@
 #include "ui/editor/pencil_tool.h"
 #include "ui/preview/text_preview.h"
 #include "ui/support/dialog_parts.h"
-#include "ui/table/char_table_view.h"
+#include "ui/table/character_table.h"
 #include "ui/window/commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
@@ -89,7 +89,7 @@ MainWindow::~MainWindow()
         disconnect(sender, nullptr, this, nullptr);
 }
 
-CharTableView& MainWindow::Table() const
+CharacterTable& MainWindow::Table() const
 {
     return panes_->Table();
 }
@@ -119,6 +119,10 @@ void MainWindow::ConnectCommands()
         status_->Tell(text);
         UpdateTitle();
     });
+    connect(document_, &Document::OpeningRequested, this, [this](const QString& path) {
+        if (!Progress().IsWorking())
+            document_->OpenFile(path);
+    });
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
     connect(commands_, &Commands::PreferencesChanged, this, [this] {
         panes_->ShowHexadecimal(Settings::Instance().numeralSystem.value() != 0);
@@ -134,7 +138,7 @@ void MainWindow::ConnectViews()
     connect(panes_, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterMoved);
     for (QSplitter* const splitter : panes_->SubSplitters())
         connect(splitter, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterSubMoved);
-    connect(&Table(), &CharTableView::SelectionChanged, commands_, &Commands::EnablePossible);
+    connect(&Table(), &CharacterTable::CodesSelected, commands_, &Commands::EnablePossible);
     Table().setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&Table(), &QWidget::customContextMenuRequested, commands_, [this](QPoint place) {
         commands_->ShowContextMenu(Table().viewport()->mapToGlobal(place));
@@ -189,7 +193,7 @@ void MainWindow::RecallState()
     Editor().SetZoom(zoom);
     pencil_->Command().setChecked(hasPencil);
     menus_->Command(WindowCommand::AllCharacters)->setChecked(showsAll);
-    Table().SetShowAll(showsAll);
+    Table().ShowAll(showsAll);
 }
 
 void MainWindow::KeepState()
@@ -221,7 +225,8 @@ void MainWindow::OnTimerResize()
 
 void MainWindow::OnActionTriggered(quint32 id)
 {
-    commands_->Run(id);
+    if (!Progress().IsWorking()) // screen readers trigger commands without input
+        commands_->Run(id);
 }
 
 void MainWindow::ShowFont()

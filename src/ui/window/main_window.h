@@ -8,7 +8,7 @@
 namespace Glyphor {
 
 class CharBitmapView;
-class CharTableView;
+class CharacterTable;
 class Commands;
 class Document;
 class EditCommands;
@@ -42,7 +42,7 @@ public:
 
     [[nodiscard]] Document& CurrentDocument() const { return *document_; }
     [[nodiscard]] MenuBar& Menus() const { return *menus_; }
-    [[nodiscard]] CharTableView& Table() const;
+    [[nodiscard]] CharacterTable& Table() const;
     [[nodiscard]] CharBitmapView& Editor() const;
     [[nodiscard]] TextPreview& Preview() const;
     [[nodiscard]] ProgressArea& Progress() const;

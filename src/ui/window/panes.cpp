@@ -2,7 +2,7 @@
 
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/preview/text_preview.h"
-#include "ui/table/char_table_view.h"
+#include "ui/table/character_table.h"
 #include "ui/window/info_panel.h"
 
 #include <QScrollArea>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 Panes::Panes()
     : QSplitter(Qt::Horizontal),
-      table_(new CharTableView),
+      table_(new CharacterTable),
       editor_(new CharBitmapView),
       info_(new InfoPanel),
       preview_(new TextPreview),
@@ -42,8 +42,8 @@ Panes::Panes()
         splitter->setStyleSheet(u"QSplitterHandle { background: #bbbbbb; }"_s);
         splitter->setChildrenCollapsible(false);
     }
-    connect(table_, &CharTableView::CurrentChanged, this, &Panes::ShowCurrentCharacter);
-    connect(table_, &CharTableView::Activated, this, [this] {
+    connect(table_, &CharacterTable::CurrentCodeChanged, this, &Panes::ShowCurrentCharacter);
+    connect(table_, &CharacterTable::EditRequested, this, [this] {
         editor_->setFocus();
         if (editor_->CurrentPixel() == nullptr)
             editor_->SelectFirstPixel();
@@ -59,7 +59,7 @@ void Panes::ShowFont(const Font* font)
 {
     font_ = font;
     editor_->SetCharacter(nullptr, -1);
-    table_->SetFont(font);
+    table_->ShowFont(font);
     ShowCurrentCharacter();
     preview_->SetFont(font);
 }
@@ -81,7 +81,7 @@ void Panes::ShowCurrentCharacter()
 
 void Panes::ShowHexadecimal(bool isOn)
 {
-    table_->SetHexadecimal(isOn);
+    table_->ShowHexadecimal(isOn);
     info_->SetHexadecimal(isOn);
 }
 

@@ -7,7 +7,7 @@
 namespace Glyphor {
 
 class CharBitmapView;
-class CharTableView;
+class CharacterTable;
 class Font;
 class InfoPanel;
 class TextPreview;
@@ -21,7 +21,7 @@ class Panes final : public QSplitter
 public:
     Panes();
 
-    [[nodiscard]] CharTableView& Table() const { return *table_; }
+    [[nodiscard]] CharacterTable& Table() const { return *table_; }
     [[nodiscard]] CharBitmapView& Editor() const { return *editor_; }
     [[nodiscard]] InfoPanel& Info() const { return *info_; }
     [[nodiscard]] TextPreview& Preview() const { return *preview_; }
@@ -41,7 +41,7 @@ public:
     void ShowHexadecimal(bool isOn);
 
 private:
-    CharTableView* table_;
+    CharacterTable* table_;
     CharBitmapView* editor_;
     InfoPanel* info_;
     TextPreview* preview_;

@@ -80,7 +80,7 @@ void ProgressArea::SetWork(int value)
     Show(text_, value, maximum_);
     QApplication::instance()->installEventFilter(this);
     const auto remove = qScopeGuard([this] { QApplication::instance()->removeEventFilter(this); });
-    QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+    QCoreApplication::processEvents(); // of screen readers as well
     sinceTurn_.start();
 }
 

@@ -766,14 +766,18 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
-    <name>Glyphor::CharTableView</name>
+    <name>Glyphor::CharacterModel</name>
     <message>
-        <source>Characters</source>
-        <translation>Zeichen</translation>
+        <source>%1, no character</source>
+        <translation>%1, kein Zeichen</translation>
     </message>
     <message>
-        <source>Open a font file or drop one here.</source>
-        <translation>Eine Schriftdatei öffnen oder hierher ziehen.</translation>
+        <source>%1, enabled</source>
+        <translation>%1, aktiviert</translation>
+    </message>
+    <message>
+        <source>%1, disabled</source>
+        <translation>%1, deaktiviert</translation>
     </message>
 </context>
 <context>
@@ -845,6 +849,17 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>The file %1 does not exist.</source>
         <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::CharacterTable</name>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Open a font file or drop one here.</source>
+        <translation>Eine Schriftdatei öffnen oder hierher ziehen.</translation>
     </message>
 </context>
 <context>
@@ -1140,6 +1155,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Unit of the height</source>
         <translation>Einheit der Höhe</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
     </message>
 </context>
 <context>
@@ -1520,6 +1539,10 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>CR LF, which the tools for firmware expect</source>
         <translation>CR LF, wie es die Werkzeuge für Firmware erwarten</translation>
+    </message>
+    <message>
+        <source>Additional font directories</source>
+        <translation>Zusätzliche Schriftverzeichnisse</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,264 @@
+#include "ui/table/character_table.h"
+
+#include "model/encoding.h"
+#include "ui/table/character_delegate.h"
+#include "ui/table/character_model.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+CharacterTable::CharacterTable(QWidget* parent)
+    : QTableView(parent),
+      model_(new CharacterModel(this)),
+      delegate_(new CharacterDelegate(*model_, this))
+{
+    setModel(model_);
+    setItemDelegate(delegate_);
+    setAccessibleName(tr("Characters"));
+    setFrameShape(QFrame::StyledPanel);
+    setTabKeyNavigation(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ExtendedSelection);
+    setCornerButtonEnabled(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    for (QHeaderView* const header : {horizontalHeader(), verticalHeader()}) {
+        header->setSectionResizeMode(QHeaderView::Fixed);
+        header->setMinimumSectionSize(1);
+        header->setHighlightSections(false);
+        header->hide();
+    }
+    horizontalHeader()->setSectionsClickable(false);
+    verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    connect(this, &QAbstractItemView::activated, this, &CharacterTable::EditRequested);
+}
+
+void CharacterTable::ShowFont(const Font* font)
+{
+    {
+        const QScopedValueRollback restoring(isRestoring_, true);
+        model_->ShowFont(font);
+        current_ = -1;
+        TakeSelection();
+    }
+    for (QHeaderView* const header : {horizontalHeader(), verticalHeader()})
+        header->setVisible(font != nullptr);
+    SizeCells();
+    scrollToTop();
+    if (model_->rowCount() > 0) {
+        SelectCode(FirstCodeWithPixels());
+    } else {
+        Q_EMIT CurrentCodeChanged(-1);
+        Q_EMIT CodesSelected();
+    }
+}
+
+// The first one at all where none has pixels.
+int CharacterTable::FirstCodeWithPixels() const
+{
+    const CodeSet& codes = model_->ShownFont()->ExistingCodes();
+    const int first = codes.Next(model_->CodeOf(model_->index(0, 0)));
+    for (int code = first; code < CodeSet::Limit; code = codes.Next(code + 1)) {
+        const CharInfo& info = model_->ShownFont()->FindChar(quint16(code))->info;
+        if (model_->IndexOf(code).isValid() && info.width > 1 && info.Rows() > 0)
+            return code;
+    }
+    return first;
+}
+
+void CharacterTable::Refresh()
+{
+    const CodeSet selected = selected_;
+    if (model_->Refresh())
+        Restore(current_, selected);
+    TakeSelection();
+    SizeCells();
+}
+
+void CharacterTable::ShowAll(bool isOn)
+{
+    const CodeSet selected = selected_;
+    if (model_->ShowAll(isOn))
+        Restore(current_, selected);
+    TakeSelection();
+    SizeCells();
+    scrollTo(currentIndex());
+    Q_EMIT CodesSelected();
+}
+
+void CharacterTable::ShowHexadecimal(bool isOn)
+{
+    model_->ShowHexadecimal(isOn);
+}
+
+// The codes stay selected where their cells are others.
+void CharacterTable::Restore(int current, const CodeSet& selected)
+{
+    const QScopedValueRollback restoring(isRestoring_, true);
+    selectionModel()->setCurrentIndex(model_->IndexOf(current), QItemSelectionModel::NoUpdate);
+    selectionModel()->select(model_->Cells(selected), QItemSelectionModel::ClearAndSelect);
+}
+
+void CharacterTable::TakeSelection()
+{
+    selected_ = {};
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            selected_.SetRange(model_->CodeOf(model_->index(row, range.left())),
+                               model_->CodeOf(model_->index(row, range.right())), true);
+    }
+    // Hidden cells can't be selected, though ranges go over them.
+    if (!model_->ShowsAll() && model_->ShownFont() != nullptr)
+        selected_ &= model_->ShownFont()->EnabledCodes();
+}
+
+// Cells fill the width and are large enough for the usual characters at their own size. Room for
+// the scroll bar is left in any case: its coming and going would change what it comes and goes for.
+void CharacterTable::SizeCells()
+{
+    constexpr int minCellSize = 24;
+    constexpr int margins = 2 * CharacterDelegate::Margin;
+    const Font* const font = model_->ShownFont();
+    const int usualWidth = model_->UsualWidth();
+    const int fontHeight = font != nullptr ? std::max<int>(1, font->Metrics().height) : 1;
+    const int available = maximumViewportSize().width() - verticalScrollBar()->sizeHint().width();
+    const int width =
+        std::max({minCellSize, available / CharacterModel::Columns, usualWidth + margins});
+    const int zoom = std::max(1, (width - margins) / usualWidth);
+    const int height = std::max(minCellSize, fontHeight * zoom + margins);
+    delegate_->ZoomTo(zoom);
+    horizontalHeader()->setDefaultSectionSize(width);
+    verticalHeader()->setDefaultSectionSize(height);
+    viewport()->update();
+}
+
+QRect CharacterTable::CellRect(int code) const
+{
+    return visualRect(model_->IndexOf(code));
+}
+
+bool CharacterTable::SelectCode(int code)
+{
+    const QModelIndex cell = model_->IndexOf(code);
+    if (!cell.isValid())
+        return false;
+    // Not as the keys would have it that are held: those of a shortcut, maybe.
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect);
+    return true;
+}
+
+void CharacterTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (previous.isValid())
+        update(previous);
+    if (isRestoring_ || !current.isValid() || model_->CodeOf(current) == current_)
+        return;
+    current_ = model_->CodeOf(current);
+    Q_EMIT CurrentCodeChanged(current_);
+}
+
+void CharacterTable::selectionChanged(const QItemSelection& selected,
+                                      const QItemSelection& deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (isRestoring_)
+        return;
+    TakeSelection();
+    Q_EMIT CodesSelected();
+}
+
+// The corners of the rectangle are those where selecting began and where it is now.
+void CharacterTable::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command)
+{
+    const QModelIndex begin = indexAt(rect.topLeft());
+    const QModelIndex end = indexAt(rect.bottomRight());
+    if (!begin.isValid() || !end.isValid())
+        return;
+    const auto [first, last] = std::minmax({model_->CodeOf(begin), model_->CodeOf(end)});
+    CodeSet span;
+    span.SetRange(first, last, true);
+    selectionModel()->select(model_->Cells(span), command);
+}
+
+// The keys to the left and right go on from row to row.
+QModelIndex CharacterTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const bool isBack = action == MoveLeft || action == MovePrevious;
+    const bool isOn = action == MoveRight || action == MoveNext;
+    const QModelIndex current = currentIndex();
+    if ((!isBack && !isOn) || !current.isValid())
+        return QTableView::moveCursor(action, modifiers);
+    const int cell = current.row() * CharacterModel::Columns + current.column() + (isOn ? 1 : -1);
+    const int count = model_->rowCount() * CharacterModel::Columns;
+    if (cell < 0 || cell >= count)
+        return current;
+    return model_->index(cell / CharacterModel::Columns, cell % CharacterModel::Columns);
+}
+
+// Only a text that is a single character of the font is one to jump to.
+void CharacterTable::keyboardSearch(const QString& text)
+{
+    const Font* const font = model_->ShownFont();
+    if (font == nullptr || text.size() != 1 || !text[0].isPrint())
+        return;
+    quint16 code = text[0].unicode();
+    const EncodingType encoding = font->Metrics().encoding;
+    if (EncodingFor(EncodingType::Unicode).Convert(encoding, code) &&
+        font->FindChar(code) != nullptr)
+        SelectCode(code);
+}
+
+// Typing jumps to a character, so it must not trigger the commands that have letters as shortcuts,
+// whether or not the font has the character.
+bool CharacterTable::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+        const QString text = key->text();
+        const bool isTyped = text.size() == 1 && text[0].isPrint();
+        if (model_->ShownFont() != nullptr && (key->modifiers() & commands) == 0 && isTyped) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTableView::event(event);
+}
+
+// A blank is a character like others here.
+void CharacterTable::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
+        keyboardSearch(event->text());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void CharacterTable::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (model_->ShownFont() != nullptr)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, tr("Open a font file or drop one here."));
+}
+
+void CharacterTable::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    SizeCells();
+    scrollTo(currentIndex());
+}
+
+} // namespace Glyphor
