@@ -96,7 +96,7 @@ void MeasureEditor()
     int code = 0;
     Measure("showing it", [&] { table.SelectCode(code = 1 - code); });
     int column = 0;
-    Measure("selecting a pixel", [&] { editor.SelectItem(editor.ItemAt(++column, 100)); });
+    Measure("selecting a pixel", [&] { editor.SelectItem(editor.CellItem(++column, 100)); });
     Measure("an edit of a pixel",
             [&] { window.Menus().Command(ActionType::InvertPixelIndex)->trigger(); });
     Measure("an edit of the character",

@@ -112,7 +112,7 @@ private Q_SLOTS:
         QFETCH(const QString, last);
         QFETCH(const int, size);
         QFETCH(const QString, block);
-        EnableRangeDialog dialog(true, {}, EncodingType::Unicode, nullptr);
+        EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
         dialog.show();
         for (const auto& [label, text] :
              {std::pair(u"First:"_s, first), std::pair(u"Last:"_s, last)}) {
@@ -128,7 +128,7 @@ private Q_SLOTS:
 
     void ShiftJis()
     {
-        EnableRangeDialog dialog(true, {}, EncodingType::ShiftJis, nullptr);
+        EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::ShiftJis, nullptr);
         dialog.show();
         QVERIFY(!dialog.findChild<QComboBox*>()->isVisible()); // blocks are Unicode's
         Labelled<QLineEdit>(dialog, u"First:"_s)->setText(QString(QChar(0x3042)));
@@ -164,7 +164,7 @@ private Q_SLOTS:
             QCoreApplication::installTranslator(&texts);
         const FontGenerationDialog generation(Outlines(), {}, nullptr);
         const FontDialog font(nullptr);
-        const EnableRangeDialog range(true, {}, EncodingType::Unicode, nullptr);
+        const EnableRangeDialog range(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
         for (const QDialog* const dialog :
              std::initializer_list<const QDialog*>{&generation, &font, &range}) {
             QStringList keys;
@@ -185,13 +185,13 @@ private Q_SLOTS:
     void RangesAreRememberedOnceAccepted()
     {
         for (const bool isAccepted : {false, true}) {
-            EnableRangeDialog dialog(true, {}, EncodingType::Unicode, nullptr);
+            EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
             dialog.show();
             QCOMPARE(int(dialog.First()), 0x20);
             Labelled<QLineEdit>(dialog, u"First:"_s)->setText(u"65"_s);
             isAccepted ? dialog.accept() : dialog.reject();
         }
-        const EnableRangeDialog dialog(true, {}, EncodingType::Unicode, nullptr);
+        const EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
         QCOMPARE(int(dialog.First()), 65);
     }
 
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(dialog.Encoding(), EncodingType::ShiftJis);
         QCOMPARE(formats->currentData(Qt::ToolTipRole).toString(),
                  u"Known as <b>Standard, anti-aliased, 2bpp</b> before Tavix V6.36."_s);
-        formats->Fill(false);
+        formats->OfferFormats(LegacyFormats::Hidden);
         QCOMPARE(formats->count(), 5);
         QCOMPARE(dialog.Format(), FontFormat::Standard);
         QCOMPARE(dialog.Encoding(), EncodingType::Unicode);
@@ -391,7 +391,7 @@ private Q_SLOTS:
             database->Build(
                 {fonts.path()}, [](int) {}, [](int) { return true; });
             FontDatabase::SetCurrent(database);
-            dialog.Fill();
+            dialog.ShowDatabase();
             dialog.SetIndexing(false);
             auto* const families = dialog.findChild<QListWidget*>();
             QCOMPARE(Texts(*families), (QStringList{u"DejaVu Sans"_s, u"DejaVu Sans Mono"_s}));
@@ -418,7 +418,7 @@ private Q_SLOTS:
         }
         const FontDialog dialog(nullptr);
         QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
-        QCOMPARE(dialog.Size().value, 30);
+        QCOMPARE(dialog.ChosenSize().value, 30);
         FontDatabase::SetCurrent(nullptr);
     }
 

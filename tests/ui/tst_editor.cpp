@@ -40,7 +40,7 @@ class TestEditor : public QObject
 
     [[nodiscard]] QPoint Place(int column, int row) const
     {
-        return view_->mapFromScene(view_->ItemAt(column, row)->rect().center());
+        return view_->mapFromScene(view_->CellItem(column, row)->rect().center());
     }
 
     [[nodiscard]] QPoint CurrentCell() const
@@ -74,14 +74,14 @@ private Q_SLOTS:
         QCOMPARE(view_->RowCount(), 4);
         const QColor colours[] = {{}, QColor(255, 255, 128), QColor(128, 255, 255)};
         for (int row = 0; row < 4; ++row) {
-            const CharPixelItem& item = *view_->ItemAt(1, row);
+            const CharPixelItem& item = *view_->CellItem(1, row);
             const int state = states[row] - '0';
             QCOMPARE(int(item.CellState()), state);
             QCOMPARE(item.flags().testFlag(QGraphicsItem::ItemIsSelectable), state == 0);
             if (state != 0) {
                 QCOMPARE(item.Colour(), colours[state]);
                 QCOMPARE(item.PixelPosition(), QPoint(-1, -1));
-                QVERIFY(!view_->SelectItem(view_->ItemAt(1, row)));
+                QVERIFY(!view_->SelectItem(view_->CellItem(1, row)));
             }
         }
     }
@@ -93,7 +93,7 @@ private Q_SLOTS:
         for (const auto& [index, alpha] : {std::pair(0, 0), std::pair(5, 85), std::pair(15, 255)}) {
             character.bitmap->SetPixelIndex(2, 0, index);
             view_->SetCharacter(&character, 'B');
-            const QColor colour = view_->ItemAt(2, 1)->Colour();
+            const QColor colour = view_->CellItem(2, 1)->Colour();
             QCOMPARE(colour.alpha(), alpha);
             QCOMPARE(colour.rgb() & 0xFFFFFF, 0U);
         }

@@ -22,7 +22,7 @@ private Q_SLOTS:
         font->FindChar('A')->kerning = {{'B', -1}};
         TextStrip strip;
         QCOMPARE(strip.Positions(), QList<int>{0});
-        strip.SetFont(font.get());
+        strip.ShowFont(font.get());
         strip.SetText(u"AB~A"_s); // "~" is disabled
         QCOMPARE(strip.Positions(), (QList<int>{0, 2, 8, 11, 13}));
         strip.SetKerning(true);
@@ -36,7 +36,7 @@ private Q_SLOTS:
         character.info.xPos = 0;
         character.info.yPos = 1;
         TextStrip strip;
-        strip.SetFont(font.get());
+        strip.ShowFont(font.get());
         strip.SetText(u"B"_s);
         strip.SetZoom(3);
         strip.SetColours(Qt::red, Qt::blue);
@@ -58,7 +58,7 @@ private Q_SLOTS:
         TextPreview first;
         TextPreview second;
         for (TextPreview* const preview : {&first, &second})
-            preview->SetFont(font.get());
+            preview->ShowFont(font.get());
         first.findChild<QLineEdit*>()->setText(u"AB"_s);
         second.RestoreState(first.State());
         QCOMPARE(second.Strip().Positions(), (QList<int>{0, 2, 8}));
@@ -70,7 +70,7 @@ private Q_SLOTS:
     {
         const auto font = Test::MakeSampleFont(FontFormat::Framed);
         InfoPanel panel;
-        panel.Show(font.get(), 'B');
+        panel.ShowCode(font.get(), 'B');
         QCOMPARE(panel.Value(u"Code"_s), u"0x0042"_s);
         QCOMPARE(panel.Value(u"Name"_s), u"LATIN CAPITAL LETTER B"_s);
         QCOMPARE(panel.Value(u"Block"_s), u"Basic Latin"_s);
@@ -80,9 +80,9 @@ private Q_SLOTS:
         QCOMPARE(panel.Value(u"Enabled characters"_s), u"6 of 7"_s);
         // The structure, two blocks, six records, and two planes of all rows.
         QCOMPARE(FlashSize(*font), 16 + 2 * 12 + 6 * 12 + 2 * 2 * (1 + 1 + 2 + 2 + 3));
-        panel.Show(font.get(), 'Z');
+        panel.ShowCode(font.get(), 'Z');
         QCOMPARE(panel.Value(u"Enabled"_s), u"no character"_s);
-        panel.Show(nullptr, -1);
+        panel.ShowCode(nullptr, -1);
         QCOMPARE(panel.Value(u"Height"_s), QString());
     }
 

@@ -187,7 +187,7 @@ private Q_SLOTS:
         QVERIFY(!IsEnabled(ActionType::SaveKerning)); // there is no kerning
         QVERIFY(!IsEnabled(ActionType::InvertPixelIndex));
         window_->Table().SelectCode('A');
-        QVERIFY(window_->Editor().SelectItem(window_->Editor().ItemAt(0, 0)));
+        QVERIFY(window_->Editor().SelectItem(window_->Editor().CellItem(0, 0)));
         constexpr int maximum = 3; // 2 bits per pixel
         for (const Edit& edit : EditTable()) {
             if (edit.target == EditTarget::Pixel)
@@ -258,7 +258,7 @@ private Q_SLOTS:
         window_->Table().SelectCode('B');
         CharBitmapView& editor = window_->Editor();
         const int top = editor.Top();
-        QVERIFY(editor.SelectItem(editor.ItemAt(1, top)));
+        QVERIFY(editor.SelectItem(editor.CellItem(1, top)));
         const CharBitmap& bitmap = *CurrentFont().FindChar('B')->bitmap;
         Trigger(ActionType::SetPixelIndex9);
         QCOMPARE(bitmap.GetPixelIndex(1, 0), 9);
@@ -267,11 +267,11 @@ private Q_SLOTS:
         Trigger(ActionType::InvertPixelIndex);
         QCOMPARE(bitmap.GetPixelIndex(1, 0), 5);
         QCOMPARE(editor.CurrentPixel()->PixelPosition(), QPoint(1, 0)); // it stays selected
-        QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 85);
+        QCOMPARE(editor.CellItem(1, top)->Colour().alpha(), 85);
         window_->Table().SelectCode('A');
         Trigger(WindowCommand::Undo); // and back to the character
         QCOMPARE(window_->Table().CurrentCode(), int('B'));
-        QCOMPARE(editor.ItemAt(1, top)->Colour().alpha(), 170);
+        QCOMPARE(editor.CellItem(1, top)->Colour().alpha(), 170);
     }
 
     // The marked cell is the one that commands change, whatever happened to the rows.
@@ -282,7 +282,7 @@ private Q_SLOTS:
         CurrentFont().FindChar('B')->info.yPos = 2;
         window_->Table().SelectCode('B');
         CharBitmapView& editor = window_->Editor();
-        QVERIFY(editor.SelectItem(editor.ItemAt(1, 2)));
+        QVERIFY(editor.SelectItem(editor.CellItem(1, 2)));
         Trigger(ActionType::MoveUp); // up by a row
         const QPoint marked = editor.SelectedPixel();
         QCOMPARE(marked, QPoint(1, 1));
@@ -396,7 +396,7 @@ private Q_SLOTS:
             CharBitmapView& editor = window_->Editor();
             const auto place = [&](int column) {
                 return editor.mapFromScene(
-                    editor.ItemAt(column, 1 + editor.Top())->rect().center());
+                    editor.CellItem(column, 1 + editor.Top())->rect().center());
             };
             QTest::mousePress(editor.viewport(), Qt::LeftButton, modifiers, place(first));
             QMouseEvent move(QEvent::MouseMove, place(last),

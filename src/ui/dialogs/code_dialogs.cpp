@@ -26,10 +26,10 @@ constexpr qsizetype MostFound = 200;
 
 } // namespace
 
-EnableRangeDialog::EnableRangeDialog(bool enables, const CodeSet& existing, EncodingType encoding,
-                                     QWidget* parent)
+EnableRangeDialog::EnableRangeDialog(ActionType change, const CodeSet& existing,
+                                     EncodingType encoding, QWidget* parent)
     : QDialog(parent),
-      enables_(enables),
+      change_(change),
       existing_(existing),
       encoding_(encoding),
       first_(new QLineEdit),
@@ -37,7 +37,8 @@ EnableRangeDialog::EnableRangeDialog(bool enables, const CodeSet& existing, Enco
       block_(new QComboBox(this)),
       hint_(PlainLabel())
 {
-    setWindowTitle(enables ? tr("Enable range of characters") : tr("Disable range of characters"));
+    setWindowTitle(change == ActionType::Enable ? tr("Enable range of characters")
+                                                : tr("Disable range of characters"));
     block_->addItem(tr("Codes as entered"));
     for (const UnicodeBlock& block : UnicodeBlocks())
         block_->addItem(block.name);
@@ -104,7 +105,7 @@ void EnableRangeDialog::Validate()
             ++count;
         const int size = *last - *first + 1;
         QString hint = tr("Codes: %L1, in the font: %L2").arg(size).arg(count);
-        if (enables_ && count < size)
+        if (change_ == ActionType::Enable && count < size)
             hint += u'\n' + tr("The others are added as characters without pixels.");
         hint_->setText(hint);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/action_type.h"
 #include "model/code_set.h"
 #include "model/font_format.h"
 
@@ -21,9 +22,9 @@ class EnableRangeDialog final : public QDialog
     Q_OBJECT
 
 public:
-    // Enables or disables. `existing` are the codes that the font has characters for, of which the
-    // dialog tells how many are in the range.
-    EnableRangeDialog(bool enables, const CodeSet& existing, EncodingType encoding,
+    // `change` is Enable or Disable. `existing` are the codes that the font has characters for, of
+    // which the dialog tells how many are in the range.
+    EnableRangeDialog(ActionType change, const CodeSet& existing, EncodingType encoding,
                       QWidget* parent);
     ~EnableRangeDialog() override;
 
@@ -35,7 +36,7 @@ private:
     void ChooseBlock(int index);
     void Validate();
 
-    bool enables_;
+    ActionType change_;
     CodeSet existing_;
     EncodingType encoding_;
     QLineEdit* first_;

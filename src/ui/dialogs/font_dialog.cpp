@@ -125,7 +125,7 @@ FontDialog::FontDialog(QWidget* parent)
     const FontDialogData stored = Settings::Instance().fontDialog.load();
     wantedFamily_ = stored.family;
     wantedStyle_ = stored.style;
-    size_->SetSize({stored.size, stored.inPoints});
+    size_->SetValue({stored.size, stored.inPoints});
     script_->setCurrentIndex(std::max(0, script_->findData(stored.script, Qt::UserRole + 1)));
     resize(720, 560);
     RestoreGeometry(*this, stored.geometry);
@@ -149,7 +149,7 @@ FontDialog::FontDialog(QWidget* parent)
             accept();
     });
     connect(size_, &FontSizeBox::Changed, this, &FontDialog::ShowSample);
-    Fill();
+    ShowDatabase();
     search_->setFocus();
 }
 
@@ -160,12 +160,12 @@ FontDialog::~FontDialog()
     if (result() == Accepted) {
         record.family = wantedFamily_;
         record.style = wantedStyle_;
-        record.size = Size().value;
-        record.inPoints = Size().inPoints;
+        record.size = ChosenSize().value;
+        record.inPoints = ChosenSize().inPoints;
         record.script = script_->currentData(Qt::UserRole + 1).toString();
     }
     Settings::Instance().fontDialog.save(record);
-    strip_->SetFont(nullptr);
+    strip_->ShowFont(nullptr);
 }
 
 QWidget* FontDialog::MakeChoices()
@@ -227,7 +227,7 @@ QWidget* FontDialog::MakeSample()
     return sample;
 }
 
-void FontDialog::Fill()
+void FontDialog::ShowDatabase()
 {
     database_ = FontDatabase::Current();
     UpdateCompleter();
@@ -283,7 +283,7 @@ const FontFamily* FontDialog::Family() const
     return item != nullptr ? database_->Find(item->text()) : nullptr;
 }
 
-QString FontDialog::Style() const
+QString FontDialog::ChosenStyle() const
 {
     const QTreeWidgetItem* const item = styles_->currentItem();
     return item != nullptr ? item->text(0) : QString();
@@ -319,18 +319,18 @@ void FontDialog::ShowStyles()
 // In the real face and at the real size; failures show when the font is made.
 void FontDialog::ShowSample()
 {
-    strip_->SetFont(nullptr);
+    strip_->ShowFont(nullptr);
     sample_.reset();
     ok_->setEnabled(!Path().isEmpty());
     if (Path().isEmpty())
         return;
-    wantedStyle_ = Style();
-    const QString text = SampleOf(Family()->Face(Style()));
+    wantedStyle_ = ChosenStyle();
+    const QString text = SampleOf(Family()->Face(ChosenStyle()));
     ActionOpenFontArgs args;
     args.path = Path();
     args.faceIndex = FaceIndex();
     args.format = FontFormat::AA4;
-    args.size = Size();
+    args.size = ChosenSize();
     args.selection.emplace();
     for (const QChar character : text)
         args.selection->Set(character.unicode(), true);
@@ -345,24 +345,24 @@ void FontDialog::ShowSample()
     }
     strip_->SetText(text);
     strip_->SetZoom(std::clamp(ReadableHeight / std::max<int>(1, sample_->Metrics().height), 1, 4));
-    strip_->SetFont(sample_.get());
+    strip_->ShowFont(sample_.get());
 }
 
 QString FontDialog::Path() const
 {
     const FontFamily* const family = Family();
-    return family != nullptr ? family->Path(Style()) : QString();
+    return family != nullptr ? family->Path(ChosenStyle()) : QString();
 }
 
 int FontDialog::FaceIndex() const
 {
     const FontFamily* const family = Family();
-    return family != nullptr ? family->FaceIndex(Style()) : 0;
+    return family != nullptr ? family->FaceIndex(ChosenStyle()) : 0;
 }
 
-FontSize FontDialog::Size() const
+FontSize FontDialog::ChosenSize() const
 {
-    return size_->Size();
+    return size_->Value();
 }
 
 } // namespace Glyphor

@@ -28,7 +28,7 @@ public:
     ~FontDialog() override;
 
     // Shows the families of the current database, and keeps the choice if it can.
-    void Fill();
+    void ShowDatabase();
 
     // Tells whether the directories are being indexed.
     void SetIndexing(bool isIndexing);
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] QString Path() const;
     [[nodiscard]] int FaceIndex() const;
 
-    [[nodiscard]] FontSize Size() const;
+    [[nodiscard]] FontSize ChosenSize() const;
 
 Q_SIGNALS:
     void IndexRequested();
@@ -53,7 +53,7 @@ private:
     void ShowSample();
     void UpdateCompleter();
     [[nodiscard]] const FontFamily* Family() const;
-    [[nodiscard]] QString Style() const;
+    [[nodiscard]] QString ChosenStyle() const;
 
     std::shared_ptr<const FontDatabase> database_;
     QString wantedFamily_; // chosen last, to be chosen again

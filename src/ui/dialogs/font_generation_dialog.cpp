@@ -52,7 +52,7 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
     ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
     LoadEntries();
     ConnectEntries();
-    Update();
+    ShowEffect();
     size_->setFocus();
 }
 
@@ -90,11 +90,12 @@ QWidget* FontGenerationDialog::MakeEntries()
 void FontGenerationDialog::LoadEntries()
 {
     const FontGenerationDialogData record = Settings::Instance().fontGenerationDialog.load();
-    size_->SetSize(args_.size.value > 0 ? args_.size : FontSize{record.size, record.inPoints});
+    size_->SetValue(args_.size.value > 0 ? args_.size : FontSize{record.size, record.inPoints});
     FontFormat format = args_.format.value_or(FontFormat(record.format));
     if (args_.encoding == EncodingType::ShiftJis && !args_.format && !IsLegacyFormat(format))
         format = FontFormat::Legacy; // the others have no such encoding
-    format_->Fill(!Settings::Instance().hideLegacy.value() || IsLegacyFormat(format));
+    const bool needsLegacy = !Settings::Instance().hideLegacy.value() || IsLegacyFormat(format);
+    format_->OfferFormats(needsLegacy ? LegacyFormats::Offered : LegacyFormats::Hidden);
     format_->SetFormat(format);
     format_->setEnabled(!args_.format);
     encoding_->SetFormat(format_->Format());
@@ -112,8 +113,8 @@ void FontGenerationDialog::LoadEntries()
 void FontGenerationDialog::StoreEntries() const
 {
     FontGenerationDialogData record = Settings::Instance().fontGenerationDialog.load();
-    record.size = size_->Size().value;
-    record.inPoints = size_->Size().inPoints;
+    record.size = size_->Value().value;
+    record.inPoints = size_->Value().inPoints;
     record.bold = bold_->isChecked();
     record.italic = italic_->isChecked();
     if (!args_.format)
@@ -129,15 +130,15 @@ void FontGenerationDialog::ConnectEntries()
 {
     connect(format_, &QComboBox::currentIndexChanged, this,
             [this] { encoding_->SetFormat(format_->Format()); });
-    connect(size_, &FontSizeBox::Changed, this, &FontGenerationDialog::Update);
+    connect(size_, &FontSizeBox::Changed, this, &FontGenerationDialog::ShowEffect);
     for (QComboBox* const box : std::initializer_list<QComboBox*>{format_, encoding_, face_})
-        connect(box, &QComboBox::currentIndexChanged, this, &FontGenerationDialog::Update);
+        connect(box, &QComboBox::currentIndexChanged, this, &FontGenerationDialog::ShowEffect);
     for (QCheckBox* const box : {bold_, italic_})
-        connect(box, &QCheckBox::toggled, this, &FontGenerationDialog::Update);
-    connect(selection_, &CharacterSelection::Changed, this, &FontGenerationDialog::Update);
+        connect(box, &QCheckBox::toggled, this, &FontGenerationDialog::ShowEffect);
+    connect(selection_, &CharacterSelection::Changed, this, &FontGenerationDialog::ShowEffect);
 }
 
-void FontGenerationDialog::Update()
+void FontGenerationDialog::ShowEffect()
 {
     const QString fault = args_.selection ? QString() : selection_->Fault();
     ok_->setEnabled(fault.isEmpty());
@@ -148,7 +149,8 @@ void FontGenerationDialog::Update()
     UserInterface silent; // until the choice is made
     const InterfaceScope scope(silent);
     try {
-        preview_->Show(Args(), !args_.selection && selection_->IsExact());
+        const bool isWanted = !args_.selection && selection_->IsExact();
+        preview_->ShowFor(Args(), isWanted ? MissingCharacters::Named : MissingCharacters::Ignored);
     } catch (const CriticalException& error) {
         ok_->setEnabled(false);
         preview_->ShowFault(error.Text());
@@ -158,7 +160,7 @@ void FontGenerationDialog::Update()
 ActionOpenFontArgs FontGenerationDialog::Args() const
 {
     ActionOpenFontArgs args = args_;
-    args.size = size_->Size();
+    args.size = size_->Value();
     args.format = format_->Format();
     args.encoding = encoding_->Encoding();
     args.faceIndex = std::max(0, face_->currentIndex());

@@ -42,7 +42,7 @@ private:
     void StoreEntries() const;
     [[nodiscard]] QWidget* MakeEntries();
     void ConnectEntries();
-    void Update();
+    void ShowEffect();
 
     ActionOpenFontArgs args_;
     FontSizeBox* size_;

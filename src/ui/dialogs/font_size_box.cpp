@@ -22,12 +22,12 @@ FontSizeBox::FontSizeBox(QWidget* parent)
     connect(unit_, &QComboBox::currentIndexChanged, this, &FontSizeBox::Changed);
 }
 
-FontSize FontSizeBox::Size() const
+FontSize FontSizeBox::Value() const
 {
     return {value_->value(), unit_->currentIndex() == 1};
 }
 
-void FontSizeBox::SetSize(const FontSize& size)
+void FontSizeBox::SetValue(const FontSize& size)
 {
     value_->setValue(size.value);
     unit_->setCurrentIndex(int(size.inPoints));

@@ -17,8 +17,8 @@ class FontSizeBox final : public QWidget
 public:
     explicit FontSizeBox(QWidget* parent = nullptr);
 
-    [[nodiscard]] FontSize Size() const;
-    void SetSize(const FontSize& size);
+    [[nodiscard]] FontSize Value() const;
+    void SetValue(const FontSize& size);
 
 Q_SIGNALS:
     void Changed();

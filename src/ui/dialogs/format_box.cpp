@@ -16,20 +16,20 @@ using namespace Qt::StringLiterals;
 
 FormatBox::FormatBox(QWidget* parent) : QComboBox(parent)
 {
-    Fill(true);
+    OfferFormats(LegacyFormats::Offered);
 }
 
-void FormatBox::Fill(bool withLegacy)
+void FormatBox::OfferFormats(LegacyFormats legacy)
 {
     const FontFormat chosen = Format();
     clear();
-    AddGroup(tr("Standard formats"), false);
-    if (withLegacy)
-        AddGroup(tr("Legacy formats"), true);
+    AddGroup(tr("Standard formats"), FormatGroup::Standard);
+    if (legacy == LegacyFormats::Offered)
+        AddGroup(tr("Legacy formats"), FormatGroup::Legacy);
     SetFormat(chosen);
 }
 
-void FormatBox::AddGroup(const QString& heading, bool isLegacy)
+void FormatBox::AddGroup(const QString& heading, FormatGroup group)
 {
     addItem(heading);
     auto* const item = qobject_cast<QStandardItemModel*>(model())->item(count() - 1);
@@ -38,7 +38,7 @@ void FormatBox::AddGroup(const QString& heading, bool isLegacy)
     bold.setBold(true);
     item->setFont(bold);
     for (const FormatNameRow& row : FormatNameTable) {
-        if (row.legacy != isLegacy)
+        if (row.legacy != (group == FormatGroup::Legacy))
             continue;
         addItem(Engine::tr(row.displayName.data()), int(row.format));
         setItemData(count() - 1,

@@ -7,6 +7,9 @@
 
 namespace Glyphor {
 
+enum class FormatGroup { Standard, Legacy };
+enum class LegacyFormats { Offered, Hidden };
+
 // The choice of a font format, in two groups with their headings.
 class FormatBox final : public QComboBox
 {
@@ -15,14 +18,14 @@ class FormatBox final : public QComboBox
 public:
     explicit FormatBox(QWidget* parent = nullptr);
 
-    // Makes the list, with or without the legacy formats, and keeps the choice if it can.
-    void Fill(bool withLegacy);
+    // Makes the list and keeps the choice if it can.
+    void OfferFormats(LegacyFormats legacy);
 
     [[nodiscard]] FontFormat Format() const;
     void SetFormat(FontFormat format);
 
 private:
-    void AddGroup(const QString& heading, bool isLegacy);
+    void AddGroup(const QString& heading, FormatGroup group);
 };
 
 // The choice of an encoding; only legacy formats have one.

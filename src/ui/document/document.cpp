@@ -82,7 +82,7 @@ bool Document::AskFont(ActionOpenFontArgs& args)
     FontDialog dialog(&window_);
     dialog.SetIndexing(indexer_.IsIndexing());
     connect(&indexer_, &FontIndexer::Indexed, &dialog, [&dialog] {
-        dialog.Fill();
+        dialog.ShowDatabase();
         dialog.SetIndexing(false);
     });
     connect(&dialog, &FontDialog::IndexRequested, this, [this, &dialog] {
@@ -98,7 +98,7 @@ bool Document::AskFont(ActionOpenFontArgs& args)
         return false;
     args.path = dialog.Path();
     args.faceIndex = dialog.FaceIndex();
-    args.size = dialog.Size();
+    args.size = dialog.ChosenSize();
     return true;
 }
 

@@ -75,7 +75,7 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
     }
     if (current_ != nullptr && current_->CellState() != CharPixelItem::Pixel)
         ForgetPixel();
-    CharPixelItem* const same = isOther ? nullptr : ItemAt(selected.x(), selected.y());
+    CharPixelItem* const same = isOther ? nullptr : CellItem(selected.x(), selected.y());
     if (current_ == nullptr && same != nullptr && same->CellState() == CharPixelItem::Pixel) {
         current_ = same;
         current_->setSelected(true);
@@ -138,7 +138,7 @@ void CharBitmapView::PlaceItems()
     viewport()->update();
 }
 
-CharPixelItem* CharBitmapView::ItemAt(int column, int row) const
+CharPixelItem* CharBitmapView::CellItem(int column, int row) const
 {
     if (column < 0 || row < 0 || column >= columns_ || row >= rows_)
         return nullptr;

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] CharPixelItem* CurrentPixel() const { return current_; }
 
     // Null outside the grid.
-    [[nodiscard]] CharPixelItem* ItemAt(int column, int row) const;
+    [[nodiscard]] CharPixelItem* CellItem(int column, int row) const;
 
     // In the character's bitmap; (-1, -1) where no pixel is selected.
     [[nodiscard]] QPoint SelectedPixel() const;

@@ -129,16 +129,16 @@ void CharPixelItem::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Left:
-        view_.SelectItem(view_.ItemAt(column_ - 1, row_));
+        view_.SelectItem(view_.CellItem(column_ - 1, row_));
         break;
     case Qt::Key_Right:
-        view_.SelectItem(view_.ItemAt(column_ + 1, row_));
+        view_.SelectItem(view_.CellItem(column_ + 1, row_));
         break;
     case Qt::Key_Up:
-        view_.SelectItem(view_.ItemAt(column_, row_ - 1));
+        view_.SelectItem(view_.CellItem(column_, row_ - 1));
         break;
     case Qt::Key_Down:
-        view_.SelectItem(view_.ItemAt(column_, row_ + 1));
+        view_.SelectItem(view_.CellItem(column_, row_ + 1));
         break;
     case Qt::Key_Space:
         Q_EMIT view_.InversionRequested(column_, row_);

@@ -98,7 +98,7 @@ void PencilTool::PaintTo(const QMouseEvent& mouse)
 // Each cell once in a stroke.
 void PencilTool::PaintCell(QPoint cell, bool inverts)
 {
-    const CharPixelItem* const item = editor_.ItemAt(cell.x(), cell.y());
+    const CharPixelItem* const item = editor_.CellItem(cell.x(), cell.y());
     if (item == nullptr || item->CellState() != CharPixelItem::Pixel ||
         !painted_.insert(item).second)
         return;

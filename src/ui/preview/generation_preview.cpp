@@ -86,17 +86,17 @@ GenerationPreview::GenerationPreview(QWidget* parent)
     layout->addWidget(notes_);
     timer_.setSingleShot(true);
     timer_.setInterval(ShowDelay);
-    connect(&timer_, &QTimer::timeout, this, &GenerationPreview::Render);
+    connect(&timer_, &QTimer::timeout, this, &GenerationPreview::RenderFont);
     connect(field_, &QLineEdit::textChanged, this, [this](const QString& text) {
         strip_->SetText(text);
         if (!args_.path.isEmpty())
-            Show(args_, tellsMissing_);
+            ShowFor(args_, missing_);
     });
 }
 
 GenerationPreview::~GenerationPreview()
 {
-    strip_->SetFont(nullptr);
+    strip_->ShowFont(nullptr);
 }
 
 QString GenerationPreview::Sample() const
@@ -110,10 +110,10 @@ void GenerationPreview::SetSample(const QString& sample)
     field_->setCursorPosition(0);
 }
 
-void GenerationPreview::Show(const ActionOpenFontArgs& args, bool tellsMissing)
+void GenerationPreview::ShowFor(const ActionOpenFontArgs& args, MissingCharacters missing)
 {
     args_ = args;
-    tellsMissing_ = tellsMissing;
+    missing_ = missing;
     isStale_ = true;
     timer_.start();
 }
@@ -121,7 +121,7 @@ void GenerationPreview::Show(const ActionOpenFontArgs& args, bool tellsMissing)
 void GenerationPreview::ShowFault(const QString& fault)
 {
     Stop();
-    SetFont(nullptr);
+    ShowFont(nullptr);
     sizes_->clear();
     notes_->setText(fault);
 }
@@ -132,14 +132,14 @@ void GenerationPreview::Stop()
     isStale_ = true;
 }
 
-void GenerationPreview::SetFont(std::unique_ptr<Font> font)
+void GenerationPreview::ShowFont(std::unique_ptr<Font> font)
 {
-    strip_->SetFont(font.get());
+    strip_->ShowFont(font.get());
     font_ = std::move(font);
 }
 
 // The window has its turns in here, so this can come up again before it ends.
-void GenerationPreview::Render()
+void GenerationPreview::RenderFont()
 {
     if (isRendering_) {
         timer_.start();
@@ -170,7 +170,7 @@ void GenerationPreview::RenderSample()
     if (args.selection)
         codes &= *args.selection;
     args.selection = codes;
-    SetFont(ReadFont(args));
+    ShowFont(ReadFont(args));
     sizes_->setText(
         tr("Line height: %1 px, em size: %2 px").arg(font_->Metrics().height).arg(EmSize(args)));
     notes_->clear();
@@ -199,14 +199,14 @@ QString GenerationPreview::MissingFrom(const Font& font) const
 {
     constexpr qsizetype most = 40;
     QString missing;
-    if (!tellsMissing_ || !args_.selection)
+    if (missing_ == MissingCharacters::Ignored || !args_.selection)
         return missing;
-    const CodeSet& codes = *args_.selection;
-    for (int unicode = codes.Next(0); unicode < CodeSet::Limit && missing.size() < most;
-         unicode = codes.Next(unicode + 1)) {
-        const auto code = Encoded(quint16(unicode), font.Metrics().encoding);
+    for (const quint16 unicode : *args_.selection) {
+        const auto code = Encoded(unicode, font.Metrics().encoding);
         if (QChar(unicode).isPrint() && (!code || font.FindChar(*code) == nullptr))
             missing.append(QChar(unicode));
+        if (missing.size() == most)
+            break;
     }
     return missing;
 }

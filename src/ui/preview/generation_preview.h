@@ -12,6 +12,8 @@ namespace Glyphor {
 
 class TextStrip;
 
+enum class MissingCharacters { Named, Ignored };
+
 // Shows a sample in the pixels that a scalable font would be rendered to, and how large the font
 // would be. It renders in the window's turns, so that the dialog around it keeps working.
 class GenerationPreview final : public QWidget
@@ -22,9 +24,9 @@ public:
     explicit GenerationPreview(QWidget* parent = nullptr);
     ~GenerationPreview() override;
 
-    // Shows the font that the arguments make, soon, and if wanted which of the selected characters
-    // it lacks. What is being rendered is given up.
-    void Show(const ActionOpenFontArgs& args, bool tellsMissing);
+    // Shows the font that the arguments make, soon, and which of the selected characters it lacks.
+    // What is being rendered is given up.
+    void ShowFor(const ActionOpenFontArgs& args, MissingCharacters missing);
 
     // Shows a text instead.
     void ShowFault(const QString& fault);
@@ -42,11 +44,11 @@ Q_SIGNALS:
     void Finished();
 
 private:
-    void Render();
+    void RenderFont();
     void RenderSample();
     void RenderAll();
     [[nodiscard]] QString MissingFrom(const Font& font) const;
-    void SetFont(std::unique_ptr<Font> font);
+    void ShowFont(std::unique_ptr<Font> font);
 
     TextStrip* strip_;
     QLineEdit* field_;
@@ -54,7 +56,7 @@ private:
     QLabel* notes_;
     QTimer timer_;
     ActionOpenFontArgs args_;
-    bool tellsMissing_ = false;
+    MissingCharacters missing_ = MissingCharacters::Ignored;
     std::unique_ptr<Font> font_;
     bool isRendering_ = false;
     bool isStale_ = false; // what is being rendered

@@ -39,7 +39,7 @@ void TextStrip::Resized()
     update();
 }
 
-void TextStrip::SetFont(const Font* font)
+void TextStrip::ShowFont(const Font* font)
 {
     font_ = font;
     Resized();
@@ -70,7 +70,7 @@ void TextStrip::SetColours(const QColor& ink, const QColor& paper)
     update();
 }
 
-const Character* TextStrip::Find(QChar character) const
+const Character* TextStrip::CharacterOf(QChar character) const
 {
     quint16 code = character.unicode();
     const bool isEncoded =
@@ -81,7 +81,7 @@ const Character* TextStrip::Find(QChar character) const
 
 int TextStrip::KerningBetween(QChar left, QChar right) const
 {
-    const Character* const character = Find(left);
+    const Character* const character = CharacterOf(left);
     quint16 code = right.unicode();
     if (!kerning_ || character == nullptr ||
         !EncodingFor(EncodingType::Unicode).Convert(font_->Metrics().encoding, code))
@@ -104,7 +104,7 @@ QList<int> TextStrip::Positions() const
         if (index > 0)
             x += KerningBetween(text_[index - 1], text_[index]);
         positions.append(x);
-        const Character* const character = Find(text_[index]);
+        const Character* const character = CharacterOf(text_[index]);
         x += character != nullptr ? int(character->info.cursorDistance) : MissingWidth();
     }
     positions.append(x);
@@ -125,7 +125,7 @@ void TextStrip::paintEvent(QPaintEvent*)
         return;
     const QList<int> positions = Positions();
     for (qsizetype index = 0; index < text_.size(); ++index) {
-        const Character* const character = Find(text_[index]);
+        const Character* const character = CharacterOf(text_[index]);
         if (character == nullptr) {
             PaintMissing(painter, positions[index]);
             continue;
@@ -195,9 +195,9 @@ TextPreview::TextPreview(QWidget* parent)
     strip_->SetText(field_->text());
 }
 
-void TextPreview::SetFont(const Font* font)
+void TextPreview::ShowFont(const Font* font)
 {
-    strip_->SetFont(font);
+    strip_->ShowFont(font);
     kerning_->setEnabled(font != nullptr && font->HasKerning());
 }
 

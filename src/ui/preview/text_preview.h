@@ -21,7 +21,7 @@ public:
     explicit TextStrip(QWidget* parent = nullptr);
 
     // Null for no font, which must outlive its use here. Call Resized() after every change of it.
-    void SetFont(const Font* font);
+    void ShowFont(const Font* font);
     void Resized();
     void SetText(const QString& text);
     void SetZoom(int zoom);
@@ -37,7 +37,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    [[nodiscard]] const Character* Find(QChar character) const;
+    [[nodiscard]] const Character* CharacterOf(QChar character) const;
     [[nodiscard]] int KerningBetween(QChar left, QChar right) const;
     void PaintMissing(QPainter& painter, int x) const;
     [[nodiscard]] int MissingWidth() const;
@@ -58,7 +58,7 @@ class TextPreview final : public QWidget
 public:
     explicit TextPreview(QWidget* parent = nullptr);
 
-    void SetFont(const Font* font);
+    void ShowFont(const Font* font);
     void Refresh();
 
     // The sample and how it is shown, to be remembered. An unknown state changes nothing.

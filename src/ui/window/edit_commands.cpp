@@ -168,8 +168,7 @@ void EditCommands::RunPixelEdit(const Edit& edit)
 void EditCommands::ChangeRange(ActionType type)
 {
     const Font& font = *session_.CurrentFont();
-    EnableRangeDialog dialog(type == ActionType::Enable, font.ExistingCodes(),
-                             font.Metrics().encoding, &window_);
+    EnableRangeDialog dialog(type, font.ExistingCodes(), font.Metrics().encoding, &window_);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const auto action = std::make_shared<ActionCharState>(session_, type);

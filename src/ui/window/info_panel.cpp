@@ -61,7 +61,7 @@ QString InfoPanel::Value(const QString& caption) const
     return label != nullptr ? label->text().remove(QChar(0x200B)) : QString();
 }
 
-void InfoPanel::Show(const Font* font, int code)
+void InfoPanel::ShowCode(const Font* font, int code)
 {
     for (const QString& caption : values_.keys())
         Set(caption, {});

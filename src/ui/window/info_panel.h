@@ -19,9 +19,9 @@ public:
     explicit InfoPanel(QWidget* parent = nullptr);
 
     // Null for no font, -1 for no character.
-    void Show(const Font* font, int code);
+    void ShowCode(const Font* font, int code);
 
-    void SetHexadecimal(bool hexadecimal) { hexadecimal_ = hexadecimal; }
+    void ShowHexadecimal(bool hexadecimal) { hexadecimal_ = hexadecimal; }
 
     // The value under a caption, for whoever reads the panel without seeing it.
     [[nodiscard]] QString Value(const QString& caption) const;

@@ -61,7 +61,7 @@ void Panes::ShowFont(const Font* font)
     editor_->SetCharacter(nullptr, -1);
     table_->ShowFont(font);
     ShowCurrentCharacter();
-    preview_->SetFont(font);
+    preview_->ShowFont(font);
 }
 
 void Panes::ShowChanges()
@@ -76,13 +76,13 @@ void Panes::ShowCurrentCharacter()
     const int code = table_->CurrentCode();
     const bool hasCode = font_ != nullptr && code >= 0;
     editor_->SetCharacter(hasCode ? font_->FindChar(quint16(code)) : nullptr, code);
-    info_->Show(font_, code);
+    info_->ShowCode(font_, code);
 }
 
 void Panes::ShowHexadecimal(bool isOn)
 {
     table_->ShowHexadecimal(isOn);
-    info_->SetHexadecimal(isOn);
+    info_->ShowHexadecimal(isOn);
 }
 
 } // namespace Glyphor

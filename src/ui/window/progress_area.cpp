@@ -54,7 +54,7 @@ ProgressArea::ProgressArea(QWidget* parent)
     hide();
 }
 
-void ProgressArea::Show(const QString& text, int value, int maximum)
+void ProgressArea::ShowWork(const QString& text, int value, int maximum)
 {
     if (bar_->maximum() != maximum)
         bar_->setRange(0, maximum);
@@ -77,7 +77,7 @@ void ProgressArea::SetWork(int value)
 {
     if (sinceBegin_.elapsed() < BarDelay || sinceTurn_.elapsed() < WindowTurnDelay)
         return;
-    Show(text_, value, maximum_);
+    ShowWork(text_, value, maximum_);
     QApplication::instance()->installEventFilter(this);
     const auto remove = qScopeGuard([this] { QApplication::instance()->removeEventFilter(this); });
     QCoreApplication::processEvents(); // of screen readers as well
@@ -113,7 +113,7 @@ void ProgressArea::EndBackground()
 void ProgressArea::ShowBackground()
 {
     if (backgroundMaximum_ > 0)
-        return Show(backgroundText_, backgroundValue_, backgroundMaximum_);
+        return ShowWork(backgroundText_, backgroundValue_, backgroundMaximum_);
     hide();
     Q_EMIT TextChanged({});
 }

@@ -44,7 +44,7 @@ Q_SIGNALS:
     void BackgroundStopped(); // by the user
 
 private:
-    void Show(const QString& text, int value, int maximum);
+    void ShowWork(const QString& text, int value, int maximum);
     void ShowBackground();
 
     QProgressBar* bar_;
