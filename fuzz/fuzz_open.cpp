@@ -43,7 +43,7 @@ void Open(const QString& path)
     // A charmap may name a glyph for every code: a part of them shows as much, in less time.
     ActionOpenFontArgs args;
     args.path = path;
-    args.size = {16, false};
+    args.render.height = 16;
     args.selection.emplace().SetRange(0, 0x2FF, true);
     const auto font = ReadFont(args);
     qsizetype size = 0;

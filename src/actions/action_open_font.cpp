@@ -20,9 +20,9 @@ const QString& CreationFailed()
     return title;
 }
 
-void WarnOfPoints(const FontSize& size)
+void WarnOfPoints(const ActionOpenFontArgs& args)
 {
-    if (!size.inPoints || size.PixelHeight() != 0)
+    if (!args.size.inPoints || args.render.height != 0)
         return;
     CurrentInterface().warning(Engine::tr("Height in points"),
                                Engine::tr("A height in points needs the resolution of a desktop, "
@@ -53,13 +53,10 @@ void CheckCombination(FontFormat format, EncodingType encoding)
 
 RenderOptions OptionsOf(const ActionOpenFontArgs& args)
 {
-    return {
-        .format = args.format.value_or(FontFormat::Standard),
-        .encoding = args.encoding.value_or(EncodingType::Unicode),
-        .size = args.size,
-        .effects = args.effects,
-        .faceIndex = args.faceIndex,
-    };
+    RenderOptions options = args.render;
+    options.format = args.format.value_or(FontFormat::Standard);
+    options.encoding = args.encoding.value_or(EncodingType::Unicode);
+    return options;
 }
 
 std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
@@ -72,7 +69,7 @@ std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
     if (!file->OpenFault().isEmpty())
         Fail(CreationFailed(), Engine::tr("The font file %1 can't be used: %2")
                                    .arg(Shown(args.path), file->OpenFault()));
-    WarnOfPoints(options.size);
+    WarnOfPoints(args);
     file->SetCharacterFilter(args.selection);
     return file->Read();
 }
@@ -140,7 +137,7 @@ LogEntry ActionOpenFont::Log() const
 {
     const bool isCreated = Type() == ActionType::CreateFont;
     return LogEntry(MessageFor(),
-                    {isCreated ? QString::number(Args().size.PixelHeight()) : Shown(Args().path)});
+                    {isCreated ? QString::number(Args().render.height) : Shown(Args().path)});
 }
 
 } // namespace Glyphor

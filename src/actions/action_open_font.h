@@ -3,7 +3,7 @@
 #include "actions/action.h"
 #include "model/code_set.h"
 #include "model/font.h"
-#include "render/free_type_face.h"
+#include "render/render_options.h"
 
 #include <optional>
 
@@ -13,12 +13,14 @@ struct ActionOpenFontArgs
 {
     QString path;
 
-    // For fonts that are rendered, and for files that do not tell these themselves.
+    // What the user said, for fonts that are rendered and for files that do not tell these.
     std::optional<FontFormat> format;
     std::optional<EncodingType> encoding;
+
+    // As the user gave it, whereas the height to render at is in pixels. Of the format and the
+    // encoding those above count.
     FontSize size;
-    quint32 effects = 0; // bits of FaceEffect
-    int faceIndex = 0;
+    RenderOptions render;
 
     // Where set, only these characters are rendered, or stay enabled.
     std::optional<CodeSet> selection;

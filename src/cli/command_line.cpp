@@ -8,6 +8,7 @@
 #include "app/critical_exception.h"
 #include "app/error_file.h"
 #include "app/progress.h"
+#include "app/settings.h"
 #include "app/shown_text.h"
 #include "cli/installed_fonts.h"
 #include "files/file_types.h"
@@ -249,12 +250,13 @@ bool CommandLine::requestAction(Action& action)
         return false;
     if (auto* const open = dynamic_cast<ActionOpenFont*>(&action)) {
         open->Args() = options_.open;
+        open->Args().render.useStrikes = Settings::Instance().useIncludedBitmaps.value();
         open->Args().path = current_->Get<QString>(0);
         if (action.Type() == ActionType::CreateFont) {
             const InstalledFont font =
                 FindInstalledFont(current_->Get<QString>(0), current_->Get<QString>(1));
             open->Args().path = font.path;
-            open->Args().faceIndex = font.faceIndex;
+            open->Args().render.faceIndex = font.faceIndex;
         }
         return true;
     }

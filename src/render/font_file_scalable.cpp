@@ -54,13 +54,13 @@ void FontFileScalable::UseFace(const FreeTypeFace& face)
     face_.SetLargestBitmap(CharInfo::MaxSize, IsLegacyFormat(options_.format)
                                                   ? std::numeric_limits<int>::max() / 2
                                                   : CharInfo::MaxSize);
-    face_.SetPixelSize(options_.size);
+    face_.SetPixelSize(options_.height, options_.useStrikes);
 }
 
 std::unique_ptr<Font> FontFileScalable::Read()
 {
     auto font = std::make_unique<Font>(options_.format, options_.encoding);
-    face_.SetPixelSize(options_.size);
+    face_.SetPixelSize(options_.height, options_.useStrikes);
     face_.SetEffects(options_.effects);
     font->SetName(FontName());
     SetMetrics(*font);

@@ -6,16 +6,6 @@
 
 namespace Glyphor {
 
-// What a font is to be rendered as.
-struct RenderOptions
-{
-    FontFormat format = FontFormat::Standard;
-    EncodingType encoding = EncodingType::Unicode;
-    FontSize size;
-    quint32 effects = 0; // bits of FaceEffect
-    int faceIndex = 0;
-};
-
 // A scalable font file, rendered at one size into a font of one format. Read only.
 class FontFileScalable : public FontFileFT
 {
@@ -38,7 +28,6 @@ protected:
     // Takes the face that is rendered and gives it the depth and the size.
     void UseFace(const FreeTypeFace& face);
 
-    [[nodiscard]] const RenderOptions& Options() const { return options_; }
     [[nodiscard]] FreeTypeFace& Face() { return face_; }
     [[nodiscard]] const FreeTypeFace& Face() const { return face_; }
 

@@ -1,13 +1,10 @@
 #include "render/free_type_face.h"
 
 #include "app/engine_texts.h"
-#include "app/settings.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QHash>
-#include <QScreen>
 #include <QtEndian>
 
 #include FT_MULTIPLE_MASTERS_H
@@ -127,16 +124,6 @@ const TT_OS2* Os2Table(FT_Face face)
 }
 
 } // namespace
-
-qint64 FontSize::PixelHeight() const
-{
-    if (!inPoints)
-        return value;
-    const bool hasDesktop = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
-    const QScreen* const screen = hasDesktop ? QGuiApplication::primaryScreen() : nullptr;
-    const int dotsPerInch = screen != nullptr ? static_cast<int>(screen->logicalDotsPerInchX()) : 0;
-    return qint64(value) * dotsPerInch / 72;
-}
 
 FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library)
     : library_(library.Get()), path_(path)
@@ -338,23 +325,22 @@ QList<quint32> FreeTypeFace::UnicodeRanges() const
     return ranges;
 }
 
-bool FreeTypeFace::SelectStrike(qint64 pixelHeight)
+bool FreeTypeFace::SelectStrike(int height)
 {
-    const qsizetype index = StrikeHeights().indexOf(pixelHeight);
-    if (index < 0 || !Settings::Instance().useIncludedBitmaps.value())
+    const qsizetype index = StrikeHeights().indexOf(height);
+    if (index < 0)
         return false;
     FT_Select_Size(face_, static_cast<FT_Int>(index));
     return true;
 }
 
-void FreeTypeFace::SetPixelSize(const FontSize& size)
+void FreeTypeFace::SetPixelSize(int height, bool useStrikes)
 {
-    const qint64 pixelHeight = size.PixelHeight();
-    if (!IsOpen() || SelectStrike(pixelHeight))
+    if (!IsOpen() || (useStrikes && SelectStrike(height)))
         return;
     FT_Size_RequestRec request{};
     request.type = FT_SIZE_REQUEST_TYPE_BBOX;
-    request.height = static_cast<FT_Long>(pixelHeight * 64);
+    request.height = FT_Long(height) * 64;
     FT_Request_Size(face_, &request);
 }
 

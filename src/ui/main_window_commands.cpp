@@ -354,7 +354,7 @@ bool MainWindow::AskFont(ActionOpenFontArgs& args)
     if (dialog.exec() != QDialog::Accepted)
         return false;
     args.path = dialog.Path();
-    args.faceIndex = dialog.FaceIndex();
+    args.render.faceIndex = dialog.FaceIndex();
     args.size = dialog.Size();
     return true;
 }

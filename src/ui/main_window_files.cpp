@@ -13,6 +13,7 @@
 #include "ui/char_table_view.h"
 #include "ui/dialog_parts.h"
 #include "ui/font_generation_dialog.h"
+#include "ui/font_size_box.h"
 #include "ui/format_box.h"
 #include "ui/merge_mode_dialog.h"
 
@@ -79,6 +80,7 @@ bool MainWindow::CompleteArgs(ActionOpenFontArgs& args)
 {
     const auto type = FileTypeOf(args.path);
     const bool isComplete = !type || !IsScalable(*type) || args.size.value > 0;
+    RenderAt(args.size, args);
     return isComplete || AskGeneration(args);
 }
 

@@ -36,7 +36,7 @@ std::shared_ptr<ActionOpenFont> Open(Session& session, const QString& path, int 
 {
     auto action = std::make_shared<ActionOpenFont>(session, type);
     action->Args().path = path;
-    action->Args().size = {height, false};
+    action->Args().render.height = height;
     return action;
 }
 
@@ -166,7 +166,7 @@ private Q_SLOTS:
         const auto action = Open(session, path, height);
         action->Args().format = FontFormat(format);
         action->Args().encoding = EncodingType(encoding);
-        action->Args().faceIndex = face;
+        action->Args().render.faceIndex = face;
         const Failure failure = FailureOf(*action);
         QCOMPARE(failure.title, title);
         QVERIFY2(failure.text.startsWith(text), qUtf8Printable(failure.text));
@@ -180,6 +180,7 @@ private Q_SLOTS:
         Session session;
         const auto action = Open(session, Test::FontPath("strike.ttf"));
         action->Args().size = {12, true};
+        action->Args().render.height = 0;
         QCOMPARE(FailureOf(*action).text, u"Font has invalid metrics."_s);
         QCOMPARE(interface.warnings.size(), 1);
         QVERIFY(interface.warnings[0].contains(u"points"_s));

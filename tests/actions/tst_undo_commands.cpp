@@ -1,11 +1,8 @@
 #include "actions/session.h"
-#include "render/free_type_face.h"
 #include "support/count_action.h"
 #include "support/test_main.h"
 
 #include <QAction>
-#include <QGuiApplication>
-#include <QScreen>
 #include <QTest>
 
 namespace Glyphor {
@@ -37,13 +34,6 @@ private Q_SLOTS:
         QCOMPARE(undo.statusTip(), u"Undo last action"_s);
         QCOMPARE(redo.statusTip(), u"Redo last action: Counted."_s);
         QVERIFY(!undo.isEnabled() && redo.isEnabled());
-    }
-
-    void PointsUseTheResolution()
-    {
-        const double dotsPerInch = QGuiApplication::primaryScreen()->logicalDotsPerInchX();
-        QCOMPARE((FontSize{72, true}.PixelHeight()), qint64(dotsPerInch));
-        QCOMPARE((FontSize{7, true}.PixelHeight()), 7 * qint64(dotsPerInch) / 72);
     }
 };
 

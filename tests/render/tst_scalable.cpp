@@ -1,4 +1,3 @@
-#include "app/settings.h"
 #include "render/font_file_scalable.h"
 #include "support/test_main.h"
 
@@ -22,7 +21,7 @@ RenderOptions At(int height, FontFormat format = FontFormat::AA4)
 {
     RenderOptions options;
     options.format = format;
-    options.size = {height, false};
+    options.height = height;
     return options;
 }
 
@@ -180,7 +179,7 @@ private Q_SLOTS:
         face.SetMonochrome(false);
         face.SetLargestBitmap(255, 255);
         for (const int height : {100, 200, 300, 400, 30000}) {
-            face.SetPixelSize({height, false});
+            face.SetPixelSize(height);
             RenderedGlyph glyph;
             QVERIFY(face.RenderGlyph('A', glyph));
             QCOMPARE(glyph.pixels.empty(), height > 300);
@@ -268,9 +267,9 @@ private Q_SLOTS:
 
         QVERIFY(Render("strike.ttf", At(11, FontFormat::Standard))->FindChar('A')->bitmap->Data() !=
                 chequered);
-        Settings::Instance().useIncludedBitmaps.setValue(false);
-        const auto outline = Render("strike.ttf", At(10, FontFormat::Standard));
-        Settings::Instance().useIncludedBitmaps.setValue(true);
+        RenderOptions options = At(10, FontFormat::Standard);
+        options.useStrikes = false;
+        const auto outline = Render("strike.ttf", options);
         QVERIFY(outline->FindChar('A')->bitmap->Data() != chequered);
     }
 

@@ -7,6 +7,7 @@
 #include "ui/code_dialogs.h"
 #include "ui/font_dialog.h"
 #include "ui/font_generation_dialog.h"
+#include "ui/font_size_box.h"
 #include "ui/format_box.h"
 #include "ui/generation_preview.h"
 #include "ui/info_panel.h"
@@ -22,6 +23,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -292,7 +294,7 @@ private Q_SLOTS:
         QSignalSpy finished(&dialog.Preview(), &GenerationPreview::Finished);
         QVERIFY(finished.wait(5000));
         const ActionOpenFontArgs args = dialog.Args();
-        QCOMPARE(args.effects, bold ? quint32(BoldEffect) : 0U);
+        QCOMPARE(args.render.effects, bold ? quint32(BoldEffect) : 0U);
         const std::unique_ptr<Font> font = ReadFont(args);
         for (const QChar sample : u"Glyphs1"_s) {
             const Character* const shown =
@@ -331,6 +333,21 @@ private Q_SLOTS:
         QVERIFY(dialog.Args().selection.has_value());
     }
 
+    void HeightsAndPreferences()
+    {
+        const auto dotsPerInch = int(QGuiApplication::primaryScreen()->logicalDotsPerInchX());
+        auto& useStrikes = Settings::Instance().useIncludedBitmaps;
+        useStrikes.setValue(false);
+        ActionOpenFontArgs args;
+        RenderAt({7, true}, args);
+        useStrikes.setValue(true);
+        QCOMPARE(args.render.height, 7 * dotsPerInch / 72);
+        QVERIFY(args.size.inPoints && !args.render.useStrikes);
+        RenderAt({7, false}, args);
+        QCOMPARE(args.render.height, 7);
+        QVERIFY(args.render.useStrikes);
+    }
+
     void GenerationTakesWhatIsGiven()
     {
         ActionOpenFontArgs args = Outlines();
@@ -338,11 +355,11 @@ private Q_SLOTS:
         args.size = {40, false};
         args.selection.emplace();
         args.selection->Set('x', true);
-        args.faceIndex = 1;
+        args.render.faceIndex = 1;
         const FontGenerationDialog dialog(args, {u"One"_s, u"Two"_s}, nullptr);
         QCOMPARE(*dialog.Args().format, FontFormat::Legacy);
         QCOMPARE(dialog.Args().size.value, 40);
-        QCOMPARE(dialog.Args().faceIndex, 1);
+        QCOMPARE(dialog.Args().render.faceIndex, 1);
         QVERIFY(*dialog.Args().selection == *args.selection);
         QVERIFY(!dialog.findChild<FormatBox*>()->isEnabled());
     }
