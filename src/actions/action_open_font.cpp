@@ -4,6 +4,7 @@
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/progress.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "render/font_file_scalable.h"
@@ -74,14 +75,23 @@ std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
     return file->Read();
 }
 
+// The file object; where neither the file nor the arguments tell the format, the user does.
+std::unique_ptr<FontFile> FileWithFormat(const ActionOpenFontArgs& args)
+{
+    auto file = MakeInputFile(args.path, {args.format, args.encoding});
+    if (args.format || file->TellsFormat())
+        return file;
+    const auto choice =
+        CurrentInterface().askFontFormat(args.encoding.value_or(EncodingType::Unicode));
+    if (!choice)
+        throw WorkStopped();
+    return MakeInputFile(args.path, {choice->format, choice->encoding});
+}
+
 // Files other than those that are rendered have a format of their own.
 std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
 {
-    auto font = MakeInputFile(args.path, {args.format, args.encoding})->Read();
-    if (font == nullptr)
-        Fail(Engine::tr("Error opening file!"),
-             Engine::tr("The format of the font in %1 was not told, so it was not opened.")
-                 .arg(Shown(args.path)));
+    auto font = FileWithFormat(args)->Read();
     const FontMetrics& metrics = font->Metrics();
     CheckCombination(metrics.format, metrics.encoding);
     if (args.format && *args.format != metrics.format)
@@ -125,7 +135,7 @@ int EmSize(const ActionOpenFontArgs& args)
 bool ActionOpenFont::Execute()
 {
     font_ = ReadFont(Args());
-    return font_ != nullptr;
+    return true;
 }
 
 void ActionOpenFont::RedoOnce()

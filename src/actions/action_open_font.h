@@ -43,8 +43,9 @@ private:
     std::unique_ptr<Font> font_; // between Execute and the first step
 };
 
-// The font of a file of any kind: read, or rendered as the arguments say. Throws a
-// CriticalException on failure.
+// The font of a file of any kind: read, or rendered as the arguments say. Asks the user for the
+// format of a file that does not tell it. Throws a CriticalException on failure, and WorkStopped
+// where the user gives up.
 [[nodiscard]] std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args);
 
 // The em size in pixels that a scalable font would be rendered at; 0 where it can't be.

@@ -112,7 +112,7 @@ std::optional<QString> ReadLine()
 // The character selection is that of the opened font alone.
 ActionMergeFontArgs MergeArgs(const OptionOccurrence& occurrence, const RunOptions& options)
 {
-    ActionMergeFontArgs args{.source = options.open};
+    ActionMergeFontArgs args{options.open, std::nullopt};
     args.source.path = occurrence.Get<QString>(0);
     args.source.selection.reset();
     if (std::holds_alternative<int>(occurrence.values[1]))
@@ -325,16 +325,19 @@ int CommandLine::askKeyword(const QString& reason, const QString& subject,
     }
 }
 
-int CommandLine::askFontFormat(EncodingType&)
+std::optional<FormatChoice> CommandLine::askFontFormat(EncodingType assumed)
 {
-    return askKeyword(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
+    const int format =
+        askKeyword(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
+    return FormatChoice{static_cast<FontFormat>(format), assumed};
 }
 
-int CommandLine::askMergeMode()
+std::optional<MergeMode> CommandLine::askMergeMode()
 {
-    return askKeyword(u"Duplicate characters have been found in both fonts. How should duplicate "
-                      "characters be handled?"_s,
-                      u"merge mode"_s, MergeKeywords());
+    return static_cast<MergeMode>(
+        askKeyword(u"Duplicate characters have been found in both fonts. How should duplicate "
+                   "characters be handled?"_s,
+                   u"merge mode"_s, MergeKeywords()));
 }
 
 } // namespace Glyphor

@@ -41,8 +41,8 @@ public:
     void progressFinished() override;
 
     // Throw a CriticalException where standard input ends before an answer.
-    int askFontFormat(EncodingType& encoding) override;
-    int askMergeMode() override;
+    std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
+    std::optional<MergeMode> askMergeMode() override;
 
 private:
     void execute(const OptionOccurrence& occurrence, Session& session);

@@ -59,8 +59,8 @@ public:
     void actionChanged(const std::shared_ptr<Action>& action) override;
     bool progressChanged(const QString& text, int value, int maximum) override;
     void progressFinished() override;
-    int askFontFormat(EncodingType& encoding) override;
-    int askMergeMode() override;
+    std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
+    std::optional<MergeMode> askMergeMode() override;
     bool handleRequest(ActionType kind) override;
 
     [[nodiscard]] MenuBar& Menus() const { return *menus_; }

@@ -267,19 +267,18 @@ quint32 MainWindow::CommandOfFile(const QString& path)
     return quint32(isText ? ActionType::ReadPattern : ActionType::None);
 }
 
-int MainWindow::askFontFormat(EncodingType& encoding)
+std::optional<FormatChoice> MainWindow::askFontFormat(EncodingType)
 {
     FormatDialog dialog(this);
     if (dialog.exec() != QDialog::Accepted)
-        throw WorkStopped();
-    encoding = dialog.Encoding();
-    return int(dialog.Format());
+        return std::nullopt;
+    return FormatChoice{dialog.Format(), dialog.Encoding()};
 }
 
-int MainWindow::askMergeMode()
+std::optional<MergeMode> MainWindow::askMergeMode()
 {
     MergeModeDialog dialog(this);
-    return dialog.exec() == QDialog::Accepted ? int(dialog.Mode()) : 0;
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Mode()) : std::nullopt;
 }
 
 void MainWindow::AddRecentFile(const QString& path)

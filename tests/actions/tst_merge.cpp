@@ -1,6 +1,7 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
 #include "actions/session.h"
+#include "app/progress.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 
@@ -16,13 +17,15 @@ namespace {
 class MergeInterface final : public Test::RecordingInterface
 {
 public:
-    int askMergeMode() override
+    std::optional<MergeMode> askMergeMode() override
     {
         ++questions;
         return answer;
     }
+    std::optional<FormatChoice> askFontFormat(EncodingType) override { return choice; }
 
-    int answer = 0;
+    std::optional<MergeMode> answer;
+    std::optional<FormatChoice> choice;
     int questions = 0;
 };
 
@@ -39,6 +42,12 @@ std::unique_ptr<Font> MakeFilled(const QByteArray& codes, int index,
         character.bitmap->SetPixelIndex(index, 0, 1);
     }
     return font;
+}
+
+// 0 for none.
+std::optional<MergeMode> ModeOf(int number)
+{
+    return number != 0 ? std::optional(MergeMode(number)) : std::nullopt;
 }
 
 ActionOpenFontArgs Source(const QString& path)
@@ -111,7 +120,7 @@ private Q_SLOTS:
         QFETCH(const int, questions);
         QFETCH(const QByteArray, indices);
         MergeInterface interface;
-        interface.answer = answer;
+        interface.answer = ModeOf(answer);
         WriteFont(MakeFilled(other, 1), Path("other.sif"));
         Session session;
         session.ReplaceFont(MakeFilled("AB", 0), {});
@@ -119,7 +128,7 @@ private Q_SLOTS:
         const QByteArray before = Test::Snapshot(font);
 
         const auto action = std::make_shared<ActionMergeFont>(session);
-        action->Args() = {Source(Path("other.sif")), MergeMode(mode)};
+        action->Args() = {Source(Path("other.sif")), ModeOf(mode)};
         QCOMPARE(action->Run(), merged);
         QCOMPARE(interface.questions, questions);
         for (int code = 'A'; code <= 'D'; ++code) {
@@ -207,7 +216,7 @@ private Q_SLOTS:
 
     void OpeningFiles()
     {
-        Test::RecordingInterface interface;
+        MergeInterface interface;
         WriteFont(MakeFilled("ABC", 0, FontFormat::AA2), Path("font.sif"));
         CodeSet selection;
         selection.SetRange('B', 'Z', true);
@@ -231,6 +240,16 @@ private Q_SLOTS:
         WriteFont(std::move(flat), Path("flat.xbf"));
         QCOMPARE(failure(Source(Path("flat.xbf"))),
                  u"Font creation failed!: Font has invalid metrics."_s);
+        const QByteArray sif = Test::ReadAll(Path("font.sif"));
+        Test::WriteAll(Path("old.sif"), sif.chopped(4));
+        const ActionOpenFontArgs old = Source(Path("old.sif"));
+        QVERIFY_THROWS_EXCEPTION(WorkStopped, (void)ReadFont(old)); // nobody told the format
+        interface.choice = FormatChoice{FontFormat::AA2, EncodingType::Unicode};
+        QVERIFY(ReadFont(old)->FindChar('C') != nullptr);
+        Test::WriteAll(Path("no.sif"), "GUIX" + sif.mid(4).chopped(4));
+        interface.choice.reset(); // nothing is asked about a file of another kind
+        QVERIFY(failure(Source(Path("no.sif"))).startsWith(u"Reading of SIF file failed!"_s));
+
         // Over the file that was opened.
         Session session;
         session.ReplaceFont(Open(Path("font.sif")), Path("font.sif"));

@@ -106,14 +106,16 @@ private Q_SLOTS:
     void Questions()
     {
         CommandLine commandLine;
-        EncodingType encoding = EncodingType::Unicode;
         {
             const Answers answers("nonsense\n aa4 \nKEEP\n");
-            QCOMPARE(commandLine.askFontFormat(encoding), 6);
-            QCOMPARE(commandLine.askMergeMode(), 3);
+            const auto choice = commandLine.askFontFormat(EncodingType::ShiftJis);
+            QCOMPARE(choice->format, FontFormat::AA4);
+            QCOMPARE(choice->encoding, EncodingType::ShiftJis);
+            QCOMPARE(commandLine.askMergeMode(), MergeMode::Keep);
         }
         const Answers none("nonsense\n");
-        QVERIFY_THROWS_EXCEPTION(CriticalException, commandLine.askFontFormat(encoding));
+        QVERIFY_THROWS_EXCEPTION(CriticalException,
+                                 commandLine.askFontFormat(EncodingType::Unicode));
     }
 
     void Requests()

@@ -238,30 +238,18 @@ private Q_SLOTS:
                  EncodingType::ShiftJis);
     }
 
-    // Files without a trailer have the user tell the format.
-    void SifQuestion()
+    // Files without a trailer have to be told their format.
+    void SifWithoutTrailer()
     {
-        class Asked final : public UserInterface
-        {
-        public:
-            Asked() { SetCurrentInterface(this); }
-            ~Asked() override { SetCurrentInterface(nullptr); }
-            int askFontFormat(EncodingType& encoding) override
-            {
-                encoding = answeredEncoding;
-                return answer;
-            }
-            EncodingType answeredEncoding = EncodingType::Unicode;
-            int answer = -1;
-        };
         const auto font = Test::MakeSampleFont(FontFormat::AA2);
         const QByteArray bytes = Written<FontFileSIF>(*font, u"font.sif"_s).chopped(4);
         const QString path = Path(u"old.sif"_s);
         Test::WriteAll(path, bytes);
-        Asked interface;
-        QVERIFY(FontFileSIF(path).Read() == nullptr);
-        interface.answer = int(FontFormat::AA2);
-        QCOMPARE(Test::Snapshot(*FontFileSIF(path).Read()), Test::Snapshot(*font, true));
+        QVERIFY(FontFileSIF(Path(u"font.sif"_s)).TellsFormat());
+        QVERIFY(!FontFileSIF(path).TellsFormat());
+        QVERIFY(Test::FailureOf([&] { (void)FontFileSIF(path).Read(); }).contains(u"not told"_s));
+        QCOMPARE(Test::Snapshot(*FontFileSIF(path, {FontFormat::AA2, {}}).Read()),
+                 Test::Snapshot(*font, true));
         for (const FontFormat wrong : {FontFormat::AA4, FontFormat::LegacyAA2}) {
             const QString failure = Test::FailureOf([&] {
                 (void)FontFileSIF(path, {wrong, {}}).Read();
