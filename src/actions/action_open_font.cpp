@@ -11,8 +11,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 const QString& CreationFailed()

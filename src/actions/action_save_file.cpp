@@ -15,8 +15,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 bool ActionSaveFile::Execute()
 {
     const Font* const font = CurrentSession().CurrentFont();

@@ -13,8 +13,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 [[noreturn]] void FailToOpen(const QString& text)

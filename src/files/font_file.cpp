@@ -5,8 +5,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 void ThrowUnsupportedFormat()
 {
     throw CriticalException(Engine::tr("Unsupported format!"),

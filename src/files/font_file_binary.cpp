@@ -12,8 +12,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 enum HeaderOffset : qint64 {

@@ -12,8 +12,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Writes the parts of one font, each of which needs the font's identifier, runs and table types.

@@ -7,8 +7,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QByteArrayView SifMagic = "GUIP";

@@ -12,8 +12,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr uint ThreadStackSize = 4 * 1024 * 1024;
