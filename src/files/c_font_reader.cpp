@@ -275,7 +275,7 @@ void CFontReader::ReadEntry(std::string_view text, const FontMetrics& font)
     if (!entry.metrics.FitFields())
         scanner_.FailAt(scanner_.PositionOf(text),
                         Engine::tr("No character can have such a size or offset."));
-    if (isLegacy && Field(elements[2]) != (font.bitsPerPixel * entry.metrics.width + 7) / 8)
+    if (isLegacy && Field(elements[2]) != BytesPerLine(entry.metrics.width, font.bitsPerPixel))
         scanner_.FailAt(scanner_.PositionOf(text),
                         Engine::tr("The bytes per line are not what the width needs."));
     entries_.push_back(entry);

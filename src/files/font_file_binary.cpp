@@ -145,7 +145,7 @@ void FontFileBinary::AddChar(Font& font, quint16 code, const CharMetrics& metric
 void FontFileBinary::CheckBytesPerLine(quint16 code, int bytesPerLine, int width,
                                        const Font& font) const
 {
-    if (bytesPerLine != (font.Metrics().bitsPerPixel * width + 7) / 8)
+    if (bytesPerLine != BytesPerLine(width, font.Metrics().bitsPerPixel))
         Fail(Engine::tr("The character 0x%1 has rows of %2 bytes, which is not what its width of "
                         "%3 needs.")
                  .arg(Hex4Text(code), QString::number(bytesPerLine), QString::number(width)));

@@ -96,7 +96,7 @@ void PackRow(const quint8* coverages, int width, uchar* row)
 template <int Bits>
 void PackRows(const RenderedGlyph& glyph, const GlyphPlacement& placement, uchar* bytes)
 {
-    const int length = PixelLayout{placement.width, placement.height, Bits}.BytesPerLine();
+    const int length = BytesPerLine(placement.width, Bits);
     const int firstRow = std::max(0, -placement.row);
     const int endRow = std::min(glyph.rows, placement.height - placement.row);
     const bool isWhole = glyph.bitsPerPixel == 8 && glyph.width == placement.width;

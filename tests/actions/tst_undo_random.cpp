@@ -136,7 +136,7 @@ private:
             own.xPos = 0;
             own.yPos = 0;
         }
-        const int length = (font.Metrics().bitsPerPixel * own.width + 7) / 8;
+        const int length = BytesPerLine(own.width, font.Metrics().bitsPerPixel);
         std::vector<uchar> bytes(std::size_t(length * own.height * PlaneCount(format_)));
         for (uchar& byte : bytes)
             byte = uchar(Number(0, 1) * Number(0, 255));
