@@ -33,7 +33,7 @@ std::unique_ptr<Font> MakeFont(int count, int size, int step = 1)
     for (int code = 0; code < count; code += step) {
         for (std::size_t at = 0; at < bytes.size(); ++at)
             bytes[at] = static_cast<uchar>(std::size_t(code) * 31 + at * 7);
-        font->AddChar(static_cast<quint16>(code), metrics, bytes);
+        font->PutChar(static_cast<quint16>(code), metrics, bytes);
     }
     return font;
 }

@@ -463,7 +463,7 @@ void CFontReader::ReadBitmaps(Font& font)
             scanner_.FailAt(scanner_.PositionOf(values),
                             Engine::tr("Invalid amount of bytes read from character bitmap 0x%1")
                                 .arg(Hex4Text(code)));
-        font.AddChar(code, entry.metrics, bytes_);
+        font.PutChar(code, entry.metrics, bytes_);
         progress.Advance();
     }
     if (strangeBytes_ > 0)

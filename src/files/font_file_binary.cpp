@@ -138,7 +138,7 @@ void FontFileBinary::AddChar(Font& font, quint16 code, const CharMetrics& metric
     if (!bytes.Holds(offset, size))
         FailAtChar(code, Engine::tr("The character 0x%1 has pixels outside the file."));
     const QByteArrayView part = bytes.Part(offset, size);
-    font.AddChar(code, metrics,
+    font.PutChar(code, metrics,
                  {reinterpret_cast<const uchar*>(part.data()), std::size_t(part.size())});
 }
 

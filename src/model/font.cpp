@@ -104,7 +104,7 @@ Character& Font::AddChar(quint16 code)
     return character;
 }
 
-Font::AddResult Font::AddChar(quint16 code, const RenderedGlyph& glyph)
+Font::AddResult Font::AddRendered(quint16 code, const RenderedGlyph& glyph)
 {
     if (existing_.Test(code))
         return AddResult::Exists;
@@ -118,7 +118,7 @@ Font::AddResult Font::AddChar(quint16 code, const RenderedGlyph& glyph)
     return AddResult::Added;
 }
 
-Font::AddResult Font::AddChar(quint16 code, const Character& same)
+Font::AddResult Font::AddLike(quint16 code, const Character& same)
 {
     if (existing_.Test(code))
         return AddResult::Exists;
@@ -128,7 +128,7 @@ Font::AddResult Font::AddChar(quint16 code, const Character& same)
     return AddResult::Added;
 }
 
-Character& Font::AddChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes)
+Character& Font::PutChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes)
 {
     Character& character = Create(code);
     character.info.Set(metrics);

@@ -135,7 +135,7 @@ void FontFileScalable::RenderCharmap(Font& font)
 bool FontFileScalable::AddCharacter(Font& font, quint16 code, FT_UInt glyphIndex)
 {
     if (const auto rendered = rendered_.constFind(glyphIndex); rendered != rendered_.constEnd())
-        return font.AddChar(code, *font.FindChar(*rendered)) == Font::AddResult::Added;
+        return font.AddLike(code, *font.FindChar(*rendered)) == Font::AddResult::Added;
     if (!face_.RenderIndex(glyphIndex, glyph_) || !AddGlyph(font, code, glyph_))
         return false;
     rendered_.insert(glyphIndex, code);

@@ -140,7 +140,7 @@ private:
         std::vector<uchar> bytes(std::size_t(length * own.height * PlaneCount(format_)));
         for (uchar& byte : bytes)
             byte = uchar(Number(0, 1) * Number(0, 255));
-        font.AddChar(code, own, bytes);
+        font.PutChar(code, own, bytes);
     }
 
     std::unique_ptr<Font> MakeFont()
