@@ -34,12 +34,12 @@ struct VariationsDeleter
 using Variations = std::unique_ptr<FT_MM_Var, VariationsDeleter>;
 
 // The axes and named instances of a multi-master face; null for any other.
-Variations VariationsOf(FT_Library library, FT_Face face)
+Variations VariationsOf(FT_Face face)
 {
     FT_MM_Var* variations = nullptr;
     if (face == nullptr || FT_Get_MM_Var(face, &variations) != 0)
-        variations = nullptr;
-    return {variations, VariationsDeleter{library}};
+        return {nullptr, VariationsDeleter{nullptr}};
+    return {variations, VariationsDeleter{face->glyph->library}};
 }
 
 int ClampToInt(qint64 value)
@@ -126,17 +126,16 @@ const TT_OS2* Os2Table(FT_Face face)
 } // namespace
 
 FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library)
-    : library_(library.Get()), path_(path)
+    : path_(path)
 {
     library.AllowFile(QFileInfo(path).size());
-    openError_ = FT_New_Face(library_, QFile::encodeName(path).constData(), faceIndex, &face_);
+    openError_ = FT_New_Face(library.Get(), QFile::encodeName(path).constData(), faceIndex, &face_);
     if (openError_ != 0)
         face_ = nullptr;
 }
 
 FreeTypeFace::FreeTypeFace(const FreeTypeFace& other)
-    : library_(other.library_),
-      face_(other.face_),
+    : face_(other.face_),
       path_(other.path_),
       effects_(other.effects_),
       monochrome_(other.monochrome_),
@@ -154,7 +153,6 @@ FreeTypeFace& FreeTypeFace::operator=(const FreeTypeFace& other)
         FT_Reference_Face(other.face_);
     if (face_ != nullptr)
         FT_Done_Face(face_);
-    library_ = other.library_;
     face_ = other.face_;
     path_ = other.path_;
     effects_ = other.effects_;
@@ -257,18 +255,18 @@ int FreeTypeFace::GlyphHeight(quint16 code) const
 
 bool FreeTypeFace::IsMultiMaster() const
 {
-    return VariationsOf(library_, face_) != nullptr;
+    return VariationsOf(face_) != nullptr;
 }
 
 int FreeTypeFace::NamedInstanceCount() const
 {
-    const Variations variations = VariationsOf(library_, face_);
+    const Variations variations = VariationsOf(face_);
     return variations ? static_cast<int>(variations->num_namedstyles) : 0;
 }
 
 std::vector<NamedInstance> FreeTypeFace::NamedInstances() const
 {
-    const Variations variations = VariationsOf(library_, face_);
+    const Variations variations = VariationsOf(face_);
     if (!variations)
         return {};
     const QHash<FT_UInt, QString> names = AllNames(face_);
@@ -298,7 +296,7 @@ void FreeTypeFace::SetNamedInstance(int index)
 FaceStyle FreeTypeFace::Style() const
 {
     FaceStyle style;
-    if (const Variations variations = VariationsOf(library_, face_)) {
+    if (const Variations variations = VariationsOf(face_)) {
         const FT_Long instance = (face_->face_index >> 16) - 1;
         if (instance >= 0 && instance < FT_Long(variations->num_namedstyles))
             style.weight = InstanceWeight(*variations, static_cast<FT_UInt>(instance));

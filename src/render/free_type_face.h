@@ -132,7 +132,6 @@ private:
     [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;
     void FillGlyph(RenderedGlyph& glyph) const;
 
-    FT_Library library_ = nullptr;
     FT_Face face_ = nullptr;
     QString path_;
     quint32 effects_ = 0;
