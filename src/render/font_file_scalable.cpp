@@ -21,9 +21,9 @@ std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs, Encoding
 {
     std::vector<KerningPair> encoded;
     encoded.reserve(pairs.size());
-    for (KerningPair pair : pairs) {
-        if (EncodingFor(EncodingType::Unicode).Convert(encoding, pair.right))
-            encoded.push_back(pair);
+    for (const KerningPair& pair : pairs) {
+        if (const auto right = EncodingFor(EncodingType::Unicode).Converted(encoding, pair.right))
+            encoded.push_back({*right, pair.distance});
     }
     return encoded;
 }
@@ -112,12 +112,11 @@ void FontFileScalable::RenderCharmap(Font& font)
         visited.Set(faceCode, true);
         --notVisited;
         progress.LookedAt();
-        quint16 code = faceCode;
         const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
-        if (isWanted && unicode.Convert(options_.encoding, code) &&
-            AddCharacter(font, code, glyphIndex)) {
+        const auto code = isWanted ? unicode.Converted(options_.encoding, faceCode) : std::nullopt;
+        if (code && AddCharacter(font, *code, glyphIndex)) {
             if (kerning && pairCount < MaxKerningPairs) {
-                auto& pairs = font.FindChar(code)->kerning;
+                auto& pairs = font.FindChar(*code)->kerning;
                 pairs = Encoded(kerning->PairsOf(faceCode), options_.encoding);
                 pairCount += pairs.size();
             }
