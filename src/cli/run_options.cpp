@@ -86,8 +86,8 @@ bool OpensScalableFont(const OptionOccurrence& occurrence)
 
 FontSize ParseHeight(const QString& text)
 {
-    const bool inPoints = text.endsWith("pt"_L1, Qt::CaseInsensitive);
-    const bool inPixels = text.endsWith("px"_L1, Qt::CaseInsensitive);
+    const bool inPoints = text.endsWith(u"pt", Qt::CaseInsensitive);
+    const bool inPixels = text.endsWith(u"px", Qt::CaseInsensitive);
     const QString number = inPoints || inPixels ? text.chopped(2) : text;
     const bool onlyDigits =
         std::ranges::all_of(number, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });

@@ -168,7 +168,7 @@ QString CFontReader::ReadName()
     if (identifier.empty())
         scanner_.Fail(Engine::tr("Array identifier of GUI_FONT structure expected but not found!"));
     const QString name = ToText(identifier);
-    constexpr auto prefix = "GUI_Font"_L1;
+    constexpr QStringView prefix = u"GUI_Font";
     return name.startsWith(prefix, Qt::CaseInsensitive) ? name.mid(prefix.size()) : name;
 }
 

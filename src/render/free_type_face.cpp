@@ -21,8 +21,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct VariationsDeleter
@@ -94,8 +92,8 @@ quint32 InstanceWeight(const FT_MM_Var& variations, FT_UInt instance)
     const std::span axes(variations.axis, variations.num_axis);
     const auto weight = std::ranges::find_if(axes, [](const FT_Var_Axis& axis) {
         const QLatin1StringView name(axis.name);
-        return name.compare("Weight"_L1, Qt::CaseInsensitive) == 0 ||
-               name.compare("wght"_L1, Qt::CaseInsensitive) == 0;
+        return name.compare(u"Weight", Qt::CaseInsensitive) == 0 ||
+               name.compare(u"wght", Qt::CaseInsensitive) == 0;
     });
     if (weight == axes.end())
         return 0;
