@@ -79,8 +79,7 @@ std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
 
 QString CodeText(int code)
 {
-    const bool isHexadecimal = Settings::Instance().numeralSystem.value() != 0;
-    return isHexadecimal ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
+    return ShownCode(quint16(code), Settings::Instance().numeralSystem.value() != 0);
 }
 
 const std::vector<UnicodeBlock>& UnicodeBlocks()

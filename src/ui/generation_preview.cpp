@@ -3,8 +3,8 @@
 #include "app/critical_exception.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
+#include "files/font_file_c.h"
 #include "ui/dialog_parts.h"
-#include "ui/info_panel.h"
 #include "ui/text_preview.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,7 @@
 #include "ui/info_panel.h"
 
 #include "app/engine_texts.h"
+#include "files/font_file_c.h"
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
@@ -12,21 +13,6 @@
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
-
-qint64 FlashSize(const Font& font)
-{
-    constexpr qint64 plainRecord = 8;     // three bytes, and an address on its boundary
-    constexpr qint64 extendedRecord = 12; // five bytes, and an address
-    constexpr qint64 propertyBlock = 12;  // two codes and two addresses
-    constexpr qint64 structure = 16;      // the type, seven bytes and an address
-    const bool isLegacy = IsLegacyFormat(font.Metrics().format);
-    qint64 size = structure + qint64(font.EnabledRuns().size()) * propertyBlock;
-    font.ForEachEnabled([&](quint16, const Character& character) {
-        size += isLegacy ? plainRecord : extendedRecord;
-        size += qint64(font.CharDataWidth(character)) * character.info.Rows();
-    });
-    return size;
-}
 
 InfoPanel::InfoPanel(QWidget* parent) : QWidget(parent)
 {
@@ -109,7 +95,7 @@ void InfoPanel::ShowFont(const Font& font)
 void InfoPanel::ShowCharacter(const Font& font, quint16 code)
 {
     const Encoding& encoding = EncodingFor(font.Metrics().encoding);
-    Set(tr("Code"), hexadecimal_ ? u"0x"_s + Hex4Text(code) : QString::number(code));
+    Set(tr("Code"), ShownCode(code, hexadecimal_));
     quint16 unicode = code;
     if (encoding.Convert(EncodingType::Unicode, unicode) && QChar(unicode).isPrint())
         Set(tr("Character"), QChar(unicode));

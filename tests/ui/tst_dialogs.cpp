@@ -1,5 +1,6 @@
 #include "app/critical_exception.h"
 #include "app/settings.h"
+#include "files/font_file_c.h"
 #include "render/font_database.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
