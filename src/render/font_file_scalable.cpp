@@ -3,6 +3,7 @@
 #include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
+#include "files/file_types.h"
 #include "model/encoding.h"
 #include "render/kerning_index.h"
 
@@ -191,11 +192,28 @@ QList<FaceDescription> FontFileTTC::FaceDescriptions() const
     return descriptions;
 }
 
-QStringList FontFileTTC::FamilyNames() const
+std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
+                                                       const RenderOptions& options)
+{
+    if (FileTypeOf(path) == FileType::TrueTypeCollection)
+        return std::make_unique<FontFileTTC>(path, options);
+    return std::make_unique<FontFileTTF>(path, options);
+}
+
+QStringList FaceNames(const QString& path)
 {
     QStringList names;
-    for (const FaceDescription& description : FaceDescriptions())
-        names.append(description.familyName);
+    if (FileTypeOf(path) == FileType::TrueTypeCollection) {
+        for (const FaceDescription& face : FontFileTTC(path, {}).FaceDescriptions())
+            names.append(face.familyName + u' ' + face.styleName);
+        return names;
+    }
+    const FreeTypeFace face(path, 0, FreeTypeLibrary());
+    if (!face.IsOpen())
+        return names;
+    names.append(face.StyleName());
+    for (const NamedInstance& instance : face.NamedInstances())
+        names.append(instance.name);
     return names;
 }
 

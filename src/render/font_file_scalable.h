@@ -75,10 +75,17 @@ public:
 
     // One entry per face, in the order of their indices.
     [[nodiscard]] QList<FaceDescription> FaceDescriptions() const;
-    [[nodiscard]] QStringList FamilyNames() const;
 
 private:
     int faceCount_;
 };
+
+// The file object of the kind that the name tells.
+[[nodiscard]] std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
+                                                                     const RenderOptions& options);
+
+// The faces or named instances of a file by name, in the order of their indices; empty where a name
+// can't be read. Nothing where the file can't be opened.
+[[nodiscard]] QStringList FaceNames(const QString& path);
 
 } // namespace Glyphor

@@ -10,6 +10,7 @@
 #include "actions/session.h"
 #include "app/progress.h"
 #include "app/shown_text.h"
+#include "render/font_file_scalable.h"
 #include "ui/char_table_view.h"
 #include "ui/dialog_parts.h"
 #include "ui/font_generation_dialog.h"
@@ -39,24 +40,13 @@ QString PatternFilter()
     return MainWindow::tr("Text files (*.txt)");
 }
 
-// The faces of a scalable font by name, in the order of their indices.
-QStringList FaceNames(const QString& path)
+// The faces of a scalable font, all of them with a name.
+QStringList ShownFaceNames(const QString& path)
 {
-    QStringList names;
-    if (FileTypeOf(path) == FileType::TrueTypeCollection) {
-        for (const FaceDescription& face : FontFileTTC(path, {}).FaceDescriptions())
-            names.append(face.familyName + u' ' + face.styleName);
-        return names;
-    }
-    const FreeTypeFace face(path, 0, FreeTypeLibrary());
-    if (!face.IsOpen())
-        return names;
-    names.append(face.StyleName());
-    int index = 0;
-    for (const NamedInstance& instance : face.NamedInstances()) {
-        ++index;
-        names.append(instance.name.isEmpty() ? MainWindow::tr("Instance %1").arg(index)
-                                             : instance.name);
+    QStringList names = FaceNames(path);
+    for (qsizetype index = 1; index < names.size(); ++index) {
+        if (names[index].isEmpty())
+            names[index] = MainWindow::tr("Instance %1").arg(index);
     }
     return names;
 }
@@ -87,7 +77,7 @@ bool MainWindow::CompleteArgs(ActionOpenFontArgs& args)
 bool MainWindow::AskGeneration(ActionOpenFontArgs& args)
 {
     CheckInputFile(args.path);
-    const QStringList faces = FaceNames(args.path);
+    const QStringList faces = ShownFaceNames(args.path);
     if (faces.isEmpty())
         return true; // opening it will tell what is wrong
     FontGenerationDialog dialog(args, faces, this);
