@@ -24,10 +24,8 @@ constexpr quint8 Quantise(int coverage)
         return static_cast<quint8>((sum + 383) / 765);
     else if constexpr (Bits == 2)
         return static_cast<quint8>((sum + 127) / 255);
-    else if constexpr (Bits == 4)
-        return static_cast<quint8>((3 * (coverage >> 4) + 1) / 3);
     else
-        return static_cast<quint8>(sum / 3);
+        return static_cast<quint8>((3 * (coverage >> 4) + 1) / 3);
 }
 
 template <int Bits>
@@ -41,20 +39,6 @@ constexpr QuantiseTable MakeTable()
 
 template <int Bits>
 constexpr QuantiseTable Table = MakeTable<Bits>();
-
-const QuantiseTable& TableFor(int bitsPerPixel)
-{
-    switch (bitsPerPixel) {
-    case 1:
-        return Table<1>;
-    case 2:
-        return Table<2>;
-    case 4:
-        return Table<4>;
-    default:
-        return Table<8>;
-    }
-}
 
 // Writes one coverage per pixel of a glyph's row.
 void ExpandRow(const RenderedGlyph& glyph, int y, quint8* coverages)
@@ -181,11 +165,6 @@ GlyphPlacement PlaceStandard(const RenderedGlyph& glyph, const FontMetrics& font
 }
 
 } // namespace
-
-quint8 QuantiseCoverage(quint8 coverage, int bitsPerPixel)
-{
-    return TableFor(bitsPerPixel)[coverage];
-}
 
 std::optional<GlyphPlacement> PlaceGlyph(const RenderedGlyph& glyph, const FontMetrics& font)
 {
