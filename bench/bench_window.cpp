@@ -9,6 +9,7 @@
 #include "ui/char_bitmap_view.h"
 #include "ui/char_table_view.h"
 #include "ui/main_window.h"
+#include "ui/undo_stack.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -52,8 +53,9 @@ void Measure(const char* what, Step step)
 
 void MeasureTable()
 {
-    Session session;
-    MainWindow window(session);
+    UndoStack history;
+    Session session(history);
+    MainWindow window(session, history);
     SetCurrentInterface(&window);
     window.show();
     const auto show = [&] {
@@ -83,8 +85,9 @@ void MeasureTable()
 
 void MeasureEditor()
 {
-    Session session;
-    MainWindow window(session);
+    UndoStack history;
+    Session session(history);
+    MainWindow window(session, history);
     SetCurrentInterface(&window);
     window.show();
     session.ReplaceFont(MakeFont(2, 255), QStringLiteral("tall.c"));

@@ -17,6 +17,7 @@
 #include "ui/menu_bar.h"
 #include "ui/progress_area.h"
 #include "ui/text_preview.h"
+#include "ui/undo_stack.h"
 
 #include <QAction>
 #include <QApplication>
@@ -58,7 +59,7 @@ QAction* AddTool(QToolBar& bar, QAction* command, const QString& icon)
 
 } // namespace
 
-MainWindow::MainWindow(Session& session) : session_(session)
+MainWindow::MainWindow(Session& session, UndoStack& history) : session_(session), history_(history)
 {
     InitResources();
     setAcceptDrops(true);
@@ -70,8 +71,8 @@ MainWindow::MainWindow(Session& session) : session_(session)
     BuildToolBar();
     BuildStatusBar();
     ConnectViews();
-    session_.Stack().AddUndoCommand(menus_->Command(WindowCommand::Undo));
-    session_.Stack().AddRedoCommand(menus_->Command(WindowCommand::Redo));
+    history_.AddUndoCommand(menus_->Command(WindowCommand::Undo));
+    history_.AddRedoCommand(menus_->Command(WindowCommand::Redo));
     resizeTimer_.setSingleShot(true);
     resizeTimer_.setInterval(ResizeDelay);
     connect(&resizeTimer_, &QTimer::timeout, this, &MainWindow::OnTimerResize);
@@ -83,7 +84,7 @@ MainWindow::~MainWindow()
 {
     // These outlive what the slots use.
     for (QObject* const sender : std::initializer_list<QObject*>{
-             &session_.Stack(), qApp, table_, editor_, splitter_, subSplitter_, upperSplitter_})
+             &history_, qApp, table_, editor_, splitter_, subSplitter_, upperSplitter_})
         disconnect(sender, nullptr, this, nullptr);
 }
 
@@ -214,7 +215,7 @@ void MainWindow::ConnectViews()
     }
     connect(pencil_, &QAction::toggled, editor_, &CharBitmapView::SetPencil);
     connect(recentMenu_, &QMenu::aboutToShow, this, &MainWindow::ShowRecentFiles);
-    connect(&session_.Stack(), &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
+    connect(&history_, &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::UpdateCommands);
 }
 

@@ -28,6 +28,7 @@ class MenuBar;
 class ProgressArea;
 class Session;
 class TextPreview;
+class UndoStack;
 
 // The window: a table of all characters, the pixel editor, what there is to know about both, and a
 // sample text. Every command is an action on the session's font or one of the window's own.
@@ -36,8 +37,8 @@ class MainWindow final : public QMainWindow, public GuiInterface
     Q_OBJECT
 
 public:
-    // The session must outlive the window.
-    explicit MainWindow(Session& session);
+    // The session, whose history is the given one, must outlive the window.
+    MainWindow(Session& session, UndoStack& history);
     ~MainWindow() override;
 
     // Runs the command with this number, as its menu entry does.
@@ -151,6 +152,7 @@ private:
     void UpdateTitle();
 
     Session& session_;
+    UndoStack& history_;
     MenuBar* menus_ = nullptr;
     CharTableView* table_ = nullptr;
     CharBitmapView* editor_ = nullptr;

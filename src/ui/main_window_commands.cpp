@@ -19,6 +19,7 @@
 #include "ui/preferences_dialog.h"
 #include "ui/progress_area.h"
 #include "ui/text_dialog.h"
+#include "ui/undo_stack.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -167,21 +168,20 @@ void MainWindow::RunAction(const std::shared_ptr<Action>& action)
 // Several actions that are undone as one.
 void MainWindow::RunMacro(const QString& text, const std::function<void()>& work)
 {
-    session_.Stack().beginMacro(text);
+    history_.beginMacro(text);
     RunTogether(work);
-    session_.Stack().endMacro();
+    history_.endMacro();
     ShowMessage(text);
     UpdateTitle();
 }
 
 void MainWindow::MoveInHistory(bool isUndo)
 {
-    UndoStack& stack = session_.Stack();
-    const QString text = isUndo ? stack.ShownUndoText() : stack.ShownRedoText();
+    const QString text = isUndo ? history_.ShownUndoText() : history_.ShownRedoText();
     movedCodes_ = {};
     {
         const QScopedValueRollback move(isMovingInHistory_, true);
-        RunTogether([&] { isUndo ? stack.undo() : stack.redo(); });
+        RunTogether([&] { isUndo ? history_.undo() : history_.redo(); });
     }
     ShowMessage((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(text));
     const int current = table_->CurrentCode();
@@ -270,7 +270,7 @@ void MainWindow::PaintPixel(int x, int y, bool inverts)
         return;
     if (isStroking_ && !strokeHasSteps_) {
         strokeHasSteps_ = true;
-        session_.Stack().beginMacro(tr("Stroke"));
+        history_.beginMacro(tr("Stroke"));
     }
     RunAction(action);
 }
@@ -279,7 +279,7 @@ void MainWindow::EndStroke()
 {
     isStroking_ = false;
     if (strokeHasSteps_)
-        session_.Stack().endMacro();
+        history_.endMacro();
     strokeHasSteps_ = false;
     RefreshViews();
 }

@@ -1,9 +1,9 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
-#include "actions/session.h"
 #include "app/progress.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
+#include "support/undo_session.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -79,7 +79,7 @@ class TestMerge : public QObject
 
     void WriteFont(std::unique_ptr<Font> font, const QString& path) const
     {
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(std::move(font), {});
         SaveAs(session, path);
     }
@@ -122,7 +122,7 @@ private Q_SLOTS:
         MergeInterface interface;
         interface.answer = ModeOf(answer);
         WriteFont(MakeFilled(other, 1), Path("other.sif"));
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(MakeFilled("AB", 0), {});
         const Font& font = *session.CurrentFont();
         const QByteArray before = Test::Snapshot(font);
@@ -139,15 +139,15 @@ private Q_SLOTS:
                 QCOMPARE(character->bitmap->GetPixelIndex(index - '0', 0), 1);
         }
         if (!merged) {
-            QCOMPARE(session.Stack().count(), 0);
+            QCOMPARE(session.Stack().Count(), 0U);
             return;
         }
         QCOMPARE(session.Stack().LogLines(),
                  QStringList{u"[Font]: Font merged with: "_s + Path("other.sif")});
         const QByteArray after = Test::Snapshot(font);
-        session.Stack().undo();
+        session.Stack().Undo();
         QCOMPARE(Test::Snapshot(font), before);
-        session.Stack().redo();
+        session.Stack().Redo();
         QCOMPARE(Test::Snapshot(font), after);
     }
 
@@ -176,7 +176,7 @@ private Q_SLOTS:
         other->SetHeight(quint8(height));
         other->AddChar('C');
         WriteFont(std::move(other), Path("other.c"));
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(MakeFilled("AB", 0, FontFormat::Legacy), {});
         const QByteArray before = Test::Snapshot(*session.CurrentFont());
         const auto action = std::make_shared<ActionMergeFont>(session);
@@ -251,7 +251,7 @@ private Q_SLOTS:
         QVERIFY(failure(Source(Path("no.sif"))).startsWith(u"Reading of SIF file failed!"_s));
 
         // Over the file that was opened.
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(Open(Path("font.sif")), Path("font.sif"));
         SaveAs(session, Path("font.sif"));
         QVERIFY(Open(Path("font.sif"))->FindChar('C') != nullptr);

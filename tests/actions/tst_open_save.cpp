@@ -1,9 +1,9 @@
 #include "actions/action_open_font.h"
 #include "actions/action_save_file.h"
-#include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/settings.h"
 #include "support/test_main.h"
+#include "support/undo_session.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -59,7 +59,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString source = Test::FontPath("strike.ttf");
         const QString target = folder.filePath(u"font.c"_s);
-        Session session;
+        Test::UndoSession session;
         QVERIFY(Open(session, source)->Run());
         QCOMPARE(session.Path(), source);
         QCOMPARE(session.CurrentFont()->Metrics().format, FontFormat::Standard);
@@ -73,7 +73,7 @@ private Q_SLOTS:
                  "Log file for: font\r\n\r\n" + opened.toUtf8() + "\r\n");
         QCOMPARE(session.Stack().LogLines(),
                  (QStringList{opened, u"Saved font file: %1"_s.arg(target)}));
-        QVERIFY(!session.IsModified() && !session.Stack().canUndo());
+        QVERIFY(!session.IsModified() && !session.Stack().CanUndo());
         QCOMPARE(session.Path(), target);
 
         // Another font begins another history.
@@ -90,7 +90,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString target = folder.filePath(u"pairs.c"_s);
-        Session session;
+        Test::UndoSession session;
         const auto open = Open(session, Test::FontPath("outlines.ttf"), 100);
         open->Args().selection.emplace().SetRange(' ', 'V', true);
         open->Run();
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QFETCH(const int, face);
         QFETCH(const QString, title);
         QFETCH(const QString, text);
-        Session session;
+        Test::UndoSession session;
         Open(session, Test::FontPath("strike.ttf"))->Run();
         const Font* const before = session.CurrentFont();
         const auto action = Open(session, path, height);
@@ -177,7 +177,7 @@ private Q_SLOTS:
     void PointsNeedADesktop()
     {
         Test::RecordingInterface interface;
-        Session session;
+        Test::UndoSession session;
         const auto action = Open(session, Test::FontPath("strike.ttf"));
         action->Args().size = {12, true};
         action->Args().render.height = 0;
@@ -208,7 +208,7 @@ private Q_SLOTS:
         QFETCH(const int, format);
         QFETCH(const bool, hasChars);
         QFETCH(const QString, title);
-        Session session;
+        Test::UndoSession session;
         const auto open = Open(session, Test::FontPath("strike.ttf"));
         open->Args().format = FontFormat(format);
         if (!hasChars)

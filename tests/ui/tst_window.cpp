@@ -17,6 +17,7 @@
 #include "ui/preferences_dialog.h"
 #include "ui/progress_area.h"
 #include "ui/text_preview.h"
+#include "ui/undo_stack.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -97,6 +98,7 @@ class TestWindow : public QObject
     Q_OBJECT
 
     QTemporaryDir folder_;
+    std::unique_ptr<UndoStack> history_;
     std::unique_ptr<Session> session_;
     std::unique_ptr<MainWindow> window_;
 
@@ -143,8 +145,9 @@ class TestWindow : public QObject
 private Q_SLOTS:
     void init()
     {
-        session_ = std::make_unique<Session>();
-        window_ = std::make_unique<MainWindow>(*session_);
+        history_ = std::make_unique<UndoStack>();
+        session_ = std::make_unique<Session>(*history_);
+        window_ = std::make_unique<MainWindow>(*session_, *history_);
         SetCurrentInterface(window_.get());
         window_->show();
         window_->activateWindow();
@@ -242,7 +245,7 @@ private Q_SLOTS:
         QCOMPARE(int(CurrentFont().FindChar(0x80)->info.xPos), -12);
         Trigger(ActionType::Toggle);
         QVERIFY(!CurrentFont().HasEnabledChars());
-        QCOMPARE(session_->Stack().count(), 2);
+        QCOMPARE(history_->count(), 2);
         Trigger(WindowCommand::Undo);
         Trigger(WindowCommand::Undo);
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
@@ -303,7 +306,7 @@ private Q_SLOTS:
         editor.SelectFirstPixel();
         QTest::keyClick(editor.viewport(), Qt::Key_Space);
         QVERIFY(window_->isWindowModified() && IsEnabled(ActionType::SaveFont));
-        QVERIFY(!session_->Stack().canUndo());
+        QVERIFY(!history_->canUndo());
         Trigger(ActionType::SaveFont);
         QVERIFY(!window_->isWindowModified());
     }
@@ -394,7 +397,7 @@ private Q_SLOTS:
                 Q_EMIT editor.PixelPainted(x, 1, inverts);
             Q_EMIT editor.StrokeEnded();
         }
-        QCOMPARE(session_->Stack().count(), 2);
+        QCOMPARE(history_->count(), 2);
         QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 0);
         Trigger(WindowCommand::Undo);
         QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(3, 1), 15);
@@ -402,7 +405,7 @@ private Q_SLOTS:
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
         Q_EMIT editor.StrokeBegun();
         Q_EMIT editor.StrokeEnded();
-        QVERIFY(!session_->Stack().canUndo());
+        QVERIFY(!history_->canUndo());
     }
 
     void SavesAndTells()
@@ -622,7 +625,7 @@ private Q_SLOTS:
         window_->Editor().SetZoom(12);
         Trigger(WindowCommand::AllCharacters);
         window_->close();
-        window_ = std::make_unique<MainWindow>(*session_);
+        window_ = std::make_unique<MainWindow>(*session_, *history_);
         SetCurrentInterface(window_.get());
         window_->show();
         QCOMPARE(window_->size(), QSize(900, 500));
@@ -635,7 +638,7 @@ private Q_SLOTS:
     void BrokenStateGivesTheDefaults()
     {
         Settings::Instance().mainWindow.save({"geometry", "state"});
-        const MainWindow other(*session_);
+        const MainWindow other(*session_, *history_);
         QCOMPARE(other.size(), QSize(1240, 760));
     }
 };
