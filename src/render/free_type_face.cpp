@@ -123,6 +123,21 @@ const TT_OS2* Os2Table(FT_Face face)
 
 } // namespace
 
+void CopyRows(const FT_Bitmap& bitmap, std::vector<quint8>& pixels)
+{
+    pixels.clear();
+    if (bitmap.buffer == nullptr)
+        return;
+    const auto pitch = static_cast<std::size_t>(std::abs(bitmap.pitch));
+    pixels.assign(bitmap.buffer, bitmap.buffer + pitch * bitmap.rows);
+    // A negative pitch means that the last row stands first.
+    for (std::size_t y = 0; bitmap.pitch < 0 && y < bitmap.rows / 2; ++y) {
+        const auto row = pixels.begin() + std::ptrdiff_t(y * pitch);
+        std::swap_ranges(row, row + std::ptrdiff_t(pitch),
+                         pixels.end() - std::ptrdiff_t((y + 1) * pitch));
+    }
+}
+
 FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library)
     : path_(path)
 {
@@ -411,24 +426,14 @@ void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
 {
     const FT_GlyphSlot slot = face_->glyph;
     const FT_Bitmap& bitmap = slot->bitmap;
-    const auto pitch = static_cast<std::size_t>(std::abs(bitmap.pitch));
     glyph.xPos = slot->bitmap_left;
     glyph.yPos = ClampToInt(qint64(Ascent()) - slot->bitmap_top);
     glyph.cursorDistance = WholePixels(slot->advance.x);
     glyph.width = static_cast<qint32>(bitmap.width);
     glyph.rows = static_cast<qint32>(bitmap.rows);
-    glyph.pitch = static_cast<qint32>(pitch);
+    glyph.pitch = std::abs(bitmap.pitch);
     glyph.bitsPerPixel = BitsOf(bitmap);
-    glyph.pixels.clear();
-    if (bitmap.buffer != nullptr) {
-        glyph.pixels.assign(bitmap.buffer, bitmap.buffer + pitch * bitmap.rows);
-        // A negative pitch means that the last row stands first.
-        for (std::size_t y = 0; bitmap.pitch < 0 && y < bitmap.rows / 2; ++y) {
-            const auto row = glyph.pixels.begin() + std::ptrdiff_t(y * pitch);
-            std::swap_ranges(row, row + std::ptrdiff_t(pitch),
-                             glyph.pixels.end() - std::ptrdiff_t((y + 1) * pitch));
-        }
-    }
+    CopyRows(bitmap, glyph.pixels);
     glyph.size = static_cast<qint32>(glyph.pixels.size());
 }
 

@@ -30,6 +30,9 @@ struct NamedInstance
     FaceStyle style;
 };
 
+// The rows of a bitmap from the top, whichever way FreeType stores them.
+void CopyRows(const FT_Bitmap& bitmap, std::vector<quint8>& pixels);
+
 // A handle to an open FreeType face. Copies share the face. Without a face every query answers 0,
 // nothing or false.
 class FreeTypeFace

@@ -255,6 +255,21 @@ private Q_SLOTS:
                  (effects & BoldEffect) != 0);
     }
 
+    void RowsFromTheTop()
+    {
+        uchar rows[] = {1, 2, 3, 4, 5, 6};
+        FT_Bitmap bitmap{};
+        bitmap.rows = 3;
+        bitmap.buffer = rows;
+        std::vector<quint8> pixels = {9};
+        bitmap.pitch = -2;
+        CopyRows(bitmap, pixels);
+        QCOMPARE(pixels, (std::vector<quint8>{5, 6, 3, 4, 1, 2}));
+        bitmap.pitch = 2;
+        CopyRows(bitmap, pixels);
+        QCOMPARE(pixels, (std::vector<quint8>{1, 2, 3, 4, 5, 6}));
+    }
+
     void Strikes()
     {
         const QByteArray chequered = QByteArray::fromHex("a854a854a854a854");
