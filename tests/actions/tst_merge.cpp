@@ -98,17 +98,26 @@ private Q_SLOTS:
         QTest::addColumn<bool>("merged");
         QTest::addColumn<int>("questions");
         QTest::addColumn<QByteArray>("indices"); // of A, B, C, D; "-" for none
-        QTest::newRow("replace") << 2 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0111");
-        QTest::newRow("keep") << 3 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0011");
+        QTest::addColumn<char>("disabled");      // of the font's own characters
+        QTest::newRow("replace") << 2 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0111")
+                                 << '\0';
+        QTest::newRow("keep") << 3 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0011")
+                              << '\0';
         QTest::newRow("ask, replace")
-            << 0 << 2 << QByteArray("BC") << true << 1 << QByteArray("011-");
-        QTest::newRow("ask, keep") << 0 << 3 << QByteArray("BC") << true << 1 << QByteArray("001-");
+            << 0 << 2 << QByteArray("BC") << true << 1 << QByteArray("011-") << '\0';
+        QTest::newRow("ask, keep")
+            << 0 << 3 << QByteArray("BC") << true << 1 << QByteArray("001-") << '\0';
         QTest::newRow("ask, cancel")
-            << 0 << 0 << QByteArray("BC") << false << 1 << QByteArray("00--");
+            << 0 << 0 << QByteArray("BC") << false << 1 << QByteArray("00--") << '\0';
         QTest::newRow("no duplicates")
-            << 0 << 0 << QByteArray("CD") << true << 0 << QByteArray("0011");
+            << 0 << 0 << QByteArray("CD") << true << 0 << QByteArray("0011") << '\0';
         QTest::newRow("nothing new")
-            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("00--");
+            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("00--") << '\0';
+        // What is disabled is not missed, so nothing is asked about it.
+        QTest::newRow("disabled duplicate")
+            << 0 << 0 << QByteArray("BC") << true << 0 << QByteArray("011-") << 'B';
+        QTest::newRow("disabled, keep")
+            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("01--") << 'B';
     }
 
     void Merges()
@@ -119,12 +128,15 @@ private Q_SLOTS:
         QFETCH(const bool, merged);
         QFETCH(const int, questions);
         QFETCH(const QByteArray, indices);
+        QFETCH(const char, disabled);
         MergeInterface interface;
         interface.answer = ModeOf(answer);
         WriteFont(MakeFilled(other, 1), Path("other.sif"));
         Test::UndoSession session;
         session.ReplaceFont(MakeFilled("AB", 0), {});
-        const Font& font = *session.CurrentFont();
+        Font& font = *session.CurrentFont();
+        if (disabled != '\0')
+            font.SetEnabled(quint16(disabled), quint16(disabled), false);
         const QByteArray before = Test::Snapshot(font);
 
         const auto action = std::make_shared<ActionMergeFont>(session);
@@ -138,6 +150,7 @@ private Q_SLOTS:
             if (character != nullptr)
                 QCOMPARE(character->bitmap->GetPixelIndex(index - '0', 0), 1);
         }
+        QCOMPARE(font.IsEnabled('B'), true);
         if (!merged) {
             QCOMPARE(session.Stack().Count(), 0U);
             return;
@@ -155,13 +168,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("format");
         QTest::addColumn<int>("height");
+        QTest::addColumn<int>("encoding");
         QTest::addColumn<QString>("text");
-        QTest::newRow("format") << int(FontFormat::AA2) << 4
+        QTest::newRow("format") << int(FontFormat::AA2) << 4 << 0
                                 << u"The two fonts do not have the same format!\nThe current font "
                                    "with the format \"%1\" cannot be merged with the other font of "
                                    "the format \"%2\"."_s.arg(FormatDisplayName(FontFormat::Legacy),
                                                               FormatDisplayName(FontFormat::AA2));
-        QTest::newRow("height") << int(FontFormat::Legacy) << 5
+        QTest::newRow("encoding")
+            << int(FontFormat::Legacy) << 4 << 1
+            << u"One of the two fonts is encoded in Unicode and the other one "
+               "in Shift JIS: a code means different characters in them."_s;
+        QTest::newRow("height") << int(FontFormat::Legacy) << 5 << 0
                                 << u"All characters of a font in a legacy format have the font's "
                                    "height: the current font is 4 pixels high and the other one "
                                    "5."_s;
@@ -171,8 +189,9 @@ private Q_SLOTS:
     {
         QFETCH(const int, format);
         QFETCH(const int, height);
+        QFETCH(const int, encoding);
         QFETCH(const QString, text);
-        auto other = std::make_unique<Font>(FontFormat(format), EncodingType::Unicode);
+        auto other = std::make_unique<Font>(FontFormat(format), EncodingType(encoding));
         other->SetHeight(quint8(height));
         other->AddChar('C');
         WriteFont(std::move(other), Path("other.c"));
@@ -183,6 +202,37 @@ private Q_SLOTS:
         action->Args().source.path = Path("other.c");
         QCOMPARE(Test::FailureOf([&] { action->Run(); }), u"Font merging not possible!: "_s + text);
         QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
+    }
+
+    void KerningIsThatOfEither_data()
+    {
+        QTest::addColumn<bool>("own");
+        QTest::addColumn<bool>("other");
+        QTest::newRow("own") << true << false;
+        QTest::newRow("other") << false << true;
+        QTest::newRow("neither") << false << false;
+    }
+
+    void KerningIsThatOfEither()
+    {
+        QFETCH(const bool, own);
+        QFETCH(const bool, other);
+        WriteFont(MakeFilled("C", 1), Path("other.sif"));
+        Test::UndoSession session;
+        session.ReplaceFont(MakeFilled("AB", 0), {});
+        const Font& font = *session.CurrentFont();
+        session.CurrentFont()->SetHasKerning(own);
+        const auto action = std::make_shared<ActionMergeFont>(session);
+        action->Args() = {Source(other ? Test::FontPath("outlines.ttf") : Path("other.sif")),
+                          MergeMode::Replace};
+        action->Args().source.format = FontFormat::Framed;
+        action->Args().source.render.height = 12;
+        QVERIFY(action->Run());
+        QCOMPARE(font.HasKerning(), own || other);
+        session.Stack().Undo();
+        QCOMPARE(font.HasKerning(), own);
+        session.Stack().Redo();
+        QCOMPARE(font.HasKerning(), own || other);
     }
 
     // From every kind to every other one, and back.

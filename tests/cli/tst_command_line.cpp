@@ -1,10 +1,14 @@
+#include "actions/action_merge_font.h"
+#include "actions/edit_actions.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "cli/command_line.h"
+#include "cli/option_actions.h"
 #include "support/test_main.h"
 
 #include <QTest>
 
+#include <algorithm>
 #include <iostream>
 #include <sstream>
 
@@ -101,6 +105,32 @@ private Q_SLOTS:
         std::optional<CodeSet> disabling;
         SelectRange(disabling, {0, 0xFFFE}, false);
         QCOMPARE(disabling->Next(0), 0xFFFF);
+    }
+
+    void ActionsHaveTheirArguments()
+    {
+        const Test::RecordingInterface interface;
+        const auto uses = CommandLineParser().parse(
+            {u"a.ttf"_s, u"-height"_s, u"9px"_s, u"-bold"_s, u"-merge"_s, u"b.sif"_s, u"KEEP"_s,
+             u"-editchar"_s, u"SHIFTR"_s, u"0x41-0x42"_s, u"-editfont"_s, u"INSTOP"_s, u"3"_s});
+        RunOptions options = ReadRunOptions(uses);
+        options.open.selection.emplace().Set('A', true);
+        Session session;
+        const auto make = [&](OptionId id) {
+            const auto use = std::ranges::find(uses, id, &OptionOccurrence::Id);
+            return ActionOf(id)->make(*use, options, session);
+        };
+        const auto open = std::dynamic_pointer_cast<ActionOpenFont>(make(OptionId::Open));
+        QCOMPARE(open->Args().path, u"a.ttf"_s);
+        QCOMPARE(open->Args().render, (RenderOptions{.height = 9, .effects = BoldEffect}));
+        QVERIFY(open->Args().selection->Test('A'));
+        const auto merge = std::dynamic_pointer_cast<ActionMergeFont>(make(OptionId::Merge));
+        QCOMPARE(merge->Args().source.path, u"b.sif"_s);
+        QCOMPARE(merge->Args().mode, MergeMode::Keep);
+        QVERIFY(!merge->Args().source.selection); // that of the opened font alone
+        const auto edit = std::dynamic_pointer_cast<ActionChar>(make(OptionId::EditChar));
+        QVERIFY(edit->Args().first == 0x41 && edit->Args().last == 0x42 && edit->Repeat() == 1);
+        QCOMPARE(make(OptionId::EditFont)->Repeat(), 3);
     }
 
     void Questions()
