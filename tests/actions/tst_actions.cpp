@@ -72,21 +72,6 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(std::bad_weak_ptr, unshared.Undo());
         QVERIFY_THROWS_EXCEPTION(std::bad_weak_ptr, unshared.Redo());
     }
-
-    void LogTexts()
-    {
-        const auto message = [](ActionType type) { return QString::fromLatin1(LogMessage(type)); };
-        QCOMPARE(RangePrefix(0x41, 0x41), u"[Char 0x0041]: "_s);
-        QCOMPARE(RangePrefix(0x20, 0xABCD), u"[Range 0x0020-0xABCD]: "_s);
-        QCOMPARE(message(ActionType::Disable), u"Disabled."_s);
-        QCOMPARE(message(ActionType::DisableAll), u"Disabled."_s);
-        QCOMPARE(message(ActionType::SetPixelIndex0), u"Set pixel index (%2,%3) to %4."_s);
-        QVERIFY(message(ActionType::SaveFont).isEmpty());
-        int texts = 0;
-        for (int type = 0; type <= 64; ++type)
-            texts += message(ActionType(type)).isEmpty() ? 0 : 1;
-        QCOMPARE(texts, 34);
-    }
 };
 
 GLYPHOR_TEST(TestActions)

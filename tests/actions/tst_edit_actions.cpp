@@ -78,30 +78,6 @@ private Q_SLOTS:
         QCOMPARE(font.FindChar('A')->info.width, quint8(5));
         QCOMPARE(font.FindChar('A')->info.height, quint8(4));
         QVERIFY(session.Stack().LogLines().isEmpty());
-        session.Stack().Redo();
-        QCOMPARE(Test::Snapshot(font), after);
-        session.Stack().Undo();
-        QCOMPARE(Test::Snapshot(font), undone);
-    }
-
-    void RefusedStepsAreNotReverted()
-    {
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
-        Font& font = *session.CurrentFont();
-        font.FindChar('B')->bitmap->DeleteColumnRight();
-        const auto action = std::make_shared<ActionChar>(session, ActionType::DeleteColumnRight);
-        action->Args() = {'A', 'D'};
-        action->SetRepeat(10);
-        action->Run();
-        QCOMPARE(int(font.FindChar('A')->info.width), 1);
-        for (int round = 0; round < 2; ++round) {
-            session.Stack().Undo();
-            QCOMPARE(int(font.FindChar('A')->info.width), 5);
-            QCOMPARE(int(font.FindChar('B')->info.width), 4);
-            session.Stack().Redo();
-            QCOMPARE(int(font.FindChar('B')->info.width), 1);
-        }
     }
 
     void TogglesTellTheirTarget()

@@ -235,35 +235,6 @@ private Q_SLOTS:
         QCOMPARE(font.HasKerning(), own || other);
     }
 
-    // From every kind to every other one, and back.
-    void KindsKeepTheFont_data()
-    {
-        QTest::addColumn<int>("format");
-        for (int format = 0; format < FormatCount; ++format)
-            QTest::addRow("format %d", format) << format;
-    }
-
-    void KindsKeepTheFont()
-    {
-        QFETCH(const int, format);
-        QStringList kinds = {Path("a.c"), Path("a.sif")};
-        if (!IsLegacyFormat(FontFormat(format)))
-            kinds.append(Path("a.xbf"));
-        const auto sample = Test::MakeSampleFont(FontFormat(format));
-        const QByteArray expected = Test::Snapshot(*sample, true);
-        for (const QString& from : kinds) {
-            WriteFont(Test::MakeSampleFont(FontFormat(format)), from);
-            const QByteArray bytes = Test::ReadAll(from);
-            for (const QString& to : kinds) {
-                WriteFont(Open(from), to);
-                QCOMPARE(Test::Snapshot(*Open(to)), expected);
-                // Pixels may look like a text at the end of an XBF file, which is then kept.
-                if (to == from && !from.endsWith(u".c"_s))
-                    QVERIFY(Test::ReadAll(to).startsWith(bytes));
-            }
-        }
-    }
-
     void OpeningFiles()
     {
         MergeInterface interface;

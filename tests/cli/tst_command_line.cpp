@@ -147,19 +147,6 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(CriticalException,
                                  commandLine.askFontFormat(EncodingType::Unicode));
     }
-
-    void Requests()
-    {
-        CommandLine commandLine;
-        QVERIFY(commandLine.handleRequest(ActionType::ExitProgram));
-        QVERIFY(commandLine.handleRequest(ActionType::PrintUsage));
-        QVERIFY(!commandLine.handleRequest(ActionType::MergeFont));
-        QVERIFY(!commandLine.actionPerformed(nullptr, {}));
-        Session session;
-        const char* const none[] = {"Glyphor"};
-        commandLine.run(1, none, session);
-        QVERIFY(session.CurrentFont() == nullptr);
-    }
 };
 
 GLYPHOR_TEST(TestCommandLine)
