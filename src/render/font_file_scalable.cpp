@@ -182,14 +182,14 @@ FontFileTTC::FontFileTTC(const QString& path, const RenderOptions& options)
     UseFace(face);
 }
 
-QList<FaceDescription> FontFileTTC::FaceDescriptions() const
+QStringList FontFileTTC::FaceNames() const
 {
-    QList<FaceDescription> descriptions;
+    QStringList names;
     for (int index = 0; index < faceCount_; ++index) {
         const FreeTypeFace face(fileName(), index, FreeTypeLibrary());
-        descriptions.append({face.FamilyName(), face.StyleName(), face.Style()});
+        names.append(face.FamilyName() + u' ' + face.StyleName());
     }
-    return descriptions;
+    return names;
 }
 
 std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
@@ -202,16 +202,12 @@ std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
 
 QStringList FaceNames(const QString& path)
 {
-    QStringList names;
-    if (FileTypeOf(path) == FileType::TrueTypeCollection) {
-        for (const FaceDescription& face : FontFileTTC(path, {}).FaceDescriptions())
-            names.append(face.familyName + u' ' + face.styleName);
-        return names;
-    }
+    if (FileTypeOf(path) == FileType::TrueTypeCollection)
+        return FontFileTTC(path, {}).FaceNames();
     const FreeTypeFace face(path, 0, FreeTypeLibrary());
     if (!face.IsOpen())
-        return names;
-    names.append(face.StyleName());
+        return {};
+    QStringList names = {face.StyleName()};
     for (const NamedInstance& instance : face.NamedInstances())
         names.append(instance.name);
     return names;

@@ -3,6 +3,7 @@
 #include "render/font_file_ft.h"
 
 #include <QHash>
+#include <QStringList>
 
 namespace Glyphor {
 
@@ -57,14 +58,6 @@ private:
     int faceCount_ = 0;
 };
 
-// How a face describes itself.
-struct FaceDescription
-{
-    QString familyName;
-    QString styleName;
-    FaceStyle style;
-};
-
 // A TrueType collection; the face index selects the member.
 class FontFileTTC final : public FontFileTTF
 {
@@ -73,8 +66,8 @@ public:
 
     [[nodiscard]] int FaceCount() const override { return faceCount_; }
 
-    // One entry per face, in the order of their indices.
-    [[nodiscard]] QList<FaceDescription> FaceDescriptions() const;
+    // The family and the style of each face, in the order of their indices.
+    [[nodiscard]] QStringList FaceNames() const;
 
 private:
     int faceCount_;

@@ -316,8 +316,6 @@ private Q_SLOTS:
         FontFileTTC file(Test::FontPath("collection.ttc"), options);
         QCOMPARE(file.FaceCount(), 2);
         QCOMPARE(FaceNames(Test::FontPath("collection.ttc")).last(), u"Test Collection Oblique"_s);
-        QCOMPARE(file.FaceDescriptions()[1].styleName, u"Oblique"_s);
-        QCOMPARE(file.FaceDescriptions()[1].style, (FaceStyle{700, 5, true}));
         const auto font = file.Read();
         QCOMPARE(font->Name(), u"Test Collection Oblique"_s);
         QCOMPARE(int(font->FindChar('A')->info.bytesPerLine), 1); // 1 bit per pixel, of the size
