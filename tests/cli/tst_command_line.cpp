@@ -42,23 +42,13 @@ class TestCommandLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Mode_data()
-    {
-        QTest::addColumn<QByteArray>("argument");
-        QTest::addColumn<bool>("isCommandLine");
-        QTest::newRow("-hide") << QByteArray("-hide") << true;
-        QTest::newRow("-HIDE") << QByteArray("-HIDE") << true;
-        QTest::newRow("--hide") << QByteArray("--hide") << false;
-        QTest::newRow("hide") << QByteArray("hide") << false;
-    }
-
     void Mode()
     {
-        QFETCH(const QByteArray, argument);
-        QFETCH(const bool, isCommandLine);
-        const char* const last[] = {"-hide", "x", argument.constData()};
-        QCOMPARE(CommandLine::isCommandLineMode(3, last), isCommandLine);
-        QVERIFY(!CommandLine::isCommandLineMode(1, last));
+        for (const auto& [argument, isCommandLine] :
+             {std::pair("-HIDE", true), {"--hide", false}, {"hide", false}}) {
+            const char* const last[] = {"-hide", "x", argument};
+            QCOMPARE(CommandLine::isCommandLineMode(3, last), isCommandLine);
+        }
     }
 
     void Heights_data()
