@@ -107,6 +107,26 @@ void Compare(const char* title, const Command& glyphor, const Command& bare, con
     std::printf("  Glyphor / empty, wall: %.2f\n\n", ours.wall / start.wall);
 }
 
+// What a run costs that converts nothing.
+void CompareStart(const Command& glyphor, const Command& empty, int runs)
+{
+    std::vector<Sample> samples[2];
+    for (int run = 0; run <= runs; ++run) {
+        const Sample ours = Run(glyphor);
+        const Sample start = Run(empty);
+        if (run > 0) {
+            samples[0].push_back(ours);
+            samples[1].push_back(start);
+        }
+    }
+    const Sample ours = Median(samples[0]);
+    const Sample start = Median(samples[1]);
+    std::printf("Nothing but the usage text\n");
+    Print("Glyphor", ours);
+    Print("empty program", start);
+    std::printf("  Glyphor / empty, cpu: %.2f\n\n", ours.cpu / start.cpu);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -127,6 +147,7 @@ int main(int argc, char** argv)
         return {folder + "bare_freetype", font, "0", height};
     };
 
+    CompareStart({folder + "Glyphor", "-hide", "-help"}, empty, 40 * runs);
     const std::string sans = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
     Compare("ASCII of DejaVuSans.ttf at 16px", glyphor(sans, "16px", {"-enable", "0x20-0x7E"}),
             bare(sans, "16"), empty, 4 * runs);

@@ -94,7 +94,7 @@ int main()
         enable->Args().last = 0xFFFF;
         enabling.push_back(Seconds([&] {
             enable->Run();
-            session.Stack().undo();
+            enable->Undo();
         }));
         copying.push_back(Seconds([&] { CopyFont(*session.CurrentFont()); }));
     }

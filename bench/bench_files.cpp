@@ -34,7 +34,7 @@ std::unique_ptr<Font> MakeFont()
     for (int index = 0; index < CharacterCount; ++index) {
         for (std::size_t at = 0; at < bytes.size(); ++at)
             bytes[at] = static_cast<uchar>(std::size_t(index) * 31 + at * at * 7);
-        font->AddChar(static_cast<quint16>(0x4E00 + index), metrics, bytes);
+        font->PutChar(static_cast<quint16>(0x4E00 + index), metrics, bytes);
     }
     return font;
 }

@@ -17,7 +17,7 @@ int main(int argc, char** argv)
     const QString path = QString::fromLocal8Bit(
         argc > 1 ? argv[1] : "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
     FreeTypeFace face(path, 0, FreeTypeLibrary());
-    face.SetPixelSize({32, false});
+    face.SetPixelSize(32);
 
     std::vector<quint16> codes;
     face.WalkCharmap([&](quint16 code, FT_UInt) {

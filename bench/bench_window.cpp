@@ -7,6 +7,7 @@
 #include "files/font_file.h"
 #include "timing.h"
 #include "ui/editor/char_bitmap_view.h"
+#include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
 #include "ui/window/main_window.h"
 #include "ui/window/menu_bar.h"
@@ -34,7 +35,7 @@ std::unique_ptr<Font> MakeFont(int count, int size, int step = 1)
     for (int code = 0; code < count; code += step) {
         for (std::size_t at = 0; at < bytes.size(); ++at)
             bytes[at] = static_cast<uchar>(std::size_t(code) * 31 + at * 7);
-        font->AddChar(static_cast<quint16>(code), metrics, bytes);
+        font->PutChar(static_cast<quint16>(code), metrics, bytes);
     }
     return font;
 }
@@ -53,8 +54,9 @@ void Measure(const char* what, Step step)
 
 void MeasureTable()
 {
-    Session session;
-    MainWindow window(session);
+    UndoStack history;
+    Session session(history);
+    MainWindow window(session, history);
     SetCurrentInterface(&window);
     window.show();
     const auto show = [&] {
@@ -84,8 +86,9 @@ void MeasureTable()
 
 void MeasureEditor()
 {
-    Session session;
-    MainWindow window(session);
+    UndoStack history;
+    Session session(history);
+    MainWindow window(session, history);
     SetCurrentInterface(&window);
     window.show();
     session.ReplaceFont(MakeFont(2, 255), QStringLiteral("tall.c"));

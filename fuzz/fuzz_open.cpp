@@ -19,11 +19,14 @@ class FuzzInterface final : public UserInterface
 public:
     FuzzInterface() { SetCurrentInterface(this); }
 
-    int askFontFormat(EncodingType&) override { return answer_; }
-    void SetAnswer(std::size_t size) { answer_ = static_cast<int>(size % FormatCount); }
+    std::optional<FormatChoice> askFontFormat(EncodingType assumed) override
+    {
+        return FormatChoice{answer_, assumed};
+    }
+    void SetAnswer(std::size_t size) { answer_ = static_cast<FontFormat>(size % FormatCount); }
 
 private:
-    int answer_ = 0;
+    FontFormat answer_ = FontFormat::Legacy;
 };
 
 // Files are named by their suffix; this folder is in memory.
@@ -43,7 +46,7 @@ void Open(const QString& path)
     // A charmap may name a glyph for every code: a part of them shows as much, in less time.
     ActionOpenFontArgs args;
     args.path = path;
-    args.size = {16, false};
+    args.render.height = 16;
     args.selection.emplace().SetRange(0, 0x2FF, true);
     const auto font = ReadFont(args);
     qsizetype size = 0;

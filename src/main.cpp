@@ -12,6 +12,8 @@
 #include <csignal>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The window is a program beside this one, so that a headless run loads no widgets.
@@ -19,7 +21,7 @@ void BecomeWindow(int argc, char** argv)
 {
     const QString program = [&] {
         const Glyphor::CoreApplication application(argc, argv);
-        return QCoreApplication::applicationDirPath() + QStringLiteral("/Glyphor-window");
+        return QCoreApplication::applicationDirPath() + u"/Glyphor-window"_s;
     }();
 #ifdef Q_OS_UNIX
     ::execv(QFile::encodeName(program).constData(), argv);

@@ -2,6 +2,7 @@
 #include "actions/session.h"
 #include "cli/command_line.h"
 #include "ui/support/application.h"
+#include "ui/support/undo_stack.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -29,8 +30,9 @@ int main(int argc, char** argv)
     qInstallMessageHandler(HandleMessage);
     Application application(argc, argv);
     qInstallMessageHandler(nullptr);
-    Session session;
-    MainWindow window(session);
+    UndoStack history;
+    Session session(history);
+    MainWindow window(session, history);
     SetCurrentInterface(&window);
     window.show();
     CommandLine::instance().runGuarded(argc, argv, session);

@@ -3,11 +3,8 @@
 #include "actions/font_files.h"
 #include "actions/session.h"
 #include "app/engine_texts.h"
-#include "app/user_interface.h"
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -67,13 +64,12 @@ bool ActionMergeFont::Execute()
     duplicates &= font->ExistingCodes();
     duplicates &= font->EnabledCodes(); // what is disabled is not missed
     if (!duplicates.IsEmpty()) {
-        MergeMode mode = Args().mode;
-        if (mode == MergeMode::Ask)
-            mode = static_cast<MergeMode>(CurrentInterface().askMergeMode());
+        const std::optional<MergeMode> mode =
+            Args().mode ? Args().mode : CurrentInterface().askMergeMode();
+        if (!mode)
+            return false;
         if (mode == MergeMode::Keep)
             incoming -= duplicates;
-        else if (mode != MergeMode::Replace)
-            return false;
     }
     for (const quint16 code : incoming) {
         characters_[code] = CopyInto(*font, *other->FindChar(code));

@@ -3,20 +3,19 @@
 #include "actions/action.h"
 #include "actions/action_open_font.h"
 #include "app/shown_text.h"
+#include "app/user_interface.h"
 #include "model/font.h"
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace Glyphor {
-
-// What becomes of characters that both fonts have. The numbers are those of the user interfaces.
-enum class MergeMode { Ask = 0, Replace = 2, Keep = 3 };
 
 struct ActionMergeFontArgs
 {
     ActionOpenFontArgs source;
-    MergeMode mode = MergeMode::Ask;
+    std::optional<MergeMode> mode; // asked for where it is needed and not told
 };
 
 // Adds the enabled characters of another font to the font of the session, whose own metrics stay.

@@ -4,13 +4,12 @@
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/progress.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "render/font_file_scalable.h"
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,9 +19,9 @@ const QString& CreationFailed()
     return title;
 }
 
-void WarnOfPoints(const FontSize& size)
+void WarnOfPoints(const ActionOpenFontArgs& args)
 {
-    if (!size.inPoints || size.PixelHeight() != 0)
+    if (!args.size.inPoints || args.render.height != 0)
         return;
     CurrentInterface().warning(Engine::tr("Height in points"),
                                Engine::tr("A height in points needs the resolution of a desktop, "
@@ -53,13 +52,10 @@ void CheckCombination(FontFormat format, EncodingType encoding)
 
 RenderOptions OptionsOf(const ActionOpenFontArgs& args)
 {
-    return {
-        .format = args.format.value_or(FontFormat::Standard),
-        .encoding = args.encoding.value_or(EncodingType::Unicode),
-        .size = args.size,
-        .effects = args.effects,
-        .faceIndex = args.faceIndex,
-    };
+    RenderOptions options = args.render;
+    options.format = args.format.value_or(FontFormat::Standard);
+    options.encoding = args.encoding.value_or(EncodingType::Unicode);
+    return options;
 }
 
 std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
@@ -72,19 +68,28 @@ std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
     if (!file->OpenFault().isEmpty())
         Fail(CreationFailed(), Engine::tr("The font file %1 can't be used: %2")
                                    .arg(Shown(args.path), file->OpenFault()));
-    WarnOfPoints(options.size);
+    WarnOfPoints(args);
     file->SetCharacterFilter(args.selection);
     return file->Read();
+}
+
+// The file object; where neither the file nor the arguments tell the format, the user does.
+std::unique_ptr<FontFile> FileWithFormat(const ActionOpenFontArgs& args)
+{
+    auto file = MakeInputFile(args.path, {args.format, args.encoding});
+    if (args.format || file->TellsFormat())
+        return file;
+    const auto choice =
+        CurrentInterface().askFontFormat(args.encoding.value_or(EncodingType::Unicode));
+    if (!choice)
+        throw WorkStopped();
+    return MakeInputFile(args.path, {choice->format, choice->encoding});
 }
 
 // Files other than those that are rendered have a format of their own.
 std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
 {
-    auto font = MakeInputFile(args.path, {args.format, args.encoding})->Read();
-    if (font == nullptr)
-        Fail(Engine::tr("Error opening file!"),
-             Engine::tr("The format of the font in %1 was not told, so it was not opened.")
-                 .arg(Shown(args.path)));
+    auto font = FileWithFormat(args)->Read();
     const FontMetrics& metrics = font->Metrics();
     CheckCombination(metrics.format, metrics.encoding);
     if (args.format && *args.format != metrics.format)
@@ -128,7 +133,7 @@ int EmSize(const ActionOpenFontArgs& args)
 bool ActionOpenFont::Execute()
 {
     font_ = ReadFont(Args());
-    return font_ != nullptr;
+    return true;
 }
 
 void ActionOpenFont::RedoOnce()
@@ -140,7 +145,7 @@ LogEntry ActionOpenFont::Log() const
 {
     const bool isCreated = Type() == ActionType::CreateFont;
     return LogEntry(MessageFor(),
-                    {isCreated ? QString::number(Args().size.PixelHeight()) : Shown(Args().path)});
+                    {isCreated ? QString::number(Args().render.height) : Shown(Args().path)});
 }
 
 } // namespace Glyphor

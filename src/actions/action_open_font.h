@@ -3,7 +3,7 @@
 #include "actions/action.h"
 #include "model/code_set.h"
 #include "model/font.h"
-#include "render/free_type_face.h"
+#include "render/render_options.h"
 
 #include <optional>
 
@@ -13,12 +13,14 @@ struct ActionOpenFontArgs
 {
     QString path;
 
-    // For fonts that are rendered, and for files that do not tell these themselves.
+    // What the user said, for fonts that are rendered and for files that do not tell these.
     std::optional<FontFormat> format;
     std::optional<EncodingType> encoding;
+
+    // As the user gave it, whereas the height to render at is in pixels. Of the format and the
+    // encoding those above count.
     FontSize size;
-    quint32 effects = 0; // bits of FaceEffect
-    int faceIndex = 0;
+    RenderOptions render;
 
     // Where set, only these characters are rendered, or stay enabled.
     std::optional<CodeSet> selection;
@@ -41,8 +43,9 @@ private:
     std::unique_ptr<Font> font_; // between Execute and the first step
 };
 
-// The font of a file of any kind: read, or rendered as the arguments say. Throws a
-// CriticalException on failure.
+// The font of a file of any kind: read, or rendered as the arguments say. Asks the user for the
+// format of a file that does not tell it. Throws a CriticalException on failure, and WorkStopped
+// where the user gives up.
 [[nodiscard]] std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args);
 
 // The em size in pixels that a scalable font would be rendered at; 0 where it can't be.

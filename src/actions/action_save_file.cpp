@@ -15,15 +15,13 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 bool ActionSaveFile::Execute()
 {
     const Font* const font = CurrentSession().CurrentFont();
-    const bool isXbf = FileTypeOf(Args().path) == FileType::Xbf;
-    if (isXbf && font != nullptr && IsLegacyFormat(font->Metrics().format))
-        ThrowActionError(Engine::tr("Invalid file format!"),
-                         Engine::tr("Legacy font formats cannot be saved in the XBF format."));
+    const auto type = FileTypeOf(Args().path);
+    const char* const refusal = type ? RowOf(*type).legacyRefusal : nullptr;
+    if (refusal != nullptr && font != nullptr && IsLegacyFormat(font->Metrics().format))
+        ThrowActionError(Engine::tr("Invalid file format!"), Engine::tr(refusal));
     if (font == nullptr || !font->HasEnabledChars())
         ThrowActionError(Engine::tr("Font is empty!"),
                          Engine::tr("The font has no enabled characters that could be saved."));

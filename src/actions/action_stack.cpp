@@ -4,12 +4,15 @@ namespace Glyphor {
 
 void ActionStack::Push(const std::shared_ptr<Action>& action)
 {
-    actions_.push_back(action);
+    action->Redo();
+    Keep(action);
+    isClean_ = isClean_ && !action->IsUndoable();
 }
 
 void ActionStack::Clear()
 {
     actions_.clear();
+    isClean_ = true;
 }
 
 void ActionStack::DropUndone()

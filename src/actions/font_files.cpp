@@ -4,16 +4,11 @@
 #include "app/engine_texts.h"
 #include "app/settings.h"
 #include "app/shown_text.h"
-#include "files/font_file_c.h"
-#include "files/font_file_sif.h"
-#include "files/font_file_xbf.h"
 #include "render/font_file_bdf.h"
 
 #include <QFileInfo>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -54,38 +49,22 @@ FileType CheckInputFile(const QString& path)
     return *type;
 }
 
-std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
-                                                       const RenderOptions& options)
-{
-    if (FileTypeOf(path) == FileType::TrueTypeCollection)
-        return std::make_unique<FontFileTTC>(path, options);
-    return std::make_unique<FontFileTTF>(path, options);
-}
-
 std::unique_ptr<FontFile> MakeInputFile(const QString& path, const FormatAnswer& answer)
 {
     const auto type = FileTypeOf(path);
     if (type == FileType::Bdf)
         return std::make_unique<FontFileBDF>(path);
-    if (type == FileType::C)
-        return std::make_unique<FontFileC>(path, CFileOptions());
-    if (type == FileType::Xbf)
-        return std::make_unique<FontFileXBF>(path, answer);
-    if (type == FileType::Sif)
-        return std::make_unique<FontFileSIF>(path, answer);
-    ThrowUnsupportedFormat();
+    if (!type || RowOf(*type).make == nullptr)
+        ThrowUnsupportedFormat();
+    return RowOf(*type).make(path, {.answer = answer, .text = {}});
 }
 
 std::unique_ptr<FontFile> MakeOutputFile(const QString& path, const QStringList& actionLog)
 {
     const auto type = FileTypeOf(path);
-    if (type == FileType::C)
-        return std::make_unique<FontFileC>(path, CFileOptionsOfSettings(actionLog));
-    if (type == FileType::Xbf)
-        return std::make_unique<FontFileXBF>(path);
-    if (type == FileType::Sif)
-        return std::make_unique<FontFileSIF>(path);
-    ThrowUnsupportedFormat();
+    if (!type || !IsWritten(*type))
+        ThrowUnsupportedFormat();
+    return RowOf(*type).make(path, {.answer = {}, .text = CFileOptionsOfSettings(actionLog)});
 }
 
 } // namespace Glyphor

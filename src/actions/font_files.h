@@ -2,7 +2,6 @@
 
 #include "files/c_file_text.h"
 #include "files/file_types.h"
-#include "render/font_file_scalable.h"
 
 #include <QStringList>
 
@@ -16,10 +15,6 @@ FileType CheckInputFile(const QString& path);
 
 // What the settings say about generated C files; the log is told where they want it told.
 [[nodiscard]] CFileOptions CFileOptionsOfSettings(const QStringList& actionLog);
-
-// The file object for a kind that is rendered.
-[[nodiscard]] std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
-                                                                     const RenderOptions& options);
 
 // The file object for a kind that has a size of its own, to be read. Throws a CriticalException for
 // any other kind.

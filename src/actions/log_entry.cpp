@@ -4,14 +4,12 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // How long the part is that tells what an entry is about, "[Font]: ", which has no language.
 qsizetype PrefixLength(const QString& text)
 {
-    constexpr auto end = "]: "_L1;
+    constexpr QStringView end = u"]: ";
     const qsizetype found = text.startsWith(u'[') ? text.indexOf(end) : -1;
     return found < 0 ? 0 : found + end.size();
 }

@@ -10,8 +10,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr quint16 ByteOrderMark = 0xFEFF;

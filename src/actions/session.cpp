@@ -14,7 +14,7 @@ void Session::SetSaved(const QString& path)
 {
     path_ = path;
     isChanged_ = false;
-    stack_.setClean();
+    stack_.MarkSaved();
 }
 
 } // namespace Glyphor

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "actions/undo_stack.h"
+#include "actions/action_stack.h"
 #include "model/font.h"
 
 #include <QString>
@@ -13,6 +13,14 @@ namespace Glyphor {
 class Session
 {
 public:
+    Session() : stack_(ownStack_) {}
+
+    // With a history of the front end's, which must outlive the session.
+    explicit Session(ActionStack& stack) : stack_(stack) {}
+
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
     // Null until a font was opened.
     [[nodiscard]] Font* CurrentFont() const { return font_.get(); }
 
@@ -20,12 +28,12 @@ public:
     [[nodiscard]] const QString& Path() const { return path_; }
 
     // True where the font has changes that are not in its file.
-    [[nodiscard]] bool IsModified() const { return isChanged_ || !stack_.isClean(); }
+    [[nodiscard]] bool IsModified() const { return isChanged_ || !stack_.IsAsSaved(); }
 
     // The font has a change that its history does not tell of.
     void MarkChanged() { isChanged_ = true; }
 
-    [[nodiscard]] UndoStack& Stack() { return stack_; }
+    [[nodiscard]] ActionStack& Stack() { return stack_; }
 
     // Takes a new font and begins its history.
     void ReplaceFont(std::unique_ptr<Font> font, const QString& path);
@@ -35,7 +43,8 @@ public:
 private:
     std::unique_ptr<Font> font_;
     QString path_;
-    UndoStack stack_;
+    ActionStack ownStack_;
+    ActionStack& stack_;
     bool isChanged_ = false;
 };
 

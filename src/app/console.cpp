@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -22,6 +23,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The console text attributes (foreground colour bits) that stand for colours on the desktop system
+// whose consoles have attributes.
 constexpr std::array<std::pair<ConsoleColour, int>, 7> Attributes = {{
     {ConsoleColour::Red, 12},
     {ConsoleColour::Green, 10},
@@ -31,6 +34,14 @@ constexpr std::array<std::pair<ConsoleColour, int>, 7> Attributes = {{
     {ConsoleColour::Cyan, 11},
     {ConsoleColour::Default, 7},
 }};
+
+// Nothing for a colour without one.
+std::optional<int> ConsoleAttribute(ConsoleColour colour)
+{
+    const auto* const entry =
+        std::ranges::find(Attributes, colour, [](const auto& pair) { return pair.first; });
+    return entry == Attributes.end() ? std::nullopt : std::optional(entry->second);
+}
 
 #ifdef Q_OS_WIN
 
@@ -80,13 +91,6 @@ using TerminalPainter = AnsiPainter;
 #endif
 
 } // namespace
-
-std::optional<int> ConsoleAttribute(ConsoleColour colour)
-{
-    const auto* const entry =
-        std::ranges::find(Attributes, colour, [](const auto& pair) { return pair.first; });
-    return entry == Attributes.end() ? std::nullopt : std::optional(entry->second);
-}
 
 Console::Console(std::FILE* stream) : stream_(stream), isTerminal_(IsTerminalStream(stream))
 {

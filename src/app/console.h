@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <memory>
-#include <optional>
 
 namespace Glyphor {
 
@@ -18,10 +17,6 @@ enum class ConsoleColour : int {
     Cyan = 36,
     Default = 39
 };
-
-// The console text attribute (foreground colour bits) that stands for a colour on the desktop
-// system whose consoles have attributes; empty for a colour without one.
-[[nodiscard]] std::optional<int> ConsoleAttribute(ConsoleColour colour);
 
 // How a kind of output shows colours.
 class ConsolePainter

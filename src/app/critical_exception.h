@@ -10,12 +10,9 @@ namespace Glyphor {
 class CriticalException : public std::exception
 {
 public:
-    static QString DefaultTitle() { return QStringLiteral("Critical error!"); }
+    [[nodiscard]] static QString DefaultTitle();
 
-    CriticalException(const QString& title, const QString& text)
-        : title_(title), text_(text), what_((title + QStringLiteral(": ") + text).toUtf8())
-    {}
-
+    CriticalException(const QString& title, const QString& text);
     explicit CriticalException(const QString& text) : CriticalException(DefaultTitle(), text) {}
 
     [[nodiscard]] const QString& Title() const { return title_; }

@@ -8,7 +8,7 @@ namespace Glyphor {
 class ErrorFile : public File
 {
 public:
-    ErrorFile() : File(QStringLiteral("Glyphor.err")) {}
+    ErrorFile();
 
     void Write(const QString& text) { Replace(text.toUtf8()); }
 };

@@ -10,8 +10,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 QByteArray File::Contents()
 {
     constexpr qint64 limit = 0x7FFFFFFF;

@@ -4,15 +4,13 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 std::optional<bool> ToSetting(const QVariant& stored, const bool*)
 {
     // A text store gives back texts, and any other text would count as true.
     const QString text = stored.toString().toLower();
-    if (text == "true"_L1 || text == "1"_L1)
+    if (text == u"true" || text == u"1")
         return true;
-    if (text == "false"_L1 || text == "0"_L1)
+    if (text == u"false" || text == u"0")
         return false;
     return std::nullopt;
 }

@@ -69,12 +69,7 @@ Settings::Settings(std::unique_ptr<QSettings> store)
       mergeModeDialog(*this, u"MergeModeDialogData"_s),
       preferencesDialog(*this, u"PreferencesDialogData"_s),
       commandDialog(*this, u"CommandDialogData"_s)
-{
-    for (const OptionBase* const group : std::initializer_list<const OptionBase*>{
-             &mainWindow, &fontDialog, &fontGenerationDialog, &enableRangeDialog, &mergeModeDialog,
-             &preferencesDialog, &commandDialog})
-        registerGroup(group->key());
-}
+{}
 
 Settings& Settings::Instance()
 {

@@ -3,6 +3,8 @@
 #include "app/dialog_data.h"
 #include "app/setting.h"
 
+#include <QStringList>
+
 namespace Glyphor {
 
 // The choices of the "LineEndings" setting.

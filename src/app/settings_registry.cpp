@@ -7,14 +7,8 @@ SettingsRegistry::SettingsRegistry(std::unique_ptr<QSettings> store) : store_(st
 void SettingsRegistry::registerDefault(const QString& key, const QVariant& value)
 {
     defaults_.insert(key, value);
-    keys_.append(key);
     if (store_->contains(key))
         current_.insert(key, store_->value(key));
-}
-
-void SettingsRegistry::registerGroup(const QString& key)
-{
-    groups_.append(key);
 }
 
 QVariant SettingsRegistry::value(const QString& key) const

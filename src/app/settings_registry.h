@@ -2,7 +2,6 @@
 
 #include <QHash>
 #include <QSettings>
-#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -10,8 +9,8 @@
 
 namespace Glyphor {
 
-// The one store of all settings: their defaults, their current values, and the names of the dialog
-// records. A store that can't be read counts as empty.
+// The one store of all settings: their defaults and their current values. A store that can't be
+// read counts as empty.
 class SettingsRegistry
 {
 public:
@@ -20,15 +19,10 @@ public:
     SettingsRegistry& operator=(const SettingsRegistry&) = delete;
 
     void registerDefault(const QString& key, const QVariant& value);
-    void registerGroup(const QString& key);
 
     // The stored value, or the default, or nothing.
     [[nodiscard]] QVariant value(const QString& key) const;
     void setValue(const QString& key, const QVariant& value);
-
-    // In the order of registration.
-    [[nodiscard]] const QStringList& keys() const { return keys_; }
-    [[nodiscard]] const QStringList& groups() const { return groups_; }
 
 protected:
     ~SettingsRegistry() = default;
@@ -37,8 +31,6 @@ private:
     std::unique_ptr<QSettings> store_;
     QHash<QString, QVariant> defaults_;
     QHash<QString, QVariant> current_;
-    QStringList keys_;
-    QStringList groups_;
 };
 
 } // namespace Glyphor

@@ -38,14 +38,14 @@ bool UserInterface::progressChanged(const QString&, int, int)
 
 void UserInterface::progressFinished() {}
 
-int UserInterface::askFontFormat(EncodingType&)
+std::optional<FormatChoice> UserInterface::askFontFormat(EncodingType)
 {
-    return -1;
+    return std::nullopt;
 }
 
-int UserInterface::askMergeMode()
+std::optional<MergeMode> UserInterface::askMergeMode()
 {
-    return 0;
+    return std::nullopt;
 }
 
 Answer UserInterface::ask(const QString&, const QString&)

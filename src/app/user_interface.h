@@ -6,10 +6,21 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Glyphor {
 
 class Action;
+
+// What a file does not tell of its font.
+struct FormatChoice
+{
+    FontFormat format;
+    EncodingType encoding;
+};
+
+// What becomes of characters that both fonts have. The numbers are those of the user interfaces.
+enum class MergeMode { Replace = 2, Keep = 3 };
 
 // Nobody answers where there is nobody to ask.
 enum class Answer { No, Yes, Nobody };
@@ -43,11 +54,10 @@ public:
     virtual bool progressChanged(const QString& text, int value, int maximum) = 0;
     virtual void progressFinished() = 0;
 
-    // The number of the chosen font format, or -1. Sets the encoding where that is chosen as well.
-    virtual int askFontFormat(EncodingType& encoding) = 0;
-
-    // The number of the chosen merge mode, or 0.
-    virtual int askMergeMode() = 0;
+    // These give nothing where the user gives up. The encoding is `assumed` unless it is chosen
+    // too.
+    virtual std::optional<FormatChoice> askFontFormat(EncodingType assumed) = 0;
+    virtual std::optional<MergeMode> askMergeMode() = 0;
 
     // A question with the answers yes and no.
     virtual Answer ask(const QString& title, const QString& text) = 0;
@@ -68,8 +78,8 @@ public:
     void actionChanged(const std::shared_ptr<Action>& action) override;
     bool progressChanged(const QString& text, int value, int maximum) override;
     void progressFinished() override;
-    int askFontFormat(EncodingType& encoding) override;
-    int askMergeMode() override;
+    std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
+    std::optional<MergeMode> askMergeMode() override;
     Answer ask(const QString& title, const QString& text) override;
 };
 

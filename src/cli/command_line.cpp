@@ -1,16 +1,14 @@
 #include "cli/command_line.h"
 
-#include "actions/action_merge_font.h"
+#include "actions/action_open_font.h"
 #include "actions/action_save_file.h"
-#include "actions/edit_actions.h"
-#include "actions/edit_table.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/error_file.h"
 #include "app/progress.h"
 #include "app/shown_text.h"
 #include "cli/installed_fonts.h"
-#include "files/file_types.h"
+#include "cli/option_actions.h"
 
 #include <QScopeGuard>
 
@@ -32,64 +30,9 @@ QStringList ArgumentList(int argc, const char* const* argv)
     return arguments;
 }
 
-bool HasArgument(int argc, const char* const* argv, QLatin1StringView argument)
+bool HasArgument(int argc, const char* const* argv, QStringView argument)
 {
     return ArgumentList(argc, argv).contains(argument, Qt::CaseInsensitive);
-}
-
-// The action kind of an option; nothing for options that run none of their own.
-ActionType KindOf(const OptionOccurrence& occurrence)
-{
-    switch (occurrence.Id()) {
-    case OptionId::Open:
-        return ActionType::OpenFont;
-    case OptionId::Create:
-        return ActionType::CreateFont;
-    case OptionId::ListFonts:
-        return ActionType::ListFonts;
-    case OptionId::EditFont:
-    case OptionId::EditChar:
-        return static_cast<ActionType>(occurrence.Get<int>(0));
-    case OptionId::Merge:
-        return ActionType::MergeFont;
-    case OptionId::Save:
-        return ActionType::SaveFont;
-    case OptionId::Exit:
-        return ActionType::ExitProgram;
-    case OptionId::Help:
-        return ActionType::PrintUsage;
-    default:
-        return ActionType::None;
-    }
-}
-
-// The parameter of an occurrence, or 1 where it was left out.
-int CountOf(const OptionOccurrence& occurrence, std::size_t parameter)
-{
-    return std::holds_alternative<int>(occurrence.values[parameter])
-               ? occurrence.Get<int>(parameter)
-               : 1;
-}
-
-// Null for the kinds that a front end handles itself.
-std::shared_ptr<Action> MakeAction(ActionType kind, Session& session)
-{
-    if (const Edit* const edit = EditOf(kind)) {
-        if (edit->target == EditTarget::Font)
-            return std::make_shared<ActionFont>(session, kind);
-        return std::make_shared<ActionChar>(session, kind);
-    }
-    switch (kind) {
-    case ActionType::CreateFont:
-    case ActionType::OpenFont:
-        return std::make_shared<ActionOpenFont>(session, kind);
-    case ActionType::MergeFont:
-        return std::make_shared<ActionMergeFont>(session);
-    case ActionType::SaveFont:
-        return std::make_shared<ActionSaveFile>(session, kind);
-    default:
-        return nullptr;
-    }
 }
 
 // A line of standard input, of which the first characters matter; nothing at its end.
@@ -107,21 +50,6 @@ std::optional<QString> ReadLine()
     return QString::fromLocal8Bit(line);
 }
 
-// The options that say how a font is opened speak of the other font where its file asks for them.
-// The character selection is that of the opened font alone.
-ActionMergeFontArgs MergeArgs(const OptionOccurrence& occurrence, const RunOptions& options)
-{
-    ActionMergeFontArgs args{.source = options.open};
-    args.source.path = occurrence.Get<QString>(0);
-    args.source.selection.reset();
-    if (std::holds_alternative<int>(occurrence.values[1]))
-        args.mode = static_cast<MergeMode>(occurrence.Get<int>(1));
-    const auto type = FileTypeOf(args.source.path);
-    if (type && IsScalable(*type))
-        throw CriticalException(u"Unsupported format!"_s, u"Only C, XBF, SIF and BDF allowed."_s);
-    return args;
-}
-
 } // namespace
 
 CommandLine::CommandLine() : console_(stdout), progressConsole_(stderr) {}
@@ -134,14 +62,14 @@ CommandLine& CommandLine::instance()
 
 bool CommandLine::isCommandLineMode(int argc, const char* const* argv)
 {
-    return HasArgument(argc, argv, "-hide"_L1);
+    return HasArgument(argc, argv, u"-hide");
 }
 
 void CommandLine::runGuarded(int argc, const char* const* argv, Session& session)
 {
     const auto fail = [&](const QString& title, const QString& text) {
         CurrentInterface().critical(title, text);
-        if (HasArgument(argc, argv, "-xirtsek"_L1))
+        if (HasArgument(argc, argv, u"-xirtsek"))
             ErrorFile().Write(text);
     };
     try {
@@ -185,26 +113,22 @@ void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
     default:
         break;
     }
-    current_ = &occurrence;
-    const auto forget = qScopeGuard([this] { current_ = nullptr; });
-    const ActionType kind = KindOf(occurrence);
-    if (kind != ActionType::None)
-        perform(kind, session);
+    const OptionAction* const row = ActionOf(occurrence.Id());
+    if (row == nullptr)
+        return;
+    if (row->make == nullptr)
+        CurrentInterface().handleRequest(row->request);
+    else
+        perform(row->make(occurrence, options_, session));
 }
 
-void CommandLine::perform(ActionType kind, Session& session)
+void CommandLine::perform(const std::shared_ptr<Action>& action)
 {
-    const std::shared_ptr<Action> action = MakeAction(kind, session);
-    if (action == nullptr) {
-        CurrentInterface().handleRequest(kind);
-        return;
-    }
-    if (!requestAction(*action))
-        return;
+    requested_ = action.get();
+    const auto forget = qScopeGuard([this] { requested_ = nullptr; });
     BasicInterface& interface = CurrentInterface();
-    if (&interface != this && !interface.requestAction(*action))
-        return;
-    action->Run();
+    if (requestAction(*action) && (&interface == this || interface.requestAction(*action)))
+        action->Run();
 }
 
 void CommandLine::information(const QString&, const QString& text)
@@ -243,40 +167,10 @@ bool CommandLine::handleRequest(ActionType kind)
     }
 }
 
+// The arguments came with the action.
 bool CommandLine::requestAction(Action& action)
 {
-    if (current_ == nullptr)
-        return false;
-    if (auto* const open = dynamic_cast<ActionOpenFont*>(&action)) {
-        open->Args() = options_.open;
-        open->Args().path = current_->Get<QString>(0);
-        if (action.Type() == ActionType::CreateFont) {
-            const InstalledFont font =
-                FindInstalledFont(current_->Get<QString>(0), current_->Get<QString>(1));
-            open->Args().path = font.path;
-            open->Args().faceIndex = font.faceIndex;
-        }
-        return true;
-    }
-    if (auto* const merge = dynamic_cast<ActionMergeFont*>(&action)) {
-        merge->Args() = MergeArgs(*current_, options_);
-        return true;
-    }
-    if (auto* const save = dynamic_cast<ActionSaveFile*>(&action)) {
-        save->Args().path = current_->Get<QString>(0);
-        return true;
-    }
-    if (auto* const edit = dynamic_cast<ActionChar*>(&action)) {
-        const CodeRange range = Ordered(current_->Get<CodeRange>(1));
-        edit->Args() = {range.first, range.last};
-        edit->SetRepeat(CountOf(*current_, 2));
-        return true;
-    }
-    if (auto* const edit = dynamic_cast<ActionFont*>(&action)) {
-        edit->SetRepeat(CountOf(*current_, 1));
-        return true;
-    }
-    return false;
+    return &action == requested_;
 }
 
 bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const QString& logText)
@@ -323,16 +217,19 @@ int CommandLine::askKeyword(const QString& reason, const QString& subject,
     }
 }
 
-int CommandLine::askFontFormat(EncodingType&)
+std::optional<FormatChoice> CommandLine::askFontFormat(EncodingType assumed)
 {
-    return askKeyword(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
+    const int format =
+        askKeyword(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
+    return FormatChoice{static_cast<FontFormat>(format), assumed};
 }
 
-int CommandLine::askMergeMode()
+std::optional<MergeMode> CommandLine::askMergeMode()
 {
-    return askKeyword(u"Duplicate characters have been found in both fonts. How should duplicate "
-                      "characters be handled?"_s,
-                      u"merge mode"_s, MergeKeywords());
+    return static_cast<MergeMode>(
+        askKeyword(u"Duplicate characters have been found in both fonts. How should duplicate "
+                   "characters be handled?"_s,
+                   u"merge mode"_s, MergeKeywords()));
 }
 
 } // namespace Glyphor

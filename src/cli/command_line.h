@@ -41,12 +41,12 @@ public:
     void progressFinished() override;
 
     // Throw a CriticalException where standard input ends before an answer.
-    int askFontFormat(EncodingType& encoding) override;
-    int askMergeMode() override;
+    std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
+    std::optional<MergeMode> askMergeMode() override;
 
 private:
     void execute(const OptionOccurrence& occurrence, Session& session);
-    void perform(ActionType kind, Session& session);
+    void perform(const std::shared_ptr<Action>& action);
     int askKeyword(const QString& reason, const QString& subject,
                    const ParameterKeywordTable& keywords);
 
@@ -54,7 +54,7 @@ private:
     Console console_;
     Console progressConsole_;
     RunOptions options_;
-    const OptionOccurrence* current_ = nullptr; // the one being executed
+    const Action* requested_ = nullptr; // by the option that is being executed
 };
 
 } // namespace Glyphor

@@ -1,6 +1,7 @@
 #include "cli/command_line_option.h"
 
 #include "actions/edit_table.h"
+#include "app/user_interface.h"
 #include "model/font_format.h"
 
 #include <algorithm>
@@ -222,8 +223,8 @@ const ParameterKeywordTable& EncodingKeywords()
 
 const ParameterKeywordTable& MergeKeywords()
 {
-    constexpr int replace = 2;
-    constexpr int keep = 3;
+    constexpr int replace = static_cast<int>(MergeMode::Replace);
+    constexpr int keep = static_cast<int>(MergeMode::Keep);
     static const ParameterKeywordTable table({
         {u"REPLACE"_s,
          u"Replaces duplicate characters in opened font with characters from new font."_s, replace},

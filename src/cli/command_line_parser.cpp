@@ -31,7 +31,7 @@ bool IsNamed(const CommandLineOption& option, QStringView argument)
 // Decimal, or hexadecimal behind "0x"; nothing but digits. What does not fit is the largest number.
 quint64 ParseNumber(const QString& text)
 {
-    const bool isHex = text.startsWith("0x"_L1, Qt::CaseInsensitive);
+    const bool isHex = text.startsWith(u"0x", Qt::CaseInsensitive);
     const QString digits = isHex ? text.mid(2) : text;
     const bool onlyDigits = std::ranges::all_of(digits, [isHex](QChar digit) {
         const char character = digit.toLatin1();
@@ -63,7 +63,7 @@ quint16 ParseCode(const QString& text)
 
 CodeRange ParseRange(const QString& text, const QString& placeholder)
 {
-    if (text.compare("all"_L1, Qt::CaseInsensitive) == 0)
+    if (text.compare(u"all", Qt::CaseInsensitive) == 0)
         return {0, std::numeric_limits<quint16>::max()};
     const QStringList parts = text.split(u'-');
     if (parts.size() > 2 || parts.contains(QString()))

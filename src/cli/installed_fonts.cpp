@@ -3,6 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/progress.h"
+#include "app/settings.h"
 #include "app/shown_text.h"
 #include "render/font_database.h"
 
@@ -24,7 +25,9 @@ std::shared_ptr<const FontDatabase> BuiltDatabase()
     if (auto database = FontDatabase::Current(); !database->Families().empty())
         return database;
     QEventLoop loop;
-    FontDatabaseThread thread;
+    const Settings& settings = Settings::Instance();
+    FontDatabaseThread thread(settings.additionalFontDirs.value(),
+                              settings.searchDirsRecursively.value());
     std::unique_ptr<Progress> progress;
     QObject::connect(&thread, &FontDatabaseThread::initFileCount, &loop, [&progress](int count) {
         progress = std::make_unique<Progress>(Engine::tr("Indexing font files..."), count);

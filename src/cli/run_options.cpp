@@ -19,6 +19,9 @@ namespace {
 // FreeType counts pixels per em in 16 bits.
 constexpr int MaxHeight = 0xFFFF;
 
+// Without a window there is no resolution either, and points give no height.
+constexpr int NoScreen = 0;
+
 // Metrics wrap long before, and every step is a line of the log.
 constexpr int MaxCount = 0xFFFF;
 
@@ -38,6 +41,7 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     switch (occurrence.Id()) {
     case OptionId::Height:
         options.open.size = ParseHeight(occurrence.Get<QString>(0));
+        options.open.render.height = options.open.size.PixelHeight(NoScreen);
         break;
     case OptionId::Format:
         options.open.format = static_cast<FontFormat>(occurrence.Get<int>(0));
@@ -46,13 +50,13 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         options.open.encoding = static_cast<EncodingType>(occurrence.Get<int>(0));
         break;
     case OptionId::Bold:
-        options.open.effects |= BoldEffect;
+        options.open.render.effects |= BoldEffect;
         break;
     case OptionId::Italic:
-        options.open.effects |= ItalicEffect;
+        options.open.render.effects |= ItalicEffect;
         break;
     case OptionId::Face:
-        options.open.faceIndex = occurrence.Get<int>(0);
+        options.open.render.faceIndex = occurrence.Get<int>(0);
         break;
     case OptionId::EditFont:
         CheckCount(occurrence, 1);
@@ -82,8 +86,8 @@ bool OpensScalableFont(const OptionOccurrence& occurrence)
 
 FontSize ParseHeight(const QString& text)
 {
-    const bool inPoints = text.endsWith("pt"_L1, Qt::CaseInsensitive);
-    const bool inPixels = text.endsWith("px"_L1, Qt::CaseInsensitive);
+    const bool inPoints = text.endsWith(u"pt", Qt::CaseInsensitive);
+    const bool inPixels = text.endsWith(u"px", Qt::CaseInsensitive);
     const QString number = inPoints || inPixels ? text.chopped(2) : text;
     const bool onlyDigits =
         std::ranges::all_of(number, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });

@@ -53,7 +53,7 @@ bool IsHeaderName(const QString& fileName)
 {
     const qsizetype dot = fileName.lastIndexOf(u'.');
     const QStringView suffix = dot < 0 ? QStringView() : QStringView(fileName).mid(dot);
-    return suffix == ".h"_L1 || suffix == ".hh"_L1 || suffix == ".hxx"_L1 || suffix == ".hpp"_L1;
+    return suffix == u".h" || suffix == u".hh" || suffix == u".hxx" || suffix == u".hpp";
 }
 
 } // namespace

@@ -168,7 +168,7 @@ QString CFontReader::ReadName()
     if (identifier.empty())
         scanner_.Fail(Engine::tr("Array identifier of GUI_FONT structure expected but not found!"));
     const QString name = ToText(identifier);
-    constexpr auto prefix = "GUI_Font"_L1;
+    constexpr QStringView prefix = u"GUI_Font";
     return name.startsWith(prefix, Qt::CaseInsensitive) ? name.mid(prefix.size()) : name;
 }
 
@@ -275,7 +275,7 @@ void CFontReader::ReadEntry(std::string_view text, const FontMetrics& font)
     if (!entry.metrics.FitFields())
         scanner_.FailAt(scanner_.PositionOf(text),
                         Engine::tr("No character can have such a size or offset."));
-    if (isLegacy && Field(elements[2]) != (font.bitsPerPixel * entry.metrics.width + 7) / 8)
+    if (isLegacy && Field(elements[2]) != BytesPerLine(entry.metrics.width, font.bitsPerPixel))
         scanner_.FailAt(scanner_.PositionOf(text),
                         Engine::tr("The bytes per line are not what the width needs."));
     entries_.push_back(entry);
@@ -463,7 +463,7 @@ void CFontReader::ReadBitmaps(Font& font)
             scanner_.FailAt(scanner_.PositionOf(values),
                             Engine::tr("Invalid amount of bytes read from character bitmap 0x%1")
                                 .arg(Hex4Text(code)));
-        font.AddChar(code, entry.metrics, bytes_);
+        font.PutChar(code, entry.metrics, bytes_);
         progress.Advance();
     }
     if (strangeBytes_ > 0)

@@ -9,8 +9,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 void Blank(char* first, const char* last)

@@ -1,6 +1,9 @@
 #include "files/file_types.h"
 
 #include "app/engine_texts.h"
+#include "files/font_file_c.h"
+#include "files/font_file_sif.h"
+#include "files/font_file_xbf.h"
 
 #include <QStringList>
 
@@ -21,16 +24,48 @@ constexpr std::array CSuffixes = {".c"_L1, ".cpp"_L1, ".cxx"_L1, ".cc"_L1,
 constexpr std::array XbfSuffixes = {".xbf"_L1};
 constexpr std::array SifSuffixes = {".sif"_L1};
 
+std::unique_ptr<FontFile> MakeC(const QString& path, const FontFileOptions& options)
+{
+    return std::make_unique<FontFileC>(path, options.text);
+}
+
+template <typename File>
+std::unique_ptr<FontFile> MakeBinary(const QString& path, const FontFileOptions& options)
+{
+    return std::make_unique<File>(path, options.answer);
+}
+
 } // namespace
 
 constexpr std::array<FileTypeRow, 6> FileTypeTable = {{
-    {FileType::TrueType, QT_TRANSLATE_NOOP("Engine", "TrueType font formats"), TrueTypeSuffixes},
-    {FileType::TrueTypeCollection, QT_TRANSLATE_NOOP("Engine", "TrueType font formats"),
-     CollectionSuffixes},
-    {FileType::Bdf, QT_TRANSLATE_NOOP("Engine", "Glyph Bitmap Distribution Format"), BdfSuffixes},
-    {FileType::C, QT_TRANSLATE_NOOP("Engine", "C fonts"), CSuffixes},
-    {FileType::Xbf, QT_TRANSLATE_NOOP("Engine", "External Bitmap Fonts"), XbfSuffixes},
-    {FileType::Sif, QT_TRANSLATE_NOOP("Engine", "System Independent Fonts"), SifSuffixes},
+    {.type = FileType::TrueType,
+     .description = QT_TRANSLATE_NOOP("Engine", "TrueType font formats"),
+     .suffixes = TrueTypeSuffixes,
+     .isScalable = true},
+    {.type = FileType::TrueTypeCollection,
+     .description = QT_TRANSLATE_NOOP("Engine", "TrueType font formats"),
+     .suffixes = CollectionSuffixes,
+     .isScalable = true},
+    {.type = FileType::Bdf,
+     .description = QT_TRANSLATE_NOOP("Engine", "Glyph Bitmap Distribution Format"),
+     .suffixes = BdfSuffixes},
+    {.type = FileType::C,
+     .description = QT_TRANSLATE_NOOP("Engine", "C fonts"),
+     .suffixes = CSuffixes,
+     .make = MakeC,
+     .isWritten = true},
+    {.type = FileType::Xbf,
+     .description = QT_TRANSLATE_NOOP("Engine", "External Bitmap Fonts"),
+     .suffixes = XbfSuffixes,
+     .make = MakeBinary<FontFileXBF>,
+     .isWritten = true,
+     .legacyRefusal =
+         QT_TRANSLATE_NOOP("Engine", "Legacy font formats cannot be saved in the XBF format.")},
+    {.type = FileType::Sif,
+     .description = QT_TRANSLATE_NOOP("Engine", "System Independent Fonts"),
+     .suffixes = SifSuffixes,
+     .make = MakeBinary<FontFileSIF>,
+     .isWritten = true},
 }};
 
 namespace {
@@ -44,6 +79,11 @@ QStringList Patterns(std::span<const QLatin1StringView> suffixes)
 }
 
 } // namespace
+
+const FileTypeRow& RowOf(FileType type)
+{
+    return *std::ranges::find(FileTypeTable, type, &FileTypeRow::type);
+}
 
 std::optional<FileType> FileTypeOf(QStringView fileName)
 {

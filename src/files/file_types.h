@@ -1,10 +1,14 @@
 #pragma once
 
+#include "files/c_file_text.h"
+#include "files/font_file.h"
+
 #include <QLatin1StringView>
 #include <QString>
 #include <QStringView>
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -13,18 +17,33 @@ namespace Glyphor {
 
 enum class FileType { TrueType, TrueTypeCollection, Bdf, C, Xbf, Sif };
 
-// A kind of font file and the suffixes that tell it: never the contents of a file.
+// What the objects of files are made with, beside their paths.
+struct FontFileOptions
+{
+    FormatAnswer answer; // for reading
+    CFileOptions text;   // for writing
+};
+
+// A kind of font file, the suffixes that tell it (never the contents of a file), and what it can.
 struct FileTypeRow
 {
     FileType type;
     const char* description; // that kinds of one group share; to be translated
     std::span<const QLatin1StringView> suffixes;
 
+    // Null for the kinds that FreeType reads, which render/ makes.
+    std::unique_ptr<FontFile> (*make)(const QString& path, const FontFileOptions&) = nullptr;
+    bool isScalable = false; // rendered at a height
+    bool isWritten = false;
+    const char* legacyRefusal = nullptr; // why no legacy font can be written; to be translated
+
     [[nodiscard]] constexpr std::string_view Group() const { return description; }
 };
 
 // In the order in which a name is tested.
 extern const std::array<FileTypeRow, 6> FileTypeTable;
+
+[[nodiscard]] const FileTypeRow& RowOf(FileType type);
 
 // The first kind one of whose suffixes ends the name, in any letter case.
 [[nodiscard]] std::optional<FileType> FileTypeOf(QStringView fileName);
@@ -38,15 +57,15 @@ extern const std::array<FileTypeRow, 6> FileTypeTable;
 [[nodiscard]] bool IsBinaryKerningName(QStringView fileName);
 
 // True for the kinds that are written.
-[[nodiscard]] constexpr bool IsWritten(FileType type)
+[[nodiscard]] inline bool IsWritten(FileType type)
 {
-    return type == FileType::C || type == FileType::Xbf || type == FileType::Sif;
+    return RowOf(type).isWritten;
 }
 
 // True for the kinds that are rendered at a height.
-[[nodiscard]] constexpr bool IsScalable(FileType type)
+[[nodiscard]] inline bool IsScalable(FileType type)
 {
-    return type == FileType::TrueType || type == FileType::TrueTypeCollection;
+    return RowOf(type).isScalable;
 }
 
 } // namespace Glyphor

@@ -5,8 +5,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 void ThrowUnsupportedFormat()
 {
     throw CriticalException(Engine::tr("Unsupported format!"),
@@ -20,9 +18,8 @@ void FontFile::Write(const Font&)
 
 qint64 BitmapSize(const CharMetrics& metrics, const FontMetrics& font)
 {
-    const qint64 bytesPerLine = (qint64(font.bitsPerPixel) * metrics.width + 7) / 8;
     const int rows = IsLegacyFormat(font.format) ? font.height : metrics.height;
-    return bytesPerLine * rows * PlaneCount(font.format);
+    return BytesPerLine<qint64>(metrics.width, font.bitsPerPixel) * rows * PlaneCount(font.format);
 }
 
 } // namespace Glyphor

@@ -23,6 +23,10 @@ class FontFile : public File
 public:
     using File::File;
 
+    // False for a file that the format has to be told of. One that can't be read tells that in
+    // Read.
+    [[nodiscard]] virtual bool TellsFormat() { return true; }
+
     // Throws a CriticalException where the file doesn't hold a font.
     virtual std::unique_ptr<Font> Read() = 0;
 

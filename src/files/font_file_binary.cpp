@@ -12,8 +12,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 enum HeaderOffset : qint64 {
@@ -140,14 +138,14 @@ void FontFileBinary::AddChar(Font& font, quint16 code, const CharMetrics& metric
     if (!bytes.Holds(offset, size))
         FailAtChar(code, Engine::tr("The character 0x%1 has pixels outside the file."));
     const QByteArrayView part = bytes.Part(offset, size);
-    font.AddChar(code, metrics,
+    font.PutChar(code, metrics,
                  {reinterpret_cast<const uchar*>(part.data()), std::size_t(part.size())});
 }
 
 void FontFileBinary::CheckBytesPerLine(quint16 code, int bytesPerLine, int width,
                                        const Font& font) const
 {
-    if (bytesPerLine != (font.Metrics().bitsPerPixel * width + 7) / 8)
+    if (bytesPerLine != BytesPerLine(width, font.Metrics().bitsPerPixel))
         Fail(Engine::tr("The character 0x%1 has rows of %2 bytes, which is not what its width of "
                         "%3 needs.")
                  .arg(Hex4Text(code), QString::number(bytesPerLine), QString::number(width)));

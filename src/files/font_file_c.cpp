@@ -12,8 +12,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Writes the parts of one font, each of which needs the font's identifier, runs and table types.
@@ -217,6 +215,21 @@ std::unique_ptr<Font> FontFileC::Read()
                        "editor, and open it again.")
                 .arg(Shown(fileName())));
     return CFontReader(std::move(contents)).Read();
+}
+
+qint64 FlashSize(const Font& font)
+{
+    constexpr qint64 plainRecord = 8;     // three bytes, and an address on its boundary
+    constexpr qint64 extendedRecord = 12; // five bytes, and an address
+    constexpr qint64 propertyBlock = 12;  // two codes and two addresses
+    constexpr qint64 structure = 16;      // the type, seven bytes and an address
+    const bool isLegacy = IsLegacyFormat(font.Metrics().format);
+    qint64 size = structure + qint64(font.EnabledRuns().size()) * propertyBlock;
+    font.ForEachEnabled([&](quint16, const Character& character) {
+        size += isLegacy ? plainRecord : extendedRecord;
+        size += qint64(font.CharDataWidth(character)) * character.info.Rows();
+    });
+    return size;
 }
 
 void FontFileC::Write(const Font& font)

@@ -21,4 +21,7 @@ private:
     CFileOptions options_;
 };
 
+// Bytes of the C file's font on a target with 32-bit addresses: pixels, tables and the structure.
+[[nodiscard]] qint64 FlashSize(const Font& font);
+
 } // namespace Glyphor

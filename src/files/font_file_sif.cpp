@@ -3,11 +3,9 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/progress.h"
-#include "app/user_interface.h"
+#include "app/shown_text.h"
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -120,6 +118,17 @@ void FontFileSIF::AddChars(const LittleEndianBytes& bytes, const std::vector<Cha
     }
 }
 
+bool FontFileSIF::TellsFormat()
+{
+    if (!open(QIODevice::ReadOnly))
+        return true;
+    const bool isSif = read(MagicSize) == SifMagic && size() >= SifHeaderSize;
+    const bool hasTrailer =
+        seek(size() - TrailerSize) && read(TrailerSize).startsWith(SifTrailerName);
+    close();
+    return !isSif || hasTrailer;
+}
+
 std::unique_ptr<Font> FontFileSIF::Read()
 {
     const QByteArray contents = Contents();
@@ -127,17 +136,15 @@ std::unique_ptr<Font> FontFileSIF::Read()
     if (!contents.startsWith(SifMagic) || bytes.Size() < SifHeaderSize)
         Fail(Engine::tr("It does not begin with \"GUIP\" and a header."));
     std::optional<FontFormat> format = TrailerFormat(bytes, SifTrailerName);
-    EncodingType encoding = Answer().encoding.value_or(EncodingType::Unicode);
     const bool isAnswered = !format;
     if (!format)
         format = Answer().format;
-    if (!format) {
-        const int answer = CurrentInterface().askFontFormat(encoding);
-        if (answer < 0 || answer >= FormatCount)
-            return nullptr;
-        format = static_cast<FontFormat>(answer);
-    }
-    auto font = MakeFont(bytes, *format, encoding);
+    if (!format)
+        throw CriticalException(
+            Engine::tr("Error opening file!"),
+            Engine::tr("The format of the font in %1 was not told, so it was not opened.")
+                .arg(Shown(fileName())));
+    auto font = MakeFont(bytes, *format, Answer().encoding.value_or(EncodingType::Unicode));
     const std::vector<CodeRange> runs = ReadRuns(bytes);
     const std::vector<CharRecord> records = ReadRecords(bytes, runs, font->Metrics());
     const qint64 bitmapOffset = SifHeaderSize + RunSize * qint64(runs.size()) +

@@ -6,13 +6,13 @@ namespace Glyphor {
 
 // A system independent font, which firmware uses straight from memory: a header, the runs of
 // consecutive codes, a record for each character, and their pixels. Files of an older kind do not
-// say their format; the answer or else the user tells it.
+// say their format; the answer has to.
 class FontFileSIF final : public FontFileBinary
 {
 public:
     using FontFileBinary::FontFileBinary;
 
-    // Null where the user gave no answer.
+    [[nodiscard]] bool TellsFormat() override;
     std::unique_ptr<Font> Read() override;
     void Write(const Font& font) override;
 

@@ -7,8 +7,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Wide enough for every distance, so that they stand in columns.

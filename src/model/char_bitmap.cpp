@@ -163,7 +163,6 @@ void CharBitmap::AdjustData()
 
 void CharBitmap::Clear()
 {
-    cleared_ = true;
     info_.xPos = 0;
     info_.SetWidth(1);
     if (IsLegacyFormat(info_.font.format)) {

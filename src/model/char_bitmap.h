@@ -94,9 +94,6 @@ public:
     [[nodiscard]] const CharInfo& Info() const { return info_; }
     [[nodiscard]] const QByteArray& Data() const { return data_; }
 
-    // True from a Clear on.
-    [[nodiscard]] bool IsCleared() const { return cleared_; }
-
 protected:
     // Of one plane, after the metrics.
     [[nodiscard]] PixelLayout Layout() const;
@@ -111,7 +108,6 @@ private:
 
     CharInfo& info_;
     QByteArray data_;
-    bool cleared_ = false;
 };
 
 } // namespace Glyphor

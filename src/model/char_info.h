@@ -44,7 +44,7 @@ struct CharInfo
     void SetWidth(quint8 value)
     {
         width = value;
-        bytesPerLine = static_cast<quint8>((font.bitsPerPixel * value + 7) / 8);
+        bytesPerLine = static_cast<quint8>(BytesPerLine<int>(value, font.bitsPerPixel));
     }
 
     [[nodiscard]] CharMetrics Metrics() const

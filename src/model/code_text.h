@@ -21,6 +21,12 @@ namespace Glyphor {
     return QString::fromLatin1(digits.data(), digits.size());
 }
 
+// A character code as the window shows it, by the user's choice.
+[[nodiscard]] inline QString ShownCode(quint16 code, bool isHexadecimal)
+{
+    return isHexadecimal ? Hex4Text(code).prepend(u"0x") : QString::number(code);
+}
+
 // A decimal number as text, without a trip to the heap.
 class Decimal
 {

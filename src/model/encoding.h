@@ -4,6 +4,8 @@
 
 #include <QLatin1StringView>
 
+#include <optional>
+
 namespace Glyphor {
 
 // What a character code means in one of the two encodings: its counterpart in the other one, the
@@ -18,6 +20,12 @@ public:
     // Turns a code of this encoding into that of the target, in place. False where there is no
     // counterpart; the code is then left as it was.
     virtual bool Convert(EncodingType target, quint16& code) const = 0;
+
+    // The counterpart; nothing where there is none.
+    [[nodiscard]] std::optional<quint16> Converted(EncodingType target, quint16 code) const
+    {
+        return Convert(target, code) ? std::optional(code) : std::nullopt;
+    }
 
     // The character's name in the Unicode character database; empty where none is known.
     [[nodiscard]] virtual QLatin1StringView CharName(quint16 code) const = 0;

@@ -104,7 +104,7 @@ Character& Font::AddChar(quint16 code)
     return character;
 }
 
-Font::AddResult Font::AddChar(quint16 code, const RenderedGlyph& glyph)
+Font::AddResult Font::AddRendered(quint16 code, const RenderedGlyph& glyph)
 {
     if (existing_.Test(code))
         return AddResult::Exists;
@@ -118,7 +118,7 @@ Font::AddResult Font::AddChar(quint16 code, const RenderedGlyph& glyph)
     return AddResult::Added;
 }
 
-Font::AddResult Font::AddChar(quint16 code, const Character& same)
+Font::AddResult Font::AddLike(quint16 code, const Character& same)
 {
     if (existing_.Test(code))
         return AddResult::Exists;
@@ -128,7 +128,7 @@ Font::AddResult Font::AddChar(quint16 code, const Character& same)
     return AddResult::Added;
 }
 
-Character& Font::AddChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes)
+Character& Font::PutChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes)
 {
     Character& character = Create(code);
     character.info.Set(metrics);
@@ -285,21 +285,6 @@ bool Font::DeleteRowTop()
 bool Font::DeleteRowBottom()
 {
     return EditRow(RowEdge::Bottom, -1, &CharBitmap::DeleteFontRowBottom);
-}
-
-qint64 FlashSize(const Font& font)
-{
-    constexpr qint64 plainRecord = 8;     // three bytes, and an address on its boundary
-    constexpr qint64 extendedRecord = 12; // five bytes, and an address
-    constexpr qint64 propertyBlock = 12;  // two codes and two addresses
-    constexpr qint64 structure = 16;      // the type, seven bytes and an address
-    const bool isLegacy = IsLegacyFormat(font.Metrics().format);
-    qint64 size = structure + qint64(font.EnabledRuns().size()) * propertyBlock;
-    font.ForEachEnabled([&](quint16, const Character& character) {
-        size += isLegacy ? plainRecord : extendedRecord;
-        size += qint64(font.CharDataWidth(character)) * character.info.Rows();
-    });
-    return size;
 }
 
 } // namespace Glyphor

@@ -70,15 +70,16 @@ public:
     Character& AddChar(quint16 code);
 
     // Adds and enables a rendered character, unless the code exists or a field can't hold it.
-    AddResult AddChar(quint16 code, const RenderedGlyph& glyph);
+    AddResult AddRendered(quint16 code, const RenderedGlyph& glyph);
 
-    // Adds and enables a character with its packed bytes, all planes one behind the other, in the
-    // place of one that exists. The metrics must fit and the bytes have the size they ask for.
-    Character& AddChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes);
+    // Gives the code an enabled character with its packed bytes, all planes one behind the other,
+    // in the place of one that exists. The metrics must fit and the bytes have the size they ask
+    // for.
+    Character& PutChar(quint16 code, const CharMetrics& metrics, std::span<const uchar> bytes);
 
     // Adds and enables a character with the metrics and pixels of another one of this font, unless
     // the code exists.
-    AddResult AddChar(quint16 code, const Character& same);
+    AddResult AddLike(quint16 code, const Character& same);
 
     // Takes a character out of the font, or gives it one that was taken out of it. Its enabled bit
     // stays as it is.
@@ -153,8 +154,5 @@ private:
     CodeSet existing_;
     CodeSet enabled_;
 };
-
-// Bytes of the C file's font on a target with 32-bit addresses: pixels, tables and the structure.
-[[nodiscard]] qint64 FlashSize(const Font& font);
 
 } // namespace Glyphor

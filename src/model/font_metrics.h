@@ -18,4 +18,11 @@ struct FontMetrics
     quint8 maxWidth = 0;
 };
 
+// Bytes of a row of packed pixels.
+template <typename Width>
+[[nodiscard]] constexpr Width BytesPerLine(Width width, int bitsPerPixel)
+{
+    return (width * bitsPerPixel + 7) / 8;
+}
+
 } // namespace Glyphor

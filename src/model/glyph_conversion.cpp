@@ -24,10 +24,8 @@ constexpr quint8 Quantise(int coverage)
         return static_cast<quint8>((sum + 383) / 765);
     else if constexpr (Bits == 2)
         return static_cast<quint8>((sum + 127) / 255);
-    else if constexpr (Bits == 4)
-        return static_cast<quint8>((3 * (coverage >> 4) + 1) / 3);
     else
-        return static_cast<quint8>(sum / 3);
+        return static_cast<quint8>((3 * (coverage >> 4) + 1) / 3);
 }
 
 template <int Bits>
@@ -41,20 +39,6 @@ constexpr QuantiseTable MakeTable()
 
 template <int Bits>
 constexpr QuantiseTable Table = MakeTable<Bits>();
-
-const QuantiseTable& TableFor(int bitsPerPixel)
-{
-    switch (bitsPerPixel) {
-    case 1:
-        return Table<1>;
-    case 2:
-        return Table<2>;
-    case 4:
-        return Table<4>;
-    default:
-        return Table<8>;
-    }
-}
 
 // Writes one coverage per pixel of a glyph's row.
 void ExpandRow(const RenderedGlyph& glyph, int y, quint8* coverages)
@@ -96,7 +80,7 @@ void PackRow(const quint8* coverages, int width, uchar* row)
 template <int Bits>
 void PackRows(const RenderedGlyph& glyph, const GlyphPlacement& placement, uchar* bytes)
 {
-    const int length = PixelLayout{placement.width, placement.height, Bits}.BytesPerLine();
+    const int length = BytesPerLine(placement.width, Bits);
     const int firstRow = std::max(0, -placement.row);
     const int endRow = std::min(glyph.rows, placement.height - placement.row);
     const bool isWhole = glyph.bitsPerPixel == 8 && glyph.width == placement.width;
@@ -181,11 +165,6 @@ GlyphPlacement PlaceStandard(const RenderedGlyph& glyph, const FontMetrics& font
 }
 
 } // namespace
-
-quint8 QuantiseCoverage(quint8 coverage, int bitsPerPixel)
-{
-    return TableFor(bitsPerPixel)[coverage];
-}
 
 std::optional<GlyphPlacement> PlaceGlyph(const RenderedGlyph& glyph, const FontMetrics& font)
 {

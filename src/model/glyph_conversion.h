@@ -25,7 +25,4 @@ struct GlyphPlacement : CharMetrics
 [[nodiscard]] QByteArray ConvertGlyph(const RenderedGlyph& glyph, const GlyphPlacement& placement,
                                       int bitsPerPixel);
 
-// The palette index of a coverage (0 to 255) at 1, 2, 4 or 8 bits per pixel.
-[[nodiscard]] quint8 QuantiseCoverage(quint8 coverage, int bitsPerPixel);
-
 } // namespace Glyphor

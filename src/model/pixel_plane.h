@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/font_metrics.h"
+
 #include <QByteArray>
 
 namespace Glyphor {
@@ -14,7 +16,7 @@ struct PixelLayout
     int rows = 0;
     int bitsPerPixel = 1; // 1, 2, 4 or 8
 
-    [[nodiscard]] int BytesPerLine() const { return (bitsPerPixel * width + 7) / 8; }
+    [[nodiscard]] int BytesPerLine() const { return Glyphor::BytesPerLine(width, bitsPerPixel); }
     [[nodiscard]] int Size() const { return BytesPerLine() * rows; }
     [[nodiscard]] int MaxIndex() const { return (1 << bitsPerPixel) - 1; }
 };

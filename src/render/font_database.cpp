@@ -1,6 +1,5 @@
 #include "render/font_database.h"
 
-#include "app/settings.h"
 #include "render/font_directories.h"
 
 #include <QDir>
@@ -12,8 +11,6 @@
 #include <new>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -160,10 +157,9 @@ QStringList FontSearchList(const QStringList& additional, bool recursively)
     return list;
 }
 
-FontDatabaseThread::FontDatabaseThread(QObject* parent)
-    : QThread(parent),
-      additionalDirectories_(Settings::Instance().additionalFontDirs.value()),
-      recursively_(Settings::Instance().searchDirsRecursively.value())
+FontDatabaseThread::FontDatabaseThread(const QStringList& additional, bool recursively,
+                                       QObject* parent)
+    : QThread(parent), additionalDirectories_(additional), recursively_(recursively)
 {
     setStackSize(ThreadStackSize);
 }

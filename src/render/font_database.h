@@ -42,14 +42,14 @@ private:
 // are entered from others for the whole list.
 [[nodiscard]] QStringList ExpandDirectories(const QStringList& directories, bool recursively);
 
-// Rebuilds the process-wide database in the background, with the directories that the settings have
-// when it is made. Where it is interrupted the database stays as it was.
+// Rebuilds the process-wide database in the background, from the system's directories and further
+// ones. Where it is interrupted the database stays as it was.
 class FontDatabaseThread : public QThread
 {
     Q_OBJECT
 
 public:
-    explicit FontDatabaseThread(QObject* parent = nullptr);
+    FontDatabaseThread(const QStringList& additional, bool recursively, QObject* parent = nullptr);
 
 Q_SIGNALS:
     void initFileCount(int count);

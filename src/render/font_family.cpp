@@ -5,15 +5,13 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Variable faces do not tell the slant of their instances.
 bool SoundsItalic(const QString& style)
 {
-    return style.contains("italic"_L1, Qt::CaseInsensitive) ||
-           style.contains("oblique"_L1, Qt::CaseInsensitive);
+    return style.contains(u"italic", Qt::CaseInsensitive) ||
+           style.contains(u"oblique", Qt::CaseInsensitive);
 }
 
 } // namespace

@@ -41,7 +41,7 @@ bool FontFileFT::AddGlyph(Font& font, quint16 code, const RenderedGlyph& glyph)
     const bool isEmpty = glyph.width == 0 || glyph.rows == 0;
     if (isEmpty && glyph.cursorDistance <= 0)
         return false;
-    const Font::AddResult result = font.AddChar(code, glyph);
+    const Font::AddResult result = font.AddRendered(code, glyph);
     if (result == Font::AddResult::DoesNotFit)
         misfits_.push_back(code);
     return result == Font::AddResult::Added;

@@ -3,6 +3,7 @@
 #include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
+#include "files/file_types.h"
 #include "model/encoding.h"
 #include "render/kerning_index.h"
 
@@ -21,9 +22,9 @@ std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs, Encoding
 {
     std::vector<KerningPair> encoded;
     encoded.reserve(pairs.size());
-    for (KerningPair pair : pairs) {
-        if (EncodingFor(EncodingType::Unicode).Convert(encoding, pair.right))
-            encoded.push_back(pair);
+    for (const KerningPair& pair : pairs) {
+        if (const auto right = EncodingFor(EncodingType::Unicode).Converted(encoding, pair.right))
+            encoded.push_back({*right, pair.distance});
     }
     return encoded;
 }
@@ -54,13 +55,13 @@ void FontFileScalable::UseFace(const FreeTypeFace& face)
     face_.SetLargestBitmap(CharInfo::MaxSize, IsLegacyFormat(options_.format)
                                                   ? std::numeric_limits<int>::max() / 2
                                                   : CharInfo::MaxSize);
-    face_.SetPixelSize(options_.size);
+    face_.SetPixelSize(options_.height, options_.useStrikes);
 }
 
 std::unique_ptr<Font> FontFileScalable::Read()
 {
     auto font = std::make_unique<Font>(options_.format, options_.encoding);
-    face_.SetPixelSize(options_.size);
+    face_.SetPixelSize(options_.height, options_.useStrikes);
     face_.SetEffects(options_.effects);
     font->SetName(FontName());
     SetMetrics(*font);
@@ -112,12 +113,11 @@ void FontFileScalable::RenderCharmap(Font& font)
         visited.Set(faceCode, true);
         --notVisited;
         progress.LookedAt();
-        quint16 code = faceCode;
         const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
-        if (isWanted && unicode.Convert(options_.encoding, code) &&
-            AddCharacter(font, code, glyphIndex)) {
+        const auto code = isWanted ? unicode.Converted(options_.encoding, faceCode) : std::nullopt;
+        if (code && AddCharacter(font, *code, glyphIndex)) {
             if (kerning && pairCount < MaxKerningPairs) {
-                auto& pairs = font.FindChar(code)->kerning;
+                auto& pairs = font.FindChar(*code)->kerning;
                 pairs = Encoded(kerning->PairsOf(faceCode), options_.encoding);
                 pairCount += pairs.size();
             }
@@ -135,7 +135,7 @@ void FontFileScalable::RenderCharmap(Font& font)
 bool FontFileScalable::AddCharacter(Font& font, quint16 code, FT_UInt glyphIndex)
 {
     if (const auto rendered = rendered_.constFind(glyphIndex); rendered != rendered_.constEnd())
-        return font.AddChar(code, *font.FindChar(*rendered)) == Font::AddResult::Added;
+        return font.AddLike(code, *font.FindChar(*rendered)) == Font::AddResult::Added;
     if (!face_.RenderIndex(glyphIndex, glyph_) || !AddGlyph(font, code, glyph_))
         return false;
     rendered_.insert(glyphIndex, code);
@@ -182,21 +182,34 @@ FontFileTTC::FontFileTTC(const QString& path, const RenderOptions& options)
     UseFace(face);
 }
 
-QList<FaceDescription> FontFileTTC::FaceDescriptions() const
-{
-    QList<FaceDescription> descriptions;
-    for (int index = 0; index < faceCount_; ++index) {
-        const FreeTypeFace face(fileName(), index, FreeTypeLibrary());
-        descriptions.append({face.FamilyName(), face.StyleName(), face.Style()});
-    }
-    return descriptions;
-}
-
-QStringList FontFileTTC::FamilyNames() const
+QStringList FontFileTTC::FaceNames() const
 {
     QStringList names;
-    for (const FaceDescription& description : FaceDescriptions())
-        names.append(description.familyName);
+    for (int index = 0; index < faceCount_; ++index) {
+        const FreeTypeFace face(fileName(), index, FreeTypeLibrary());
+        names.append(face.FamilyName() + u' ' + face.StyleName());
+    }
+    return names;
+}
+
+std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
+                                                       const RenderOptions& options)
+{
+    if (FileTypeOf(path) == FileType::TrueTypeCollection)
+        return std::make_unique<FontFileTTC>(path, options);
+    return std::make_unique<FontFileTTF>(path, options);
+}
+
+QStringList FaceNames(const QString& path)
+{
+    if (FileTypeOf(path) == FileType::TrueTypeCollection)
+        return FontFileTTC(path, {}).FaceNames();
+    const FreeTypeFace face(path, 0, FreeTypeLibrary());
+    if (!face.IsOpen())
+        return {};
+    QStringList names = {face.StyleName()};
+    for (const NamedInstance& instance : face.NamedInstances())
+        names.append(instance.name);
     return names;
 }
 

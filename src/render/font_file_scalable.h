@@ -3,18 +3,9 @@
 #include "render/font_file_ft.h"
 
 #include <QHash>
+#include <QStringList>
 
 namespace Glyphor {
-
-// What a font is to be rendered as.
-struct RenderOptions
-{
-    FontFormat format = FontFormat::Standard;
-    EncodingType encoding = EncodingType::Unicode;
-    FontSize size;
-    quint32 effects = 0; // bits of FaceEffect
-    int faceIndex = 0;
-};
 
 // A scalable font file, rendered at one size into a font of one format. Read only.
 class FontFileScalable : public FontFileFT
@@ -38,7 +29,6 @@ protected:
     // Takes the face that is rendered and gives it the depth and the size.
     void UseFace(const FreeTypeFace& face);
 
-    [[nodiscard]] const RenderOptions& Options() const { return options_; }
     [[nodiscard]] FreeTypeFace& Face() { return face_; }
     [[nodiscard]] const FreeTypeFace& Face() const { return face_; }
 
@@ -68,14 +58,6 @@ private:
     int faceCount_ = 0;
 };
 
-// How a face describes itself.
-struct FaceDescription
-{
-    QString familyName;
-    QString styleName;
-    FaceStyle style;
-};
-
 // A TrueType collection; the face index selects the member.
 class FontFileTTC final : public FontFileTTF
 {
@@ -84,12 +66,19 @@ public:
 
     [[nodiscard]] int FaceCount() const override { return faceCount_; }
 
-    // One entry per face, in the order of their indices.
-    [[nodiscard]] QList<FaceDescription> FaceDescriptions() const;
-    [[nodiscard]] QStringList FamilyNames() const;
+    // The family and the style of each face, in the order of their indices.
+    [[nodiscard]] QStringList FaceNames() const;
 
 private:
     int faceCount_;
 };
+
+// The file object of the kind that the name tells.
+[[nodiscard]] std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
+                                                                     const RenderOptions& options);
+
+// The faces or named instances of a file by name, in the order of their indices; empty where a name
+// can't be read. Nothing where the file can't be opened.
+[[nodiscard]] QStringList FaceNames(const QString& path);
 
 } // namespace Glyphor

@@ -1,13 +1,10 @@
 #include "render/free_type_face.h"
 
 #include "app/engine_texts.h"
-#include "app/settings.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QHash>
-#include <QScreen>
 #include <QtEndian>
 
 #include FT_MULTIPLE_MASTERS_H
@@ -24,8 +21,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct VariationsDeleter
@@ -37,12 +32,12 @@ struct VariationsDeleter
 using Variations = std::unique_ptr<FT_MM_Var, VariationsDeleter>;
 
 // The axes and named instances of a multi-master face; null for any other.
-Variations VariationsOf(FT_Library library, FT_Face face)
+Variations VariationsOf(FT_Face face)
 {
     FT_MM_Var* variations = nullptr;
     if (face == nullptr || FT_Get_MM_Var(face, &variations) != 0)
-        variations = nullptr;
-    return {variations, VariationsDeleter{library}};
+        return {nullptr, VariationsDeleter{nullptr}};
+    return {variations, VariationsDeleter{face->glyph->library}};
 }
 
 int ClampToInt(qint64 value)
@@ -97,8 +92,8 @@ quint32 InstanceWeight(const FT_MM_Var& variations, FT_UInt instance)
     const std::span axes(variations.axis, variations.num_axis);
     const auto weight = std::ranges::find_if(axes, [](const FT_Var_Axis& axis) {
         const QLatin1StringView name(axis.name);
-        return name.compare("Weight"_L1, Qt::CaseInsensitive) == 0 ||
-               name.compare("wght"_L1, Qt::CaseInsensitive) == 0;
+        return name.compare(u"Weight", Qt::CaseInsensitive) == 0 ||
+               name.compare(u"wght", Qt::CaseInsensitive) == 0;
     });
     if (weight == axes.end())
         return 0;
@@ -128,28 +123,32 @@ const TT_OS2* Os2Table(FT_Face face)
 
 } // namespace
 
-qint64 FontSize::PixelHeight() const
+void CopyRows(const FT_Bitmap& bitmap, std::vector<quint8>& pixels)
 {
-    if (!inPoints)
-        return value;
-    const bool hasDesktop = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
-    const QScreen* const screen = hasDesktop ? QGuiApplication::primaryScreen() : nullptr;
-    const int dotsPerInch = screen != nullptr ? static_cast<int>(screen->logicalDotsPerInchX()) : 0;
-    return qint64(value) * dotsPerInch / 72;
+    pixels.clear();
+    if (bitmap.buffer == nullptr)
+        return;
+    const auto pitch = static_cast<std::size_t>(std::abs(bitmap.pitch));
+    pixels.assign(bitmap.buffer, bitmap.buffer + pitch * bitmap.rows);
+    // A negative pitch means that the last row stands first.
+    for (std::size_t y = 0; bitmap.pitch < 0 && y < bitmap.rows / 2; ++y) {
+        const auto row = pixels.begin() + std::ptrdiff_t(y * pitch);
+        std::swap_ranges(row, row + std::ptrdiff_t(pitch),
+                         pixels.end() - std::ptrdiff_t((y + 1) * pitch));
+    }
 }
 
 FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library)
-    : library_(library.Get()), path_(path)
+    : path_(path)
 {
     library.AllowFile(QFileInfo(path).size());
-    openError_ = FT_New_Face(library_, QFile::encodeName(path).constData(), faceIndex, &face_);
+    openError_ = FT_New_Face(library.Get(), QFile::encodeName(path).constData(), faceIndex, &face_);
     if (openError_ != 0)
         face_ = nullptr;
 }
 
 FreeTypeFace::FreeTypeFace(const FreeTypeFace& other)
-    : library_(other.library_),
-      face_(other.face_),
+    : face_(other.face_),
       path_(other.path_),
       effects_(other.effects_),
       monochrome_(other.monochrome_),
@@ -167,7 +166,6 @@ FreeTypeFace& FreeTypeFace::operator=(const FreeTypeFace& other)
         FT_Reference_Face(other.face_);
     if (face_ != nullptr)
         FT_Done_Face(face_);
-    library_ = other.library_;
     face_ = other.face_;
     path_ = other.path_;
     effects_ = other.effects_;
@@ -270,18 +268,18 @@ int FreeTypeFace::GlyphHeight(quint16 code) const
 
 bool FreeTypeFace::IsMultiMaster() const
 {
-    return VariationsOf(library_, face_) != nullptr;
+    return VariationsOf(face_) != nullptr;
 }
 
 int FreeTypeFace::NamedInstanceCount() const
 {
-    const Variations variations = VariationsOf(library_, face_);
+    const Variations variations = VariationsOf(face_);
     return variations ? static_cast<int>(variations->num_namedstyles) : 0;
 }
 
 std::vector<NamedInstance> FreeTypeFace::NamedInstances() const
 {
-    const Variations variations = VariationsOf(library_, face_);
+    const Variations variations = VariationsOf(face_);
     if (!variations)
         return {};
     const QHash<FT_UInt, QString> names = AllNames(face_);
@@ -311,7 +309,7 @@ void FreeTypeFace::SetNamedInstance(int index)
 FaceStyle FreeTypeFace::Style() const
 {
     FaceStyle style;
-    if (const Variations variations = VariationsOf(library_, face_)) {
+    if (const Variations variations = VariationsOf(face_)) {
         const FT_Long instance = (face_->face_index >> 16) - 1;
         if (instance >= 0 && instance < FT_Long(variations->num_namedstyles))
             style.weight = InstanceWeight(*variations, static_cast<FT_UInt>(instance));
@@ -338,23 +336,22 @@ QList<quint32> FreeTypeFace::UnicodeRanges() const
     return ranges;
 }
 
-bool FreeTypeFace::SelectStrike(qint64 pixelHeight)
+bool FreeTypeFace::SelectStrike(int height)
 {
-    const qsizetype index = StrikeHeights().indexOf(pixelHeight);
-    if (index < 0 || !Settings::Instance().useIncludedBitmaps.value())
+    const qsizetype index = StrikeHeights().indexOf(height);
+    if (index < 0)
         return false;
     FT_Select_Size(face_, static_cast<FT_Int>(index));
     return true;
 }
 
-void FreeTypeFace::SetPixelSize(const FontSize& size)
+void FreeTypeFace::SetPixelSize(int height, bool useStrikes)
 {
-    const qint64 pixelHeight = size.PixelHeight();
-    if (!IsOpen() || SelectStrike(pixelHeight))
+    if (!IsOpen() || (useStrikes && SelectStrike(height)))
         return;
     FT_Size_RequestRec request{};
     request.type = FT_SIZE_REQUEST_TYPE_BBOX;
-    request.height = static_cast<FT_Long>(pixelHeight * 64);
+    request.height = FT_Long(height) * 64;
     FT_Request_Size(face_, &request);
 }
 
@@ -429,24 +426,14 @@ void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
 {
     const FT_GlyphSlot slot = face_->glyph;
     const FT_Bitmap& bitmap = slot->bitmap;
-    const auto pitch = static_cast<std::size_t>(std::abs(bitmap.pitch));
     glyph.xPos = slot->bitmap_left;
     glyph.yPos = ClampToInt(qint64(Ascent()) - slot->bitmap_top);
     glyph.cursorDistance = WholePixels(slot->advance.x);
     glyph.width = static_cast<qint32>(bitmap.width);
     glyph.rows = static_cast<qint32>(bitmap.rows);
-    glyph.pitch = static_cast<qint32>(pitch);
+    glyph.pitch = std::abs(bitmap.pitch);
     glyph.bitsPerPixel = BitsOf(bitmap);
-    glyph.pixels.clear();
-    if (bitmap.buffer != nullptr) {
-        glyph.pixels.assign(bitmap.buffer, bitmap.buffer + pitch * bitmap.rows);
-        // A negative pitch means that the last row stands first.
-        for (std::size_t y = 0; bitmap.pitch < 0 && y < bitmap.rows / 2; ++y) {
-            const auto row = glyph.pixels.begin() + std::ptrdiff_t(y * pitch);
-            std::swap_ranges(row, row + std::ptrdiff_t(pitch),
-                             glyph.pixels.end() - std::ptrdiff_t((y + 1) * pitch));
-        }
-    }
+    CopyRows(bitmap, glyph.pixels);
     glyph.size = static_cast<qint32>(glyph.pixels.size());
 }
 

@@ -3,6 +3,7 @@
 #include "model/font.h"
 #include "model/rendered_glyph.h"
 #include "render/free_type_library.h"
+#include "render/render_options.h"
 
 #include <QList>
 #include <QString>
@@ -29,18 +30,8 @@ struct NamedInstance
     FaceStyle style;
 };
 
-// What is done to every outline before it is rendered; bits of a flag word.
-enum FaceEffect : quint32 { BoldEffect = 1, ItalicEffect = 2 };
-
-// The size at which a face is rendered.
-struct FontSize
-{
-    int value = 0;
-    bool inPoints = false;
-
-    // Points are counted at the resolution of the desktop; without a desktop they give 0.
-    [[nodiscard]] qint64 PixelHeight() const;
-};
+// The rows of a bitmap from the top, whichever way FreeType stores them.
+void CopyRows(const FT_Bitmap& bitmap, std::vector<quint8>& pixels);
 
 // A handle to an open FreeType face. Copies share the face. Without a face every query answers 0,
 // nothing or false.
@@ -106,9 +97,9 @@ public:
     // that bitmap, and no pixels.
     void SetLargestBitmap(int width, int rows);
 
-    // Selects an embedded strike of just this height where the settings allow, or scales the face
+    // Selects an embedded strike of just this height where strikes may be used, or scales the face
     // so that its bounding box has the height.
-    void SetPixelSize(const FontSize& size);
+    void SetPixelSize(int height, bool useStrikes = true);
 
     bool LoadGlyph(quint16 code, FT_Int32 loadFlags) const;
 
@@ -140,11 +131,10 @@ private:
     static constexpr int AnySize = std::numeric_limits<int>::max();
 
     [[nodiscard]] FT_UInt GlyphIndex(quint16 code) const;
-    bool SelectStrike(qint64 pixelHeight);
+    bool SelectStrike(int height);
     [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;
     void FillGlyph(RenderedGlyph& glyph) const;
 
-    FT_Library library_ = nullptr;
     FT_Face face_ = nullptr;
     QString path_;
     quint32 effects_ = 0;

@@ -24,9 +24,6 @@ public:
     // may take as much more memory as any real font of that size needs.
     void AllowFile(qint64 fileSize);
 
-    // Bytes that faces, and the library itself, have taken.
-    [[nodiscard]] qint64 MemoryUsed() const { return used_; }
-
 private:
     static void* Allocate(FT_Memory memory, long size);
     static void Free(FT_Memory memory, void* block);

@@ -1,8 +1,9 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
-#include "actions/session.h"
+#include "app/progress.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
+#include "support/undo_session.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,13 +17,15 @@ namespace {
 class MergeInterface final : public Test::RecordingInterface
 {
 public:
-    int askMergeMode() override
+    std::optional<MergeMode> askMergeMode() override
     {
         ++questions;
         return answer;
     }
+    std::optional<FormatChoice> askFontFormat(EncodingType) override { return choice; }
 
-    int answer = 0;
+    std::optional<MergeMode> answer;
+    std::optional<FormatChoice> choice;
     int questions = 0;
 };
 
@@ -39,6 +42,12 @@ std::unique_ptr<Font> MakeFilled(const QByteArray& codes, int index,
         character.bitmap->SetPixelIndex(index, 0, 1);
     }
     return font;
+}
+
+// 0 for none.
+std::optional<MergeMode> ModeOf(int number)
+{
+    return number != 0 ? std::optional(MergeMode(number)) : std::nullopt;
 }
 
 ActionOpenFontArgs Source(const QString& path)
@@ -70,7 +79,7 @@ class TestMerge : public QObject
 
     void WriteFont(std::unique_ptr<Font> font, const QString& path) const
     {
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(std::move(font), {});
         SaveAs(session, path);
     }
@@ -89,17 +98,26 @@ private Q_SLOTS:
         QTest::addColumn<bool>("merged");
         QTest::addColumn<int>("questions");
         QTest::addColumn<QByteArray>("indices"); // of A, B, C, D; "-" for none
-        QTest::newRow("replace") << 2 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0111");
-        QTest::newRow("keep") << 3 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0011");
+        QTest::addColumn<char>("disabled");      // of the font's own characters
+        QTest::newRow("replace") << 2 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0111")
+                                 << '\0';
+        QTest::newRow("keep") << 3 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0011")
+                              << '\0';
         QTest::newRow("ask, replace")
-            << 0 << 2 << QByteArray("BC") << true << 1 << QByteArray("011-");
-        QTest::newRow("ask, keep") << 0 << 3 << QByteArray("BC") << true << 1 << QByteArray("001-");
+            << 0 << 2 << QByteArray("BC") << true << 1 << QByteArray("011-") << '\0';
+        QTest::newRow("ask, keep")
+            << 0 << 3 << QByteArray("BC") << true << 1 << QByteArray("001-") << '\0';
         QTest::newRow("ask, cancel")
-            << 0 << 0 << QByteArray("BC") << false << 1 << QByteArray("00--");
+            << 0 << 0 << QByteArray("BC") << false << 1 << QByteArray("00--") << '\0';
         QTest::newRow("no duplicates")
-            << 0 << 0 << QByteArray("CD") << true << 0 << QByteArray("0011");
+            << 0 << 0 << QByteArray("CD") << true << 0 << QByteArray("0011") << '\0';
         QTest::newRow("nothing new")
-            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("00--");
+            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("00--") << '\0';
+        // What is disabled is not missed, so nothing is asked about it.
+        QTest::newRow("disabled duplicate")
+            << 0 << 0 << QByteArray("BC") << true << 0 << QByteArray("011-") << 'B';
+        QTest::newRow("disabled, keep")
+            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("01--") << 'B';
     }
 
     void Merges()
@@ -110,16 +128,19 @@ private Q_SLOTS:
         QFETCH(const bool, merged);
         QFETCH(const int, questions);
         QFETCH(const QByteArray, indices);
+        QFETCH(const char, disabled);
         MergeInterface interface;
-        interface.answer = answer;
+        interface.answer = ModeOf(answer);
         WriteFont(MakeFilled(other, 1), Path("other.sif"));
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(MakeFilled("AB", 0), {});
-        const Font& font = *session.CurrentFont();
+        Font& font = *session.CurrentFont();
+        if (disabled != '\0')
+            font.SetEnabled(quint16(disabled), quint16(disabled), false);
         const QByteArray before = Test::Snapshot(font);
 
         const auto action = std::make_shared<ActionMergeFont>(session);
-        action->Args() = {Source(Path("other.sif")), MergeMode(mode)};
+        action->Args() = {Source(Path("other.sif")), ModeOf(mode)};
         QCOMPARE(action->Run(), merged);
         QCOMPARE(interface.questions, questions);
         for (int code = 'A'; code <= 'D'; ++code) {
@@ -129,16 +150,17 @@ private Q_SLOTS:
             if (character != nullptr)
                 QCOMPARE(character->bitmap->GetPixelIndex(index - '0', 0), 1);
         }
+        QCOMPARE(font.IsEnabled('B'), true);
         if (!merged) {
-            QCOMPARE(session.Stack().count(), 0);
+            QCOMPARE(session.Stack().Count(), 0U);
             return;
         }
         QCOMPARE(session.Stack().LogLines(),
                  QStringList{u"[Font]: Font merged with: "_s + Path("other.sif")});
         const QByteArray after = Test::Snapshot(font);
-        session.Stack().undo();
+        session.Stack().Undo();
         QCOMPARE(Test::Snapshot(font), before);
-        session.Stack().redo();
+        session.Stack().Redo();
         QCOMPARE(Test::Snapshot(font), after);
     }
 
@@ -146,13 +168,18 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("format");
         QTest::addColumn<int>("height");
+        QTest::addColumn<int>("encoding");
         QTest::addColumn<QString>("text");
-        QTest::newRow("format") << int(FontFormat::AA2) << 4
+        QTest::newRow("format") << int(FontFormat::AA2) << 4 << 0
                                 << u"The two fonts do not have the same format!\nThe current font "
                                    "with the format \"%1\" cannot be merged with the other font of "
                                    "the format \"%2\"."_s.arg(FormatDisplayName(FontFormat::Legacy),
                                                               FormatDisplayName(FontFormat::AA2));
-        QTest::newRow("height") << int(FontFormat::Legacy) << 5
+        QTest::newRow("encoding")
+            << int(FontFormat::Legacy) << 4 << 1
+            << u"One of the two fonts is encoded in Unicode and the other one "
+               "in Shift JIS: a code means different characters in them."_s;
+        QTest::newRow("height") << int(FontFormat::Legacy) << 5 << 0
                                 << u"All characters of a font in a legacy format have the font's "
                                    "height: the current font is 4 pixels high and the other one "
                                    "5."_s;
@@ -162,12 +189,13 @@ private Q_SLOTS:
     {
         QFETCH(const int, format);
         QFETCH(const int, height);
+        QFETCH(const int, encoding);
         QFETCH(const QString, text);
-        auto other = std::make_unique<Font>(FontFormat(format), EncodingType::Unicode);
+        auto other = std::make_unique<Font>(FontFormat(format), EncodingType(encoding));
         other->SetHeight(quint8(height));
         other->AddChar('C');
         WriteFont(std::move(other), Path("other.c"));
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(MakeFilled("AB", 0, FontFormat::Legacy), {});
         const QByteArray before = Test::Snapshot(*session.CurrentFont());
         const auto action = std::make_shared<ActionMergeFont>(session);
@@ -176,38 +204,40 @@ private Q_SLOTS:
         QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
     }
 
-    // From every kind to every other one, and back.
-    void KindsKeepTheFont_data()
+    void KerningIsThatOfEither_data()
     {
-        QTest::addColumn<int>("format");
-        for (int format = 0; format < FormatCount; ++format)
-            QTest::addRow("format %d", format) << format;
+        QTest::addColumn<bool>("own");
+        QTest::addColumn<bool>("other");
+        QTest::newRow("own") << true << false;
+        QTest::newRow("other") << false << true;
+        QTest::newRow("neither") << false << false;
     }
 
-    void KindsKeepTheFont()
+    void KerningIsThatOfEither()
     {
-        QFETCH(const int, format);
-        QStringList kinds = {Path("a.c"), Path("a.sif")};
-        if (!IsLegacyFormat(FontFormat(format)))
-            kinds.append(Path("a.xbf"));
-        const auto sample = Test::MakeSampleFont(FontFormat(format));
-        const QByteArray expected = Test::Snapshot(*sample, true);
-        for (const QString& from : kinds) {
-            WriteFont(Test::MakeSampleFont(FontFormat(format)), from);
-            const QByteArray bytes = Test::ReadAll(from);
-            for (const QString& to : kinds) {
-                WriteFont(Open(from), to);
-                QCOMPARE(Test::Snapshot(*Open(to)), expected);
-                // Pixels may look like a text at the end of an XBF file, which is then kept.
-                if (to == from && !from.endsWith(u".c"_s))
-                    QVERIFY(Test::ReadAll(to).startsWith(bytes));
-            }
-        }
+        QFETCH(const bool, own);
+        QFETCH(const bool, other);
+        WriteFont(MakeFilled("C", 1), Path("other.sif"));
+        Test::UndoSession session;
+        session.ReplaceFont(MakeFilled("AB", 0), {});
+        const Font& font = *session.CurrentFont();
+        session.CurrentFont()->SetHasKerning(own);
+        const auto action = std::make_shared<ActionMergeFont>(session);
+        action->Args() = {Source(other ? Test::FontPath("outlines.ttf") : Path("other.sif")),
+                          MergeMode::Replace};
+        action->Args().source.format = FontFormat::Framed;
+        action->Args().source.render.height = 12;
+        QVERIFY(action->Run());
+        QCOMPARE(font.HasKerning(), own || other);
+        session.Stack().Undo();
+        QCOMPARE(font.HasKerning(), own);
+        session.Stack().Redo();
+        QCOMPARE(font.HasKerning(), own || other);
     }
 
     void OpeningFiles()
     {
-        Test::RecordingInterface interface;
+        MergeInterface interface;
         WriteFont(MakeFilled("ABC", 0, FontFormat::AA2), Path("font.sif"));
         CodeSet selection;
         selection.SetRange('B', 'Z', true);
@@ -231,8 +261,18 @@ private Q_SLOTS:
         WriteFont(std::move(flat), Path("flat.xbf"));
         QCOMPARE(failure(Source(Path("flat.xbf"))),
                  u"Font creation failed!: Font has invalid metrics."_s);
+        const QByteArray sif = Test::ReadAll(Path("font.sif"));
+        Test::WriteAll(Path("old.sif"), sif.chopped(4));
+        const ActionOpenFontArgs old = Source(Path("old.sif"));
+        QVERIFY_THROWS_EXCEPTION(WorkStopped, (void)ReadFont(old)); // nobody told the format
+        interface.choice = FormatChoice{FontFormat::AA2, EncodingType::Unicode};
+        QVERIFY(ReadFont(old)->FindChar('C') != nullptr);
+        Test::WriteAll(Path("no.sif"), "GUIX" + sif.mid(4).chopped(4));
+        interface.choice.reset(); // nothing is asked about a file of another kind
+        QVERIFY(failure(Source(Path("no.sif"))).startsWith(u"Reading of SIF file failed!"_s));
+
         // Over the file that was opened.
-        Session session;
+        Test::UndoSession session;
         session.ReplaceFont(Open(Path("font.sif")), Path("font.sif"));
         SaveAs(session, Path("font.sif"));
         QVERIFY(Open(Path("font.sif"))->FindChar('C') != nullptr);

@@ -1,9 +1,9 @@
 #include "actions/action_open_font.h"
 #include "actions/action_save_file.h"
-#include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/settings.h"
 #include "support/test_main.h"
+#include "support/undo_session.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -36,7 +36,7 @@ std::shared_ptr<ActionOpenFont> Open(Session& session, const QString& path, int 
 {
     auto action = std::make_shared<ActionOpenFont>(session, type);
     action->Args().path = path;
-    action->Args().size = {height, false};
+    action->Args().render.height = height;
     return action;
 }
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString source = Test::FontPath("strike.ttf");
         const QString target = folder.filePath(u"font.c"_s);
-        Session session;
+        Test::UndoSession session;
         QVERIFY(Open(session, source)->Run());
         QCOMPARE(session.Path(), source);
         QCOMPARE(session.CurrentFont()->Metrics().format, FontFormat::Standard);
@@ -73,7 +73,7 @@ private Q_SLOTS:
                  "Log file for: font\r\n\r\n" + opened.toUtf8() + "\r\n");
         QCOMPARE(session.Stack().LogLines(),
                  (QStringList{opened, u"Saved font file: %1"_s.arg(target)}));
-        QVERIFY(!session.IsModified() && !session.Stack().canUndo());
+        QVERIFY(!session.IsModified() && !session.Stack().CanUndo());
         QCOMPARE(session.Path(), target);
 
         // Another font begins another history.
@@ -90,7 +90,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString target = folder.filePath(u"pairs.c"_s);
-        Session session;
+        Test::UndoSession session;
         const auto open = Open(session, Test::FontPath("outlines.ttf"), 100);
         open->Args().selection.emplace().SetRange(' ', 'V', true);
         open->Run();
@@ -160,13 +160,13 @@ private Q_SLOTS:
         QFETCH(const int, face);
         QFETCH(const QString, title);
         QFETCH(const QString, text);
-        Session session;
+        Test::UndoSession session;
         Open(session, Test::FontPath("strike.ttf"))->Run();
         const Font* const before = session.CurrentFont();
         const auto action = Open(session, path, height);
         action->Args().format = FontFormat(format);
         action->Args().encoding = EncodingType(encoding);
-        action->Args().faceIndex = face;
+        action->Args().render.faceIndex = face;
         const Failure failure = FailureOf(*action);
         QCOMPARE(failure.title, title);
         QVERIFY2(failure.text.startsWith(text), qUtf8Printable(failure.text));
@@ -177,9 +177,10 @@ private Q_SLOTS:
     void PointsNeedADesktop()
     {
         Test::RecordingInterface interface;
-        Session session;
+        Test::UndoSession session;
         const auto action = Open(session, Test::FontPath("strike.ttf"));
         action->Args().size = {12, true};
+        action->Args().render.height = 0;
         QCOMPARE(FailureOf(*action).text, u"Font has invalid metrics."_s);
         QCOMPARE(interface.warnings.size(), 1);
         QVERIFY(interface.warnings[0].contains(u"points"_s));
@@ -207,7 +208,7 @@ private Q_SLOTS:
         QFETCH(const int, format);
         QFETCH(const bool, hasChars);
         QFETCH(const QString, title);
-        Session session;
+        Test::UndoSession session;
         const auto open = Open(session, Test::FontPath("strike.ttf"));
         open->Args().format = FontFormat(format);
         if (!hasChars)

@@ -1,9 +1,9 @@
 #include "actions/action_read_pattern.h"
 #include "actions/pattern_file.h"
-#include "actions/session.h"
 #include "app/critical_exception.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
+#include "support/undo_session.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -94,7 +94,7 @@ private Q_SLOTS:
 
     void Applying()
     {
-        Session session;
+        Test::UndoSession session;
         auto font = std::make_unique<Font>(FontFormat::AA2, EncodingType::Unicode);
         font->SetEnabled('A', 'B', true);
         font->SetEnabled('A', 'A', false);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(current.EnabledCodes().Test('C') && current.FindChar('C') == nullptr);
         QCOMPARE(session.Stack().LogLines(),
                  QStringList{u"[Font]: Read pattern file: %1."_s.arg(Path())});
-        session.Stack().undo();
+        session.Stack().Undo();
         QCOMPARE(current.EnabledCodes(), before);
 
         const auto missing = std::make_shared<ActionReadPattern>(session);

@@ -1,7 +1,7 @@
 #include "actions/edit_actions.h"
-#include "actions/session.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
+#include "support/undo_session.h"
 
 #include <QTest>
 
@@ -66,9 +66,9 @@ public:
     {
         for (int moves = Number(0, 6); moves > 0; --moves) {
             if (Number(0, 2) > 0)
-                session_.Stack().undo();
+                session_.Stack().Undo();
             else
-                session_.Stack().redo();
+                session_.Stack().Redo();
         }
     }
 
@@ -77,7 +77,7 @@ public:
         return Test::Snapshot(*session_.CurrentFont()) == saved_;
     }
 
-    Session& CurrentSession() { return session_; }
+    Test::UndoSession& CurrentSession() { return session_; }
     int Number(int least, int most)
     {
         return std::uniform_int_distribution<int>(least, most)(numbers_);
@@ -136,11 +136,11 @@ private:
             own.xPos = 0;
             own.yPos = 0;
         }
-        const int length = (font.Metrics().bitsPerPixel * own.width + 7) / 8;
+        const int length = BytesPerLine(own.width, font.Metrics().bitsPerPixel);
         std::vector<uchar> bytes(std::size_t(length * own.height * PlaneCount(format_)));
         for (uchar& byte : bytes)
             byte = uchar(Number(0, 1) * Number(0, 255));
-        font.AddChar(code, own, bytes);
+        font.PutChar(code, own, bytes);
     }
 
     std::unique_ptr<Font> MakeFont()
@@ -167,7 +167,7 @@ private:
     FontFormat format_;
     bool isExact_;
     std::mt19937 numbers_;
-    Session session_;
+    Test::UndoSession session_;
     QByteArray saved_;
 };
 
@@ -212,8 +212,8 @@ private Q_SLOTS:
             RandomEdits edits(FontFormat(format), seed, Kind::Exact);
             for (int step = 0; step < 20; ++step)
                 edits.Edit();
-            while (edits.CurrentSession().Stack().canUndo())
-                edits.CurrentSession().Stack().undo();
+            while (edits.CurrentSession().Stack().CanUndo())
+                edits.CurrentSession().Stack().Undo();
             QVERIFY2(edits.IsAsSaved(), qPrintable(QStringLiteral("seed %1").arg(seed)));
             QVERIFY(!edits.CurrentSession().IsModified());
         }

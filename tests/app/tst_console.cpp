@@ -12,15 +12,6 @@ class TestConsole : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Attributes()
-    {
-        const QList<int> attributes = {12, 10, 14, 9, 13, 11};
-        for (int colour = 31; colour <= 36; ++colour)
-            QCOMPARE(ConsoleAttribute(ConsoleColour(colour)), attributes[colour - 31]);
-        QCOMPARE(ConsoleAttribute(ConsoleColour::Default), 7);
-        QVERIFY(!ConsoleAttribute(ConsoleColour(37)));
-    }
-
     void PlainWithoutTerminal()
     {
         std::FILE* const stream = std::tmpfile();

@@ -35,42 +35,10 @@ private Q_SLOTS:
         const Settings settings(Store(store));
         QCOMPARE(settings.hideLegacy.value(), true);
         QCOMPARE(settings.numeralSystem.value(), 1);
-        QCOMPARE(settings.logActions.value(), true);
-        QCOMPARE(settings.createLogFile.value(), false);
-        QCOMPARE(settings.useSysLineEndings.value(), true);
         QCOMPARE(settings.lineEndings.value(), 0);
         QCOMPARE(settings.additionalFontDirs.value(), QStringList());
-        QCOMPARE(settings.searchDirsRecursively.value(), true);
-        QCOMPARE(settings.useIncludedBitmaps.value(), true);
         QCOMPARE(settings.commandDialog.load(), CommandDialogData());
         QCOMPARE(settings.mainWindow.load(), WindowData());
-        QCOMPARE(settings.keys().size(), 9);
-        QCOMPARE(settings.keys().first(), u"HideLegacy"_s);
-        QCOMPARE(
-            settings.groups(),
-            (QStringList{u"MainWindowData"_s, u"FontDialogData"_s, u"FontGenerationDialogData"_s,
-                         u"EnableRangeDialogData"_s, u"MergeModeDialogData"_s,
-                         u"PreferencesDialogData"_s, u"CommandDialogData"_s}));
-    }
-
-    void StoredValues()
-    {
-        {
-            Settings settings(Store({}));
-            settings.hideLegacy.setValue(false);
-            settings.numeralSystem.setValue(0);
-            settings.additionalFontDirs.setValue({u"one"_s});
-            settings.commandDialog.save({640, 480});
-            settings.mainWindow.save({"geometry", "state"});
-            QCOMPARE(settings.hideLegacy.value(), false);
-            QCOMPARE(settings.commandDialog.load(), (CommandDialogData{640, 480}));
-        }
-        const Settings settings(Reopen());
-        QCOMPARE(settings.hideLegacy.value(), false);
-        QCOMPARE(settings.numeralSystem.value(), 0);
-        QCOMPARE(settings.additionalFontDirs.value(), QStringList{u"one"_s});
-        QCOMPARE(settings.commandDialog.load(), (CommandDialogData{640, 480}));
-        QCOMPARE(settings.mainWindow.load(), (WindowData{"geometry", "state"}));
     }
 
     // Of another layout, cut, or of another type.

@@ -1,10 +1,14 @@
+#include "actions/action_merge_font.h"
+#include "actions/edit_actions.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "cli/command_line.h"
+#include "cli/option_actions.h"
 #include "support/test_main.h"
 
 #include <QTest>
 
+#include <algorithm>
 #include <iostream>
 #include <sstream>
 
@@ -38,23 +42,13 @@ class TestCommandLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Mode_data()
-    {
-        QTest::addColumn<QByteArray>("argument");
-        QTest::addColumn<bool>("isCommandLine");
-        QTest::newRow("-hide") << QByteArray("-hide") << true;
-        QTest::newRow("-HIDE") << QByteArray("-HIDE") << true;
-        QTest::newRow("--hide") << QByteArray("--hide") << false;
-        QTest::newRow("hide") << QByteArray("hide") << false;
-    }
-
     void Mode()
     {
-        QFETCH(const QByteArray, argument);
-        QFETCH(const bool, isCommandLine);
-        const char* const last[] = {"-hide", "x", argument.constData()};
-        QCOMPARE(CommandLine::isCommandLineMode(3, last), isCommandLine);
-        QVERIFY(!CommandLine::isCommandLineMode(1, last));
+        for (const auto& [argument, isCommandLine] :
+             {std::pair("-HIDE", true), {"--hide", false}, {"hide", false}}) {
+            const char* const last[] = {"-hide", "x", argument};
+            QCOMPARE(CommandLine::isCommandLineMode(3, last), isCommandLine);
+        }
     }
 
     void Heights_data()
@@ -103,30 +97,45 @@ private Q_SLOTS:
         QCOMPARE(disabling->Next(0), 0xFFFF);
     }
 
+    void ActionsHaveTheirArguments()
+    {
+        const Test::RecordingInterface interface;
+        const auto uses = CommandLineParser().parse(
+            {u"a.ttf"_s, u"-height"_s, u"9px"_s, u"-bold"_s, u"-merge"_s, u"b.sif"_s, u"KEEP"_s,
+             u"-editchar"_s, u"SHIFTR"_s, u"0x41-0x42"_s, u"-editfont"_s, u"INSTOP"_s, u"3"_s});
+        RunOptions options = ReadRunOptions(uses);
+        options.open.selection.emplace().Set('A', true);
+        Session session;
+        const auto make = [&](OptionId id) {
+            const auto use = std::ranges::find(uses, id, &OptionOccurrence::Id);
+            return ActionOf(id)->make(*use, options, session);
+        };
+        const auto open = std::dynamic_pointer_cast<ActionOpenFont>(make(OptionId::Open));
+        QCOMPARE(open->Args().path, u"a.ttf"_s);
+        QCOMPARE(open->Args().render, (RenderOptions{.height = 9, .effects = BoldEffect}));
+        QVERIFY(open->Args().selection->Test('A'));
+        const auto merge = std::dynamic_pointer_cast<ActionMergeFont>(make(OptionId::Merge));
+        QCOMPARE(merge->Args().source.path, u"b.sif"_s);
+        QCOMPARE(merge->Args().mode, MergeMode::Keep);
+        QVERIFY(!merge->Args().source.selection); // that of the opened font alone
+        const auto edit = std::dynamic_pointer_cast<ActionChar>(make(OptionId::EditChar));
+        QVERIFY(edit->Args().first == 0x41 && edit->Args().last == 0x42 && edit->Repeat() == 1);
+        QCOMPARE(make(OptionId::EditFont)->Repeat(), 3);
+    }
+
     void Questions()
     {
         CommandLine commandLine;
-        EncodingType encoding = EncodingType::Unicode;
         {
             const Answers answers("nonsense\n aa4 \nKEEP\n");
-            QCOMPARE(commandLine.askFontFormat(encoding), 6);
-            QCOMPARE(commandLine.askMergeMode(), 3);
+            const auto choice = commandLine.askFontFormat(EncodingType::ShiftJis);
+            QCOMPARE(choice->format, FontFormat::AA4);
+            QCOMPARE(choice->encoding, EncodingType::ShiftJis);
+            QCOMPARE(commandLine.askMergeMode(), MergeMode::Keep);
         }
         const Answers none("nonsense\n");
-        QVERIFY_THROWS_EXCEPTION(CriticalException, commandLine.askFontFormat(encoding));
-    }
-
-    void Requests()
-    {
-        CommandLine commandLine;
-        QVERIFY(commandLine.handleRequest(ActionType::ExitProgram));
-        QVERIFY(commandLine.handleRequest(ActionType::PrintUsage));
-        QVERIFY(!commandLine.handleRequest(ActionType::MergeFont));
-        QVERIFY(!commandLine.actionPerformed(nullptr, {}));
-        Session session;
-        const char* const none[] = {"Glyphor"};
-        commandLine.run(1, none, session);
-        QVERIFY(session.CurrentFont() == nullptr);
+        QVERIFY_THROWS_EXCEPTION(CriticalException,
+                                 commandLine.askFontFormat(EncodingType::Unicode));
     }
 };
 

@@ -30,39 +30,15 @@ private Q_SLOTS:
     void CText_data()
     {
         QTest::addColumn<QByteArray>("piece");
-        for (const char* const piece : {"GUI_FONT_PROP_EXT ",
-                                        "GUI_FONT_PROP_EXT a = ",
-                                        "GUI_FONT_PROP_EXT a = { ",
-                                        "GUI_FONT_PROP_EXT a = { 1, 2, 3 }",
-                                        "GUI_CHARINFO_EXT ",
-                                        "GUI_CHARINFO_EXT a[] = ; ",
-                                        " GUI_FONT ",
-                                        "GUI_FONTTYPE_PROP_EXT ",
-                                        "GUI_FONT a = { ",
-                                        "a[] = { ",
-                                        "a[] = { 1, }; ",
-                                        "= ",
-                                        "= {",
-                                        "{",
-                                        "}",
-                                        "{ }",
-                                        "/",
-                                        "/* ",
-                                        "/* */ ",
-                                        "// \n",
-                                        "\"",
-                                        "'",
-                                        "\\\n",
-                                        "#\n",
-                                        "#define a \\\n",
-                                        "a ",
-                                        "a(",
-                                        "extern \"C\" { ",
-                                        "0 ",
-                                        ", 0",
-                                        "\r",
-                                        "\n"})
-            QTest::newRow(piece) << QByteArray(piece);
+        // Separated by "|".
+        const QByteArray pieces =
+            "GUI_FONT_PROP_EXT |GUI_FONT_PROP_EXT a = |GUI_FONT_PROP_EXT a = { |"
+            "GUI_FONT_PROP_EXT a = { 1, 2, 3 }|GUI_CHARINFO_EXT |GUI_CHARINFO_EXT a[] = ; | "
+            "GUI_FONT |"
+            "GUI_FONTTYPE_PROP_EXT |GUI_FONT a = { |a[] = { |a[] = { 1, }; |= |= {|{|}|{ }|/|/* |"
+            "/* */ |// \n|\"|'|\\\n|#\n|#define a \\\n|a |a(|extern \"C\" { |0 |, 0|\r|\n";
+        for (const QByteArray& piece : pieces.split('|'))
+            QTest::newRow(piece.constData()) << piece;
     }
 
     void CText()

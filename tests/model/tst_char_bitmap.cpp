@@ -213,35 +213,6 @@ private Q_SLOTS:
         QVERIFY(!offset.character->bitmap->DeleteRowTop());
     }
 
-    void UndoBringsBackEmptyPixels()
-    {
-        Sample sample(FontFormat::AA4, 4);
-        CharBitmap& bitmap = *sample.character->bitmap;
-        bitmap.SetPixelIndex(3, 2, 9);
-        QVERIFY(bitmap.DeleteColumnRight() && bitmap.UndoDeleteColumnRight());
-        QCOMPARE(bitmap.GetPixelIndex(3, 2), 0);
-        QVERIFY(bitmap.DeleteRowTop() && bitmap.UndoDeleteRowTop());
-        QCOMPARE(int(sample.character->info.yPos), 1);
-        const Picture before = PictureOf(*sample.character);
-        QVERIFY(bitmap.InsertRowTop() && bitmap.UndoInsertRowTop());
-        QVERIFY(bitmap.InsertRowBottom() && bitmap.UndoInsertRowBottom());
-        QVERIFY(bitmap.InsertColumnLeft() && bitmap.UndoInsertColumnLeft());
-        QVERIFY(bitmap.InsertColumnRight() && bitmap.UndoInsertColumnRight());
-        QCOMPARE(PictureOf(*sample.character), before);
-    }
-
-    void PackingFromTheMostSignificantBit()
-    {
-        Sample two(FontFormat::AA2, 2);
-        two.character->bitmap->AssignData({});
-        two.character->bitmap->SetPixelIndex(0, 0, 3);
-        QCOMPARE(two.character->bitmap->Data()[0], char(0xC0));
-        Sample four(FontFormat::AA4, 2);
-        four.character->bitmap->AssignData({});
-        four.character->bitmap->SetPixelIndex(1, 0, 5);
-        QCOMPARE(four.character->bitmap->Data()[0], char(0x05));
-    }
-
     void PixelIndicesWrap()
     {
         for (const FontFormat format : AllFormats) {
@@ -281,7 +252,6 @@ private Q_SLOTS:
             const int planes = format == FontFormat::Framed ? 2 : 1;
             QCOMPARE(sample.character->bitmap->DataAsList(),
                      QByteArray(info.height * planes, '\0'));
-            QVERIFY(sample.character->bitmap->IsCleared());
         }
     }
 

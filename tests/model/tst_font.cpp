@@ -30,26 +30,6 @@ private Q_SLOTS:
         QCOMPARE(font.EnabledRuns(), (std::vector<CodeRange>{{0xFFF0, 0xFFF0}, {0xFFF2, 0xFFFF}}));
     }
 
-    void WholeRange()
-    {
-        Font font(FontFormat::Standard, EncodingType::Unicode);
-        font.SetEnabled(0, 0xFFFF, true);
-        QCOMPARE(font.EnabledRuns(), (std::vector<CodeRange>{{0, 0xFFFF}}));
-        QCOMPARE(font.EnabledRuns().front().Size(), 0x10000);
-        font.SetEnabled(0, 0xFFFF, false);
-        QVERIFY(font.EnabledRuns().empty());
-    }
-
-    void FramedCharsHaveTwoPlanes()
-    {
-        Font font(FontFormat::Framed, EncodingType::Unicode);
-        Character& character = font.AddChar('A');
-        while (character.info.width < 9)
-            character.bitmap->InsertColumnRight();
-        QCOMPARE(font.CharDataWidth(character), 4);
-        QCOMPARE(character.bitmap->DataAsList().size(), 4 * character.info.height);
-    }
-
     void RowEdits_data()
     {
         QTest::addColumn<int>("format");

@@ -11,6 +11,21 @@ class TestTables : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void FormatTablesAgree()
+    {
+        for (int value = 0; value < FormatCount; ++value) {
+            const auto index = std::size_t(value);
+            QCOMPARE(FormatNameTable[index].format, FontFormat(value));
+            QCOMPARE(FormatKeywordTable[index].format, FontFormat(value));
+            QCOMPARE(FormatNameTable[index].legacy, IsLegacyFormat(FontFormat(value)));
+            QVERIFY(!FontTypeName(FontFormat(value), EncodingType::Unicode).isEmpty());
+            QCOMPARE(FontTypeName(FontFormat(value), EncodingType::ShiftJis).isEmpty(),
+                     !IsLegacyFormat(FontFormat(value)));
+        }
+        QVERIFY(!IsLegacyFormat(FontFormat::Unknown));
+        QVERIFY(FormatDisplayName(FontFormat::Unknown).isEmpty());
+    }
+
     void CharacterNames_data()
     {
         QTest::addColumn<int>("code");

@@ -96,7 +96,7 @@ private Q_SLOTS:
 
     void ThreadReports()
     {
-        FontDatabaseThread thread;
+        FontDatabaseThread thread({QFileInfo(Test::FontPath("outlines.ttf")).path()}, false);
         QCOMPARE(thread.stackSize(), 4194304U);
         QSignalSpy counted(&thread, &FontDatabaseThread::initFileCount);
         QSignalSpy done(&thread, &FontDatabaseThread::fileDone);

@@ -29,7 +29,7 @@ private Q_SLOTS:
         QFETCH(const int, step);
         FreeTypeFace face(path, 0, FreeTypeLibrary());
         QVERIFY2(face.IsOpen(), qUtf8Printable(path));
-        face.SetPixelSize({height, false});
+        face.SetPixelSize(height);
         const KerningIndex index(face);
         int place = 0;
         face.WalkCharmap([&](quint16 left, FT_UInt) {
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void PairsFollowTheCharmap()
     {
         FreeTypeFace face(Test::FontPath("outlines.ttf"), 0, FreeTypeLibrary());
-        face.SetPixelSize({100, false});
+        face.SetPixelSize(100);
         // U+0391 has the glyph of "A"; U+10041 counts as "A" again.
         QCOMPARE(KerningIndex(face).PairsOf('V'),
                  (std::vector<KerningPair>{{' ', 8}, {'A', -12}, {0x391, -12}, {'A', -12}}));

@@ -3,8 +3,8 @@
 #if __has_include(<QApplication>)
 #include <QApplication>
 #endif
+#include <QCoreApplication>
 #include <QFile>
-#include <QGuiApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>

@@ -144,7 +144,7 @@ private Q_SLOTS:
         for (int code = 0x100; code < 0x120; ++code) {
             const auto width = quint8(code == 0x11F ? 200 : 10);
             const std::vector<uchar> ink(std::size_t(3) * width, 0xFF);
-            font_->AddChar(quint16(code), {width, 3, 0, 0, 0},
+            font_->PutChar(quint16(code), {width, 3, 0, 0, 0},
                            std::span(ink).first(std::size_t(3) * (width / 2U)));
         }
         table_->Refresh();

@@ -1,11 +1,13 @@
 #include "app/critical_exception.h"
 #include "app/settings.h"
+#include "files/font_file_c.h"
 #include "render/font_database.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/dialogs/code_dialogs.h"
 #include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
+#include "ui/dialogs/font_size_box.h"
 #include "ui/dialogs/format_box.h"
 #include "ui/dialogs/merge_mode_dialog.h"
 #include "ui/dialogs/preferences_dialog.h"
@@ -22,6 +24,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -292,7 +295,7 @@ private Q_SLOTS:
         QSignalSpy finished(&dialog.Preview(), &GenerationPreview::Finished);
         QVERIFY(finished.wait(5000));
         const ActionOpenFontArgs args = dialog.Args();
-        QCOMPARE(args.effects, bold ? quint32(BoldEffect) : 0U);
+        QCOMPARE(args.render.effects, bold ? quint32(BoldEffect) : 0U);
         const std::unique_ptr<Font> font = ReadFont(args);
         for (const QChar sample : u"Glyphs1"_s) {
             const Character* const shown =
@@ -331,6 +334,21 @@ private Q_SLOTS:
         QVERIFY(dialog.Args().selection.has_value());
     }
 
+    void HeightsAndPreferences()
+    {
+        const auto dotsPerInch = int(QGuiApplication::primaryScreen()->logicalDotsPerInchX());
+        auto& useStrikes = Settings::Instance().useIncludedBitmaps;
+        useStrikes.setValue(false);
+        ActionOpenFontArgs args;
+        RenderAt({7, true}, args);
+        useStrikes.setValue(true);
+        QCOMPARE(args.render.height, 7 * dotsPerInch / 72);
+        QVERIFY(args.size.inPoints && !args.render.useStrikes);
+        RenderAt({7, false}, args);
+        QCOMPARE(args.render.height, 7);
+        QVERIFY(args.render.useStrikes);
+    }
+
     void GenerationTakesWhatIsGiven()
     {
         ActionOpenFontArgs args = Outlines();
@@ -338,11 +356,11 @@ private Q_SLOTS:
         args.size = {40, false};
         args.selection.emplace();
         args.selection->Set('x', true);
-        args.faceIndex = 1;
+        args.render.faceIndex = 1;
         const FontGenerationDialog dialog(args, {u"One"_s, u"Two"_s}, nullptr);
         QCOMPARE(*dialog.Args().format, FontFormat::Legacy);
         QCOMPARE(dialog.Args().size.value, 40);
-        QCOMPARE(dialog.Args().faceIndex, 1);
+        QCOMPARE(dialog.Args().render.faceIndex, 1);
         QVERIFY(*dialog.Args().selection == *args.selection);
         QVERIFY(!dialog.findChild<FormatBox*>()->isEnabled());
     }

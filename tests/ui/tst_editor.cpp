@@ -3,6 +3,7 @@
 #include "support/test_main.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/pencil_tool.h"
+#include "ui/support/undo_stack.h"
 
 #include <QAction>
 #include <QApplication>
@@ -153,10 +154,11 @@ private Q_SLOTS:
     // A fast mouse skips cells, comes back to some, and is let go elsewhere.
     void PencilPaintsTheWayOnce()
     {
-        Session session;
+        UndoStack history;
+        Session session(history);
         Show(FontFormat::AA4);
         session.ReplaceFont(std::move(font_), {});
-        PencilTool pencil(session, *view_);
+        PencilTool pencil(session, history, *view_);
         const std::unique_ptr<QSpinBox> box(&pencil.IndexBox());
         pencil.ShowFont(session.CurrentFont());
         pencil.Command().setChecked(true);
@@ -181,7 +183,7 @@ private Q_SLOTS:
         move(Place(0, 2), Qt::NoButton);
         QCOMPARE(ends.count(), 1);
         QCOMPARE(bitmap.GetPixelIndex(0, 1), below);
-        QCOMPARE(session.Stack().count(), 1);
+        QCOMPARE(history.count(), 1);
     }
 
     void KeysAloneSelect()

@@ -1,3 +1,4 @@
+#include "files/font_file_c.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/preview/text_preview.h"

@@ -14,6 +14,7 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/preview/text_preview.h"
+#include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
 #include "ui/window/help.h"
 #include "ui/window/main_window.h"
@@ -100,6 +101,7 @@ class TestWindow : public QObject
     Q_OBJECT
 
     QTemporaryDir folder_;
+    std::unique_ptr<UndoStack> history_;
     std::unique_ptr<Session> session_;
     std::unique_ptr<MainWindow> window_;
 
@@ -146,8 +148,9 @@ class TestWindow : public QObject
 private Q_SLOTS:
     void init()
     {
-        session_ = std::make_unique<Session>();
-        window_ = std::make_unique<MainWindow>(*session_);
+        history_ = std::make_unique<UndoStack>();
+        session_ = std::make_unique<Session>(*history_);
+        window_ = std::make_unique<MainWindow>(*session_, *history_);
         SetCurrentInterface(window_.get());
         window_->show();
         window_->activateWindow();
@@ -245,7 +248,7 @@ private Q_SLOTS:
         QCOMPARE(int(CurrentFont().FindChar(0x80)->info.xPos), -12);
         Trigger(ActionType::Toggle);
         QVERIFY(!CurrentFont().HasEnabledChars());
-        QCOMPARE(session_->Stack().count(), 2);
+        QCOMPARE(history_->count(), 2);
         Trigger(WindowCommand::Undo);
         Trigger(WindowCommand::Undo);
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
@@ -306,7 +309,7 @@ private Q_SLOTS:
         editor.SelectFirstPixel();
         QTest::keyClick(editor.viewport(), Qt::Key_Space);
         QVERIFY(window_->isWindowModified() && IsEnabled(ActionType::SaveFont));
-        QVERIFY(!session_->Stack().canUndo());
+        QVERIFY(!history_->canUndo());
         Trigger(ActionType::SaveFont);
         QVERIFY(!window_->isWindowModified());
     }
@@ -406,22 +409,22 @@ private Q_SLOTS:
             QTest::mouseRelease(editor.viewport(), Qt::LeftButton, modifiers, place(last));
         };
         stroke(0, 3);
-        QCOMPARE(session_->Stack().count(), 0); // it selects
+        QCOMPARE(history_->count(), 0); // it selects
         for (QAction* const tool : window_->findChildren<QAction*>()) {
             if (tool->text() == u"Pencil"_s)
                 tool->trigger();
         }
         stroke(0, 3);
-        QCOMPARE(session_->Stack().count(), 1);
+        QCOMPARE(history_->count(), 1);
         for (int x = 0; x < 4; ++x)
             QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(x, 1), 15);
         stroke(3, 0, Qt::ControlModifier);
-        QCOMPARE(session_->Stack().count(), 2);
+        QCOMPARE(history_->count(), 2);
         for (int x = 0; x < 4; ++x)
             QCOMPARE(CurrentFont().FindChar('B')->bitmap->GetPixelIndex(x, 1), 0);
         Trigger(WindowCommand::Undo);
         stroke(0, 3); // changes nothing
-        QVERIFY(session_->Stack().canRedo());
+        QVERIFY(history_->canRedo());
         Trigger(WindowCommand::Undo);
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
     }
@@ -645,7 +648,7 @@ private Q_SLOTS:
         window_->Editor().SetZoom(12);
         Trigger(WindowCommand::AllCharacters);
         window_->close();
-        window_ = std::make_unique<MainWindow>(*session_);
+        window_ = std::make_unique<MainWindow>(*session_, *history_);
         SetCurrentInterface(window_.get());
         window_->show();
         QCOMPARE(window_->size(), QSize(900, 500));
@@ -658,7 +661,7 @@ private Q_SLOTS:
     void BrokenStateGivesTheDefaults()
     {
         Settings::Instance().mainWindow.save({"geometry", "state"});
-        const MainWindow other(*session_);
+        const MainWindow other(*session_, *history_);
         QCOMPARE(other.size(), QSize(1240, 760));
     }
 };

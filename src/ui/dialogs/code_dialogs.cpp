@@ -213,11 +213,10 @@ void GoToDialog::Search(const QString& text)
     found_->clear();
     const Encoding& encoding = EncodingFor(encoding_);
     for (const int code : std::as_const(codes)) {
-        quint16 unicode = quint16(code);
-        const bool isShown =
-            encoding.Convert(EncodingType::Unicode, unicode) && QChar(unicode).isPrint();
+        const auto unicode = encoding.Converted(EncodingType::Unicode, quint16(code));
+        const bool isShown = unicode && QChar(*unicode).isPrint();
         auto* const item = new QListWidgetItem(
-            u"%1   %2   %3"_s.arg(CodeText(code), isShown ? QString(QChar(unicode)) : u" "_s,
+            u"%1   %2   %3"_s.arg(CodeText(code), isShown ? QString(QChar(*unicode)) : u" "_s,
                                   encoding.CharName(quint16(code))));
         item->setData(Qt::UserRole, code);
         found_->addItem(item);

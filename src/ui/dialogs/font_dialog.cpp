@@ -328,9 +328,9 @@ void FontDialog::ShowSample()
     const QString text = SampleOf(Family()->Face(ChosenStyle()));
     ActionOpenFontArgs args;
     args.path = Path();
-    args.faceIndex = FaceIndex();
+    args.render.faceIndex = FaceIndex();
     args.format = FontFormat::AA4;
-    args.size = ChosenSize();
+    RenderAt(ChosenSize(), args);
     args.selection.emplace();
     for (const QChar character : text)
         args.selection->Set(character.unicode(), true);

@@ -38,7 +38,8 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
 {
     setWindowTitle(tr("Font generation: %1").arg(TitlePart(QFileInfo(args.path).fileName())));
     face_->addItems(faces);
-    face_->setCurrentIndex(std::clamp(args.faceIndex, 0, std::max(0, int(faces.size()) - 1)));
+    face_->setCurrentIndex(
+        std::clamp(args.render.faceIndex, 0, std::max(0, int(faces.size()) - 1)));
     face_->setEnabled(faces.size() > 1);
 
     auto* const previewGroup = new QGroupBox(tr("Preview"));
@@ -101,8 +102,8 @@ void FontGenerationDialog::LoadEntries()
     encoding_->SetFormat(format_->Format());
     encoding_->SetEncoding(args_.encoding.value_or(EncodingType(record.encoding)));
     encoding_->setEnabled(!args_.encoding);
-    bold_->setChecked(record.bold || (args_.effects & BoldEffect) != 0);
-    italic_->setChecked(record.italic || (args_.effects & ItalicEffect) != 0);
+    bold_->setChecked(record.bold || (args_.render.effects & BoldEffect) != 0);
+    italic_->setChecked(record.italic || (args_.render.effects & ItalicEffect) != 0);
     selection_->Load(record);
     preview_->SetSample(record.sample.isEmpty() ? tr("The quick brown fox 0123456789")
                                                 : record.sample);
@@ -160,11 +161,11 @@ void FontGenerationDialog::ShowEffect()
 ActionOpenFontArgs FontGenerationDialog::Args() const
 {
     ActionOpenFontArgs args = args_;
-    args.size = size_->Value();
+    RenderAt(size_->Value(), args);
     args.format = format_->Format();
     args.encoding = encoding_->Encoding();
-    args.faceIndex = std::max(0, face_->currentIndex());
-    args.effects =
+    args.render.faceIndex = std::max(0, face_->currentIndex());
+    args.render.effects =
         (bold_->isChecked() ? BoldEffect : 0U) | (italic_->isChecked() ? ItalicEffect : 0U);
     if (!args.selection)
         args.selection = selection_->Codes();

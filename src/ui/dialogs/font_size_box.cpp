@@ -1,7 +1,11 @@
 #include "ui/dialogs/font_size_box.h"
 
+#include "app/settings.h"
+
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QSpinBox>
 
 namespace Glyphor {
@@ -32,6 +36,15 @@ void FontSizeBox::SetValue(const FontSize& size)
     value_->setValue(size.value);
     unit_->setCurrentIndex(int(size.inPoints));
     value_->selectAll();
+}
+
+void RenderAt(const FontSize& size, ActionOpenFontArgs& args)
+{
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    args.size = size;
+    args.render.height =
+        size.PixelHeight(screen != nullptr ? int(screen->logicalDotsPerInchX()) : 0);
+    args.render.useStrikes = Settings::Instance().useIncludedBitmaps.value();
 }
 
 } // namespace Glyphor

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/free_type_face.h"
+#include "actions/action_open_font.h"
 
 #include <QWidget>
 
@@ -27,5 +27,9 @@ private:
     QSpinBox* value_;
     QComboBox* unit_;
 };
+
+// Has the arguments render at this height, with points as large as on the screen, and as the
+// preferences say.
+void RenderAt(const FontSize& size, ActionOpenFontArgs& args);
 
 } // namespace Glyphor

@@ -1,6 +1,5 @@
 #include "ui/dialogs/gui_interface.h"
 
-#include "app/progress.h"
 #include "ui/dialogs/format_box.h"
 #include "ui/dialogs/merge_mode_dialog.h"
 #include "ui/support/dialog_parts.h"
@@ -31,19 +30,18 @@ Answer GuiInterface::ask(const QString& title, const QString& text)
     return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
-int GuiInterface::askFontFormat(EncodingType& encoding)
+std::optional<FormatChoice> GuiInterface::askFontFormat(EncodingType)
 {
     FormatDialog dialog(QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted)
-        throw WorkStopped();
-    encoding = dialog.Encoding();
-    return int(dialog.Format());
+        return std::nullopt;
+    return FormatChoice{dialog.Format(), dialog.Encoding()};
 }
 
-int GuiInterface::askMergeMode()
+std::optional<MergeMode> GuiInterface::askMergeMode()
 {
     MergeModeDialog dialog(QApplication::activeWindow());
-    return dialog.exec() == QDialog::Accepted ? int(dialog.Mode()) : 0;
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Mode()) : std::nullopt;
 }
 
 } // namespace Glyphor

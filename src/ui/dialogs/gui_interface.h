@@ -13,8 +13,8 @@ public:
     void warning(const QString& title, const QString& text) override;
     void critical(const QString& title, const QString& text) override;
     Answer ask(const QString& title, const QString& text) override;
-    int askFontFormat(EncodingType& encoding) override;
-    int askMergeMode() override;
+    std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
+    std::optional<MergeMode> askMergeMode() override;
 };
 
 } // namespace Glyphor

@@ -8,8 +8,10 @@
 #include "actions/session.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "render/font_file_scalable.h"
 #include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
+#include "ui/dialogs/font_size_box.h"
 #include "ui/document/font_indexer.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/support/guarded.h"
@@ -33,24 +35,13 @@ QString PatternFilter()
     return Document::tr("Text files (*.txt)");
 }
 
-// The faces of a scalable font by name, in the order of their indices.
-QStringList FaceNames(const QString& path)
+// The faces of a scalable font, all of them with a name.
+QStringList ShownFaceNames(const QString& path)
 {
-    QStringList names;
-    if (FileTypeOf(path) == FileType::TrueTypeCollection) {
-        for (const FaceDescription& face : FontFileTTC(path, {}).FaceDescriptions())
-            names.append(face.familyName + u' ' + face.styleName);
-        return names;
-    }
-    const FreeTypeFace face(path, 0, FreeTypeLibrary());
-    if (!face.IsOpen())
-        return names;
-    names.append(face.StyleName());
-    int index = 0;
-    for (const NamedInstance& instance : face.NamedInstances()) {
-        ++index;
-        names.append(instance.name.isEmpty() ? Document::tr("Instance %1").arg(index)
-                                             : instance.name);
+    QStringList names = FaceNames(path);
+    for (qsizetype index = 1; index < names.size(); ++index) {
+        if (names[index].isEmpty())
+            names[index] = Document::tr("Instance %1").arg(index);
     }
     return names;
 }
@@ -97,7 +88,7 @@ bool Document::AskFont(ActionOpenFontArgs& args)
     if (dialog.exec() != QDialog::Accepted)
         return false;
     args.path = dialog.Path();
-    args.faceIndex = dialog.FaceIndex();
+    args.render.faceIndex = dialog.FaceIndex();
     args.size = dialog.ChosenSize();
     return true;
 }
@@ -106,13 +97,14 @@ bool Document::CompleteArgs(ActionOpenFontArgs& args)
 {
     const auto type = FileTypeOf(args.path);
     const bool isComplete = !type || !IsScalable(*type) || args.size.value > 0;
+    RenderAt(args.size, args);
     return isComplete || AskGeneration(args);
 }
 
 bool Document::AskGeneration(ActionOpenFontArgs& args)
 {
     CheckInputFile(args.path);
-    const QStringList faces = FaceNames(args.path);
+    const QStringList faces = ShownFaceNames(args.path);
     if (faces.isEmpty())
         return true; // opening it will tell what is wrong
     FontGenerationDialog dialog(args, faces, &window_);

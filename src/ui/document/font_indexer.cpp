@@ -1,5 +1,6 @@
 #include "ui/document/font_indexer.h"
 
+#include "app/settings.h"
 #include "render/font_database.h"
 
 #include <utility>
@@ -27,7 +28,9 @@ void FontIndexer::Start()
         thread_->requestInterruption();
         return;
     }
-    thread_ = new FontDatabaseThread(this);
+    const Settings& settings = Settings::Instance();
+    thread_ = new FontDatabaseThread(settings.additionalFontDirs.value(),
+                                     settings.searchDirsRecursively.value(), this);
     connect(thread_, &FontDatabaseThread::initFileCount, this, &FontIndexer::Counted);
     connect(thread_, &FontDatabaseThread::fileDone, this, &FontIndexer::FileDone);
     connect(thread_, &FontDatabaseThread::hasFinished, this, &FontIndexer::End);

@@ -5,6 +5,7 @@
 #include "actions/session.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/guarded.h"
+#include "ui/support/undo_stack.h"
 
 #include <QAction>
 #include <QMouseEvent>
@@ -14,9 +15,10 @@ namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
-PencilTool::PencilTool(Session& session, CharBitmapView& editor)
+PencilTool::PencilTool(Session& session, UndoStack& history, CharBitmapView& editor)
     : QObject(&editor),
       session_(session),
+      history_(history),
       editor_(editor),
       command_(new QAction(QIcon(u":/icons/pencil.svg"_s), tr("Pencil"), this)),
       index_(new QSpinBox)
@@ -119,7 +121,7 @@ void PencilTool::PaintPixel(QPoint pixel, bool inverts)
     action->Args().y = pixel.y();
     if (!hasSteps_) {
         hasSteps_ = true;
-        session_.Stack().beginMacro(tr("Stroke"));
+        history_.beginMacro(tr("Stroke"));
     }
     Guarded([&action] { action->Run(); });
 }
@@ -131,7 +133,7 @@ void PencilTool::EndStroke()
     isStroking_ = false;
     painted_.clear();
     if (hasSteps_)
-        session_.Stack().endMacro();
+        history_.endMacro();
     hasSteps_ = false;
     Q_EMIT StrokeEnded();
 }

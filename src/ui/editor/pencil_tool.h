@@ -15,6 +15,7 @@ class CharBitmapView;
 class CharPixelItem;
 class Font;
 class Session;
+class UndoStack;
 
 // Paints pixels of the editor's character by clicking and dragging, with Ctrl by inverting them.
 // What a stroke paints is undone as one.
@@ -24,7 +25,7 @@ class PencilTool final : public QObject
 
 public:
     // It belongs to the editor. The session must outlive it.
-    PencilTool(Session& session, CharBitmapView& editor);
+    PencilTool(Session& session, UndoStack& history, CharBitmapView& editor);
 
     // Turns the pencil on and off.
     [[nodiscard]] QAction& Command() const { return *command_; }
@@ -50,6 +51,7 @@ private:
     void PaintPixel(QPoint pixel, bool inverts);
 
     Session& session_;
+    UndoStack& history_;
     CharBitmapView& editor_;
     QAction* command_;
     QSpinBox* index_;

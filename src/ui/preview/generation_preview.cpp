@@ -3,6 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/progress.h"
 #include "app/user_interface.h"
+#include "files/font_file_c.h"
 #include "ui/preview/text_preview.h"
 #include "ui/support/dialog_parts.h"
 

@@ -1,7 +1,7 @@
 #include "ui/preview/text_preview.h"
 
-#include "model/encoding.h"
 #include "ui/support/char_picture.h"
+#include "ui/support/dialog_parts.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -72,21 +72,21 @@ void TextStrip::SetColours(const QColor& ink, const QColor& paper)
 
 const Character* TextStrip::CharacterOf(QChar character) const
 {
-    quint16 code = character.unicode();
-    const bool isEncoded =
-        font_ != nullptr &&
-        EncodingFor(EncodingType::Unicode).Convert(font_->Metrics().encoding, code);
-    return isEncoded && font_->IsEnabled(code) ? font_->FindChar(code) : nullptr;
+    if (font_ == nullptr)
+        return nullptr;
+    const auto code = Encoded(character.unicode(), font_->Metrics().encoding);
+    return code && font_->IsEnabled(*code) ? font_->FindChar(*code) : nullptr;
 }
 
 int TextStrip::KerningBetween(QChar left, QChar right) const
 {
     const Character* const character = CharacterOf(left);
-    quint16 code = right.unicode();
-    if (!kerning_ || character == nullptr ||
-        !EncodingFor(EncodingType::Unicode).Convert(font_->Metrics().encoding, code))
+    if (!kerning_ || character == nullptr)
         return 0;
-    const auto pair = std::ranges::find(character->kerning, code, &KerningPair::right);
+    const auto code = Encoded(right.unicode(), font_->Metrics().encoding);
+    if (!code)
+        return 0;
+    const auto pair = std::ranges::find(character->kerning, *code, &KerningPair::right);
     return pair == character->kerning.end() ? 0 : pair->distance;
 }
 

@@ -57,9 +57,7 @@ QLabel* LabelFor(QWidget& buddy, const QString& text)
 
 std::optional<quint16> Encoded(quint16 unicode, EncodingType encoding)
 {
-    quint16 code = unicode;
-    const bool isEncoded = EncodingFor(EncodingType::Unicode).Convert(encoding, code);
-    return isEncoded ? std::optional(code) : std::nullopt;
+    return EncodingFor(EncodingType::Unicode).Converted(encoding, unicode);
 }
 
 std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
@@ -79,8 +77,7 @@ std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
 
 QString CodeText(int code)
 {
-    const bool isHexadecimal = Settings::Instance().numeralSystem.value() != 0;
-    return isHexadecimal ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
+    return ShownCode(quint16(code), Settings::Instance().numeralSystem.value() != 0);
 }
 
 const std::vector<UnicodeBlock>& UnicodeBlocks()

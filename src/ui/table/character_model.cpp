@@ -190,7 +190,7 @@ QVariant CharacterModel::headerData(int section, Qt::Orientation orientation, in
 
 QString CharacterModel::NumberText(int code) const
 {
-    return isHexadecimal_ ? u"0x"_s + Hex4Text(quint16(code)) : QString::number(code);
+    return ShownCode(quint16(code), isHexadecimal_);
 }
 
 QString CharacterModel::Description(quint16 code) const

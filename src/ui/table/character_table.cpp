@@ -1,6 +1,7 @@
 #include "ui/table/character_table.h"
 
-#include "model/encoding.h"
+#include "model/font.h"
+#include "ui/support/dialog_parts.h"
 #include "ui/table/character_delegate.h"
 #include "ui/table/character_model.h"
 
@@ -211,11 +212,9 @@ void CharacterTable::keyboardSearch(const QString& text)
     const Font* const font = model_->ShownFont();
     if (font == nullptr || text.size() != 1 || !text[0].isPrint())
         return;
-    quint16 code = text[0].unicode();
-    const EncodingType encoding = font->Metrics().encoding;
-    if (EncodingFor(EncodingType::Unicode).Convert(encoding, code) &&
-        font->FindChar(code) != nullptr)
-        SelectCode(code);
+    const auto code = Encoded(text[0].unicode(), font->Metrics().encoding);
+    if (code && font->FindChar(*code) != nullptr)
+        SelectCode(*code);
 }
 
 // Typing jumps to a character, so it must not trigger the commands that have letters as shortcuts,

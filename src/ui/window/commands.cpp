@@ -22,9 +22,6 @@ namespace Glyphor {
 Commands::Commands(const WindowParts& parts, QWidget& window)
     : QObject(&window), parts_(parts), window_(window)
 {
-    UndoStack& stack = parts_.session.Stack();
-    stack.AddUndoCommand(parts_.menus.Command(WindowCommand::Undo));
-    stack.AddRedoCommand(parts_.menus.Command(WindowCommand::Redo));
     connect(&parts_.document, &Document::DirectoriesRequested, this,
             [this](QWidget* parent) { EditPreferences(PreferencesDialog::Fonts, parent); });
     // Elsewhere their keys mean something else.

@@ -6,6 +6,7 @@
 #include "ui/dialogs/code_dialogs.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/guarded.h"
+#include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
 
 #include <QScopedValueRollback>
@@ -21,9 +22,14 @@ void RunAction(const std::shared_ptr<Action>& action)
 
 } // namespace
 
-EditCommands::EditCommands(Session& session, CharacterTable& table, CharBitmapView& editor,
-                           QWidget& window)
-    : QObject(&window), session_(session), table_(table), editor_(editor), window_(window)
+EditCommands::EditCommands(Session& session, UndoStack& history, CharacterTable& table,
+                           CharBitmapView& editor, QWidget& window)
+    : QObject(&window),
+      session_(session),
+      history_(history),
+      table_(table),
+      editor_(editor),
+      window_(window)
 {}
 
 CodeSet EditCommands::SelectedCharacters() const
@@ -53,9 +59,9 @@ void EditCommands::RunEdit(const Edit& edit)
 // Several actions that are undone as one.
 void EditCommands::RunMacro(const QString& text, const std::function<void()>& work)
 {
-    session_.Stack().beginMacro(text);
+    history_.beginMacro(text);
     RunTogether(work);
-    session_.Stack().endMacro();
+    history_.endMacro();
     Q_EMIT Done(text);
 }
 
@@ -88,12 +94,11 @@ void EditCommands::NoteChange(const Action* action)
 // Brings the view back to what changed.
 void EditCommands::MoveInHistory(bool isUndo)
 {
-    UndoStack& stack = session_.Stack();
-    const QString text = isUndo ? stack.ShownUndoText() : stack.ShownRedoText();
+    const QString text = isUndo ? history_.ShownUndoText() : history_.ShownRedoText();
     movedCodes_ = {};
     {
         const QScopedValueRollback move(isMovingInHistory_, true);
-        RunTogether([&] { isUndo ? stack.undo() : stack.redo(); });
+        RunTogether([&] { isUndo ? history_.undo() : history_.redo(); });
     }
     Q_EMIT Done((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(text));
     const int current = table_.CurrentCode();

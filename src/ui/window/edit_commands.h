@@ -16,6 +16,7 @@ class CharBitmapView;
 class CharacterTable;
 struct Edit;
 class Session;
+class UndoStack;
 
 // The commands that change the font by what is selected in the table and in the editor, and undo
 // and redo with what they mean for the selection. Failures are told.
@@ -25,7 +26,8 @@ class EditCommands final : public QObject
 
 public:
     // It belongs to the window. The others must outlive it.
-    EditCommands(Session& session, CharacterTable& table, CharBitmapView& editor, QWidget& window);
+    EditCommands(Session& session, UndoStack& history, CharacterTable& table,
+                 CharBitmapView& editor, QWidget& window);
 
     void RunEdit(const Edit& edit);
 
@@ -67,6 +69,7 @@ private:
     void MoveInHistory(bool isUndo);
 
     Session& session_;
+    UndoStack& history_;
     CharacterTable& table_;
     CharBitmapView& editor_;
     QWidget& window_;

@@ -1,6 +1,7 @@
 #include "ui/window/info_panel.h"
 
 #include "app/engine_texts.h"
+#include "files/font_file_c.h"
 #include "model/code_text.h"
 #include "model/encoding.h"
 #include "model/unicode_table.h"
@@ -94,10 +95,10 @@ void InfoPanel::ShowFont(const Font& font)
 void InfoPanel::ShowCharacter(const Font& font, quint16 code)
 {
     const Encoding& encoding = EncodingFor(font.Metrics().encoding);
-    Set(tr("Code"), hexadecimal_ ? u"0x"_s + Hex4Text(code) : QString::number(code));
-    quint16 unicode = code;
-    if (encoding.Convert(EncodingType::Unicode, unicode) && QChar(unicode).isPrint())
-        Set(tr("Character"), QChar(unicode));
+    Set(tr("Code"), ShownCode(code, hexadecimal_));
+    const auto unicode = encoding.Converted(EncodingType::Unicode, code);
+    if (unicode && QChar(*unicode).isPrint())
+        Set(tr("Character"), QChar(*unicode));
     Set(tr("Name"), encoding.CharName(code));
     Set(tr("Block"), encoding.BlockName(code));
     const Character* const character = font.FindChar(code);

@@ -13,6 +13,7 @@
 #include "ui/editor/pencil_tool.h"
 #include "ui/preview/text_preview.h"
 #include "ui/support/dialog_parts.h"
+#include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
 #include "ui/window/commands.h"
 #include "ui/window/edit_commands.h"
@@ -54,14 +55,15 @@ QString LocalFileOf(const QMimeData& data)
 
 } // namespace
 
-MainWindow::MainWindow(Session& session)
+MainWindow::MainWindow(Session& session, UndoStack& history)
     : session_(session),
+      history_(history),
       indexer_(new FontIndexer(this)),
       document_(new Document(session, *indexer_, *this)),
       menus_(new MenuBar(this)),
       panes_(new Panes),
-      edits_(new EditCommands(session, panes_->Table(), panes_->Editor(), *this)),
-      pencil_(new PencilTool(session, panes_->Editor())),
+      edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
+      pencil_(new PencilTool(session, history, panes_->Editor())),
       commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
                              *this)),
       status_(new StatusLine)
@@ -84,8 +86,7 @@ MainWindow::~MainWindow()
 {
     // These outlive what the slots use.
     delete commands_;
-    for (QObject* const sender :
-         std::initializer_list<QObject*>{&session_.Stack(), panes_, pencil_})
+    for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_, pencil_})
         disconnect(sender, nullptr, this, nullptr);
 }
 
@@ -112,7 +113,9 @@ ProgressArea& MainWindow::Progress() const
 void MainWindow::ConnectCommands()
 {
     connect(menus_, &MenuBar::CommandTriggered, this, &MainWindow::OnActionTriggered);
-    connect(&session_.Stack(), &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
+    history_.AddUndoCommand(menus_->Command(WindowCommand::Undo));
+    history_.AddRedoCommand(menus_->Command(WindowCommand::Redo));
+    connect(&history_, &QUndoStack::cleanChanged, this, &MainWindow::UpdateTitle);
     connect(qApp, &QApplication::focusChanged, commands_, &Commands::EnablePossible);
     connect(edits_, &EditCommands::Changed, this, &MainWindow::ShowChanges);
     connect(edits_, &EditCommands::Done, this, [this](const QString& text) {

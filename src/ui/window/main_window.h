@@ -20,6 +20,7 @@ class ProgressArea;
 class Session;
 class StatusLine;
 class TextPreview;
+class UndoStack;
 
 // The window: its menus with their commands, the views of the font, and what is remembered of them.
 // It is the interface of the actions, and shows what they did.
@@ -28,8 +29,8 @@ class MainWindow final : public QMainWindow, public GuiInterface
     Q_OBJECT
 
 public:
-    // The session must outlive the window.
-    explicit MainWindow(Session& session);
+    // The session, whose history is the given one, must outlive the window.
+    MainWindow(Session& session, UndoStack& history);
     ~MainWindow() override;
 
     // Of UserInterface.
@@ -74,6 +75,7 @@ private:
     void UpdateTitle();
 
     Session& session_;
+    UndoStack& history_;
     FontIndexer* indexer_;
     Document* document_;
     MenuBar* menus_;

@@ -37,11 +37,11 @@ public:
     UndoStack();
     ~UndoStack() override;
 
-    // Applies an executed action and takes it into the history; what was undone is dropped.
-    void Push(const std::shared_ptr<Action>& action);
-
-    // Forgets the history.
-    void Clear();
+    // What was undone is dropped.
+    void Push(const std::shared_ptr<Action>& action) override;
+    void Clear() override;
+    [[nodiscard]] bool IsAsSaved() const override { return isClean(); }
+    void MarkSaved() override { setClean(); }
 
     // What undo and redo would do now, in the language of the window; empty for nothing.
     [[nodiscard]] QString ShownUndoText() const;

@@ -1,4 +1,4 @@
-#include "actions/undo_stack.h"
+#include "ui/support/undo_stack.h"
 
 #include <QAction>
 
@@ -67,7 +67,7 @@ void UndoStack::Push(const std::shared_ptr<Action>& action)
     } else {
         action->Redo();
     }
-    ActionStack::Push(action);
+    Keep(action);
 }
 
 void UndoStack::Clear()

@@ -1,0 +1,16 @@
+#include "app/critical_exception.h"
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+QString CriticalException::DefaultTitle()
+{
+    return u"Critical error!"_s;
+}
+
+CriticalException::CriticalException(const QString& title, const QString& text)
+    : title_(title), text_(text), what_((title + u": "_s + text).toUtf8())
+{}
+
+} // namespace Glyphor
