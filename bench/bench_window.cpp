@@ -61,7 +61,7 @@ void MeasureTable()
     window.show();
     const auto show = [&] {
         session.ReplaceFont(MakeFont(0x10000, 16), QStringLiteral("large.c"));
-        window.actionChanged(nullptr);
+        window.ActionChanged(nullptr);
     };
     CharacterTable& table = window.Table();
     std::printf("A font of 65,536 characters\n");
@@ -76,7 +76,7 @@ void MeasureTable()
     Measure("an edit of the font", [&] { run(ActionType::FontInsertRowTop); });
     std::printf("A font of 8,192 characters with gaps, all selected\n");
     session.ReplaceFont(MakeFont(0x4000, 16, 2), QStringLiteral("gaps.c"));
-    window.actionChanged(nullptr);
+    window.ActionChanged(nullptr);
     QKeyEvent selectAll(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
     QCoreApplication::sendEvent(&table, &selectAll);
     Measure("an edit of them", [&] { run(ActionType::ShiftLeft); });
@@ -92,7 +92,7 @@ void MeasureEditor()
     SetCurrentInterface(&window);
     window.show();
     session.ReplaceFont(MakeFont(2, 255), QStringLiteral("tall.c"));
-    window.actionChanged(nullptr);
+    window.ActionChanged(nullptr);
     CharacterTable& table = window.Table();
     CharBitmapView& editor = window.Editor();
     std::printf("A character of 255 x 255 pixels\n");

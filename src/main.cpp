@@ -60,10 +60,10 @@ int main(int argc, char** argv)
     }
 
     const CoreApplication application(argc, argv);
-    CommandLine& commandLine = CommandLine::instance();
+    CommandLine& commandLine = CommandLine::Instance();
     Session session;
     SetCurrentInterface(&commandLine);
-    commandLine.runGuarded(argc, argv, session);
+    commandLine.RunGuarded(argc, argv, session);
     SetCurrentInterface(nullptr);
     return 0;
 }

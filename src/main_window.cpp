@@ -35,7 +35,7 @@ int main(int argc, char** argv)
     MainWindow window(session, history);
     SetCurrentInterface(&window);
     window.show();
-    CommandLine::instance().runGuarded(argc, argv, session);
+    CommandLine::Instance().RunGuarded(argc, argv, session);
     if (window.isVisible()) // not closed meanwhile
         Application::exec();
     SetCurrentInterface(nullptr);

@@ -85,7 +85,7 @@ void Action::Undo()
     applied_ -= repeat_;
     for (int step = 0; step < repeat_; ++step)
         UndoOnce();
-    CurrentInterface().actionChanged(self);
+    CurrentInterface().ActionChanged(self);
 }
 
 void Action::Redo()
@@ -94,7 +94,7 @@ void Action::Redo()
     applied_ += repeat_;
     for (int step = 0; step < repeat_; ++step)
         RedoOnce();
-    CurrentInterface().actionChanged(self);
+    CurrentInterface().ActionChanged(self);
 }
 
 } // namespace Glyphor

@@ -50,7 +50,7 @@ bool ActionSaveFile::MayReplace() const
         return true;
     const QString loss = Engine::tr("Beside the font: %1").arg(Enumerated(others));
     const QString name = Shown(Args().path);
-    switch (CurrentInterface().ask(
+    switch (CurrentInterface().Ask(
         Engine::tr("More than a font"),
         Engine::tr("The file %1 holds more than a font. Replace all of it?").arg(name) + u'\n' +
             loss)) {

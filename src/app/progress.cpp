@@ -13,7 +13,7 @@ Progress::Progress(const QString& text, int maximum) : text_(text), maximum_(std
 
 Progress::~Progress()
 {
-    CurrentInterface().progressFinished();
+    CurrentInterface().ProgressFinished();
 }
 
 void Progress::SetValue(int value)
@@ -34,7 +34,7 @@ bool Progress::Report()
 {
     lookedAt_ = 0;
     nextReport_ = value_ + std::max(1, maximum_ / 100);
-    return CurrentInterface().progressChanged(text_, value_, maximum_);
+    return CurrentInterface().ProgressChanged(text_, value_, maximum_);
 }
 
 } // namespace Glyphor

@@ -16,13 +16,13 @@ public:
     OptionBase(const OptionBase&) = delete;
     OptionBase& operator=(const OptionBase&) = delete;
 
-    [[nodiscard]] const QString& key() const { return key_; }
+    [[nodiscard]] const QString& Key() const { return key_; }
 
 protected:
     OptionBase(SettingsRegistry& registry, const QString& key) : registry_(registry), key_(key) {}
     ~OptionBase() = default;
 
-    [[nodiscard]] SettingsRegistry& registry() const { return registry_; }
+    [[nodiscard]] SettingsRegistry& Registry() const { return registry_; }
 
 private:
     SettingsRegistry& registry_;
@@ -46,7 +46,7 @@ public:
                 const Value& defaultValue, Check isValid = nullptr)
         : OptionBase(registry, key), variable_(variable)
     {
-        registry.registerDefault(key, QVariant::fromValue(defaultValue));
+        registry.RegisterDefault(key, QVariant::fromValue(defaultValue));
         const auto stored = ToSetting(registry.value(key), static_cast<const Value*>(nullptr));
         const bool isUsable = stored && (isValid == nullptr || isValid(*stored));
         variable_ = isUsable ? *stored : defaultValue;
@@ -57,7 +57,7 @@ public:
     void setValue(const Value& value)
     {
         variable_ = value;
-        registry().setValue(key(), QVariant::fromValue(value));
+        Registry().setValue(Key(), QVariant::fromValue(value));
     }
 
 private:
@@ -76,7 +76,7 @@ public:
     // The stored record; its defaults where none is stored or something else is.
     [[nodiscard]] Record load() const
     {
-        const QVariant stored = registry().value(key());
+        const QVariant stored = Registry().value(Key());
         return stored.canConvert<Record>() ? stored.value<Record>() : Record();
     }
 
@@ -85,7 +85,7 @@ public:
     {
         if constexpr (requires { record.unread; })
             record.unread = {};
-        registry().setValue(key(), QVariant::fromValue(std::move(record)));
+        Registry().setValue(Key(), QVariant::fromValue(std::move(record)));
     }
 };
 

@@ -4,7 +4,7 @@ namespace Glyphor {
 
 SettingsRegistry::SettingsRegistry(std::unique_ptr<QSettings> store) : store_(std::move(store)) {}
 
-void SettingsRegistry::registerDefault(const QString& key, const QVariant& value)
+void SettingsRegistry::RegisterDefault(const QString& key, const QVariant& value)
 {
     defaults_.insert(key, value);
     if (store_->contains(key))

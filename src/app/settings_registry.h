@@ -18,7 +18,7 @@ public:
     SettingsRegistry(const SettingsRegistry&) = delete;
     SettingsRegistry& operator=(const SettingsRegistry&) = delete;
 
-    void registerDefault(const QString& key, const QVariant& value);
+    void RegisterDefault(const QString& key, const QVariant& value);
 
     // The stored value, or the default, or nothing.
     [[nodiscard]] QVariant value(const QString& key) const;

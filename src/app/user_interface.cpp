@@ -29,14 +29,14 @@ bool UserInterface::actionPerformed(const std::shared_ptr<Action>& action, const
     return action != nullptr;
 }
 
-void UserInterface::actionChanged(const std::shared_ptr<Action>&) {}
+void UserInterface::ActionChanged(const std::shared_ptr<Action>&) {}
 
-bool UserInterface::progressChanged(const QString&, int, int)
+bool UserInterface::ProgressChanged(const QString&, int, int)
 {
     return true;
 }
 
-void UserInterface::progressFinished() {}
+void UserInterface::ProgressFinished() {}
 
 std::optional<FormatChoice> UserInterface::askFontFormat(EncodingType)
 {
@@ -48,7 +48,7 @@ std::optional<MergeMode> UserInterface::askMergeMode()
     return std::nullopt;
 }
 
-Answer UserInterface::ask(const QString&, const QString&)
+Answer UserInterface::Ask(const QString&, const QString&)
 {
     return Answer::Nobody;
 }

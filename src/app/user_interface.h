@@ -48,11 +48,11 @@ public:
     virtual bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) = 0;
 
     // Tells that an action was undone or redone, so that views show the change.
-    virtual void actionChanged(const std::shared_ptr<Action>& action) = 0;
+    virtual void ActionChanged(const std::shared_ptr<Action>& action) = 0;
 
     // Long work: `value` runs from 0 to `maximum`, in steps worth showing. False asks it to stop.
-    virtual bool progressChanged(const QString& text, int value, int maximum) = 0;
-    virtual void progressFinished() = 0;
+    virtual bool ProgressChanged(const QString& text, int value, int maximum) = 0;
+    virtual void ProgressFinished() = 0;
 
     // These give nothing where the user gives up. The encoding is `assumed` unless it is chosen
     // too.
@@ -60,7 +60,7 @@ public:
     virtual std::optional<MergeMode> askMergeMode() = 0;
 
     // A question with the answers yes and no.
-    virtual Answer ask(const QString& title, const QString& text) = 0;
+    virtual Answer Ask(const QString& title, const QString& text) = 0;
 
     virtual ~BasicInterface() = default;
 };
@@ -75,12 +75,12 @@ public:
     bool handleRequest(ActionType kind) override;
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
-    void actionChanged(const std::shared_ptr<Action>& action) override;
-    bool progressChanged(const QString& text, int value, int maximum) override;
-    void progressFinished() override;
+    void ActionChanged(const std::shared_ptr<Action>& action) override;
+    bool ProgressChanged(const QString& text, int value, int maximum) override;
+    void ProgressFinished() override;
     std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
     std::optional<MergeMode> askMergeMode() override;
-    Answer ask(const QString& title, const QString& text) override;
+    Answer Ask(const QString& title, const QString& text) override;
 };
 
 // The process-wide interface: a silent one until a front end sets its own.

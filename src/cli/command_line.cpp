@@ -54,7 +54,7 @@ std::optional<QString> ReadLine()
 
 CommandLine::CommandLine() : console_(stdout), progressConsole_(stderr) {}
 
-CommandLine& CommandLine::instance()
+CommandLine& CommandLine::Instance()
 {
     static CommandLine commandLine;
     return commandLine;
@@ -65,7 +65,7 @@ bool CommandLine::isCommandLineMode(int argc, const char* const* argv)
     return HasArgument(argc, argv, u"-hide");
 }
 
-void CommandLine::runGuarded(int argc, const char* const* argv, Session& session)
+void CommandLine::RunGuarded(int argc, const char* const* argv, Session& session)
 {
     const auto fail = [&](const QString& title, const QString& text) {
         CurrentInterface().critical(title, text);
@@ -96,10 +96,10 @@ void CommandLine::run(int argc, const char* const* argv, Session& session)
         ReorderOccurrences(occurrences);
     options_ = ReadRunOptions(occurrences, &CurrentInterface() != this);
     for (const OptionOccurrence& occurrence : occurrences)
-        execute(occurrence, session);
+        Execute(occurrence, session);
 }
 
-void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
+void CommandLine::Execute(const OptionOccurrence& occurrence, Session& session)
 {
     std::optional<CodeSet>& selection = options_.open.selection;
     switch (occurrence.Id()) {
@@ -119,10 +119,10 @@ void CommandLine::execute(const OptionOccurrence& occurrence, Session& session)
     if (row->make == nullptr)
         CurrentInterface().handleRequest(row->request);
     else
-        perform(row->make(occurrence, options_, session));
+        Perform(row->make(occurrence, options_, session));
 }
 
-void CommandLine::perform(const std::shared_ptr<Action>& action)
+void CommandLine::Perform(const std::shared_ptr<Action>& action)
 {
     requested_ = action.get();
     const auto forget = qScopeGuard([this] { requested_ = nullptr; });
@@ -186,26 +186,26 @@ bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const Q
     return true;
 }
 
-bool CommandLine::progressChanged(const QString& text, int value, int maximum)
+bool CommandLine::ProgressChanged(const QString& text, int value, int maximum)
 {
     if (progressConsole_.IsTerminal())
         progressConsole_.ShowStatus(u"%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
     return true;
 }
 
-void CommandLine::progressFinished()
+void CommandLine::ProgressFinished()
 {
     if (progressConsole_.IsTerminal())
         progressConsole_.ShowStatus({});
 }
 
-int CommandLine::askKeyword(const QString& reason, const QString& subject,
+int CommandLine::AskKeyword(const QString& reason, const QString& subject,
                             const ParameterKeywordTable& keywords)
 {
     console_.PrintLine(reason);
     for (;;) {
         console_.PrintLine(u"Please select a %1 that should be used:"_s.arg(subject));
-        console_.Print(parser_.keywordList(keywords));
+        console_.Print(parser_.KeywordList(keywords));
         const std::optional<QString> line = ReadLine();
         if (!line)
             throw CriticalException(
@@ -220,14 +220,14 @@ int CommandLine::askKeyword(const QString& reason, const QString& subject,
 std::optional<FormatChoice> CommandLine::askFontFormat(EncodingType assumed)
 {
     const int format =
-        askKeyword(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
+        AskKeyword(u"Font format not found in the file."_s, u"font format"_s, FormatKeywords());
     return FormatChoice{static_cast<FontFormat>(format), assumed};
 }
 
 std::optional<MergeMode> CommandLine::askMergeMode()
 {
     return static_cast<MergeMode>(
-        askKeyword(u"Duplicate characters have been found in both fonts. How should duplicate "
+        AskKeyword(u"Duplicate characters have been found in both fonts. How should duplicate "
                    "characters be handled?"_s,
                    u"merge mode"_s, MergeKeywords()));
 }

@@ -19,14 +19,14 @@ public:
     CommandLine();
 
     // The program's own, made on first use; it outlives the application object.
-    static CommandLine& instance();
+    static CommandLine& Instance();
 
     // True where "-hide" stands among the arguments, in any letter case.
     [[nodiscard]] static bool isCommandLineMode(int argc, const char* const* argv);
 
     // Parses and runs the arguments on the session's font. A failure is shown by the current
     // interface and ends the run; it goes no further.
-    void runGuarded(int argc, const char* const* argv, Session& session);
+    void RunGuarded(int argc, const char* const* argv, Session& session);
 
     // The same, throwing a CriticalException on failure.
     void run(int argc, const char* const* argv, Session& session);
@@ -37,17 +37,17 @@ public:
     bool handleRequest(ActionType kind) override;
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
-    bool progressChanged(const QString& text, int value, int maximum) override;
-    void progressFinished() override;
+    bool ProgressChanged(const QString& text, int value, int maximum) override;
+    void ProgressFinished() override;
 
     // Throw a CriticalException where standard input ends before an answer.
     std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
     std::optional<MergeMode> askMergeMode() override;
 
 private:
-    void execute(const OptionOccurrence& occurrence, Session& session);
-    void perform(const std::shared_ptr<Action>& action);
-    int askKeyword(const QString& reason, const QString& subject,
+    void Execute(const OptionOccurrence& occurrence, Session& session);
+    void Perform(const std::shared_ptr<Action>& action);
+    int AskKeyword(const QString& reason, const QString& subject,
                    const ParameterKeywordTable& keywords);
 
     CommandLineParser parser_;

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] QString usage() const;
 
     // The visible keywords with their descriptions, a line each, as the usage text has them.
-    [[nodiscard]] QString keywordList(const ParameterKeywordTable& keywords) const;
+    [[nodiscard]] QString KeywordList(const ParameterKeywordTable& keywords) const;
 };
 
 // Puts the options into the order in which they run: the character selection, then the font that it

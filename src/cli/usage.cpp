@@ -90,7 +90,7 @@ QString Entry(const CommandLineOption& option)
 
 } // namespace
 
-QString CommandLineParser::keywordList(const ParameterKeywordTable& keywords) const
+QString CommandLineParser::KeywordList(const ParameterKeywordTable& keywords) const
 {
     return Keywords(keywords);
 }

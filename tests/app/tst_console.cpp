@@ -45,12 +45,12 @@ private Q_SLOTS:
     {
         struct : UserInterface
         {
-            bool progressChanged(const QString&, int value, int maximum) override
+            bool ProgressChanged(const QString&, int value, int maximum) override
             {
                 values.append(value * 100 / maximum);
                 return value != stopsAt;
             }
-            void progressFinished() override { ++finished; }
+            void ProgressFinished() override { ++finished; }
             QList<int> values;
             int finished = 0;
             int stopsAt = -1;

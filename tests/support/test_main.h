@@ -34,7 +34,7 @@ public:
         performed.append(logText);
         return action != nullptr;
     }
-    void actionChanged(const std::shared_ptr<Action>&) override { ++changes; }
+    void ActionChanged(const std::shared_ptr<Action>&) override { ++changes; }
 
     QStringList warnings;
     QStringList performed;

@@ -23,7 +23,7 @@ void GuiInterface::critical(const QString& title, const QString& text)
     ShowPlainBox(nullptr, QMessageBox::Critical, title, text);
 }
 
-Answer GuiInterface::ask(const QString& title, const QString& text)
+Answer GuiInterface::Ask(const QString& title, const QString& text)
 {
     const auto button = ShowPlainBox(nullptr, QMessageBox::Question, title, text,
                                      QMessageBox::Yes | QMessageBox::No, QMessageBox::No);

@@ -12,7 +12,7 @@ public:
     void information(const QString& title, const QString& text) override;
     void warning(const QString& title, const QString& text) override;
     void critical(const QString& title, const QString& text) override;
-    Answer ask(const QString& title, const QString& text) override;
+    Answer Ask(const QString& title, const QString& text) override;
     std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
     std::optional<MergeMode> askMergeMode() override;
 };

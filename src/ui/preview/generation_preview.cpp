@@ -39,7 +39,7 @@ public:
 
     void warning(const QString&, const QString& text) override { warnings.append(text); }
 
-    bool progressChanged(const QString&, int, int) override
+    bool ProgressChanged(const QString&, int, int) override
     {
         if (sinceTurn_.elapsed() >= TurnDelay) {
             const InterfaceScope window(scope_.Previous());

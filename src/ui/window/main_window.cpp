@@ -297,14 +297,14 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
     return true;
 }
 
-void MainWindow::actionChanged(const std::shared_ptr<Action>& action)
+void MainWindow::ActionChanged(const std::shared_ptr<Action>& action)
 {
     edits_->NoteChange(action.get());
     if (!pencil_->IsStroking())
         ShowChanges();
 }
 
-bool MainWindow::progressChanged(const QString& text, int value, int maximum)
+bool MainWindow::ProgressChanged(const QString& text, int value, int maximum)
 {
     if (!Progress().IsWorking())
         OnProgbarInitCnt(text.toUtf8().constData(), 0, maximum);
@@ -312,7 +312,7 @@ bool MainWindow::progressChanged(const QString& text, int value, int maximum)
     return !Progress().IsStopped();
 }
 
-void MainWindow::progressFinished()
+void MainWindow::ProgressFinished()
 {
     OnProgbarClose();
 }

@@ -36,9 +36,9 @@ public:
     // Of UserInterface.
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
-    void actionChanged(const std::shared_ptr<Action>& action) override;
-    bool progressChanged(const QString& text, int value, int maximum) override;
-    void progressFinished() override;
+    void ActionChanged(const std::shared_ptr<Action>& action) override;
+    bool ProgressChanged(const QString& text, int value, int maximum) override;
+    void ProgressFinished() override;
     bool handleRequest(ActionType kind) override;
 
     [[nodiscard]] Document& CurrentDocument() const { return *document_; }
