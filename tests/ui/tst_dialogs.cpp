@@ -289,7 +289,7 @@ private Q_SLOTS:
         Labelled<QCheckBox>(dialog, u"Bold"_s)->setChecked(bold);
         Labelled<QRadioButton>(dialog, u"Characters of a text"_s)->click();
         QVERIFY(!Ok(dialog)->isEnabled());
-        dialog.findChild<QPlainTextEdit*>()->setPlainText(u"Glyphs\n123"_s);
+        dialog.findChild<QPlainTextEdit*>()->setPlainText(u"Glyphs\n123\u6F22"_s);
         QVERIFY(Ok(dialog)->isEnabled());
         dialog.Preview().SetSample(u"Glyphs 1"_s);
         QSignalSpy finished(&dialog.Preview(), &GenerationPreview::Finished);
@@ -311,6 +311,9 @@ private Q_SLOTS:
         const auto labels = dialog.Preview().findChildren<QLabel*>();
         QVERIFY(std::ranges::any_of(labels, [&sizes](const QLabel* label) {
             return label->text().endsWith(sizes) && label->text().startsWith(u"Line height: "_s);
+        }));
+        QVERIFY(std::ranges::any_of(labels, [](const QLabel* label) {
+            return label->isVisible() && label->text().endsWith(u": \u6F22"_s); // is missing
         }));
     }
 

@@ -103,6 +103,25 @@ private Q_SLOTS:
         QVERIFY(picture.pixelColor(Place(2, 0)) == QColor(255, 255, 128));
     }
 
+    // Of the baseline and the cursor distance, which may lie beyond the pixels.
+    void Guides()
+    {
+        Show(FontFormat::AA4);
+        Character& character = *font_->FindChar('B');
+        character.info.xPos = 1;
+        view_->SetCharacter(&character, 'B');
+        const QImage picture = view_->viewport()->grab().toImage();
+        const auto colour = [&](qreal column, qreal row) {
+            return picture.pixelColor(
+                view_->mapFromScene(QPointF(column, row) * view_->CellSize()));
+        };
+        QCOMPARE(colour(2.5, font_->Metrics().baseline), QColor(230, 30, 30));
+        QCOMPARE(colour(character.info.cursorDistance - 1, 2.5), QColor(40, 90, 220));
+        character.info.cursorDistance = 200; // too far away
+        view_->SetCharacter(&character, 'B');
+        QCOMPARE(view_->scene()->width(), 5 * view_->CellSize());
+    }
+
     void MouseAndKeys()
     {
         Show(FontFormat::AA2);

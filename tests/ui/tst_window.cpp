@@ -1,168 +1,36 @@
-#include "actions/action_save_file.h"
 #include "actions/edit_table.h"
-#include "actions/session.h"
 #include "app/progress.h"
 #include "app/settings.h"
-#include "files/font_file_c.h"
-#include "files/font_file_sif.h"
-#include "support/sample_font.h"
 #include "support/test_main.h"
-#include "ui/dialogs/font_generation_dialog.h"
-#include "ui/dialogs/format_box.h"
 #include "ui/dialogs/preferences_dialog.h"
-#include "ui/document/document.h"
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/preview/text_preview.h"
-#include "ui/support/undo_stack.h"
-#include "ui/table/character_table.h"
 #include "ui/window/help.h"
-#include "ui/window/main_window.h"
-#include "ui/window/menu_bar.h"
 #include "ui/window/progress_area.h"
+#include "ui/window_fixture.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
 #include <QCheckBox>
-#include <QCloseEvent>
-#include <QDropEvent>
-#include <QLabel>
-#include <QMessageBox>
-#include <QMimeData>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QSignalSpy>
-#include <QSpinBox>
-#include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
-#include <QTimer>
 
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
+using Test::BoxAnswer;
+using Test::DialogAnswer;
 
-namespace {
-
-// Answers the next box with a button, and tells its title and text.
-class BoxAnswer
-{
-public:
-    explicit BoxAnswer(QMessageBox::StandardButton button)
-    {
-        timer_.setInterval(10);
-        QObject::connect(&timer_, &QTimer::timeout, [this, button] {
-            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr)
-                return;
-            timer_.stop();
-            text = box->windowTitle() + u": "_s + box->text();
-            box->button(button)->click();
-        });
-        timer_.start();
-    }
-
-    QString text;
-
-private:
-    QTimer timer_;
-};
-
-// Has the next dialog of a kind answered.
-template <typename Dialog>
-class DialogAnswer
-{
-public:
-    explicit DialogAnswer(const std::function<void(Dialog&)>& answer)
-    {
-        timer_.setInterval(10);
-        QObject::connect(&timer_, &QTimer::timeout, [this, answer] {
-            auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr)
-                return;
-            timer_.stop();
-            wasAsked = true;
-            answer(*dialog);
-        });
-        timer_.start();
-    }
-
-    bool wasAsked = false;
-
-private:
-    QTimer timer_;
-};
-
-} // namespace
-
-class TestWindow : public QObject
+class TestWindow : public QObject, protected Test::WindowFixture
 {
     Q_OBJECT
 
-    QTemporaryDir folder_;
-    std::unique_ptr<UndoStack> history_;
-    std::unique_ptr<Session> session_;
-    std::unique_ptr<MainWindow> window_;
-
-    [[nodiscard]] QString Path(const char* name) const
-    {
-        return folder_.filePath(QString::fromUtf8(name));
-    }
-
-    template <typename Command>
-    [[nodiscard]] bool IsEnabled(Command command) const
-    {
-        return window_->Menus().Command(command)->isEnabled();
-    }
-
-    template <typename Command>
-    void Trigger(Command command) const
-    {
-        window_->Menus().Command(command)->trigger();
-    }
-
-    [[nodiscard]] Font& CurrentFont() const { return *session_->CurrentFont(); }
-
-    void OpenSample(FontFormat format = FontFormat::AA2)
-    {
-        const QString path = Path("sample.sif");
-        FontFileSample(format, path);
-        QVERIFY(window_->CurrentDocument().OpenFile(path));
-        window_->Table().SelectCode('A');
-    }
-
-    static void FontFileSample(FontFormat format, const QString& path);
-
-    [[nodiscard]] bool Drop(const QString& path) const
-    {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        event.setAccepted(false);
-        // Straight to the window: the application takes drops only from a drag of its own.
-        static_cast<QObject*>(window_.get())->event(&event);
-        return event.isAccepted();
-    }
-
 private Q_SLOTS:
-    void init()
-    {
-        history_ = std::make_unique<UndoStack>();
-        session_ = std::make_unique<Session>(*history_);
-        window_ = std::make_unique<MainWindow>(*session_, *history_);
-        SetCurrentInterface(window_.get());
-        window_->show();
-        window_->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
-    }
-
-    void cleanup()
-    {
-        SetCurrentInterface(nullptr);
-        window_.reset();
-        session_.reset();
-    }
+    void init() { OpenWindow(); }
+    void cleanup() { CloseWindow(); }
 
     void EnablingRules()
     {
@@ -204,11 +72,9 @@ private Q_SLOTS:
     void CommandsEditAndUndo_data()
     {
         QTest::addColumn<ActionType>("type");
-        for (const Edit& edit : EditTable()) {
-            if (edit.target != EditTarget::Pixel)
-                QTest::addRow("command %d", int(edit.type)) << edit.type;
-        }
-        for (const ActionType type : {ActionType::DisableAll, ActionType::Toggle})
+        for (const ActionType type :
+             {ActionType::ShiftLeft, ActionType::DeleteRowBottom, ActionType::FontInsertRowTop,
+              ActionType::DisableAll, ActionType::Toggle})
             QTest::addRow("command %d", int(type)) << type;
     }
 
@@ -429,115 +295,16 @@ private Q_SLOTS:
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
     }
 
-    void SavesAndTells()
-    {
-        OpenSample();
-        QVERIFY(window_->windowTitle().startsWith(u"sample.sif[*]"_s));
-        Trigger(ActionType::FontInsertRowTop);
-        QVERIFY(window_->isWindowModified());
-        Trigger(ActionType::SaveFont);
-        QVERIFY(!window_->isWindowModified());
-        Session other;
-        QVERIFY(session_->Path().endsWith(u"sample.sif"_s));
-        QVERIFY(window_->CurrentDocument().OpenFile(session_->Path()));
-        QCOMPARE(int(CurrentFont().Metrics().height), 4);
-    }
-
-    // Names of files may look like markup, or like the mark of changes.
-    void NamesAreShownPlainly()
-    {
-        const QByteArray name = "<h1>[*]&amp;\n.sif";
-        FontFileSample(FontFormat::AA2, Path(name.constData()));
-        QVERIFY(window_->CurrentDocument().OpenFile(Path(name.constData())));
-        QVERIFY(window_->windowTitle().startsWith(u"<h1>[*][*]&amp;\\n.sif[*] "_s));
-        for (const QLabel* const label : window_->statusBar()->findChildren<QLabel*>())
-            QCOMPARE(label->textFormat(), Qt::PlainText);
-        bool isPlain = false;
-        const DialogAnswer<QMessageBox> answer([&isPlain](QMessageBox& box) {
-            isPlain = box.textFormat() == Qt::PlainText && box.text().contains(u"<b>x.xbf"_s);
-            box.accept();
-        });
-        Test::WriteAll(Path("<b>x.xbf"), "nothing");
-        QVERIFY(!window_->CurrentDocument().OpenFile(Path("<b>x.xbf")));
-        QVERIFY(isPlain);
-    }
-
-    void AsksBeforeMoreThanAFontIsReplaced()
-    {
-        FontFileC(Path("code.c"), {}).Write(*Test::MakeSampleFont(FontFormat::AA2));
-        const QByteArray text = Test::ReadAll(Path("code.c")) + "int used;\n";
-        Test::WriteAll(Path("code.c"), text);
-        BoxAnswer told(QMessageBox::Ok);
-        QVERIFY(window_->CurrentDocument().OpenFile(Path("code.c")));
-        QVERIFY(told.text.endsWith(u"Beside it: used"_s));
-        for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
-            BoxAnswer answer(button);
-            const auto save = std::make_shared<ActionSaveFile>(*session_, ActionType::SaveFontAs);
-            save->Args().path = Path("code.c");
-            QCOMPARE(save->Run(), button == QMessageBox::Yes);
-            QVERIFY(answer.text.contains(u"holds more than a font. Replace all of it?"_s));
-            QCOMPARE(Test::ReadAll(Path("code.c")) == text, button == QMessageBox::No);
-        }
-    }
-
-    void FailuresKeepTheFont()
-    {
-        OpenSample();
-        Test::WriteAll(Path("bad.c"), "nothing");
-        const Font* const before = session_->CurrentFont();
-        BoxAnswer answer(QMessageBox::Ok);
-        QVERIFY(!window_->CurrentDocument().OpenFile(Path("bad.c")));
-        QVERIFY(answer.text.startsWith(u"Error reading C file!: GUI_FONT structure"_s));
-        QCOMPARE(session_->CurrentFont(), before);
-    }
-
-    void ScalableFontsAskHow()
-    {
-        const QString path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
-        {
-            const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) { dialog.reject(); });
-            QVERIFY(!window_->CurrentDocument().OpenFile(path));
-            QVERIFY(answer.wasAsked && session_->CurrentFont() == nullptr);
-        }
-        const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) {
-            dialog.template findChild<QSpinBox*>()->setValue(20);
-            dialog.accept();
-        });
-        QVERIFY(window_->CurrentDocument().OpenFile(path));
-        QVERIFY(answer.wasAsked && session_->CurrentFont()->FindChar('A') != nullptr);
-        // A file that is no font is told so without a question.
-        Test::WriteAll(Path("text.ttf"), "text");
-        BoxAnswer box(QMessageBox::Ok);
-        QVERIFY(!window_->CurrentDocument().OpenFile(Path("text.ttf")));
-        QVERIFY(box.text.startsWith(u"Font creation failed!"_s));
-    }
-
-    // A cut trailer has the format asked for; giving up is no failure.
-    void FormatsAreAskedFor()
-    {
-        FontFileSample(FontFormat::LegacyAA4, Path("old.sif"));
-        Test::WriteAll(Path("old.sif"), Test::ReadAll(Path("old.sif")).chopped(4));
-        {
-            const DialogAnswer<FormatDialog> answer([](auto& dialog) { dialog.reject(); });
-            QVERIFY(!window_->CurrentDocument().OpenFile(Path("old.sif")));
-        }
-        const DialogAnswer<FormatDialog> answer([](auto& dialog) {
-            dialog.template findChild<FormatBox*>()->SetFormat(FontFormat::LegacyAA4);
-            dialog.template findChild<EncodingBox*>()->SetEncoding(EncodingType::ShiftJis);
-            dialog.accept();
-        });
-        QVERIFY(window_->CurrentDocument().OpenFile(Path("old.sif")));
-        QCOMPARE(CurrentFont().Metrics().format, FontFormat::LegacyAA4);
-        QCOMPARE(CurrentFont().Metrics().encoding, EncodingType::ShiftJis);
-    }
-
     void PreferencesTakeEffectAtOnce()
     {
         OpenSample();
         QCOMPARE(window_->Table().model()->headerData(0, Qt::Vertical).toString(), u"0x0040"_s);
         for (const auto& [index, label] : {std::pair(0, u"64"_s), std::pair(1, u"0x0040"_s)}) {
             const DialogAnswer<PreferencesDialog> answer([index](auto& dialog) {
-                dialog.template findChild<QComboBox*>()->setCurrentIndex(index);
+                for (QComboBox* const box : dialog.template findChildren<QComboBox*>()) {
+                    if (box->itemText(0) == u"Decimal"_s)
+                        box->setCurrentIndex(index);
+                }
                 dialog.accept();
             });
             Trigger(WindowCommand::Preferences);
@@ -545,50 +312,69 @@ private Q_SLOTS:
         }
     }
 
-    void Closing_data()
+    void DeletingFromTheContextMenu()
     {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<bool>("closes");
-        QTest::addColumn<bool>("saves");
-        QTest::newRow("yes") << int(QMessageBox::Yes) << true << true;
-        QTest::newRow("no") << int(QMessageBox::No) << true << false;
-        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
-    }
-
-    void Closing()
-    {
-        QFETCH(const int, button);
-        QFETCH(const bool, closes);
-        QFETCH(const bool, saves);
         OpenSample();
-        const QByteArray old = Test::ReadAll(Path("sample.sif"));
-        Trigger(ActionType::FontInsertRowTop);
-        BoxAnswer answer{QMessageBox::StandardButton(button)};
-        QCOMPARE(window_->close(), closes);
-        QCOMPARE(answer.text, u"Save file?: Save current file?"_s);
-        QCOMPARE(Test::ReadAll(Path("sample.sif")) != old, saves);
+        const QByteArray before = Test::Snapshot(CurrentFont());
+        CharacterTable& table = window_->Table();
+        QTest::keyClick(&table, Qt::Key_Right, Qt::ShiftModifier); // from A to B
+        QStringList entries;
+        QTimer::singleShot(0, &table, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu != nullptr && menu->parent() == &table);
+            for (QAction* const entry : menu->actions())
+                entries.append(entry->text());
+            menu->actions()[3]->trigger();
+            menu->close();
+        });
+        const QPoint place = table.CellRect('B').center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                                table.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(table.viewport(), &event);
+        QCOMPARE(entries.first(4),
+                 (QStringList{u"&Enable"_s, u"&Disable"_s, u"&Toggle character"_s, u"De&lete"_s}));
+        QVERIFY(entries.contains(u"&Move"_s) && !entries.contains(u"Pi&xel index"_s));
+        QVERIFY(CurrentFont().FindChar('A') == nullptr && CurrentFont().FindChar('B') == nullptr);
+        QVERIFY(CurrentFont().FindChar('C') != nullptr);
+        Trigger(WindowCommand::Undo);
+        QCOMPARE(Test::Snapshot(CurrentFont()), before);
     }
 
-    void Drops()
+    void CommandsOpenTheirDialogs_data()
     {
-        FontFileSample(FontFormat::AA4, Path("drop.sif"));
-        QVERIFY(Drop(Path("drop.sif")));
-        QVERIFY(session_->CurrentFont() != nullptr);
-        QCOMPARE(Document::PurposeOf(u"a.TXT"_s), ActionType::ReadPattern);
-        QCOMPARE(Document::PurposeOf(u"a.png"_s), ActionType::None);
-        Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe7e00"));
-        CurrentFont().SetEnabled(0x42, 0x42, false);
-        Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe4200"));
-        {
-            BoxAnswer answer(QMessageBox::No);
-            QVERIFY(!Drop(Path("pattern.txt")));
-            QCOMPARE(answer.text,
-                     u"Load pattern file?: Apply the pattern file pattern.txt to this font?"_s);
-            QVERIFY(!CurrentFont().IsEnabled(0x42));
-        }
-        BoxAnswer answer(QMessageBox::Yes);
-        QVERIFY(Drop(Path("pattern.txt")));
-        QVERIFY(CurrentFont().IsEnabled(0x42));
+        QTest::addColumn<quint32>("id");
+        QTest::addColumn<QString>("title");
+        const auto row = [](auto command, const QString& title) {
+            QTest::addRow("%s", qPrintable(title)) << CommandId(command) << title;
+        };
+        row(ActionType::CreateFont, u"New font"_s);
+        row(ActionType::OpenFont, u"Open font file"_s);
+        row(ActionType::SaveFontAs, u"Save font file"_s);
+        row(ActionType::ReadPattern, u"Read pattern file"_s);
+        row(ActionType::SavePattern, u"Save pattern file"_s);
+        row(ActionType::SaveKerning, u"Save kerning file"_s);
+        row(ActionType::Enable, u"Enable range of characters"_s);
+        row(ActionType::Disable, u"Disable range of characters"_s);
+        row(WindowCommand::GoToCharacter, u"Go to character"_s);
+        row(WindowCommand::Preferences, u"Preferences"_s);
+        row(WindowCommand::About, u"About Glyphor"_s);
+        row(WindowCommand::CommandLineOptions, u"Command line options"_s);
+    }
+
+    void CommandsOpenTheirDialogs()
+    {
+        QFETCH(const quint32, id);
+        QFETCH(const QString, title);
+        OpenSample();
+        CurrentFont().SetHasKerning(true);
+        Q_EMIT window_->Table().CodesSelected(); // enables anew
+        QString shown;
+        const DialogAnswer<QDialog> answer([&shown](QDialog& dialog) {
+            shown = dialog.windowTitle();
+            dialog.reject();
+        });
+        Trigger(id);
+        QCOMPARE(shown, title);
     }
 
     void WorkCanBeStopped_data()
@@ -665,11 +451,6 @@ private Q_SLOTS:
         QCOMPARE(other.size(), QSize(1240, 760));
     }
 };
-
-void TestWindow::FontFileSample(FontFormat format, const QString& path)
-{
-    FontFileSIF(path).Write(*Test::MakeSampleFont(format));
-}
 
 GLYPHOR_TEST(TestWindow)
 

@@ -1,0 +1,230 @@
+#include "actions/action_save_file.h"
+#include "files/font_file_c.h"
+#include "support/test_main.h"
+#include "ui/dialogs/font_generation_dialog.h"
+#include "ui/dialogs/format_box.h"
+#include "ui/window_fixture.h"
+
+#include <QComboBox>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMimeData>
+#include <QSpinBox>
+#include <QStatusBar>
+
+namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+using Test::BoxAnswer;
+using Test::DialogAnswer;
+
+class TestDocument : public QObject, protected Test::WindowFixture
+{
+    Q_OBJECT
+
+    [[nodiscard]] bool Drop(const QString& path) const
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        event.setAccepted(false);
+        // Straight to the window: the application takes drops only from a drag of its own.
+        static_cast<QObject*>(window_.get())->event(&event);
+        return event.isAccepted();
+    }
+
+private Q_SLOTS:
+    void init() { OpenWindow(); }
+    void cleanup() { CloseWindow(); }
+
+    void SavesAndTells()
+    {
+        OpenSample();
+        QVERIFY(window_->windowTitle().startsWith(u"sample.sif[*]"_s));
+        Trigger(ActionType::FontInsertRowTop);
+        QVERIFY(window_->isWindowModified());
+        Trigger(ActionType::SaveFont);
+        QVERIFY(!window_->isWindowModified());
+        Session other;
+        QVERIFY(session_->Path().endsWith(u"sample.sif"_s));
+        QVERIFY(Open(session_->Path()));
+        QCOMPARE(int(CurrentFont().Metrics().height), 4);
+    }
+
+    // Names of files may look like markup, or like the mark of changes.
+    void NamesAreShownPlainly()
+    {
+        const QByteArray name = "<h1>[*]&amp;\n.sif";
+        WriteSample(FontFormat::AA2, Path(name.constData()));
+        QVERIFY(Open(Path(name.constData())));
+        QVERIFY(window_->windowTitle().startsWith(u"<h1>[*][*]&amp;\\n.sif[*] "_s));
+        for (const QLabel* const label : window_->statusBar()->findChildren<QLabel*>())
+            QCOMPARE(label->textFormat(), Qt::PlainText);
+        bool isPlain = false;
+        const DialogAnswer<QMessageBox> answer([&isPlain](QMessageBox& box) {
+            isPlain = box.textFormat() == Qt::PlainText && box.text().contains(u"<b>x.xbf"_s);
+            box.accept();
+        });
+        Test::WriteAll(Path("<b>x.xbf"), "nothing");
+        QVERIFY(!Open(Path("<b>x.xbf")));
+        QVERIFY(isPlain);
+    }
+
+    void AsksBeforeMoreThanAFontIsReplaced()
+    {
+        FontFileC(Path("code.c"), {}).Write(*Test::MakeSampleFont(FontFormat::AA2));
+        const QByteArray text = Test::ReadAll(Path("code.c")) + "int used;\n";
+        Test::WriteAll(Path("code.c"), text);
+        BoxAnswer told(QMessageBox::Ok);
+        QVERIFY(Open(Path("code.c")));
+        QVERIFY(told.text.endsWith(u"Beside it: used"_s));
+        for (const auto button : {QMessageBox::No, QMessageBox::Yes}) {
+            BoxAnswer answer(button);
+            const auto save = std::make_shared<ActionSaveFile>(*session_, ActionType::SaveFontAs);
+            save->Args().path = Path("code.c");
+            QCOMPARE(save->Run(), button == QMessageBox::Yes);
+            QVERIFY(answer.text.contains(u"holds more than a font. Replace all of it?"_s));
+            QCOMPARE(Test::ReadAll(Path("code.c")) == text, button == QMessageBox::No);
+        }
+    }
+
+    void FailuresKeepTheFont()
+    {
+        OpenSample();
+        Test::WriteAll(Path("bad.c"), "nothing");
+        const Font* const before = session_->CurrentFont();
+        BoxAnswer answer(QMessageBox::Ok);
+        QVERIFY(!Open(Path("bad.c")));
+        QVERIFY(answer.text.startsWith(u"Error reading C file!: GUI_FONT structure"_s));
+        QCOMPARE(session_->CurrentFont(), before);
+    }
+
+    void SavedNamesGetTheSuffixOfTheirKind_data()
+    {
+        QTest::addColumn<QString>("kind"); // empty: the one that is proposed
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("saved");
+        QTest::newRow("proposed") << QString() << u"first"_s << u"first.sif"_s;
+        QTest::newRow("chosen") << u"*.xbf"_s << u"second"_s << u"second.xbf"_s;
+        QTest::newRow("first of several") << u"*.cpp"_s << u"third"_s << u"third.c"_s;
+        QTest::newRow("typed") << u"*.xbf"_s << u"fourth.c"_s << u"fourth.c"_s;
+    }
+
+    void SavedNamesGetTheSuffixOfTheirKind()
+    {
+        QFETCH(const QString, kind);
+        QFETCH(const QString, typed);
+        QFETCH(const QString, saved);
+        OpenSample();
+        QString proposed;
+        const DialogAnswer<QFileDialog> answer([&](QFileDialog& dialog) {
+            proposed = dialog.selectedNameFilter();
+            auto* const kinds = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);
+            if (const int index = kinds->findText(kind, Qt::MatchContains); !kind.isEmpty()) {
+                kinds->setCurrentIndex(index);
+                Q_EMIT kinds->textActivated(kinds->currentText());
+                Q_EMIT kinds->activated(index);
+            }
+            dialog.setDirectory(folder_.path());
+            dialog.selectFile(typed);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        Trigger(ActionType::SaveFontAs);
+        QVERIFY(proposed.contains(u"*.sif"_s));
+        QCOMPARE(session_->Path(), folder_.filePath(saved));
+        QVERIFY(QFile::exists(folder_.filePath(saved)));
+    }
+
+    void ScalableFontsAskHow()
+    {
+        const QString path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
+        {
+            const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) { dialog.reject(); });
+            QVERIFY(!Open(path));
+            QVERIFY(answer.wasAsked && session_->CurrentFont() == nullptr);
+        }
+        const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) {
+            dialog.template findChild<QSpinBox*>()->setValue(20);
+            dialog.accept();
+        });
+        QVERIFY(Open(path));
+        QVERIFY(answer.wasAsked && session_->CurrentFont()->FindChar('A') != nullptr);
+        // A file that is no font is told so without a question.
+        Test::WriteAll(Path("text.ttf"), "text");
+        BoxAnswer box(QMessageBox::Ok);
+        QVERIFY(!Open(Path("text.ttf")));
+        QVERIFY(box.text.startsWith(u"Font creation failed!"_s));
+    }
+
+    // A cut trailer has the format asked for; giving up is no failure.
+    void FormatsAreAskedFor()
+    {
+        WriteSample(FontFormat::LegacyAA4, Path("old.sif"));
+        Test::WriteAll(Path("old.sif"), Test::ReadAll(Path("old.sif")).chopped(4));
+        {
+            const DialogAnswer<FormatDialog> answer([](auto& dialog) { dialog.reject(); });
+            QVERIFY(!Open(Path("old.sif")));
+        }
+        const DialogAnswer<FormatDialog> answer([](auto& dialog) {
+            dialog.template findChild<FormatBox*>()->SetFormat(FontFormat::LegacyAA4);
+            dialog.template findChild<EncodingBox*>()->SetEncoding(EncodingType::ShiftJis);
+            dialog.accept();
+        });
+        QVERIFY(Open(Path("old.sif")));
+        QCOMPARE(CurrentFont().Metrics().format, FontFormat::LegacyAA4);
+        QCOMPARE(CurrentFont().Metrics().encoding, EncodingType::ShiftJis);
+    }
+
+    void Closing_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<bool>("closes");
+        QTest::addColumn<bool>("saves");
+        QTest::newRow("yes") << int(QMessageBox::Yes) << true << true;
+        QTest::newRow("no") << int(QMessageBox::No) << true << false;
+        QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
+    }
+
+    void Closing()
+    {
+        QFETCH(const int, button);
+        QFETCH(const bool, closes);
+        QFETCH(const bool, saves);
+        OpenSample();
+        const QByteArray old = Test::ReadAll(Path("sample.sif"));
+        Trigger(ActionType::FontInsertRowTop);
+        BoxAnswer answer{QMessageBox::StandardButton(button)};
+        QCOMPARE(window_->close(), closes);
+        QCOMPARE(answer.text, u"Save file?: Save current file?"_s);
+        QCOMPARE(Test::ReadAll(Path("sample.sif")) != old, saves);
+    }
+
+    void Drops()
+    {
+        WriteSample(FontFormat::AA4, Path("drop.sif"));
+        QVERIFY(Drop(Path("drop.sif")));
+        QVERIFY(session_->CurrentFont() != nullptr);
+        QCOMPARE(Document::PurposeOf(u"a.TXT"_s), ActionType::ReadPattern);
+        QCOMPARE(Document::PurposeOf(u"a.png"_s), ActionType::None);
+        Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe7e00"));
+        CurrentFont().SetEnabled(0x42, 0x42, false);
+        Test::WriteAll(Path("pattern.txt"), QByteArray::fromHex("fffe4200"));
+        {
+            BoxAnswer answer(QMessageBox::No);
+            QVERIFY(!Drop(Path("pattern.txt")));
+            QCOMPARE(answer.text,
+                     u"Load pattern file?: Apply the pattern file pattern.txt to this font?"_s);
+            QVERIFY(!CurrentFont().IsEnabled(0x42));
+        }
+        BoxAnswer answer(QMessageBox::Yes);
+        QVERIFY(Drop(Path("pattern.txt")));
+        QVERIFY(CurrentFont().IsEnabled(0x42));
+    }
+};
+
+GLYPHOR_TEST(TestDocument)
+
+} // namespace Glyphor
+
+#include "tst_document.moc"
