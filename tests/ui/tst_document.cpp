@@ -130,6 +130,7 @@ private Q_SLOTS:
             dialog.selectFile(typed);
             QMetaObject::invokeMethod(&dialog, "accept");
         });
+        const BoxAnswer failure(QMessageBox::Ok); // of a name without a suffix
         Trigger(ActionType::SaveFontAs);
         QVERIFY(proposed.contains(u"*.sif"_s));
         QCOMPARE(session_->Path(), folder_.filePath(saved));
