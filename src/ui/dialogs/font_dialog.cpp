@@ -1,12 +1,10 @@
 #include "ui/dialogs/font_dialog.h"
 
 #include "actions/action_open_font.h"
-#include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/settings.h"
-#include "app/user_interface.h"
 #include "ui/dialogs/font_size_box.h"
-#include "ui/preview/text_preview.h"
+#include "ui/preview/face_sample.h"
 #include "ui/support/dialog_parts.h"
 
 #include <QComboBox>
@@ -25,7 +23,6 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 
 namespace Glyphor {
 
@@ -34,7 +31,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr quint32 UsualWeight = 400;
-constexpr int ReadableHeight = 60; // of the sample, in pixels of the screen
 
 struct ScriptRow
 {
@@ -79,22 +75,6 @@ bool HasRange(const FontFamily& family, int bit)
     return bit / 32 < words.size() && (words[bit / 32] >> (bit % 32) & 1) != 0;
 }
 
-// A text that the face has characters for.
-QString SampleOf(const FreeTypeFace& face)
-{
-    constexpr qsizetype length = 40;
-    const QString usual = FontDialog::tr("The quick brown fox 0123456789");
-    QString own;
-    bool hasUsual = false;
-    face.WalkCharmap([&](quint16 code, FT_UInt) {
-        hasUsual = hasUsual || code == u'a';
-        if (QChar(code).isLetter() && own.size() < length)
-            own.append(QChar(code));
-        return !hasUsual;
-    });
-    return hasUsual ? usual : own;
-}
-
 } // namespace
 
 FontDialog::FontDialog(QWidget* parent)
@@ -104,7 +84,7 @@ FontDialog::FontDialog(QWidget* parent)
       families_(new QListWidget),
       styles_(new QTreeWidget),
       size_(new FontSizeBox),
-      strip_(new TextStrip),
+      sample_(new FaceSample),
       status_(PlainLabel()),
       index_(new QPushButton)
 {
@@ -165,7 +145,6 @@ FontDialog::~FontDialog()
         record.script = script_->currentData(Qt::UserRole + 1).toString();
     }
     Settings::Instance().fontDialog.save(record);
-    strip_->ShowFont(nullptr);
 }
 
 QWidget* FontDialog::MakeChoices()
@@ -215,7 +194,7 @@ QWidget* FontDialog::MakeSample()
     sizeRow->addWidget(size_);
     sizeRow->addStretch();
     auto* const area = new QScrollArea;
-    area->setWidget(strip_);
+    area->setWidget(sample_);
     area->setWidgetResizable(true);
     area->setMinimumHeight(90);
     area->setFocusPolicy(Qt::NoFocus);
@@ -316,36 +295,17 @@ void FontDialog::ShowStyles()
     ShowSample();
 }
 
-// In the real face and at the real size; failures show when the font is made.
 void FontDialog::ShowSample()
 {
-    strip_->ShowFont(nullptr);
-    sample_.reset();
     ok_->setEnabled(!Path().isEmpty());
     if (Path().isEmpty())
-        return;
+        return sample_->ShowNothing();
     wantedStyle_ = ChosenStyle();
-    const QString text = SampleOf(Family()->Face(ChosenStyle()));
     ActionOpenFontArgs args;
     args.path = Path();
     args.render.faceIndex = FaceIndex();
-    args.format = FontFormat::AA4;
     RenderAt(ChosenSize(), args);
-    args.selection.emplace();
-    for (const QChar character : text)
-        args.selection->Set(character.unicode(), true);
-    UserInterface silent;
-    const InterfaceScope scope(silent);
-    try {
-        sample_ = ReadFont(args);
-    } catch (const CriticalException&) {
-        return;
-    } catch (const std::bad_alloc&) {
-        return;
-    }
-    strip_->SetText(text);
-    strip_->SetZoom(std::clamp(ReadableHeight / std::max<int>(1, sample_->Metrics().height), 1, 4));
-    strip_->ShowFont(sample_.get());
+    sample_->ShowFace(Family()->Face(ChosenStyle()), std::move(args));
 }
 
 QString FontDialog::Path() const

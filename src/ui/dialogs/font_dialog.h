@@ -15,8 +15,8 @@ class QTreeWidget;
 
 namespace Glyphor {
 
+class FaceSample;
 class FontSizeBox;
-class TextStrip;
 
 // Chooses an installed font: its family, its style and a size. The last choice is remembered.
 class FontDialog final : public QDialog
@@ -64,12 +64,11 @@ private:
     QListWidget* families_;
     QTreeWidget* styles_;
     FontSizeBox* size_;
-    TextStrip* strip_;
+    FaceSample* sample_;
     QLabel* status_;
     QPushButton* index_; // starts it, or stops it
     bool isIndexing_ = false;
     QPushButton* ok_ = nullptr;
-    std::unique_ptr<Font> sample_;
 };
 
 } // namespace Glyphor

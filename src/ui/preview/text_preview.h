@@ -13,7 +13,7 @@ class QToolButton;
 namespace Glyphor {
 
 // A line of text in the pixels of a font, placed by the cursor distances as firmware places it.
-class TextStrip final : public QWidget
+class TextStrip : public QWidget
 {
     Q_OBJECT
 

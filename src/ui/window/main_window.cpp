@@ -19,9 +19,7 @@
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
 #include "ui/window/menu_bar.h"
-#include "ui/window/panes.h"
 #include "ui/window/progress_area.h"
-#include "ui/window/status_line.h"
 #include "ui/window/tool_bar.h"
 
 #include <QAction>
@@ -88,26 +86,6 @@ MainWindow::~MainWindow()
     delete commands_;
     for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_, pencil_})
         disconnect(sender, nullptr, this, nullptr);
-}
-
-CharacterTable& MainWindow::Table() const
-{
-    return panes_->Table();
-}
-
-CharBitmapView& MainWindow::Editor() const
-{
-    return panes_->Editor();
-}
-
-TextPreview& MainWindow::Preview() const
-{
-    return panes_->Preview();
-}
-
-ProgressArea& MainWindow::Progress() const
-{
-    return status_->Progress();
 }
 
 void MainWindow::ConnectCommands()

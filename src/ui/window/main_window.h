@@ -1,25 +1,21 @@
 #pragma once
 
 #include "ui/dialogs/gui_interface.h"
+#include "ui/window/panes.h"
+#include "ui/window/status_line.h"
 
 #include <QMainWindow>
 #include <QTimer>
 
 namespace Glyphor {
 
-class CharBitmapView;
-class CharacterTable;
 class Commands;
 class Document;
 class EditCommands;
 class FontIndexer;
 class MenuBar;
-class Panes;
 class PencilTool;
-class ProgressArea;
 class Session;
-class StatusLine;
-class TextPreview;
 class UndoStack;
 
 // The window: its menus with their commands, the views of the font, and what is remembered of them.
@@ -43,10 +39,10 @@ public:
 
     [[nodiscard]] Document& CurrentDocument() const { return *document_; }
     [[nodiscard]] MenuBar& Menus() const { return *menus_; }
-    [[nodiscard]] CharacterTable& Table() const;
-    [[nodiscard]] CharBitmapView& Editor() const;
-    [[nodiscard]] TextPreview& Preview() const;
-    [[nodiscard]] ProgressArea& Progress() const;
+    [[nodiscard]] CharacterTable& Table() const { return panes_->Table(); }
+    [[nodiscard]] CharBitmapView& Editor() const { return panes_->Editor(); }
+    [[nodiscard]] TextPreview& Preview() const { return panes_->Preview(); }
+    [[nodiscard]] ProgressArea& Progress() const { return status_->Progress(); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;

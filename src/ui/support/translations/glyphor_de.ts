@@ -1013,11 +1013,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
-    <name>Glyphor::FontDialog</name>
+    <name>Glyphor::FaceSample</name>
     <message>
         <source>The quick brown fox 0123456789</source>
         <translation>Zwölf Boxkämpfer jagen 0123456789</translation>
     </message>
+</context>
+<context>
+    <name>Glyphor::FontDialog</name>
     <message>
         <source>Inde&amp;x again</source>
         <translation>Neu e&amp;rfassen</translation>
