@@ -8,51 +8,6 @@ BasicInterface* current = nullptr;
 
 } // namespace
 
-void UserInterface::information(const QString&, const QString&) {}
-
-void UserInterface::warning(const QString&, const QString&) {}
-
-void UserInterface::critical(const QString&, const QString&) {}
-
-bool UserInterface::handleRequest(ActionType)
-{
-    return false;
-}
-
-bool UserInterface::requestAction(Action&)
-{
-    return false;
-}
-
-bool UserInterface::actionPerformed(const std::shared_ptr<Action>& action, const QString&)
-{
-    return action != nullptr;
-}
-
-void UserInterface::actionChanged(const std::shared_ptr<Action>&) {}
-
-bool UserInterface::progressChanged(const QString&, int, int)
-{
-    return true;
-}
-
-void UserInterface::progressFinished() {}
-
-std::optional<FormatChoice> UserInterface::askFontFormat(EncodingType)
-{
-    return std::nullopt;
-}
-
-std::optional<MergeMode> UserInterface::askMergeMode()
-{
-    return std::nullopt;
-}
-
-Answer UserInterface::ask(const QString&, const QString&)
-{
-    return Answer::Nobody;
-}
-
 BasicInterface& CurrentInterface()
 {
     static UserInterface silent;
