@@ -44,6 +44,12 @@ public:
 // A file that comes with the tests or is made for them.
 [[nodiscard]] QString FontPath(const char* name);
 
+// The words between blanks.
+[[nodiscard]] inline QStringList Words(const QString& line)
+{
+    return line.split(u' ', Qt::SkipEmptyParts);
+}
+
 [[nodiscard]] QByteArray ReadAll(const QString& path);
 void WriteAll(const QString& path, const QByteArray& contents);
 
