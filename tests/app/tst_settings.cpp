@@ -1,4 +1,5 @@
 #include "app/settings.h"
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QTemporaryDir>
@@ -119,21 +120,17 @@ private Q_SLOTS:
 
     void LineEndings_data()
     {
-        QTest::addColumn<bool>("system");
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<QByteArray>("ending");
-        QTest::newRow("system") << true << 2 << QByteArray("\r\n");
-        QTest::newRow("CR LF") << false << 0 << QByteArray("\r\n");
-        QTest::newRow("CR") << false << 1 << QByteArray("\r");
-        QTest::newRow("LF") << false << 2 << QByteArray("\n");
-        QTest::newRow("unknown") << false << 77 << QByteArray("\r\n");
+        const Test::Rows<bool, int, QByteArray> row;
+        row("system", true, 2, QByteArray("\r\n"));
+        row("CR LF", false, 0, QByteArray("\r\n"));
+        row("CR", false, 1, QByteArray("\r"));
+        row("LF", false, 2, QByteArray("\n"));
+        row("unknown", false, 77, QByteArray("\r\n"));
     }
 
     void LineEndings()
     {
-        QFETCH(const bool, system);
-        QFETCH(const int, choice);
-        QFETCH(const QByteArray, ending);
+        const auto [system, choice, ending] = Test::Row<bool, int, QByteArray>();
         Settings settings(Store({}));
         settings.useSysLineEndings.setValue(system);
         settings.lineEndings.setValue(choice);
