@@ -1,4 +1,5 @@
 #include "render/font_file_scalable.h"
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QTest>
@@ -232,18 +233,15 @@ private Q_SLOTS:
 
     void Effects_data()
     {
-        QTest::addColumn<quint32>("effects");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("bold") << quint32(BoldEffect) << u"Test Outlines Regular (Bold)"_s;
-        QTest::newRow("italic") << quint32(ItalicEffect) << u"Test Outlines Regular (Italic)"_s;
-        QTest::newRow("both") << quint32(BoldEffect | ItalicEffect)
-                              << u"Test Outlines Regular (Bold, Italic)"_s;
+        const Test::Rows<quint32, QString> row;
+        row("bold", quint32(BoldEffect), u"Test Outlines Regular (Bold)"_s);
+        row("italic", quint32(ItalicEffect), u"Test Outlines Regular (Italic)"_s);
+        row("both", quint32(BoldEffect | ItalicEffect), u"Test Outlines Regular (Bold, Italic)"_s);
     }
 
     void Effects()
     {
-        QFETCH(const quint32, effects);
-        QFETCH(const QString, name);
+        const auto [effects, name] = Test::Row<quint32, QString>();
         Test::RecordingInterface interface;
         const auto plain = Render("outlines.ttf", At(40));
         RenderOptions options = At(40);
