@@ -1,6 +1,7 @@
 #include "actions/action_read_pattern.h"
 #include "actions/pattern_file.h"
 #include "app/critical_exception.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "support/undo_session.h"
@@ -21,15 +22,8 @@ class TestPattern : public QObject
 private Q_SLOTS:
     void Reading_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QList<int>>("codes");
-        QTest::addColumn<int>("warnings");
-        QTest::addColumn<QString>("failure");
+        const Test::Rows<const char*, QList<int>, int, QString> row;
         const QString encoding = u"Wrong encoding in pattern file!"_s;
-        const auto row = [](const char* name, const char* hex, const QList<int>& codes,
-                            int warnings, const QString& failure) {
-            QTest::newRow(name) << QByteArray::fromHex(hex) << codes << warnings << failure;
-        };
         row("mark only", "fffe", {}, 0, {});
         row("AB and a line break", "fffe 4200 4100 4100 0d00 0a00", {0x0A, 0x0D, 0x41, 0x42}, 0,
             {});
@@ -42,11 +36,9 @@ private Q_SLOTS:
 
     void Reading()
     {
-        QFETCH(const QByteArray, bytes);
-        QFETCH(const QList<int>, codes);
-        QFETCH(const int, warnings);
-        QFETCH(const QString, failure);
-        Test::WriteAll(Path(), bytes);
+        const auto [hex, codes, warnings, failure] =
+            Test::Row<const char*, QList<int>, int, QString>();
+        Test::WriteAll(Path(), QByteArray::fromHex(hex));
         Test::RecordingInterface interface;
         try {
             const CodeSet read = PatternFile(Path()).Read();
@@ -94,11 +86,10 @@ private Q_SLOTS:
 
     void Applying()
     {
-        Test::UndoSession session;
         auto font = std::make_unique<Font>(FontFormat::AA2, EncodingType::Unicode);
         font->SetEnabled('A', 'B', true);
         font->SetEnabled('A', 'A', false);
-        session.ReplaceFont(std::move(font), {});
+        Test::UndoSession session(std::move(font));
         const Font& current = *session.CurrentFont();
         const CodeSet before = current.EnabledCodes();
         Test::WriteAll(Path(), QByteArray::fromHex("fffe 4100 4300"));
