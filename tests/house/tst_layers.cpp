@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDirIterator>
@@ -16,16 +17,14 @@ class TestLayers : public QObject
 private Q_SLOTS:
     void FoldersIncludeOnlyWhatTheirTableAllows_data()
     {
-        QTest::addColumn<QString>("parent");
-        QTest::addColumn<int>("folders");
-        QTest::newRow("floors") << QString() << 7;
-        QTest::newRow("rooms of the window's floor") << u"ui/"_s << 7;
+        const Test::Rows<QString, int> row;
+        row("floors", QString(), 7);
+        row("rooms of the window's floor", u"ui/"_s, 7);
     }
 
     void FoldersIncludeOnlyWhatTheirTableAllows()
     {
-        QFETCH(QString, parent);
-        QFETCH(int, folders);
+        const auto [parent, folders] = Test::Row<QString, int>();
         const QHash<QString, QStringList> allowed = ReadTable(parent);
         QCOMPARE(allowed.size(), folders);
         const QRegularExpression include(u"^#include \"%1([a-z]+)/"_s.arg(parent),

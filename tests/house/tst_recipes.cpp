@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDir>
@@ -60,10 +61,7 @@ private Q_SLOTS:
 
     void Recipes_data()
     {
-        QTest::addColumn<QString>("recipe"); // for the shell
-        QTest::addColumn<QString>("output");
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<bool>("passes");
+        const Test::Rows<QString, QString, QString, bool> rows;
         struct Recipe
         {
             const char* name;
@@ -78,9 +76,9 @@ private Q_SLOTS:
              FromHtml(Captured(manual_, "<pre><code>(Glyphor [^<]*a\\.txt.*?)</code>")), u"a.c"_s}};
         const QString good = u"exec '%1' \"$@\""_s.arg(QString::fromUtf8(GLYPHOR_PROGRAM));
         for (const Recipe& recipe : recipes) {
-            const auto row = [&recipe](const char* name, const QString& program, bool passes) {
-                QTest::addRow("%s, %s", recipe.name, name)
-                    << recipe.text << recipe.output << program << passes;
+            const auto row = [&](const char* name, const QString& program, bool passes) {
+                rows(QTest::addRow("%s, %s", recipe.name, name), recipe.text, recipe.output,
+                     program, passes);
             };
             row("good", good, true);
             row("missing", {}, false);
@@ -92,10 +90,7 @@ private Q_SLOTS:
 
     void Recipes()
     {
-        QFETCH(const QString, recipe);
-        QFETCH(const QString, output);
-        QFETCH(const QString, program);
-        QFETCH(const bool, passes);
+        const auto [recipe, output, program, passes] = Test::Row<QString, QString, QString, bool>();
         QVERIFY(!recipe.isEmpty());
         const QTemporaryDir folder;
         const auto file = [&folder](const QString& name) { return folder.filePath(name); };
