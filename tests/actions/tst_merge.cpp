@@ -84,31 +84,27 @@ class TestMerge : public QObject
         SaveAs(session, path);
     }
 
-    [[nodiscard]] static std::unique_ptr<Font> Open(const QString& path)
-    {
-        return ReadFont(Source(path));
-    }
-
 private Q_SLOTS:
     void Merges_data()
     {
-        const Test::Rows<int, int, QByteArray, bool, int, QByteArray, char> row;
-        row("replace", 2, 0, QByteArray("BCD"), true, 0, QByteArray("0111"), '\0');
-        row("keep", 3, 0, QByteArray("BCD"), true, 0, QByteArray("0011"), '\0');
-        row("ask, replace", 0, 2, QByteArray("BC"), true, 1, QByteArray("011-"), '\0');
-        row("ask, keep", 0, 3, QByteArray("BC"), true, 1, QByteArray("001-"), '\0');
-        row("ask, cancel", 0, 0, QByteArray("BC"), false, 1, QByteArray("00--"), '\0');
-        row("no duplicates", 0, 0, QByteArray("CD"), true, 0, QByteArray("0011"), '\0');
-        row("nothing new", 3, 0, QByteArray("AB"), true, 0, QByteArray("00--"), '\0');
+        // The indices are those of A, B, C and D afterwards; "-" is for none.
+        const Test::Rows<int, int, const char*, bool, int, const char*, char> row;
+        row("replace", 2, 0, "BCD", true, 0, "0111", '\0');
+        row("keep", 3, 0, "BCD", true, 0, "0011", '\0');
+        row("ask, replace", 0, 2, "BC", true, 1, "011-", '\0');
+        row("ask, keep", 0, 3, "BC", true, 1, "001-", '\0');
+        row("ask, cancel", 0, 0, "BC", false, 1, "00--", '\0');
+        row("no duplicates", 0, 0, "CD", true, 0, "0011", '\0');
+        row("nothing new", 3, 0, "AB", true, 0, "00--", '\0');
         // What is disabled is not missed, so nothing is asked about it.
-        row("disabled duplicate", 0, 0, QByteArray("BC"), true, 0, QByteArray("011-"), 'B');
-        row("disabled, keep", 3, 0, QByteArray("AB"), true, 0, QByteArray("01--"), 'B');
+        row("disabled duplicate", 0, 0, "BC", true, 0, "011-", 'B');
+        row("disabled, keep", 3, 0, "AB", true, 0, "01--", 'B');
     }
 
     void Merges()
     {
         const auto [mode, answer, other, merged, questions, indices, disabled] =
-            Test::Row<int, int, QByteArray, bool, int, QByteArray, char>();
+            Test::Row<int, int, const char*, bool, int, const char*, char>();
         MergeInterface interface;
         interface.answer = ModeOf(answer);
         WriteFont(MakeFilled(other, 1), Path("other.sif"));
@@ -175,32 +171,22 @@ private Q_SLOTS:
         QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
     }
 
-    void KerningIsThatOfEither_data()
-    {
-        const Test::Rows<bool, bool> row;
-        row("own", true, false);
-        row("other", false, true);
-        row("neither", false, false);
-    }
-
     void KerningIsThatOfEither()
     {
-        const auto [own, other] = Test::Row<bool, bool>();
         WriteFont(MakeFilled("C", 1), Path("other.sif"));
-        Test::UndoSession session(MakeFilled("AB", 0));
-        const Font& font = *session.CurrentFont();
-        session.CurrentFont()->SetHasKerning(own);
-        const auto action = std::make_shared<ActionMergeFont>(session);
-        action->Args() = {Source(other ? Test::FontPath("outlines.ttf") : Path("other.sif")),
-                          MergeMode::Replace};
-        action->Args().source.format = FontFormat::Framed;
-        action->Args().source.render.height = 12;
-        QVERIFY(action->Run());
-        QCOMPARE(font.HasKerning(), own || other);
-        session.Stack().Undo();
-        QCOMPARE(font.HasKerning(), own);
-        session.Stack().Redo();
-        QCOMPARE(font.HasKerning(), own || other);
+        for (const auto& [own, other] : {std::pair(true, false), {false, true}, {false, false}}) {
+            Test::UndoSession session(MakeFilled("AB", 0));
+            session.CurrentFont()->SetHasKerning(own);
+            const auto action = std::make_shared<ActionMergeFont>(session);
+            action->Args() = {Source(other ? Test::FontPath("outlines.ttf") : Path("other.sif")),
+                              MergeMode::Replace};
+            action->Args().source.format = FontFormat::Framed;
+            action->Args().source.render.height = 12;
+            QVERIFY(action->Run());
+            QCOMPARE(session.CurrentFont()->HasKerning(), own || other);
+            session.Stack().Undo();
+            QCOMPARE(session.CurrentFont()->HasKerning(), own);
+        }
     }
 
     void OpeningFiles()
@@ -241,9 +227,9 @@ private Q_SLOTS:
 
         // Over the file that was opened.
         Test::UndoSession session;
-        session.ReplaceFont(Open(Path("font.sif")), Path("font.sif"));
+        session.ReplaceFont(ReadFont(Source(Path("font.sif"))), Path("font.sif"));
         SaveAs(session, Path("font.sif"));
-        QVERIFY(Open(Path("font.sif"))->FindChar('C') != nullptr);
+        QVERIFY(ReadFont(Source(Path("font.sif")))->FindChar('C') != nullptr);
     }
 };
 

@@ -1,5 +1,4 @@
 #include "app/settings.h"
-#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QTemporaryDir>
@@ -118,23 +117,16 @@ private Q_SLOTS:
                  5);
     }
 
-    void LineEndings_data()
-    {
-        const Test::Rows<bool, int, QByteArray> row;
-        row("system", true, 2, QByteArray("\r\n"));
-        row("CR LF", false, 0, QByteArray("\r\n"));
-        row("CR", false, 1, QByteArray("\r"));
-        row("LF", false, 2, QByteArray("\n"));
-        row("unknown", false, 77, QByteArray("\r\n"));
-    }
-
     void LineEndings()
     {
-        const auto [system, choice, ending] = Test::Row<bool, int, QByteArray>();
-        Settings settings(Store({}));
-        settings.useSysLineEndings.setValue(system);
-        settings.lineEndings.setValue(choice);
-        QCOMPARE(settings.LineEnding(), ending);
+        for (const auto& [choice, ending] :
+             {std::pair(0, "\r\n"_ba), {1, "\r"_ba}, {2, "\n"_ba}, {77, "\r\n"_ba}}) {
+            Settings settings(Store({}));
+            settings.lineEndings.setValue(choice);
+            QCOMPARE(settings.LineEnding(), "\r\n"_ba); // the system's
+            settings.useSysLineEndings.setValue(false);
+            QCOMPARE(settings.LineEnding(), ending);
+        }
     }
 
 private:
