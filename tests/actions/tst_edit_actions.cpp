@@ -19,14 +19,10 @@ std::unique_ptr<Font> MakeFont(FontFormat format)
     font->SetHeight(4);
     font->SetBaseline(3);
     for (const char code : {'A', 'B', 'D'}) {
-        Character& character = font->AddChar(quint16(code));
-        character.info.height = 4;
-        character.info.yPos = 0;
-        character.info.SetWidth(5);
-        character.info.cursorDistance = 6;
-        character.bitmap->AdjustData();
-        character.bitmap->SetPixelIndex(code % 4, 1, 1);
-        character.bitmap->SetPixelIndex(2, 2, 1);
+        const std::vector<uchar> empty(64);
+        CharBitmap& bitmap = *font->PutChar(quint16(code), {5, 4, 0, 0, 6}, empty).bitmap;
+        bitmap.SetPixelIndex(code % 4, 1, 1);
+        bitmap.SetPixelIndex(2, 2, 1);
     }
     return font;
 }

@@ -14,11 +14,6 @@ class TestManual : public QObject
 {
     Q_OBJECT
 
-    static QString Docs(const QString& name)
-    {
-        return QString::fromUtf8(Test::ReadAll(QStringLiteral(PROJECT_SOURCES "/docs/") + name));
-    }
-
     static QStringList Keywords(const CommandLineOption& option)
     {
         QStringList keywords;
@@ -46,7 +41,7 @@ class TestManual : public QObject
 private Q_SLOTS:
     void ManualHasTheOptions()
     {
-        const QString manual = Docs(u"manual/index.html"_s);
+        const QString manual = Test::Document(u"docs/manual/index.html"_s);
         QStringList forms;
         for (const CommandLineOption& option : CommandLineOptions()) {
             if (option.description.isEmpty())
@@ -68,7 +63,7 @@ private Q_SLOTS:
 
     void ManPageHasTheOptions()
     {
-        const QString page = Docs(u"Glyphor.1"_s);
+        const QString page = Test::Document(u"docs/Glyphor.1"_s);
         QStringList names;
         for (const CommandLineOption& option : CommandLineOptions()) {
             if (option.description.isEmpty())
@@ -86,7 +81,7 @@ private Q_SLOTS:
 
     void PicturesAndLinksLeadSomewhere()
     {
-        const QString manual = Docs(u"manual/index.html"_s);
+        const QString manual = Test::Document(u"docs/manual/index.html"_s);
         const QStringList pictures = Captured(manual, u"<img[^>]* src=\"(.*?)\""_s);
         QVERIFY(!pictures.isEmpty());
         for (const QString& picture : pictures)

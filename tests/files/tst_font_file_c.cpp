@@ -113,22 +113,21 @@ private Q_SLOTS:
         QCOMPARE(log.count('\n'), lines.count('\n') + 3);
     }
 
-    void GuardOnlyForHeaders_data()
-    {
-        const Test::Rows<QString, bool> row;
-        for (const auto* const name : {"font.h", "a.b.hh", "font.hxx", "font.hpp"})
-            row(name, QString::fromUtf8(name), true);
-        for (const auto* const name : {"font.c", "font.H", "font.hpp.c", "h", "font.cpp"})
-            row(name, QString::fromUtf8(name), false);
-    }
-
     void GuardOnlyForHeaders()
     {
-        const auto [name, hasGuard] = Test::Row<QString, bool>();
-        const QByteArray text = Compose(*Test::MakeSampleFont(FontFormat::AA2), name, {});
-        QCOMPARE(text.contains("#ifndef _8_TESTS_PLAIN_1_H\r\n#define _8_TESTS_PLAIN_1_H\r\n\r\n"),
-                 hasGuard);
-        QCOMPARE(text.contains("};\r\n\r\n#endif // _8_TESTS_PLAIN_1_H\r\n\r\n/****"), hasGuard);
+        const auto font = Test::MakeSampleFont(FontFormat::AA2);
+        for (const auto& [names, hasGuard] : {std::pair(u"font.h a.b.hh font.hxx font.hpp"_s, true),
+                                              {u"font.c font.H font.hpp.c h font.cpp"_s, false}}) {
+            for (const QString& name : Test::Words(names)) {
+                const QByteArray text = Compose(*font, name, {});
+                QVERIFY2(hasGuard == text.contains("#ifndef _8_TESTS_PLAIN_1_H\r\n#define "
+                                                   "_8_TESTS_PLAIN_1_H\r\n\r\n"),
+                         qPrintable(name));
+                QVERIFY2(hasGuard == text.contains("};\r\n\r\n#endif // _8_TESTS_PLAIN_1_H\r\n"
+                                                   "\r\n/****"),
+                         qPrintable(name));
+            }
+        }
     }
 
     void CompilesAndReadsBack_data()

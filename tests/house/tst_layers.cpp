@@ -62,8 +62,7 @@ private:
         const QRegularExpression row(u"^\\| `%1([a-z]+)/` \\|.*\\| ([a-z, ]*|-) \\|$"_s.arg(parent),
                                      QRegularExpression::MultilineOption);
         QHash<QString, QStringList> table;
-        auto rows =
-            row.globalMatch(QString::fromUtf8(Test::ReadAll(Sources(u"/docs/architecture.md"_s))));
+        auto rows = row.globalMatch(Test::Document(u"docs/architecture.md"_s));
         while (rows.hasNext()) {
             const auto match = rows.next();
             table.insert(match.captured(1), match.captured(2).split(u", "_s));

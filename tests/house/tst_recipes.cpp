@@ -14,12 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString Document(const char* name)
-{
-    return QString::fromUtf8(
-        Test::ReadAll(QStringLiteral(PROJECT_SOURCES "/") + QString::fromUtf8(name)));
-}
-
 QString Captured(const QString& text, const char* pattern)
 {
     const QRegularExpression expression(QString::fromUtf8(pattern),
@@ -34,7 +28,7 @@ QString FromHtml(QString text)
 
 QString ReadmeMakefile()
 {
-    QString text = Captured(Document("README.md"), "In a Makefile:\n\n(.*?)\n\n");
+    QString text = Captured(Test::Document(u"README.md"_s), "In a Makefile:\n\n(.*?)\n\n");
     return text.replace(QRegularExpression(u"^    "_s, QRegularExpression::MultilineOption), {});
 }
 
@@ -46,7 +40,7 @@ class TestRecipes : public QObject
 {
     Q_OBJECT
 
-    QString manual_ = Document("docs/manual/index.html");
+    QString manual_ = Test::Document(u"docs/manual/index.html"_s);
 
 private Q_SLOTS:
     void DocumentsAgree()
@@ -54,7 +48,7 @@ private Q_SLOTS:
         const QString makefile = ReadmeMakefile();
         QVERIFY(makefile.startsWith(u"DejaVu.c: DejaVuSans.ttf\n\t"_s));
         QCOMPARE(FromHtml(Captured(manual_, "<pre><code>(DejaVu\\.c: .*?)</code>")), makefile);
-        QString page = Captured(Document("docs/Glyphor.1"), "\n(DejaVu\\.c: .*?)\n\\.fi");
+        QString page = Captured(Test::Document(u"docs/Glyphor.1"_s), "\n(DejaVu\\.c: .*?)\n\\.fi");
         page.replace(" \\e\n\t    "_L1, " "_L1).replace("\\-"_L1, "-"_L1);
         QCOMPARE(page.replace("\\(aq"_L1, "'"_L1), makefile);
     }

@@ -1,5 +1,4 @@
 #include "render/font_file_bdf.h"
-#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 
@@ -36,24 +35,19 @@ private Q_SLOTS:
         QCOMPARE(letter.bitmap->Data(), QByteArray::fromHex("748c84848c74048870"));
     }
 
-    void BaselineIsTheProperty_data()
-    {
-        const Test::Rows<QByteArray, QByteArray, int> row;
-        const QByteArray ascent = "FONT_ASCENT 9\n";
-        row("there", ascent, ascent, 9);
-        row("another value", ascent, QByteArray("FONT_ASCENT 200\n"), 200);
-        row("from the box", ascent, QByteArray("OTHER 1\n"), 9);
-        row("more than a byte", ascent, QByteArray("FONT_ASCENT 258\n"), 2);
-        row("the least", ascent, QByteArray("FONT_ASCENT -2147483648\n"), 0);
-    }
-
     void BaselineIsTheProperty()
     {
-        const auto [from, to, baseline] = Test::Row<QByteArray, QByteArray, int>();
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"font.bdf"_s);
-        Test::WriteAll(path, Test::ReadAll(Test::FontPath("bitmap.bdf")).replace(from, to));
-        QCOMPARE(int(FontFileBDF(path).Read()->Metrics().baseline), baseline);
+        for (const auto& [property, baseline] : {std::pair("FONT_ASCENT 200\n", 200),
+                                                 {"OTHER 1\n", 9}, // from the box
+                                                 {"FONT_ASCENT 258\n", 2},
+                                                 {"FONT_ASCENT -2147483648\n", 0}}) {
+            Test::WriteAll(
+                path,
+                Test::ReadAll(Test::FontPath("bitmap.bdf")).replace("FONT_ASCENT 9\n", property));
+            QCOMPARE(int(FontFileBDF(path).Read()->Metrics().baseline), baseline);
+        }
     }
 
     void Refuses_data()

@@ -96,7 +96,6 @@ private Q_SLOTS:
     void ThreadReports()
     {
         FontDatabaseThread thread({QFileInfo(Test::FontPath("outlines.ttf")).path()}, false);
-        QCOMPARE(thread.stackSize(), 4194304U);
         QSignalSpy counted(&thread, &FontDatabaseThread::initFileCount);
         QSignalSpy done(&thread, &FontDatabaseThread::fileDone);
         QSignalSpy finished(&thread, &FontDatabaseThread::hasFinished);

@@ -44,6 +44,9 @@ public:
 // A file that comes with the tests or is made for them.
 [[nodiscard]] QString FontPath(const char* name);
 
+// A document of the project, with its path in it.
+[[nodiscard]] QString Document(const QString& path);
+
 // The words between blanks.
 [[nodiscard]] inline QStringList Words(const QString& line)
 {
