@@ -8,8 +8,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // A font with "A", "B" and "D", whose pixels differ.

@@ -11,8 +11,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class MergeInterface final : public Test::RecordingInterface

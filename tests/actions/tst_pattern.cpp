@@ -13,8 +13,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestPattern : public QObject
 {
     Q_OBJECT

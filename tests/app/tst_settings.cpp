@@ -6,8 +6,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestSettings : public QObject
 {
     Q_OBJECT
@@ -17,7 +15,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("store");
         QTest::newRow("no store") << QByteArray();
-        QTest::newRow("other keys") << QByteArray("[General]\nOther=1\n");
         QTest::newRow("wrong values")
             << QByteArray("[General]\nHideLegacy=perhaps\nNumeralSystem=many\nLogActions=\n"
                           "CreateLogFile=7\nUseSysLineEndings=@Rect(0 0 1 1)\nLineEndings=x\n"

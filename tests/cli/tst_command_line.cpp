@@ -15,8 +15,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Answers the console's questions for as long as it lives.

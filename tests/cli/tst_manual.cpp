@@ -7,8 +7,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 // The manual and the man page tell all options as they are, and no others.
 class TestManual : public QObject
 {

@@ -8,8 +8,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 using Test::Words;
 
 namespace {

@@ -13,8 +13,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // "A" and "C", of a font 3 pixels high.

@@ -8,8 +8,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestCReader : public QObject
 {
     Q_OBJECT

@@ -9,8 +9,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestCSurvey : public QObject
 {
     Q_OBJECT

@@ -10,8 +10,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QByteArray DumpBytes(const Character& character)

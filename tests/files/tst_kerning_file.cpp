@@ -6,8 +6,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 std::unique_ptr<Font> MakeFont(const std::vector<int>& distances)

@@ -11,8 +11,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 // Ends the program in front of every system call of a save: what is left is the old file or the new
 // one, as a whole.
 class TestInterruptedSave : public QObject

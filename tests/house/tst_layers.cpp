@@ -7,8 +7,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 // Compares the includes of every file with the tables of docs/architecture.md.
 class TestLayers : public QObject
 {

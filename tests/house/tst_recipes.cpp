@@ -10,8 +10,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString Captured(const QString& text, const char* pattern)

@@ -7,8 +7,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestBdf : public QObject
 {
     Q_OBJECT

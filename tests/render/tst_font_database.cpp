@@ -11,8 +11,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestFontDatabase : public QObject
 {
     Q_OBJECT

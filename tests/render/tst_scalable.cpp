@@ -7,8 +7,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 std::unique_ptr<Font> Render(const char* name, const RenderOptions& options,

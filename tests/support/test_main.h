@@ -8,6 +8,13 @@
 #include <functional>
 #include <memory>
 
+namespace Glyphor {
+
+// For all tests.
+using namespace Qt::StringLiterals;
+
+} // namespace Glyphor
+
 namespace Glyphor::Test {
 
 // Registers a test class for the test program's main().
