@@ -90,8 +90,8 @@ private Q_SLOTS:
     {
         const auto [line, text, order] = Test::Row<QString, QString, QList<int>>();
         const CommandLineParser parser;
-        auto occurrences = parser.parse(Words(line));
         try {
+            auto occurrences = parser.parse(Words(line));
             if (!parser.check(occurrences))
                 ReorderOccurrences(occurrences);
             QVERIFY(text.isEmpty());
