@@ -58,11 +58,9 @@ bool ActionMergeFont::Execute()
     const std::unique_ptr<Font> other = ReadFont(Args().source);
     CheckFonts(*font, *other);
 
-    CodeSet incoming = other->EnabledCodes();
-    incoming &= other->ExistingCodes();
+    CodeSet incoming = other->SavedCodes();
     CodeSet duplicates = incoming;
-    duplicates &= font->ExistingCodes();
-    duplicates &= font->EnabledCodes(); // what is disabled is not missed
+    duplicates &= font->SavedCodes(); // what is disabled is not missed
     if (!duplicates.IsEmpty()) {
         const std::optional<MergeMode> mode =
             Args().mode ? Args().mode : CurrentInterface().askMergeMode();
@@ -71,9 +69,8 @@ bool ActionMergeFont::Execute()
         if (mode == MergeMode::Keep)
             incoming -= duplicates;
     }
-    for (const quint16 code : incoming) {
+    for (const quint16 code : incoming)
         characters_[code] = CopyInto(*font, *other->FindChar(code));
-    }
     enabled_ = font->EnabledCodes();
     enabled_ |= incoming;
     hasKerning_ = font->HasKerning() || other->HasKerning();

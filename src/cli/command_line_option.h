@@ -70,19 +70,23 @@ struct CommandLineParameter
     bool required = true;
 };
 
+struct OptionMarks
+{
+    bool multiple = false;
+    bool required = false;
+    int position = -1; // of the positional option among the arguments; -1: a named option
+    OptionId exclusiveWith = OptionId::None; // exactly one of the two must be given
+    bool standalone = false;
+};
+
 // One option of the command line. Hidden options have no description.
-struct CommandLineOption
+struct CommandLineOption : OptionMarks
 {
     OptionId id;
     QString longName;
     QString shortName;
     std::vector<CommandLineParameter> parameters;
     QString description;
-    bool multiple = false;
-    bool required = false;
-    int position = -1; // of the positional option among the arguments; -1: a named option
-    OptionId exclusiveWith = OptionId::None; // exactly one of the two must be given
-    bool standalone = false;
 
     // "-name <parameter> <parameter>"; the positional option has its parameter alone.
     [[nodiscard]] QString Form() const;

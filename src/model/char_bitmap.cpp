@@ -73,71 +73,56 @@ PixelLayout CharBitmap::Layout() const
     return {info_.width, info_.Rows(), info_.font.bitsPerPixel};
 }
 
-bool CharBitmap::CanInsertRow() const
-{
-    return !IsLegacyFormat(info_.font.format) && info_.height < CharInfo::MaxSize;
-}
-
-bool CharBitmap::CanDeleteRow() const
-{
-    return !IsLegacyFormat(info_.font.format) && info_.height > 0;
-}
-
-bool CharBitmap::InsertColumnRight()
+bool CharBitmap::InsertColumn(PlaneEdit edit)
 {
     if (info_.width == CharInfo::MaxSize)
         return false;
-    PixelPlane::InsertColumnRight(data_, Layout());
+    EditPlanes(edit);
     info_.SetWidth(static_cast<quint8>(info_.width + 1));
     return true;
 }
 
-bool CharBitmap::InsertColumnLeft()
+bool CharBitmap::DeleteColumn(PlaneEdit edit)
 {
-    if (info_.width == CharInfo::MaxSize)
+    if (info_.width == 0)
         return false;
-    PixelPlane::InsertColumnLeft(data_, Layout());
-    info_.SetWidth(static_cast<quint8>(info_.width + 1));
+    EditPlanes(edit);
+    info_.SetWidth(static_cast<quint8>(info_.width - 1));
+    return true;
+}
+
+bool CharBitmap::InsertRow(PlaneEdit edit)
+{
+    if (IsLegacyFormat(info_.font.format) || info_.height == CharInfo::MaxSize)
+        return false;
+    EditPlanes(edit);
+    ++info_.height;
+    return true;
+}
+
+bool CharBitmap::DeleteRow(PlaneEdit edit)
+{
+    if (IsLegacyFormat(info_.font.format) || info_.height == 0)
+        return false;
+    EditPlanes(edit);
+    --info_.height;
     return true;
 }
 
 bool CharBitmap::InsertRowTop()
 {
-    if (!CanInsertRow() || info_.yPos == CharInfo::MinOffset)
+    if (info_.yPos == CharInfo::MinOffset || !InsertRow(PixelPlane::InsertRowTop))
         return false;
-    PixelPlane::InsertRowTop(data_, Layout());
-    ++info_.height;
     --info_.yPos;
     return true;
 }
 
-bool CharBitmap::InsertRowBottom()
+bool CharBitmap::DeleteRowTop()
 {
-    if (!CanInsertRow())
+    if (info_.yPos == CharInfo::MaxOffset || !DeleteRow(PixelPlane::DeleteRowTop))
         return false;
-    PixelPlane::InsertRowBottom(data_, Layout());
-    ++info_.height;
+    ++info_.yPos;
     return true;
-}
-
-void CharBitmap::ShiftRight()
-{
-    PixelPlane::ShiftRight(data_, Layout());
-}
-
-void CharBitmap::ShiftLeft()
-{
-    PixelPlane::ShiftLeft(data_, Layout());
-}
-
-void CharBitmap::ShiftUp()
-{
-    PixelPlane::ShiftUp(data_, Layout());
-}
-
-void CharBitmap::ShiftDown()
-{
-    PixelPlane::ShiftDown(data_, Layout());
 }
 
 bool CharBitmap::ReadData(std::span<const uchar> source)
@@ -175,76 +160,14 @@ void CharBitmap::Clear()
     data_ = QByteArray(Layout().Size(), '\0');
 }
 
-bool CharBitmap::DeleteColumnRight()
-{
-    if (info_.width == 0)
-        return false;
-    PixelPlane::DeleteColumnRight(data_, Layout());
-    info_.SetWidth(static_cast<quint8>(info_.width - 1));
-    return true;
-}
-
-bool CharBitmap::DeleteColumnLeft()
-{
-    if (info_.width == 0)
-        return false;
-    PixelPlane::DeleteColumnLeft(data_, Layout());
-    info_.SetWidth(static_cast<quint8>(info_.width - 1));
-    return true;
-}
-
-bool CharBitmap::DeleteRowTop()
-{
-    if (!CanDeleteRow() || info_.yPos == CharInfo::MaxOffset)
-        return false;
-    PixelPlane::DeleteRowTop(data_, Layout());
-    --info_.height;
-    ++info_.yPos;
-    return true;
-}
-
-bool CharBitmap::DeleteRowBottom()
-{
-    if (!CanDeleteRow())
-        return false;
-    PixelPlane::DeleteRowBottom(data_, Layout());
-    --info_.height;
-    return true;
-}
-
 void CharBitmap::SetPixelIndex(int x, int y, int index)
 {
     PixelPlane::SetPixel(data_, Layout(), x, y, index);
 }
 
-void CharBitmap::IncPixelIndex(int x, int y)
-{
-    CharBitmap::SetPixelIndex(x, y, GetPixelIndex(x, y) + 1);
-}
-
-void CharBitmap::DecPixelIndex(int x, int y)
-{
-    CharBitmap::SetPixelIndex(x, y, GetPixelIndex(x, y) - 1);
-}
-
-void CharBitmap::InvertPixelIndex(int x, int y)
-{
-    CharBitmap::SetPixelIndex(x, y, ~GetPixelIndex(x, y));
-}
-
-void CharBitmap::Write(QByteArray& stream) const
-{
-    stream.append(data_);
-}
-
 void CharBitmap::WriteBytes(QByteArray& text, QByteArrayView lineEnding) const
 {
     WritePlaneBytes(data_, Layout(), text, lineEnding);
-}
-
-QByteArray CharBitmap::DataAsList() const
-{
-    return data_;
 }
 
 void CharBitmap::AssignData(const QByteArray& data)
@@ -256,26 +179,6 @@ void CharBitmap::AssignData(const QByteArray& data)
 int CharBitmap::GetPixelIndex(int x, int y) const
 {
     return PixelPlane::GetPixel(data_, Layout(), x, y);
-}
-
-void CharBitmap::InsertFontRowTop()
-{
-    PixelPlane::InsertRowTop(data_, Layout());
-}
-
-void CharBitmap::InsertFontRowBottom()
-{
-    PixelPlane::InsertRowBottom(data_, Layout());
-}
-
-void CharBitmap::DeleteFontRowTop()
-{
-    PixelPlane::DeleteRowTop(data_, Layout());
-}
-
-void CharBitmap::DeleteFontRowBottom()
-{
-    PixelPlane::DeleteRowBottom(data_, Layout());
 }
 
 QByteArray CharBitmap::Resized(QByteArray data, int size)

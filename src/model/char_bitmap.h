@@ -23,15 +23,15 @@ public:
     CharBitmap(const CharBitmap&) = delete;
     CharBitmap& operator=(const CharBitmap&) = delete;
 
-    virtual bool InsertColumnRight();
-    virtual bool InsertColumnLeft();
+    virtual bool InsertColumnRight() { return InsertColumn(PixelPlane::InsertColumnRight); }
+    virtual bool InsertColumnLeft() { return InsertColumn(PixelPlane::InsertColumnLeft); }
     virtual bool InsertRowTop();
-    virtual bool InsertRowBottom();
+    virtual bool InsertRowBottom() { return InsertRow(PixelPlane::InsertRowBottom); }
 
-    virtual void ShiftRight();
-    virtual void ShiftLeft();
-    virtual void ShiftUp();
-    virtual void ShiftDown();
+    virtual void ShiftRight() { EditPlanes(PixelPlane::ShiftRight); }
+    virtual void ShiftLeft() { EditPlanes(PixelPlane::ShiftLeft); }
+    virtual void ShiftUp() { EditPlanes(PixelPlane::ShiftUp); }
+    virtual void ShiftDown() { EditPlanes(PixelPlane::ShiftDown); }
 
     // Takes as many bytes as the metrics ask for; false, and no change, where the source has fewer.
     virtual bool ReadData(std::span<const uchar> source);
@@ -47,10 +47,10 @@ public:
 
     virtual ~CharBitmap() = default;
 
-    virtual bool DeleteColumnRight();
-    virtual bool DeleteColumnLeft();
+    virtual bool DeleteColumnRight() { return DeleteColumn(PixelPlane::DeleteColumnRight); }
+    virtual bool DeleteColumnLeft() { return DeleteColumn(PixelPlane::DeleteColumnLeft); }
     virtual bool DeleteRowTop();
-    virtual bool DeleteRowBottom();
+    virtual bool DeleteRowBottom() { return DeleteRow(PixelPlane::DeleteRowBottom); }
 
     // What undo calls: deleted pixels come back empty.
     virtual bool UndoInsertColumnRight() { return DeleteColumnRight(); }
@@ -62,18 +62,18 @@ public:
 
     // Indices are masked to the font's depth, so they wrap; pixels outside are ignored.
     virtual void SetPixelIndex(int x, int y, int index);
-    virtual void IncPixelIndex(int x, int y);
-    virtual void DecPixelIndex(int x, int y);
-    virtual void InvertPixelIndex(int x, int y);
+    virtual void IncPixelIndex(int x, int y) { SetPixelIndex(x, y, GetPixelIndex(x, y) + 1); }
+    virtual void DecPixelIndex(int x, int y) { SetPixelIndex(x, y, GetPixelIndex(x, y) - 1); }
+    virtual void InvertPixelIndex(int x, int y) { SetPixelIndex(x, y, ~GetPixelIndex(x, y)); }
 
     // Appends the packed bytes.
-    virtual void Write(QByteArray& stream) const;
+    virtual void Write(QByteArray& stream) const { stream.append(data_); }
 
     // Appends the bytes as C text, a line for each row: patterns of "X" and "_" for 1 bit per
     // pixel, hexadecimal numbers for 2 and 4.
     virtual void WriteBytes(QByteArray& text, QByteArrayView lineEnding) const;
 
-    [[nodiscard]] virtual QByteArray DataAsList() const;
+    [[nodiscard]] virtual QByteArray DataAsList() const { return data_; }
 
     // Replaces the bytes; they are adjusted to the size that the metrics ask for.
     virtual void AssignData(const QByteArray& data);
@@ -86,15 +86,20 @@ public:
     [[nodiscard]] int GetPixelIndex(int x, int y) const;
 
     // Rows that the font gains or loses as a whole; for legacy characters only.
-    void InsertFontRowTop();
-    void InsertFontRowBottom();
-    void DeleteFontRowTop();
-    void DeleteFontRowBottom();
+    void InsertFontRowTop() { EditPlanes(PixelPlane::InsertRowTop); }
+    void InsertFontRowBottom() { EditPlanes(PixelPlane::InsertRowBottom); }
+    void DeleteFontRowTop() { EditPlanes(PixelPlane::DeleteRowTop); }
+    void DeleteFontRowBottom() { EditPlanes(PixelPlane::DeleteRowBottom); }
 
     [[nodiscard]] const CharInfo& Info() const { return info_; }
     [[nodiscard]] const QByteArray& Data() const { return data_; }
 
 protected:
+    using PlaneEdit = void (*)(QByteArray&, const PixelLayout&);
+
+    // Applies an edit of rows or columns to the pixels, whose metrics are still those before it.
+    virtual void EditPlanes(PlaneEdit edit) { edit(data_, Layout()); }
+
     // Of one plane, after the metrics.
     [[nodiscard]] PixelLayout Layout() const;
 
@@ -103,8 +108,10 @@ protected:
                                 QByteArray& text, QByteArrayView lineEnding);
 
 private:
-    [[nodiscard]] bool CanInsertRow() const;
-    [[nodiscard]] bool CanDeleteRow() const;
+    bool InsertColumn(PlaneEdit edit);
+    bool DeleteColumn(PlaneEdit edit);
+    bool InsertRow(PlaneEdit edit);
+    bool DeleteRow(PlaneEdit edit);
 
     CharInfo& info_;
     QByteArray data_;

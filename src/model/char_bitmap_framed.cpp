@@ -4,59 +4,10 @@
 
 namespace Glyphor {
 
-bool CharBitmapFramed::EditFrame(bool done, PlaneEdit edit, const PixelLayout& before)
+void CharBitmapFramed::EditPlanes(PlaneEdit edit)
 {
-    if (done)
-        edit(frame_, before);
-    return done;
-}
-
-bool CharBitmapFramed::InsertColumnRight()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::InsertColumnRight(), PixelPlane::InsertColumnRight, before);
-}
-
-bool CharBitmapFramed::InsertColumnLeft()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::InsertColumnLeft(), PixelPlane::InsertColumnLeft, before);
-}
-
-bool CharBitmapFramed::InsertRowTop()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::InsertRowTop(), PixelPlane::InsertRowTop, before);
-}
-
-bool CharBitmapFramed::InsertRowBottom()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::InsertRowBottom(), PixelPlane::InsertRowBottom, before);
-}
-
-void CharBitmapFramed::ShiftRight()
-{
-    CharBitmap::ShiftRight();
-    PixelPlane::ShiftRight(frame_, Layout());
-}
-
-void CharBitmapFramed::ShiftLeft()
-{
-    CharBitmap::ShiftLeft();
-    PixelPlane::ShiftLeft(frame_, Layout());
-}
-
-void CharBitmapFramed::ShiftUp()
-{
-    CharBitmap::ShiftUp();
-    PixelPlane::ShiftUp(frame_, Layout());
-}
-
-void CharBitmapFramed::ShiftDown()
-{
-    CharBitmap::ShiftDown();
-    PixelPlane::ShiftDown(frame_, Layout());
+    edit(frame_, Layout());
+    CharBitmap::EditPlanes(edit);
 }
 
 bool CharBitmapFramed::ReadData(std::span<const uchar> source)
@@ -87,69 +38,16 @@ void CharBitmapFramed::Clear()
     frame_ = QByteArray(Layout().Size(), '\0');
 }
 
-bool CharBitmapFramed::DeleteColumnRight()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::DeleteColumnRight(), PixelPlane::DeleteColumnRight, before);
-}
-
-bool CharBitmapFramed::DeleteColumnLeft()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::DeleteColumnLeft(), PixelPlane::DeleteColumnLeft, before);
-}
-
-bool CharBitmapFramed::DeleteRowTop()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::DeleteRowTop(), PixelPlane::DeleteRowTop, before);
-}
-
-bool CharBitmapFramed::DeleteRowBottom()
-{
-    const PixelLayout before = Layout();
-    return EditFrame(CharBitmap::DeleteRowBottom(), PixelPlane::DeleteRowBottom, before);
-}
-
 void CharBitmapFramed::SetPixelIndex(int x, int y, int index)
 {
     CharBitmap::SetPixelIndex(x, y, index);
     UpdateFrame();
 }
 
-void CharBitmapFramed::IncPixelIndex(int x, int y)
-{
-    CharBitmap::IncPixelIndex(x, y);
-    UpdateFrame();
-}
-
-void CharBitmapFramed::DecPixelIndex(int x, int y)
-{
-    CharBitmap::DecPixelIndex(x, y);
-    UpdateFrame();
-}
-
-void CharBitmapFramed::InvertPixelIndex(int x, int y)
-{
-    CharBitmap::InvertPixelIndex(x, y);
-    UpdateFrame();
-}
-
-void CharBitmapFramed::Write(QByteArray& stream) const
-{
-    CharBitmap::Write(stream);
-    stream.append(frame_);
-}
-
 void CharBitmapFramed::WriteBytes(QByteArray& text, QByteArrayView lineEnding) const
 {
     CharBitmap::WriteBytes(text, lineEnding);
     WritePlaneBytes(frame_, Layout(), text, lineEnding);
-}
-
-QByteArray CharBitmapFramed::DataAsList() const
-{
-    return Data() + frame_;
 }
 
 void CharBitmapFramed::AssignData(const QByteArray& data)

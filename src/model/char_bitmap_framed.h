@@ -11,34 +11,18 @@ class CharBitmapFramed final : public CharBitmap
 public:
     using CharBitmap::CharBitmap;
 
-    bool InsertColumnRight() override;
-    bool InsertColumnLeft() override;
-    bool InsertRowTop() override;
-    bool InsertRowBottom() override;
-    void ShiftRight() override;
-    void ShiftLeft() override;
-    void ShiftUp() override;
-    void ShiftDown() override;
-
     // The source holds the data plane, then the frame plane.
     bool ReadData(std::span<const uchar> source) override;
     void RenderData(const RenderedGlyph& glyph, const GlyphPlacement& placement) override;
     void AdjustData() override;
     void Clear() override;
 
-    bool DeleteColumnRight() override;
-    bool DeleteColumnLeft() override;
-    bool DeleteRowTop() override;
-    bool DeleteRowBottom() override;
     void SetPixelIndex(int x, int y, int index) override;
-    void IncPixelIndex(int x, int y) override;
-    void DecPixelIndex(int x, int y) override;
-    void InvertPixelIndex(int x, int y) override;
 
     // The data plane, then the frame plane.
-    void Write(QByteArray& stream) const override;
+    void Write(QByteArray& stream) const override { stream.append(DataAsList()); }
     void WriteBytes(QByteArray& text, QByteArrayView lineEnding) const override;
-    [[nodiscard]] QByteArray DataAsList() const override;
+    [[nodiscard]] QByteArray DataAsList() const override { return Data() + frame_; }
 
     // Takes the data plane and computes the frame.
     void AssignData(const QByteArray& data) override;
@@ -48,12 +32,10 @@ public:
 
     [[nodiscard]] const QByteArray& Frame() const { return frame_; }
 
+protected:
+    void EditPlanes(PlaneEdit edit) override;
+
 private:
-    using PlaneEdit = void (*)(QByteArray&, const PixelLayout&);
-
-    // Applies to the frame what was done to the data, unless that was refused.
-    bool EditFrame(bool done, PlaneEdit edit, const PixelLayout& before);
-
     void UpdateFrame();
 
     QByteArray frame_;

@@ -150,11 +150,11 @@ void Font::SetEnabled(quint16 first, quint16 last, bool state)
         AddChar(static_cast<quint16>(code));
 }
 
-bool Font::HasEnabledChars() const
+CodeSet Font::SavedCodes() const
 {
     CodeSet codes = enabled_;
     codes &= existing_;
-    return !codes.IsEmpty();
+    return codes;
 }
 
 std::vector<CodeRange> RunsOf(const CodeSet& codes)
@@ -168,13 +168,6 @@ std::vector<CodeRange> RunsOf(const CodeSet& codes)
     return runs;
 }
 
-std::vector<CodeRange> Font::EnabledRuns() const
-{
-    CodeSet codes = enabled_;
-    codes &= existing_;
-    return RunsOf(codes);
-}
-
 int Font::CharDataWidth(const Character& character) const
 {
     return PlaneCount(metrics_.format) * character.info.bytesPerLine;
@@ -183,9 +176,8 @@ int Font::CharDataWidth(const Character& character) const
 template <typename Edit>
 void Font::ForEachChar(Edit edit) const
 {
-    for (const quint16 code : existing_) {
+    for (const quint16 code : existing_)
         edit(code, *(*pages_[code / PageSize])[code % PageSize]);
-    }
 }
 
 int Font::TopRowRoom(bool insert) const

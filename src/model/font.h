@@ -98,20 +98,21 @@ public:
     [[nodiscard]] const CodeSet& EnabledCodes() const { return enabled_; }
     [[nodiscard]] const CodeSet& ExistingCodes() const { return existing_; }
 
-    [[nodiscard]] bool HasEnabledChars() const;
+    // The enabled codes that have a character.
+    [[nodiscard]] CodeSet SavedCodes() const;
+
+    [[nodiscard]] bool HasEnabledChars() const { return !SavedCodes().IsEmpty(); }
 
     // Calls visit(code, character) for the enabled characters in ascending order.
     template <typename Visit>
     void ForEachEnabled(Visit visit) const
     {
-        CodeSet codes = enabled_;
-        codes &= existing_;
-        for (const quint16 code : codes)
+        for (const quint16 code : SavedCodes())
             visit(code, *FindChar(code));
     }
 
     // The enabled characters as maximal runs of consecutive codes, in ascending order.
-    [[nodiscard]] std::vector<CodeRange> EnabledRuns() const;
+    [[nodiscard]] std::vector<CodeRange> EnabledRuns() const { return RunsOf(SavedCodes()); }
 
     // Bytes of one pixel row of the character in a file, all planes together.
     [[nodiscard]] int CharDataWidth(const Character& character) const;

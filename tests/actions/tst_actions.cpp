@@ -6,8 +6,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 using Test::CountAction;
 
 class TestActions : public QObject

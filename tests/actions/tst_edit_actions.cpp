@@ -1,4 +1,5 @@
 #include "actions/edit_actions.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "support/undo_session.h"
@@ -6,8 +7,6 @@
 #include <QTest>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,14 +17,10 @@ std::unique_ptr<Font> MakeFont(FontFormat format)
     font->SetHeight(4);
     font->SetBaseline(3);
     for (const char code : {'A', 'B', 'D'}) {
-        Character& character = font->AddChar(quint16(code));
-        character.info.height = 4;
-        character.info.yPos = 0;
-        character.info.SetWidth(5);
-        character.info.cursorDistance = 6;
-        character.bitmap->AdjustData();
-        character.bitmap->SetPixelIndex(code % 4, 1, 1);
-        character.bitmap->SetPixelIndex(2, 2, 1);
+        const std::vector<uchar> empty(64);
+        CharBitmap& bitmap = *font->PutChar(quint16(code), {5, 4, 0, 0, 6}, empty).bitmap;
+        bitmap.SetPixelIndex(code % 4, 1, 1);
+        bitmap.SetPixelIndex(2, 2, 1);
     }
     return font;
 }
@@ -39,21 +34,18 @@ class TestEditActions : public QObject
 private Q_SLOTS:
     void CharEdits_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("type");
+        const Test::Rows<int, int> row;
         for (int format = 0; format < FormatCount; ++format) {
             for (int type = 8; type <= 25; ++type)
-                QTest::addRow("format %d, type %d", format, type) << format << type;
+                row(QTest::addRow("format %d, type %d", format, type), format, type);
         }
     }
 
     // Undo of a deletion (22 and above) brings back the size, but empty pixels.
     void CharEdits()
     {
-        QFETCH(const int, format);
-        QFETCH(const int, type);
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat(format)), {});
+        const auto [format, type] = Test::Row<int, int>();
+        Test::UndoSession session(MakeFont(FontFormat(format)));
         const Font& font = *session.CurrentFont();
         const QByteArray before = Test::Snapshot(font);
         const QByteArray lastBefore = before.mid(before.lastIndexOf('\n'));
@@ -82,8 +74,7 @@ private Q_SLOTS:
 
     void TogglesTellTheirTarget()
     {
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        Test::UndoSession session(MakeFont(FontFormat::AA2));
         for (int round = 0; round < 2; ++round)
             std::make_shared<ActionChar>(session, ActionType::Toggle, quint16('A'))->Run();
         QCOMPARE(session.Stack().LogLines(),
@@ -92,29 +83,22 @@ private Q_SLOTS:
 
     void FontEdits_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("done");
+        const Test::Rows<int, int, int, int> row;
         for (const int format : {int(FontFormat::LegacyAA4), int(FontFormat::Framed)}) {
-            QTest::addRow("insert top %d", format) << format << 26 << 2 << 2;
-            QTest::addRow("insert bottom %d", format) << format << 27 << 2 << 2;
-            QTest::addRow("delete top %d", format) << format << 28 << 2 << 2;
-            QTest::addRow("delete bottom %d", format) << format << 29 << 2 << 2;
-            QTest::addRow("insert beyond the limit %d", format) << format << 27 << 999 << 251;
+            row(QTest::addRow("insert top %d", format), format, 26, 2, 2);
+            row(QTest::addRow("insert bottom %d", format), format, 27, 2, 2);
+            row(QTest::addRow("delete top %d", format), format, 28, 2, 2);
+            row(QTest::addRow("delete bottom %d", format), format, 29, 2, 2);
+            row(QTest::addRow("insert beyond the limit %d", format), format, 27, 999, 251);
         }
-        QTest::addRow("delete all") << int(FontFormat::AA2) << 29 << 9 << 4;
-        QTest::addRow("delete all of a legacy font") << int(FontFormat::Legacy) << 29 << 9 << 3;
+        row(QTest::addRow("delete all"), int(FontFormat::AA2), 29, 9, 4);
+        row(QTest::addRow("delete all of a legacy font"), int(FontFormat::Legacy), 29, 9, 3);
     }
 
     void FontEdits()
     {
-        QFETCH(const int, format);
-        QFETCH(const int, type);
-        QFETCH(const int, count);
-        QFETCH(const int, done);
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat(format)), {});
+        const auto [format, type, count, done] = Test::Row<int, int, int, int>();
+        Test::UndoSession session(MakeFont(FontFormat(format)));
         const Font& font = *session.CurrentFont();
         const QByteArray before = Test::Snapshot(font);
         const auto action = std::make_shared<ActionFont>(session, ActionType(type));
@@ -134,8 +118,7 @@ private Q_SLOTS:
 
     void FontAtItsLimit()
     {
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        Test::UndoSession session(MakeFont(FontFormat::AA2));
         session.CurrentFont()->SetHeight(255);
         QVERIFY(!std::make_shared<ActionFont>(session, ActionType::FontInsertRowTop)->Run());
         session.CurrentFont()->SetHeight(0);
@@ -159,23 +142,18 @@ private Q_SLOTS:
 
     void PixelEdits_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("index"); // afterwards, from 1 of 3
-        QTest::addColumn<QString>("log");
-        QTest::newRow("increase") << 35 << 2 << u"Increased pixel index (65,1)."_s;
-        QTest::newRow("decrease") << 36 << 0 << u"Decreased pixel index (65,1)."_s;
-        QTest::newRow("invert") << 37 << 2 << u"Inverted pixel index (65,1)."_s;
-        QTest::newRow("set to 3") << 41 << 3 << u"Set pixel index (65,1) to 2."_s;
-        QTest::newRow("set to itself") << 39 << 1 << QString();
+        const Test::Rows<int, int, QString> row; // the index afterwards, from 1 of 3
+        row("increase", 35, 2, u"Increased pixel index (65,1)."_s);
+        row("decrease", 36, 0, u"Decreased pixel index (65,1)."_s);
+        row("invert", 37, 2, u"Inverted pixel index (65,1)."_s);
+        row("set to 3", 41, 3, u"Set pixel index (65,1) to 2."_s);
+        row("set to itself", 39, 1, QString());
     }
 
     void PixelEdits()
     {
-        QFETCH(const int, type);
-        QFETCH(const int, index);
-        QFETCH(const QString, log);
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        const auto [type, index, log] = Test::Row<int, int, QString>();
+        Test::UndoSession session(MakeFont(FontFormat::AA2));
         CharBitmap& bitmap = *session.CurrentFont()->FindChar('A')->bitmap;
         bitmap.SetPixelIndex(1, 2, 1);
         const auto action = std::make_shared<ActionPixelIndex>(session, ActionType(type));
@@ -194,34 +172,24 @@ private Q_SLOTS:
 
     void States_data()
     {
-        QTest::addColumn<int>("type");
-        QTest::addColumn<int>("first");
-        QTest::addColumn<int>("last");
-        QTest::addColumn<QByteArray>("enabled"); // "A" and "D" are at first
-        QTest::addColumn<QString>("log");
-        QTest::newRow("enable") << 30 << int('A') << int('C') << QByteArray("ABCD")
-                                << u"[Range 0x0041-0x0043]: Enabled."_s;
-        QTest::newRow("disable") << 31 << int('A') << int('A') << QByteArray("D")
-                                 << u"[Char 0x0041]: Disabled."_s;
-        QTest::newRow("disable all")
-            << 32 << 0 << 0xFFFF << QByteArray() << u"[Range 0x0000-0xFFFF]: Disabled."_s;
-        QTest::newRow("toggle off") << 33 << int('A') << int('B') << QByteArray("D")
-                                    << u"[Range 0x0041-0x0042]: Disabled."_s;
-        QTest::newRow("toggle on") << 33 << int('B') << int('D') << QByteArray("ABCD")
-                                   << u"[Range 0x0042-0x0044]: Enabled."_s;
-        QTest::newRow("nothing to do")
-            << 30 << int('D') << int('D') << QByteArray("AD") << QString();
+        const Test::Rows<int, int, int, QByteArray, QString>
+            row; // "A" and "D" are enabled at first
+        row("enable", 30, int('A'), int('C'), QByteArray("ABCD"),
+            u"[Range 0x0041-0x0043]: Enabled."_s);
+        row("disable", 31, int('A'), int('A'), QByteArray("D"), u"[Char 0x0041]: Disabled."_s);
+        row("disable all", 32, 0, 0xFFFF, QByteArray(), u"[Range 0x0000-0xFFFF]: Disabled."_s);
+        row("toggle off", 33, int('A'), int('B'), QByteArray("D"),
+            u"[Range 0x0041-0x0042]: Disabled."_s);
+        row("toggle on", 33, int('B'), int('D'), QByteArray("ABCD"),
+            u"[Range 0x0042-0x0044]: Enabled."_s);
+        row("nothing to do", 30, int('D'), int('D'), QByteArray("AD"), QString());
     }
 
     void States()
     {
-        QFETCH(const int, type);
-        QFETCH(const int, first);
-        QFETCH(const int, last);
-        QFETCH(const QByteArray, enabled);
-        QFETCH(const QString, log);
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat::AA2), {});
+        const auto [type, first, last, enabled, log] =
+            Test::Row<int, int, int, QByteArray, QString>();
+        Test::UndoSession session(MakeFont(FontFormat::AA2));
         Font& font = *session.CurrentFont();
         font.SetEnabled('B', 'B', false);
         const QByteArray before = Test::Snapshot(font);
@@ -250,8 +218,7 @@ private Q_SLOTS:
 
     void Deletion()
     {
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFont(FontFormat::Framed), {});
+        Test::UndoSession session(MakeFont(FontFormat::Framed));
         Font& font = *session.CurrentFont();
         const QByteArray before = Test::Snapshot(font);
         CodeSet codes;

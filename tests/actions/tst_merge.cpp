@@ -1,6 +1,7 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
 #include "app/progress.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "support/undo_session.h"
@@ -9,8 +10,6 @@
 #include <QTest>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -79,61 +78,35 @@ class TestMerge : public QObject
 
     void WriteFont(std::unique_ptr<Font> font, const QString& path) const
     {
-        Test::UndoSession session;
-        session.ReplaceFont(std::move(font), {});
+        Test::UndoSession session(std::move(font));
         SaveAs(session, path);
-    }
-
-    [[nodiscard]] static std::unique_ptr<Font> Open(const QString& path)
-    {
-        return ReadFont(Source(path));
     }
 
 private Q_SLOTS:
     void Merges_data()
     {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QByteArray>("other");
-        QTest::addColumn<bool>("merged");
-        QTest::addColumn<int>("questions");
-        QTest::addColumn<QByteArray>("indices"); // of A, B, C, D; "-" for none
-        QTest::addColumn<char>("disabled");      // of the font's own characters
-        QTest::newRow("replace") << 2 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0111")
-                                 << '\0';
-        QTest::newRow("keep") << 3 << 0 << QByteArray("BCD") << true << 0 << QByteArray("0011")
-                              << '\0';
-        QTest::newRow("ask, replace")
-            << 0 << 2 << QByteArray("BC") << true << 1 << QByteArray("011-") << '\0';
-        QTest::newRow("ask, keep")
-            << 0 << 3 << QByteArray("BC") << true << 1 << QByteArray("001-") << '\0';
-        QTest::newRow("ask, cancel")
-            << 0 << 0 << QByteArray("BC") << false << 1 << QByteArray("00--") << '\0';
-        QTest::newRow("no duplicates")
-            << 0 << 0 << QByteArray("CD") << true << 0 << QByteArray("0011") << '\0';
-        QTest::newRow("nothing new")
-            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("00--") << '\0';
+        // The indices are those of A, B, C and D afterwards; "-" is for none.
+        const Test::Rows<int, int, const char*, bool, int, const char*, char> row;
+        row("replace", 2, 0, "BCD", true, 0, "0111", '\0');
+        row("keep", 3, 0, "BCD", true, 0, "0011", '\0');
+        row("ask, replace", 0, 2, "BC", true, 1, "011-", '\0');
+        row("ask, keep", 0, 3, "BC", true, 1, "001-", '\0');
+        row("ask, cancel", 0, 0, "BC", false, 1, "00--", '\0');
+        row("no duplicates", 0, 0, "CD", true, 0, "0011", '\0');
+        row("nothing new", 3, 0, "AB", true, 0, "00--", '\0');
         // What is disabled is not missed, so nothing is asked about it.
-        QTest::newRow("disabled duplicate")
-            << 0 << 0 << QByteArray("BC") << true << 0 << QByteArray("011-") << 'B';
-        QTest::newRow("disabled, keep")
-            << 3 << 0 << QByteArray("AB") << true << 0 << QByteArray("01--") << 'B';
+        row("disabled duplicate", 0, 0, "BC", true, 0, "011-", 'B');
+        row("disabled, keep", 3, 0, "AB", true, 0, "01--", 'B');
     }
 
     void Merges()
     {
-        QFETCH(const int, mode);
-        QFETCH(const int, answer);
-        QFETCH(const QByteArray, other);
-        QFETCH(const bool, merged);
-        QFETCH(const int, questions);
-        QFETCH(const QByteArray, indices);
-        QFETCH(const char, disabled);
+        const auto [mode, answer, other, merged, questions, indices, disabled] =
+            Test::Row<int, int, const char*, bool, int, const char*, char>();
         MergeInterface interface;
         interface.answer = ModeOf(answer);
         WriteFont(MakeFilled(other, 1), Path("other.sif"));
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFilled("AB", 0), {});
+        Test::UndoSession session(MakeFilled("AB", 0));
         Font& font = *session.CurrentFont();
         if (disabled != '\0')
             font.SetEnabled(quint16(disabled), quint16(disabled), false);
@@ -166,37 +139,29 @@ private Q_SLOTS:
 
     void Refusals_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("height");
-        QTest::addColumn<int>("encoding");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("format") << int(FontFormat::AA2) << 4 << 0
-                                << u"The two fonts do not have the same format!\nThe current font "
-                                   "with the format \"%1\" cannot be merged with the other font of "
-                                   "the format \"%2\"."_s.arg(FormatDisplayName(FontFormat::Legacy),
-                                                              FormatDisplayName(FontFormat::AA2));
-        QTest::newRow("encoding")
-            << int(FontFormat::Legacy) << 4 << 1
-            << u"One of the two fonts is encoded in Unicode and the other one "
-               "in Shift JIS: a code means different characters in them."_s;
-        QTest::newRow("height") << int(FontFormat::Legacy) << 5 << 0
-                                << u"All characters of a font in a legacy format have the font's "
-                                   "height: the current font is 4 pixels high and the other one "
-                                   "5."_s;
+        const Test::Rows<int, int, int, QString> row;
+        row("format", int(FontFormat::AA2), 4, 0,
+            u"The two fonts do not have the same format!\nThe current font "
+            "with the format \"%1\" cannot be merged with the other font of "
+            "the format \"%2\"."_s.arg(FormatDisplayName(FontFormat::Legacy),
+                                       FormatDisplayName(FontFormat::AA2)));
+        row("encoding", int(FontFormat::Legacy), 4, 1,
+            u"One of the two fonts is encoded in Unicode and the other one "
+            "in Shift JIS: a code means different characters in them."_s);
+        row("height", int(FontFormat::Legacy), 5, 0,
+            u"All characters of a font in a legacy format have the font's "
+            "height: the current font is 4 pixels high and the other one "
+            "5."_s);
     }
 
     void Refusals()
     {
-        QFETCH(const int, format);
-        QFETCH(const int, height);
-        QFETCH(const int, encoding);
-        QFETCH(const QString, text);
+        const auto [format, height, encoding, text] = Test::Row<int, int, int, QString>();
         auto other = std::make_unique<Font>(FontFormat(format), EncodingType(encoding));
         other->SetHeight(quint8(height));
         other->AddChar('C');
         WriteFont(std::move(other), Path("other.c"));
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFilled("AB", 0, FontFormat::Legacy), {});
+        Test::UndoSession session(MakeFilled("AB", 0, FontFormat::Legacy));
         const QByteArray before = Test::Snapshot(*session.CurrentFont());
         const auto action = std::make_shared<ActionMergeFont>(session);
         action->Args().source.path = Path("other.c");
@@ -204,35 +169,22 @@ private Q_SLOTS:
         QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
     }
 
-    void KerningIsThatOfEither_data()
-    {
-        QTest::addColumn<bool>("own");
-        QTest::addColumn<bool>("other");
-        QTest::newRow("own") << true << false;
-        QTest::newRow("other") << false << true;
-        QTest::newRow("neither") << false << false;
-    }
-
     void KerningIsThatOfEither()
     {
-        QFETCH(const bool, own);
-        QFETCH(const bool, other);
         WriteFont(MakeFilled("C", 1), Path("other.sif"));
-        Test::UndoSession session;
-        session.ReplaceFont(MakeFilled("AB", 0), {});
-        const Font& font = *session.CurrentFont();
-        session.CurrentFont()->SetHasKerning(own);
-        const auto action = std::make_shared<ActionMergeFont>(session);
-        action->Args() = {Source(other ? Test::FontPath("outlines.ttf") : Path("other.sif")),
-                          MergeMode::Replace};
-        action->Args().source.format = FontFormat::Framed;
-        action->Args().source.render.height = 12;
-        QVERIFY(action->Run());
-        QCOMPARE(font.HasKerning(), own || other);
-        session.Stack().Undo();
-        QCOMPARE(font.HasKerning(), own);
-        session.Stack().Redo();
-        QCOMPARE(font.HasKerning(), own || other);
+        for (const auto& [own, other] : {std::pair(true, false), {false, true}, {false, false}}) {
+            Test::UndoSession session(MakeFilled("AB", 0));
+            session.CurrentFont()->SetHasKerning(own);
+            const auto action = std::make_shared<ActionMergeFont>(session);
+            action->Args() = {Source(other ? Test::FontPath("outlines.ttf") : Path("other.sif")),
+                              MergeMode::Replace};
+            action->Args().source.format = FontFormat::Framed;
+            action->Args().source.render.height = 12;
+            QVERIFY(action->Run());
+            QCOMPARE(session.CurrentFont()->HasKerning(), own || other);
+            session.Stack().Undo();
+            QCOMPARE(session.CurrentFont()->HasKerning(), own);
+        }
     }
 
     void OpeningFiles()
@@ -273,9 +225,9 @@ private Q_SLOTS:
 
         // Over the file that was opened.
         Test::UndoSession session;
-        session.ReplaceFont(Open(Path("font.sif")), Path("font.sif"));
+        session.ReplaceFont(ReadFont(Source(Path("font.sif"))), Path("font.sif"));
         SaveAs(session, Path("font.sif"));
-        QVERIFY(Open(Path("font.sif"))->FindChar('C') != nullptr);
+        QVERIFY(ReadFont(Source(Path("font.sif")))->FindChar('C') != nullptr);
     }
 };
 

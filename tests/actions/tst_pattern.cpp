@@ -1,6 +1,7 @@
 #include "actions/action_read_pattern.h"
 #include "actions/pattern_file.h"
 #include "app/critical_exception.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "support/undo_session.h"
@@ -12,8 +13,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestPattern : public QObject
 {
     Q_OBJECT
@@ -21,15 +20,8 @@ class TestPattern : public QObject
 private Q_SLOTS:
     void Reading_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QList<int>>("codes");
-        QTest::addColumn<int>("warnings");
-        QTest::addColumn<QString>("failure");
+        const Test::Rows<const char*, QList<int>, int, QString> row;
         const QString encoding = u"Wrong encoding in pattern file!"_s;
-        const auto row = [](const char* name, const char* hex, const QList<int>& codes,
-                            int warnings, const QString& failure) {
-            QTest::newRow(name) << QByteArray::fromHex(hex) << codes << warnings << failure;
-        };
         row("mark only", "fffe", {}, 0, {});
         row("AB and a line break", "fffe 4200 4100 4100 0d00 0a00", {0x0A, 0x0D, 0x41, 0x42}, 0,
             {});
@@ -42,11 +34,9 @@ private Q_SLOTS:
 
     void Reading()
     {
-        QFETCH(const QByteArray, bytes);
-        QFETCH(const QList<int>, codes);
-        QFETCH(const int, warnings);
-        QFETCH(const QString, failure);
-        Test::WriteAll(Path(), bytes);
+        const auto [hex, codes, warnings, failure] =
+            Test::Row<const char*, QList<int>, int, QString>();
+        Test::WriteAll(Path(), QByteArray::fromHex(hex));
         Test::RecordingInterface interface;
         try {
             const CodeSet read = PatternFile(Path()).Read();
@@ -73,32 +63,27 @@ private Q_SLOTS:
                                     "read: "_s.arg(path)));
     }
 
-    // Longer than what is read at a time.
-    void LongFiles()
-    {
-        const QByteArray letters = QByteArray::fromHex("4100").repeated(0x20000);
-        Test::WriteAll(Path(), QByteArray::fromHex("fffe") + letters + QByteArray::fromHex("4200"));
-        const CodeSet codes = PatternFile(Path()).Read();
-        QVERIFY(codes.Test('A') && codes.Test('B') && !codes.Test('C'));
-    }
-
     void RoundTrip()
     {
         CodeSet codes;
         codes.SetRange(0x20, 0x7E, true);
         codes.Set(0xFFFF, true);
         PatternFile(Path()).Write(codes);
-        QCOMPARE(Test::ReadAll(Path()).left(6), QByteArray::fromHex("fffe20002100"));
+        const QByteArray written = Test::ReadAll(Path());
+        QCOMPARE(written.left(6), QByteArray::fromHex("fffe20002100"));
+        QCOMPARE(PatternFile(Path()).Read(), codes);
+        // Longer than what is read at a time.
+        const QByteArray letters = QByteArray::fromHex("4100").repeated(0x20000);
+        Test::WriteAll(Path(), written.left(2) + letters + written.mid(2));
         QCOMPARE(PatternFile(Path()).Read(), codes);
     }
 
     void Applying()
     {
-        Test::UndoSession session;
         auto font = std::make_unique<Font>(FontFormat::AA2, EncodingType::Unicode);
         font->SetEnabled('A', 'B', true);
         font->SetEnabled('A', 'A', false);
-        session.ReplaceFont(std::move(font), {});
+        Test::UndoSession session(std::move(font));
         const Font& current = *session.CurrentFont();
         const CodeSet before = current.EnabledCodes();
         Test::WriteAll(Path(), QByteArray::fromHex("fffe 4100 4300"));

@@ -6,8 +6,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestSettings : public QObject
 {
     Q_OBJECT
@@ -17,7 +15,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("store");
         QTest::newRow("no store") << QByteArray();
-        QTest::newRow("other keys") << QByteArray("[General]\nOther=1\n");
         QTest::newRow("wrong values")
             << QByteArray("[General]\nHideLegacy=perhaps\nNumeralSystem=many\nLogActions=\n"
                           "CreateLogFile=7\nUseSysLineEndings=@Rect(0 0 1 1)\nLineEndings=x\n"
@@ -117,27 +114,16 @@ private Q_SLOTS:
                  5);
     }
 
-    void LineEndings_data()
-    {
-        QTest::addColumn<bool>("system");
-        QTest::addColumn<int>("choice");
-        QTest::addColumn<QByteArray>("ending");
-        QTest::newRow("system") << true << 2 << QByteArray("\r\n");
-        QTest::newRow("CR LF") << false << 0 << QByteArray("\r\n");
-        QTest::newRow("CR") << false << 1 << QByteArray("\r");
-        QTest::newRow("LF") << false << 2 << QByteArray("\n");
-        QTest::newRow("unknown") << false << 77 << QByteArray("\r\n");
-    }
-
     void LineEndings()
     {
-        QFETCH(const bool, system);
-        QFETCH(const int, choice);
-        QFETCH(const QByteArray, ending);
-        Settings settings(Store({}));
-        settings.useSysLineEndings.setValue(system);
-        settings.lineEndings.setValue(choice);
-        QCOMPARE(settings.LineEnding(), ending);
+        for (const auto& [choice, ending] :
+             {std::pair(0, "\r\n"_ba), {1, "\r"_ba}, {2, "\n"_ba}, {77, "\r\n"_ba}}) {
+            Settings settings(Store({}));
+            settings.lineEndings.setValue(choice);
+            QCOMPARE(settings.LineEnding(), "\r\n"_ba); // the system's
+            settings.useSysLineEndings.setValue(false);
+            QCOMPARE(settings.LineEnding(), ending);
+        }
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "app/critical_exception.h"
 #include "cli/command_line.h"
 #include "cli/option_actions.h"
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QTest>
@@ -13,8 +14,6 @@
 #include <sstream>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,22 +52,18 @@ private Q_SLOTS:
 
     void Heights_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<int>("height"); // 0: refused
-        QTest::addColumn<bool>("inPoints");
-        QTest::newRow("pixels") << u"24px"_s << 24 << false;
-        QTest::newRow("points") << u"12Pt"_s << 12 << true;
-        QTest::newRow("no unit") << u"16"_s << 16 << false;
+        const Test::Rows<QString, int, bool> row; // height 0 where it is refused
+        row("pixels", u"24px"_s, 24, false);
+        row("points", u"12Pt"_s, 12, true);
+        row("no unit", u"16"_s, 16, false);
         for (const auto* const bad : {"+5px", " 5px", "%1px", "0px", "px", "-5px", "1.5px", "24em",
                                       "65536px", "4294967320px", "twelve"})
-            QTest::newRow(bad) << QString::fromUtf8(bad) << 0 << false;
+            row(bad, QString::fromUtf8(bad), 0, false);
     }
 
     void Heights()
     {
-        QFETCH(const QString, text);
-        QFETCH(const int, height);
-        QFETCH(const bool, inPoints);
+        const auto [text, height, inPoints] = Test::Row<QString, int, bool>();
         Test::RecordingInterface interface;
         if (height == 0) {
             QVERIFY_THROWS_EXCEPTION(CriticalException, (void)ParseHeight(text));
@@ -101,8 +96,8 @@ private Q_SLOTS:
     {
         const Test::RecordingInterface interface;
         const auto uses = CommandLineParser().parse(
-            {u"a.ttf"_s, u"-height"_s, u"9px"_s, u"-bold"_s, u"-merge"_s, u"b.sif"_s, u"KEEP"_s,
-             u"-editchar"_s, u"SHIFTR"_s, u"0x41-0x42"_s, u"-editfont"_s, u"INSTOP"_s, u"3"_s});
+            Test::Words(u"a.ttf -height 9px -bold -merge b.sif KEEP -editchar SHIFTR 0x41-0x42 "
+                        "-editfont INSTOP 3"_s));
         RunOptions options = ReadRunOptions(uses);
         options.open.selection.emplace().Set('A', true);
         Session session;

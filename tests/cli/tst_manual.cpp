@@ -7,17 +7,10 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 // The manual and the man page tell all options as they are, and no others.
 class TestManual : public QObject
 {
     Q_OBJECT
-
-    static QString Docs(const QString& name)
-    {
-        return QString::fromUtf8(Test::ReadAll(QStringLiteral(PROJECT_SOURCES "/docs/") + name));
-    }
 
     static QStringList Keywords(const CommandLineOption& option)
     {
@@ -46,7 +39,7 @@ class TestManual : public QObject
 private Q_SLOTS:
     void ManualHasTheOptions()
     {
-        const QString manual = Docs(u"manual/index.html"_s);
+        const QString manual = Test::Document(u"docs/manual/index.html"_s);
         QStringList forms;
         for (const CommandLineOption& option : CommandLineOptions()) {
             if (option.description.isEmpty())
@@ -68,7 +61,7 @@ private Q_SLOTS:
 
     void ManPageHasTheOptions()
     {
-        const QString page = Docs(u"Glyphor.1"_s);
+        const QString page = Test::Document(u"docs/Glyphor.1"_s);
         QStringList names;
         for (const CommandLineOption& option : CommandLineOptions()) {
             if (option.description.isEmpty())
@@ -86,7 +79,7 @@ private Q_SLOTS:
 
     void PicturesAndLinksLeadSomewhere()
     {
-        const QString manual = Docs(u"manual/index.html"_s);
+        const QString manual = Test::Document(u"docs/manual/index.html"_s);
         const QStringList pictures = Captured(manual, u"<img[^>]* src=\"(.*?)\""_s);
         QVERIFY(!pictures.isEmpty());
         for (const QString& picture : pictures)

@@ -1,5 +1,6 @@
 #include "files/font_file_sif.h"
 #include "files/font_file_xbf.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 
@@ -7,11 +8,10 @@
 #include <QtEndian>
 #include <QTest>
 
+#include <functional>
 #include <numeric>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -50,7 +50,7 @@ class TestBinaryFiles : public QObject
     }
 
     // A damaged copy: bytes at an offset replaced, or cut there where there are none.
-    [[nodiscard]] QByteArray Damaged(QByteArray bytes, int offset, const QByteArray& hex) const
+    [[nodiscard]] QByteArray Damaged(QByteArray bytes, int offset, const char* hex) const
     {
         const qsizetype at = offset < 0 ? bytes.size() + offset : offset;
         const QByteArray change = QByteArray::fromHex(hex);
@@ -60,32 +60,26 @@ class TestBinaryFiles : public QObject
 private Q_SLOTS:
     void Layout_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<QByteArray>("xbf");
-        QTest::addColumn<QByteArray>("sif");
-        QTest::newRow("framed")
-            << int(FontFormat::Framed)
-            << QByteArray("4755495803000300020001000200410043002400000014000000000000003800"
-                          "00000e000a0009000200ffff0100020041004300450047000400030001000200"
-                          "feff0100404058424604")
-            << QByteArray("47554950030003000200010002000200410041004300430009000200ffff0100"
-                          "0a00000038000000030001000200feff04000000400000004100430045004700"
-                          "404053494604");
-        QTest::newRow("plain")
-            << int(FontFormat::LegacyAA4)
-            << QByteArray("4755495803000300020001000200410043002400000013000000000000003700"
-                          "00000a0009000500414243444046474849404b4c4d4e40030002004340454047"
-                          "4058424602")
-            << QByteArray("47554950030003000200010002000200410041004300430009000a0005000000"
-                          "3000000003000400020000003f000000414243444046474849404b4c4d4e4043"
-                          "404540474053494602");
+        const Test::Rows<int, QByteArray, QByteArray> row;
+        row("framed", int(FontFormat::Framed),
+            QByteArray("4755495803000300020001000200410043002400000014000000000000003800"
+                       "00000e000a0009000200ffff0100020041004300450047000400030001000200"
+                       "feff0100404058424604"),
+            QByteArray("47554950030003000200010002000200410041004300430009000200ffff0100"
+                       "0a00000038000000030001000200feff04000000400000004100430045004700"
+                       "404053494604"));
+        row("plain", int(FontFormat::LegacyAA4),
+            QByteArray("4755495803000300020001000200410043002400000013000000000000003700"
+                       "00000a0009000500414243444046474849404b4c4d4e40030002004340454047"
+                       "4058424602"),
+            QByteArray("47554950030003000200010002000200410041004300430009000a0005000000"
+                       "3000000003000400020000003f000000414243444046474849404b4c4d4e4043"
+                       "404540474053494602"));
     }
 
     void Layout()
     {
-        QFETCH(const int, format);
-        QFETCH(const QByteArray, xbf);
-        QFETCH(const QByteArray, sif);
+        const auto [format, xbf, sif] = Test::Row<int, QByteArray, QByteArray>();
         const auto font = MakeSmallFont(FontFormat(format));
         QCOMPARE(Written<FontFileXBF>(*font, u"font.xbf"_s).toHex(), xbf);
         QCOMPARE(Written<FontFileSIF>(*font, u"font.sif"_s).toHex(), sif);
@@ -134,49 +128,8 @@ private Q_SLOTS:
                                                      "58424600");
         Test::WriteAll(Path(u"old.xbf"_s), bytes);
         const auto read = FontFileXBF(Path(u"old.xbf"_s)).Read();
-        const CharInfo& info = read->FindChar('A')->info;
-        QCOMPARE(int(info.width), 10);
-        QCOMPARE(int(info.cursorDistance), 10);
-        QCOMPARE(int(info.height), 3);
+        QCOMPARE(Test::Numbers(read->FindChar('A')->info), (QList<int>{10, 3, 0, 0, 10}));
         QCOMPARE(read->FindChar('A')->bitmap->Data(), QByteArray::fromHex("ffc00000ff00"));
-    }
-
-    void XbfDamage_data()
-    {
-        QTest::addColumn<int>("offset"); // negative: from the end
-        QTest::addColumn<QByteArray>("hex");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("magic") << 3 << QByteArray("59") << u"begin with \"GUIX\""_s;
-        QTest::newRow("cut trailer") << -1 << QByteArray() << u"end with \"XBF\""_s;
-        QTest::newRow("cut data") << 420 << QByteArray() << u"end with \"XBF\""_s;
-        QTest::newRow("header only") << 18 << QByteArray() << u"end with \"XBF\""_s;
-        QTest::newRow("format") << -1 << QByteArray("07") << u"no font format"_s;
-        QTest::newRow("height") << 5 << QByteArray("01") << u"259 pixels"_s;
-        QTest::newRow("codes") << 14 << QByteArray("8200") << u"0x0082 to 0x0081"_s;
-        QTest::newRow("table") << 16 << QByteArray("ffff") << u"too short for its table"_s;
-        QTest::newRow("offset") << 18 << QByteArray("ffffff7f") << u"0x0041 lies outside"_s;
-        QTest::newRow("into the table") << 18 << QByteArray("12000000") << u"0x0041 lies outside"_s;
-        QTest::newRow("size") << 22 << QByteArray("0d00") << u"0x0041 has a size in the table"_s;
-        QTest::newRow("no offset") << 18 << QByteArray("00000000") << u"0x0041 lies outside"_s;
-        QTest::newRow("tiny size") << 22 << QByteArray("0100") << u"0x0041 is too small"_s;
-        QTest::newRow("overlap") << 28 << QByteArray("2800") << u"overlap"_s;
-        QTest::newRow("width") << 410 << QByteArray("0001") << u"0x0041 has rows of 1 bytes"_s;
-        QTest::newRow("x offset") << 414 << QByteArray("0001") << u"0x0041 has a size or an"_s;
-        QTest::newRow("bytes per line") << 418 << QByteArray("02") << u"rows of 2 bytes"_s;
-    }
-
-    void XbfDamage()
-    {
-        QFETCH(const int, offset);
-        QFETCH(const QByteArray, hex);
-        QFETCH(const QString, expected);
-        const auto font = Test::MakeSampleFont(FontFormat::Standard);
-        Test::WriteAll(Path(u"bad.xbf"_s),
-                       Damaged(Written<FontFileXBF>(*font, u"good.xbf"_s), offset, hex));
-        const QString failure =
-            Test::FailureOf([&] { (void)FontFileXBF(Path(u"bad.xbf"_s)).Read(); });
-        QVERIFY2(failure.startsWith(u"Error reading XBF file!: The file "_s), qPrintable(failure));
-        QVERIFY2(failure.contains(expected) && failure.contains(u"bad.xbf"_s), qPrintable(failure));
     }
 
     void SifFirstBitmap()
@@ -217,37 +170,63 @@ private Q_SLOTS:
         }
     }
 
-    void SifDamage_data()
+    void Damage_data()
     {
-        QTest::addColumn<int>("offset");
-        QTest::addColumn<QByteArray>("hex");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("magic") << 0 << QByteArray("00") << u"begin with \"GUIP\""_s;
-        QTest::newRow("header only") << 15 << QByteArray() << u"begin with \"GUIP\""_s;
-        QTest::newRow("format") << -1 << QByteArray("ff") << u"no font format"_s;
-        QTest::newRow("baseline") << 9 << QByteArray("ff") << u"height of 65282 pixels"_s;
-        QTest::newRow("runs") << 14 << QByteArray("ffff") << u"65535 ranges"_s;
-        QTest::newRow("reversed run") << 18 << QByteArray("4000") << u"ascending order"_s;
-        QTest::newRow("overlapping runs") << 20 << QByteArray("4200") << u"ascending order"_s;
-        QTest::newRow("longer run") << 22 << QByteArray("ff00") << u"may be corrupted"_s;
-        QTest::newRow("height of a character") << 26 << QByteArray("ff00") << u"corrupted"_s;
-        QTest::newRow("y offset") << 31 << QByteArray("7f") << u"0x0041 has a size or an offset"_s;
-        QTest::newRow("pixels") << 36 << QByteArray("00") << u"0x0041 points to other pixels"_s;
+        // A negative offset is from the end.
+        const Test::Rows<QString, FontFormat, int, const char*, QString> row;
+        const auto rowOf = [&row](const QString& kind, FontFormat format, const char* name,
+                                  int offset, const char* hex, const char* expected) {
+            row(QTest::addRow("%s, %s", qPrintable(kind), name), kind, format, offset, hex,
+                QString::fromUtf8(expected));
+        };
+        const auto xbf = std::bind_front(rowOf, u"xbf"_s, FontFormat::Standard);
+        xbf("magic", 3, "59", "begin with \"GUIX\"");
+        xbf("cut trailer", -1, "", "end with \"XBF\"");
+        xbf("cut data", 420, "", "end with \"XBF\"");
+        xbf("header only", 18, "", "end with \"XBF\"");
+        xbf("format", -1, "07", "no font format");
+        xbf("height", 5, "01", "259 pixels");
+        xbf("codes", 14, "8200", "0x0082 to 0x0081");
+        xbf("table", 16, "ffff", "too short for its table");
+        xbf("offset", 18, "ffffff7f", "0x0041 lies outside");
+        xbf("into the table", 18, "12000000", "0x0041 lies outside");
+        xbf("size", 22, "0d00", "0x0041 has a size in the table");
+        xbf("no offset", 18, "00000000", "0x0041 lies outside");
+        xbf("tiny size", 22, "0100", "0x0041 is too small");
+        xbf("overlap", 28, "2800", "overlap");
+        xbf("width", 410, "0001", "0x0041 has rows of 1 bytes");
+        xbf("x offset", 414, "0001", "0x0041 has a size or an");
+        xbf("bytes per line", 418, "02", "rows of 2 bytes");
+        const auto sif = std::bind_front(rowOf, u"sif"_s, FontFormat::Framed);
+        sif("magic", 0, "00", "begin with \"GUIP\"");
+        sif("header only", 15, "", "begin with \"GUIP\"");
+        sif("format", -1, "ff", "no font format");
+        sif("baseline", 9, "ff", "height of 65282 pixels");
+        sif("runs", 14, "ffff", "65535 ranges");
+        sif("reversed run", 18, "4000", "ascending order");
+        sif("overlapping runs", 20, "4200", "ascending order");
+        sif("longer run", 22, "ff00", "may be corrupted");
+        sif("height of a character", 26, "ff00", "corrupted");
+        sif("y offset", 31, "7f", "0x0041 has a size or an offset");
+        sif("pixels", 36, "00", "0x0041 points to other pixels");
     }
 
-    void SifDamage()
+    void Damage()
     {
-        QFETCH(const int, offset);
-        QFETCH(const QByteArray, hex);
-        QFETCH(const QString, expected);
-        const auto font = Test::MakeSampleFont(FontFormat::Framed);
-        Test::WriteAll(Path(u"bad.sif"_s),
-                       Damaged(Written<FontFileSIF>(*font, u"good.sif"_s), offset, hex));
-        const QString failure =
-            Test::FailureOf([&] { (void)FontFileSIF(Path(u"bad.sif"_s)).Read(); });
-        QVERIFY2(failure.startsWith(u"Reading of SIF file failed!: The file "_s),
+        const auto [kind, format, offset, hex, expected] =
+            Test::Row<QString, FontFormat, int, const char*, QString>();
+        const auto font = Test::MakeSampleFont(format);
+        const bool isXbf = kind == u"xbf";
+        const QByteArray good = isXbf ? Written<FontFileXBF>(*font, u"good.xbf"_s)
+                                      : Written<FontFileSIF>(*font, u"good.sif"_s);
+        const QString path = Path(u"bad."_s + kind);
+        Test::WriteAll(path, Damaged(good, offset, hex));
+        const QString failure = Test::FailureOf(
+            [&] { (void)(isXbf ? FontFileXBF(path).Read() : FontFileSIF(path).Read()); });
+        const QString start = isXbf ? u"Error reading XBF file!: The file "_s
+                                    : u"Reading of SIF file failed!: The file "_s;
+        QVERIFY2(failure.startsWith(start + path) && failure.contains(expected),
                  qPrintable(failure));
-        QVERIFY2(failure.contains(expected) && failure.contains(u"bad.sif"_s), qPrintable(failure));
     }
 };
 

@@ -1,4 +1,5 @@
 #include "files/font_file_c.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 
@@ -6,8 +7,6 @@
 #include <QTest>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 class TestCReader : public QObject
 {
@@ -38,22 +37,18 @@ class TestCReader : public QObject
 private Q_SLOTS:
     void ReadsWhatIsWritten_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("encoding");
-        QTest::addColumn<QByteArray>("lineEnding");
+        const Test::Rows<int, int, QByteArray> row;
         const QByteArray endings[] = {"\r\n", "\r", "\n"};
         for (int format = 0; format < FormatCount; ++format) {
             for (int encoding = 0; encoding <= int(IsLegacyFormat(FontFormat(format))); ++encoding)
-                QTest::addRow("%d %d", format, encoding)
-                    << format << encoding << endings[format % 3];
+                row(QTest::addRow("%d %d", format, encoding), format, encoding,
+                    endings[format % 3]);
         }
     }
 
     void ReadsWhatIsWritten()
     {
-        QFETCH(const int, format);
-        QFETCH(const int, encoding);
-        QFETCH(const QByteArray, lineEnding);
+        const auto [format, encoding, lineEnding] = Test::Row<int, int, QByteArray>();
         const auto font = Test::MakeSampleFont(FontFormat(format), EncodingType(encoding));
         const QByteArray text = Text(*font, lineEnding);
         const auto read = Read(text);
@@ -66,11 +61,7 @@ private Q_SLOTS:
     // Changes that leave the font what it is.
     void OtherLayouts_data()
     {
-        QTest::addColumn<QByteArray>("from");
-        QTest::addColumn<QByteArray>("to");
-        const auto row = [](const char* name, const QByteArray& from, const QByteArray& to) {
-            QTest::newRow(name) << from << to;
-        };
+        const Test::Rows<QByteArray, QByteArray> row;
         row("capitals", "GUI_Font8", "GUI_FONT8");
         row("no declaration", "extern GUI_CONST_STORAGE GUI_FONT GUI_Font8_Tests_Plain_1;", "");
         row("only the structure's name", "GUI_FONT GUI_Font8_Tests_Plain_1;", "int other;");
@@ -100,8 +91,7 @@ private Q_SLOTS:
 
     void OtherLayouts()
     {
-        QFETCH(const QByteArray, from);
-        QFETCH(const QByteArray, to);
+        const auto [from, to] = Test::Row<QByteArray, QByteArray>();
         const QByteArray text = Text();
         QVERIFY(text.contains(from));
         const auto read = Read(QByteArray(text).replace(from, to));
@@ -111,12 +101,10 @@ private Q_SLOTS:
 
     void Failures_data()
     {
-        QTest::addColumn<QByteArray>("from");
-        QTest::addColumn<QByteArray>("to");
-        QTest::addColumn<QByteArray>("message");
-        const auto row = [](const QByteArray& from, const QByteArray& to,
-                            const QByteArray& message) {
-            QTest::newRow((message + " " + from.left(12)).constData()) << from << to << message;
+        const Test::Rows<QByteArray, QByteArray, QByteArray> rows;
+        const auto row = [&rows](const QByteArray& from, const QByteArray& to,
+                                 const QByteArray& message) {
+            rows((message + " " + from.left(12)).constData(), from, to, message);
         };
         const QByteArray table = "GUI_CHARINFO_EXT";
         row(" GUI_FONT ", " GUI_FUNT ", "GUI_FONT structure not found!");
@@ -152,9 +140,7 @@ private Q_SLOTS:
 
     void Failures()
     {
-        QFETCH(const QByteArray, from);
-        QFETCH(const QByteArray, to);
-        QFETCH(const QByteArray, message);
+        const auto [from, to, message] = Test::Row<QByteArray, QByteArray, QByteArray>();
         QByteArray text = Text();
         QVERIFY(text.contains(from));
         text.replace(from, to);
@@ -176,21 +162,16 @@ private Q_SLOTS:
     // Property blocks decide; array names that say otherwise are told.
     void CodesOfBlocksAndNames_data()
     {
-        QTest::addColumn<QByteArray>("from");
-        QTest::addColumn<QByteArray>("to");
-        QTest::addColumn<bool>("warns");
-        QTest::newRow("agree") << QByteArray("_0041") << QByteArray("_0041") << false;
-        QTest::newRow("another name") << QByteArray("_0041") << QByteArray("_0031") << true;
-        QTest::newRow("no code in it") << QByteArray("_0041") << QByteArray("_a") << true;
-        QTest::newRow("no blocks")
-            << QByteArray("GUI_FONT_PROP_EXT G") << QByteArray("int G") << true;
+        const Test::Rows<QByteArray, QByteArray, bool> row;
+        row("agree", QByteArray("_0041"), QByteArray("_0041"), false);
+        row("another name", QByteArray("_0041"), QByteArray("_0031"), true);
+        row("no code in it", QByteArray("_0041"), QByteArray("_a"), true);
+        row("no blocks", QByteArray("GUI_FONT_PROP_EXT G"), QByteArray("int G"), true);
     }
 
     void CodesOfBlocksAndNames()
     {
-        QFETCH(const QByteArray, from);
-        QFETCH(const QByteArray, to);
-        QFETCH(const bool, warns);
+        const auto [from, to, warns] = Test::Row<QByteArray, QByteArray, bool>();
         Test::RecordingInterface interface;
         const auto font = Read(Text().replace(from, to));
         QCOMPARE(interface.warnings.size(), warns ? 1 : 0);

@@ -1,5 +1,6 @@
 #include "files/c_survey.h"
 #include "files/font_file_c.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 
@@ -7,8 +8,6 @@
 #include <QTest>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 class TestCSurvey : public QObject
 {
@@ -39,10 +38,9 @@ private Q_SLOTS:
 
     void Additions_data()
     {
-        QTest::addColumn<QByteArray>("code");
-        QTest::addColumn<QStringList>("names");
-        const auto row = [](const QByteArray& code, const QStringList& names) {
-            QTest::newRow(code.left(40).constData()) << code << names;
+        const Test::Rows<QByteArray, QStringList> rows;
+        const auto row = [&rows](const QByteArray& code, const QStringList& names) {
+            rows(code.left(40).constData(), code, names);
         };
         row("", {});
         row("// int a;\n/* int b; */\n", {});
@@ -73,8 +71,7 @@ private Q_SLOTS:
     // In front of the font and behind it.
     void Additions()
     {
-        QFETCH(const QByteArray, code);
-        QFETCH(const QStringList, names);
+        const auto [code, names] = Test::Row<QByteArray, QStringList>();
         for (const FontFormat format : {FontFormat::Legacy, FontFormat::Framed}) {
             const QByteArray text = Text(format);
             QCOMPARE(BesideTheFontOfFile(code + '\n' + text), names);

@@ -2,14 +2,13 @@
 #include "files/font_file_c.h"
 #include "model/code_text.h"
 #include "support/c_files.h"
+#include "support/rows.h"
 #include "support/sample_font.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -62,59 +61,37 @@ class TestFontFileC : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void FileTypes_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("type"); // -1: none
-        QTest::newRow("capitals") << u"FONT.C"_s << int(FileType::C);
-        QTest::newRow("header") << u"dir.ttf/font.Hpp"_s << int(FileType::C);
-        QTest::newRow("backup") << u"font.c.bak"_s << -1;
-        QTest::newRow("collection") << u"a.ttc"_s << int(FileType::TrueTypeCollection);
-        QTest::newRow("compressed") << u"a.woff"_s << int(FileType::TrueType);
-        QTest::newRow("binary") << u"a.SIF"_s << int(FileType::Sif);
-        QTest::newRow("no suffix") << u"ttf"_s << -1;
-        QTest::newRow("no name") << QString() << -1;
-    }
-
     void FileTypes()
     {
-        QFETCH(const QString, name);
-        QFETCH(const int, type);
-        const auto found = FileTypeOf(name);
-        QCOMPARE(found ? int(*found) : -1, type);
-    }
-
-    void Names_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("cName");
-        QTest::newRow("cut at the last dot") << u"Arial 24.c"_s << QByteArray("Arial_24");
-        QTest::newRow("two dots") << u"a.b-c.d"_s << QByteArray("a_b_c");
-        QTest::newRow("other letters") << u"L\u00f6we \u0410_1"_s << QByteArray("L_we___1");
-        QTest::newRow("digit") << u"8x16"_s << QByteArray("8x16");
+        for (const auto& [name, type] : {std::pair(u"FONT.C"_s, std::optional(FileType::C)),
+                                         {u"dir.ttf/font.Hpp"_s, FileType::C},
+                                         {u"a.ttc"_s, FileType::TrueTypeCollection},
+                                         {u"a.woff"_s, FileType::TrueType},
+                                         {u"a.SIF"_s, FileType::Sif},
+                                         {u"font.c.bak"_s, std::nullopt},
+                                         {u"ttf"_s, std::nullopt}})
+            QVERIFY2(FileTypeOf(name) == type, qPrintable(name));
     }
 
     void Names()
     {
-        QFETCH(const QString, name);
-        QFETCH(const QByteArray, cName);
-        QCOMPARE(CName(name), cName);
+        for (const auto& [name, cName] : {std::pair(u"Arial 24.c"_s, "Arial_24"_ba),
+                                          {u"a.b-c.d"_s, "a_b_c"_ba},
+                                          {u"L\u00f6we \u0410_1"_s, "L_we___1"_ba},
+                                          {u"8x16"_s, "8x16"_ba}})
+            QCOMPARE(CName(name), cName);
     }
 
     void Golden_data()
     {
-        QTest::addColumn<QString>("fileName");
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("encoding");
-        QTest::newRow("standard") << u"standard.c"_s << int(FontFormat::Standard) << 0;
-        QTest::newRow("Shift JIS") << u"shiftjis.h"_s << int(FontFormat::LegacyAA2) << 1;
+        const Test::Rows<QString, int, int> row;
+        row("standard", u"standard.c"_s, int(FontFormat::Standard), 0);
+        row("Shift JIS", u"shiftjis.h"_s, int(FontFormat::LegacyAA2), 1);
     }
 
     void Golden()
     {
-        QFETCH(const QString, fileName);
-        QFETCH(const int, format);
-        QFETCH(const int, encoding);
+        const auto [fileName, format, encoding] = Test::Row<QString, int, int>();
         CFileOptions options;
         if (encoding == 0)
             options.actionLog = {u"[Font]: Opened font file: a/*/\u202e\nb.ttf"_s,
@@ -134,40 +111,35 @@ private Q_SLOTS:
         QCOMPARE(log.count('\n'), lines.count('\n') + 3);
     }
 
-    void GuardOnlyForHeaders_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("hasGuard");
-        for (const auto* const name : {"font.h", "a.b.hh", "font.hxx", "font.hpp"})
-            QTest::newRow(name) << QString::fromUtf8(name) << true;
-        for (const auto* const name : {"font.c", "font.H", "font.hpp.c", "h", "font.cpp"})
-            QTest::newRow(name) << QString::fromUtf8(name) << false;
-    }
-
     void GuardOnlyForHeaders()
     {
-        QFETCH(const QString, name);
-        QFETCH(const bool, hasGuard);
-        const QByteArray text = Compose(*Test::MakeSampleFont(FontFormat::AA2), name, {});
-        QCOMPARE(text.contains("#ifndef _8_TESTS_PLAIN_1_H\r\n#define _8_TESTS_PLAIN_1_H\r\n\r\n"),
-                 hasGuard);
-        QCOMPARE(text.contains("};\r\n\r\n#endif // _8_TESTS_PLAIN_1_H\r\n\r\n/****"), hasGuard);
+        const auto font = Test::MakeSampleFont(FontFormat::AA2);
+        for (const auto& [names, hasGuard] : {std::pair(u"font.h a.b.hh font.hxx font.hpp"_s, true),
+                                              {u"font.c font.H font.hpp.c h font.cpp"_s, false}}) {
+            for (const QString& name : Test::Words(names)) {
+                const QByteArray text = Compose(*font, name, {});
+                QVERIFY2(hasGuard == text.contains("#ifndef _8_TESTS_PLAIN_1_H\r\n#define "
+                                                   "_8_TESTS_PLAIN_1_H\r\n\r\n"),
+                         qPrintable(name));
+                QVERIFY2(hasGuard == text.contains("};\r\n\r\n#endif // _8_TESTS_PLAIN_1_H\r\n"
+                                                   "\r\n/****"),
+                         qPrintable(name));
+            }
+        }
     }
 
     void CompilesAndReadsBack_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<QString>("fileName");
+        const Test::Rows<int, QString> row;
         for (int format = 0; format < FormatCount; ++format) {
             for (const auto* const name : {"font.c", "font.h"})
-                QTest::addRow("format %d, %s", format, name) << format << QString::fromUtf8(name);
+                row(QTest::addRow("format %d, %s", format, name), format, QString::fromUtf8(name));
         }
     }
 
     void CompilesAndReadsBack()
     {
-        QFETCH(const int, format);
-        QFETCH(const QString, fileName);
+        const auto [format, fileName] = Test::Row<int, QString>();
         const QTemporaryDir folder;
         const auto font = Test::MakeSampleFont(FontFormat(format));
         FontFileC(folder.filePath(fileName), {}).Write(*font);

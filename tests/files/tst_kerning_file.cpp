@@ -1,11 +1,10 @@
 #include "files/kerning_file.h"
 #include "support/c_files.h"
+#include "support/rows.h"
 
 #include <QTemporaryDir>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,16 +40,14 @@ private Q_SLOTS:
 
     void Golden_data()
     {
-        QTest::addColumn<QString>("fileName");
-        QTest::addColumn<QList<int>>("distances");
-        QTest::newRow("narrow, two lines") << u"kerning.c"_s << QList<int>{-1, 2, 0, -3, 1};
-        QTest::newRow("wide, a full line") << u"kerning.h"_s << QList<int>{-12, 9, -9, 10};
+        const Test::Rows<QString, QList<int>> row;
+        row("narrow, two lines", u"kerning.c"_s, QList<int>{-1, 2, 0, -3, 1});
+        row("wide, a full line", u"kerning.h"_s, QList<int>{-12, 9, -9, 10});
     }
 
     void Golden()
     {
-        QFETCH(const QString, fileName);
-        QFETCH(const QList<int>, distances);
+        const auto [fileName, distances] = Test::Row<QString, QList<int>>();
         const auto font = MakeFont({distances.begin(), distances.end()});
         const QTemporaryDir folder;
         const QString path = folder.filePath(fileName);

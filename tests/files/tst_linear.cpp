@@ -10,8 +10,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 // No input takes a reader more than a time that grows with it.
 class TestLinear : public QObject
 {

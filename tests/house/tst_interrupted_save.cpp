@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDir>
@@ -10,8 +11,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 // Ends the program in front of every system call of a save: what is left is the old file or the new
 // one, as a whole.
 class TestInterruptedSave : public QObject
@@ -21,30 +20,21 @@ class TestInterruptedSave : public QObject
 private Q_SLOTS:
     void EndedAnywhere_data()
     {
-        QTest::addColumn<int>("signal");
-        QTest::addColumn<bool>("hasUnnamedFiles");
-        QTest::addColumn<bool>("isReplaced");
-        struct Ending
-        {
-            const char* name;
-            int signal;
-        };
-        for (const Ending& ending : {Ending{"TERM", SIGTERM}, Ending{"INT", SIGINT},
-                                     Ending{"HUP", SIGHUP}, Ending{"KILL", SIGKILL}}) {
+        const Test::Rows<int, bool, bool> row;
+        for (const auto& [name, signal] :
+             {std::pair("TERM", SIGTERM), {"INT", SIGINT}, {"HUP", SIGHUP}, {"KILL", SIGKILL}}) {
             for (const bool hasUnnamedFiles : {true, false}) {
                 for (const bool isReplaced : {true, false})
-                    QTest::addRow("%s, %s, %s", ending.name, hasUnnamedFiles ? "unnamed" : "named",
-                                  isReplaced ? "replaced" : "new")
-                        << ending.signal << hasUnnamedFiles << isReplaced;
+                    row(QTest::addRow("%s, %s, %s", name, hasUnnamedFiles ? "unnamed" : "named",
+                                      isReplaced ? "replaced" : "new"),
+                        signal, hasUnnamedFiles, isReplaced);
             }
         }
     }
 
     void EndedAnywhere()
     {
-        QFETCH(const int, signal);
-        QFETCH(const bool, hasUnnamedFiles);
-        QFETCH(const bool, isReplaced);
+        const auto [signal, hasUnnamedFiles, isReplaced] = Test::Row<int, bool, bool>();
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"font.xbf"_s);
         QVERIFY(Save(folder, true, {}));
@@ -98,9 +88,8 @@ private:
         if (prepare)
             process.setChildProcessModifier(prepare);
         process.start(QString::fromUtf8(GLYPHOR_PROGRAM),
-                      {Test::FontPath("outlines.ttf"), u"-hide"_s, u"-height"_s, u"20px"_s,
-                       u"-format"_s, u"AA4"_s, u"-enable"_s, u"0x41-0x61"_s, u"-save"_s,
-                       u"font.xbf"_s});
+                      Test::Words(u"%1 -hide -height 20px -format AA4 -enable 0x41-0x61 "
+                                  "-save font.xbf"_s.arg(Test::FontPath("outlines.ttf"))));
         process.closeWriteChannel();
         if (!process.waitForFinished())
             qFatal("the program does not end");

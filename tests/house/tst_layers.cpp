@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDirIterator>
@@ -5,8 +6,6 @@
 #include <QTest>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 // Compares the includes of every file with the tables of docs/architecture.md.
 class TestLayers : public QObject
@@ -16,16 +15,14 @@ class TestLayers : public QObject
 private Q_SLOTS:
     void FoldersIncludeOnlyWhatTheirTableAllows_data()
     {
-        QTest::addColumn<QString>("parent");
-        QTest::addColumn<int>("folders");
-        QTest::newRow("floors") << QString() << 7;
-        QTest::newRow("rooms of the window's floor") << u"ui/"_s << 7;
+        const Test::Rows<QString, int> row;
+        row("floors", QString(), 7);
+        row("rooms of the window's floor", u"ui/"_s, 7);
     }
 
     void FoldersIncludeOnlyWhatTheirTableAllows()
     {
-        QFETCH(QString, parent);
-        QFETCH(int, folders);
+        const auto [parent, folders] = Test::Row<QString, int>();
         const QHash<QString, QStringList> allowed = ReadTable(parent);
         QCOMPARE(allowed.size(), folders);
         const QRegularExpression include(u"^#include \"%1([a-z]+)/"_s.arg(parent),
@@ -63,8 +60,7 @@ private:
         const QRegularExpression row(u"^\\| `%1([a-z]+)/` \\|.*\\| ([a-z, ]*|-) \\|$"_s.arg(parent),
                                      QRegularExpression::MultilineOption);
         QHash<QString, QStringList> table;
-        auto rows =
-            row.globalMatch(QString::fromUtf8(Test::ReadAll(Sources(u"/docs/architecture.md"_s))));
+        auto rows = row.globalMatch(Test::Document(u"docs/architecture.md"_s));
         while (rows.hasNext()) {
             const auto match = rows.next();
             table.insert(match.captured(1), match.captured(2).split(u", "_s));

@@ -1,4 +1,5 @@
 #include "app/settings.h"
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDir>
@@ -13,8 +14,6 @@
 #include <unistd.h>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -67,26 +66,16 @@ private Q_SLOTS:
 
     void BadInput_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("expected"); // in the output
+        const Test::Rows<QStringList, QString> row;
         const QString font = Test::FontPath("outlines.ttf");
-        const auto row = [](const char* name, const QStringList& arguments,
-                            const QString& expected) {
-            QTest::newRow(name) << arguments << expected;
-        };
         row("missing file", Arguments(u"none.ttf"_s), u"Given file does not exist!"_s);
-        row("directory", Arguments(u"directory.ttf"_s), u"directory.ttf is a directory."_s);
-        row("empty file", Arguments(u"empty.ttf"_s), u"empty.ttf is empty."_s);
-        row("text file", Arguments(u"text.ttf"_s), u"It is not a font file."_s);
         row("unreadable file", Arguments(u"secret.ttf"_s), u"Permission denied"_s);
         row("no height", {u"-hide"_s, font, u"-save"_s, u"old.c"_s}, u"-height"_s);
         row("missing folder", Arguments(font, u"none/out.c"_s), u"none/out.c"_s);
         row("full disk", Arguments(font, u"full.c"_s), u"No space left on device"_s);
         row("target folder", Arguments(font, u"directory.c"_s), u"It is a directory."_s);
-        row("nothing selected", Arguments(font) + QStringList{u"-disable"_s, u"all"_s},
+        row("nothing selected", Arguments(font) + Test::Words(u"-disable all"_s),
             u"Font is empty!\nThe font has no enabled characters that could be saved."_s);
-        row("faulty option", Arguments(font) + QStringList{u"-nonsense"_s},
-            u"Invalid argument -nonsense entered!"_s);
         row("scalable font to merge", Arguments(font) + QStringList{u"-merge"_s, font},
             u"Only C, XBF, SIF and BDF allowed."_s);
         row("merging a missing file", Arguments(font) + QStringList{u"-merge"_s, u"none.c"_s},
@@ -95,16 +84,12 @@ private Q_SLOTS:
 
     void BadInput()
     {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QString, expected);
+        const auto [arguments, expected] = Test::Row<QStringList, QString>();
         Test::WriteAll(File(u"old.c"_s), "old");
-        Test::WriteAll(File(u"empty.ttf"_s), {});
-        Test::WriteAll(File(u"text.ttf"_s), "text\n");
         Test::WriteAll(File(u"secret.ttf"_s), "secret\n");
         QVERIFY(QFile::setPermissions(File(u"secret.ttf"_s), {}));
         QVERIFY(QFile::link(u"/dev/full"_s, File(u"full.c"_s)));
-        for (const QString& name : {u"directory.ttf"_s, u"directory.c"_s})
-            QVERIFY(QDir(folder_->path()).mkdir(name));
+        QVERIFY(QDir(folder_->path()).mkdir(u"directory.c"_s));
 
         const Result result = Run(arguments, [] { BecomeNobody(); });
         QCOMPARE(result.status, 0);
@@ -117,9 +102,8 @@ private Q_SLOTS:
     void EditsAndReports()
     {
         const QString font = Test::FontPath("strike.ttf");
-        const QStringList edits = {u"-editfont"_s, u"INSTOP"_s, u"2"_s,       u"-ec"_s,
-                                   u"cinc"_s,      u"all"_s,    u"-EC"_s,     u"MOVER"_s,
-                                   u"0x61-0x41"_s, u"3"_s,      u"-verbose"_s};
+        const QStringList edits =
+            Test::Words(u"-editfont INSTOP 2 -ec cinc all -EC MOVER 0x61-0x41 3 -verbose"_s);
         const Result result = Run(Arguments(font, u"out.c"_s) + edits);
         QCOMPARE(result.output, u"Opened font file: %1\n"
                                 "[Font]: Inserted a row at the top of the font.\n"
@@ -130,9 +114,8 @@ private Q_SLOTS:
         const QByteArray text = Test::ReadAll(File(u"out.c"_s));
         QCOMPARE(text.count("[Font]: Inserted a row at the top of the font."), 2);
         QCOMPARE(text.count("Moved 1 pixel to the right."), 3);
-        for (const QStringList& zero : {QStringList{u"-ef"_s, u"INSTOP"_s, u"0"_s},
-                                        QStringList{u"-ec"_s, u"DELB"_s, u"all"_s, u"0x0"_s}}) {
-            QVERIFY(Run(Arguments(font, u"zero.c"_s) + zero)
+        for (const QString& zero : {u"-ef INSTOP 0"_s, u"-ec DELB all 0x0"_s}) {
+            QVERIFY(Run(Arguments(font, u"zero.c"_s) + Test::Words(zero))
                         .output.startsWith(u"Critical error!\nThe <"_s));
             QVERIFY(!QFile::exists(File(u"zero.c"_s)));
         }
@@ -145,7 +128,7 @@ private Q_SLOTS:
         Run(Arguments(font, u"out.c"_s));
         const QByteArray text = Test::ReadAll(File(u"out.c"_s)) + "int used;\n";
         Test::WriteAll(File(u"out.c"_s), text);
-        const QString opened = Run({u"-hide"_s, u"out.c"_s, u"-save"_s, u"out.c"_s}).output;
+        const QString opened = Run(Test::Words(u"-hide out.c -save out.c"_s)).output;
         QCOMPARE(opened,
                  u"The file holds more than its first font, which alone was read. Beside it: "
                  "used\nOpened font file: out.c\nCritical error!\nError saving file!\n"
@@ -153,7 +136,7 @@ private Q_SLOTS:
                  "Beside the font: used\n"_s);
         QVERIFY(Run(Arguments(font, u"out.c"_s)).output.contains(u"under another name"_s));
         QCOMPARE(Test::ReadAll(File(u"out.c"_s)), text);
-        QVERIFY(Run({u"-hide"_s, u"out.c"_s, u"-save"_s, u"two.c"_s}).output.contains(u"Saved"_s));
+        QVERIFY(Run(Test::Words(u"-hide out.c -save two.c"_s)).output.contains(u"Saved"_s));
         QVERIFY(!Test::ReadAll(File(u"two.c"_s)).contains("int used"));
     }
 
@@ -173,18 +156,15 @@ private Q_SLOTS:
     void MergesAndAsks()
     {
         const QString font = Test::FontPath("strike.ttf");
-        const QStringList letters = {u"-enable"_s, u"0x41-0x61"_s};
-        QVERIFY(Run(Arguments(font, u"one.sif"_s) + letters).output.contains(u"Saved"_s));
-        QVERIFY(Run(Arguments(font, u"two.c"_s) + QStringList{u"-e"_s, u"0x56"_s})
-                    .output.contains(u"Saved"_s));
-        const auto merge = [this](const QStringList& more) {
-            return Run(QStringList{u"one.sif"_s, u"-hide"_s, u"-merge"_s, u"two.c"_s} + more +
-                       QStringList{u"-save"_s, u"out.c"_s, u"-verbose"_s})
+        Run(Arguments(font, u"one.sif"_s));
+        Run(Arguments(font, u"two.c"_s));
+        const auto merge = [this](const QString& more) {
+            return Run(Test::Words(u"one.sif -hide -verbose -save out.c -merge two.c "_s + more))
                 .output;
         };
-        QCOMPARE(merge({u"replaceold"_s}), u"Opened font file: one.sif\n"
-                                           "[Font]: Font merged with: two.c\n"
-                                           "Saved font file: out.c\n"_s);
+        QCOMPARE(merge(u"replaceold"_s),
+                 u"Opened font file: one.sif\n[Font]: Font merged with: two.c\n"
+                 "Saved font file: out.c\n"_s);
         // Nobody answers the questions here.
         const QString question = merge({});
         QVERIFY2(
@@ -195,16 +175,16 @@ private Q_SLOTS:
                                   "selected.\n"_s),
             qUtf8Printable(question));
         Test::WriteAll(File(u"one.sif"_s), Test::ReadAll(File(u"one.sif"_s)).chopped(4));
-        QVERIFY(merge({u"KEEP"_s}).startsWith(u"Font format not found in the file.\n"_s));
-        QVERIFY(merge({u"KEEP"_s, u"-format"_s, u"AA4"_s}).contains(u"Saved font file: out.c"_s));
+        QVERIFY(merge(u"KEEP"_s).startsWith(u"Font format not found in the file.\n"_s));
+        QVERIFY(merge(u"KEEP -format AA4"_s).contains(u"Saved font file: out.c"_s));
     }
 
     void PatternsSelect()
     {
         Test::WriteAll(File(u"one.txt"_s), QByteArray::fromHex("fffe 4100 9c4e"));
         const QString font = Test::FontPath("outlines.ttf");
-        QStringList arguments = {font,         u"-hide"_s, u"-height"_s, u"9px"_s,   u"-p"_s,
-                                 u"one.txt"_s, u"-e"_s,    u"0x56"_s,    u"-save"_s, u"out.c"_s};
+        QStringList arguments =
+            Test::Words(u"%1 -hide -height 9px -p one.txt -e 0x56 -save out.c"_s.arg(font));
         QVERIFY(Run(arguments).output.contains(u"Saved"_s));
         const QByteArray text = Test::ReadAll(File(u"out.c"_s));
         QVERIFY(text.contains("_CharInfo[3] = {"));
@@ -218,12 +198,7 @@ private Q_SLOTS:
     void FontsByName()
     {
         const QString folder = QFileInfo(Test::FontPath("black.ttf")).path();
-        {
-            Settings settings(
-                std::make_unique<QSettings>(File(u"Morvek/Glyphor.conf"_s), QSettings::IniFormat));
-            settings.additionalFontDirs.setValue({folder});
-        }
-        qputenv("XDG_CONFIG_HOME", folder_->path().toLocal8Bit());
+        Configure([&](Settings& settings) { settings.additionalFontDirs.setValue({folder}); });
         const QStringList list = Run({u"-hide"_s, u"-listfonts"_s}).output.split(u'\n');
         const qsizetype column = list[0].indexOf(u"Styles"_s);
         QVERIFY(list[0].startsWith(u"Font family "_s) && column > 0);
@@ -231,8 +206,8 @@ private Q_SLOTS:
                               u"Regular, Oblique, Black"_s));
         QVERIFY(list.contains(u"Test Variable"_s.leftJustified(column) + u"Plain, Heavy"_s));
 
-        QStringList create = {u"-hide"_s,   u"-create"_s, u"Test Collection"_s, u"Oblique"_s,
-                              u"-height"_s, u"9px"_s,     u"-save"_s,           u"out.c"_s};
+        QStringList create = Test::Words(u"-hide -create X Oblique -height 9px -save out.c"_s);
+        create[2] = u"Test Collection"_s;
         QCOMPARE(Run(create).output,
                  u"Opened font file: %1/collection.ttc\nSaved font file: out.c\n"_s.arg(folder));
         const QByteArray text = Test::ReadAll(File(u"out.c"_s));
@@ -248,8 +223,7 @@ private Q_SLOTS:
 
     void HostileFontsTakeNoMemory_data()
     {
-        QTest::addColumn<QString>("font");
-        QTest::addColumn<QStringList>("more");
+        const Test::Rows<QString, QStringList> row;
         const QByteArray header = Test::ReadAll(Test::FontPath("bitmap.bdf"));
         const QByteArray character =
             "STARTCHAR a\nENCODING 65\nSWIDTH 1 0\nDWIDTH 8 0\nBBX 8x 65000x 0 0\nBITMAP\n";
@@ -258,30 +232,25 @@ private Q_SLOTS:
         for (const QString& name : names) {
             Test::WriteAll(hostile_.path() + name,
                            name == names[1] ? QByteArray(bdf).replace('\n', '\r') : bdf);
-            QTest::newRow(qPrintable(name)) << hostile_.path() + name << QStringList{};
+            row(qPrintable(name), hostile_.path() + name, QStringList{});
         }
-        QTest::newRow("packed") << Test::FontPath("packed.woff") << QStringList{};
-        const QStringList large = {u"-height"_s, u"250px"_s, u"-format"_s, u"AA4"_s};
-        QTest::newRow("one glyph for all codes") << Test::FontPath("hostile.ttf") << large;
-        QTest::newRow("damaged box") << Test::FontPath("damaged.ttf") << large;
-        QTest::newRow("too high") << Test::FontPath("outlines.ttf")
-                                  << QStringList{u"-height"_s, u"65535px"_s, u"-format"_s,
-                                                 u"FRM"_s};
-        QTest::newRow("in a font folder") << QString() << QStringList{u"-listfonts"_s};
+        row("packed", Test::FontPath("packed.woff"), QStringList{});
+        const QStringList large = Test::Words(u"-height 250px -format AA4"_s);
+        row("one glyph for all codes", Test::FontPath("hostile.ttf"), large);
+        row("damaged box", Test::FontPath("damaged.ttf"), large);
+        row("too high", Test::FontPath("outlines.ttf"),
+            Test::Words(u"-height 65535px -format FRM"_s));
+        row("in a font folder", QString(), QStringList{u"-listfonts"_s});
     }
 
     // Neither a font that is opened nor one that lies in a font directory.
     void HostileFontsTakeNoMemory()
     {
-        QFETCH(const QString, font);
-        QFETCH(QStringList, more);
-        {
-            Settings settings(
-                std::make_unique<QSettings>(File(u"Morvek/Glyphor.conf"_s), QSettings::IniFormat));
+        auto [font, more] = Test::Row<QString, QStringList>();
+        Configure([&](Settings& settings) {
             settings.additionalFontDirs.setValue(
                 {hostile_.path(), QFileInfo(Test::FontPath("packed.woff")).path()});
-        }
-        qputenv("XDG_CONFIG_HOME", folder_->path().toLocal8Bit());
+        });
         if (more.isEmpty())
             more = {u"-height"_s, u"24px"_s};
         if (!font.isEmpty())
@@ -318,7 +287,7 @@ private Q_SLOTS:
 
     void ErrorFile()
     {
-        Run({u"-hide"_s, u"none.ttf"_s, u"-XIRTSEK"_s, u"-height"_s, u"9px"_s});
+        Run(Test::Words(u"-hide none.ttf -XIRTSEK -height 9px"_s));
         QCOMPARE(Test::ReadAll(File(u"Glyphor.err"_s)), QByteArray("Given file does not exist!"));
         Run({u"-hide"_s, u"-xirtsek"_s, u"-save"_s});
         QCOMPARE(Test::ReadAll(File(u"Glyphor.err"_s)), QByteArray("Parameter missing!"));
@@ -329,13 +298,10 @@ private Q_SLOTS:
     // The store is decoded before anything else, in a process that knows no types yet.
     void StoredRecordsAreKnown()
     {
-        {
-            Settings settings(
-                std::make_unique<QSettings>(File(u"Morvek/Glyphor.conf"_s), QSettings::IniFormat));
+        Configure([](Settings& settings) {
             settings.commandDialog.save({640, 480});
             settings.mainWindow.save({"geometry", "state"});
-        }
-        qputenv("XDG_CONFIG_HOME", folder_->path().toLocal8Bit());
+        });
         const Result result = Run(Arguments(Test::FontPath("strike.ttf")));
         QCOMPARE(result.errors, QString());
         QVERIFY(result.output.contains(u"Saved"_s));
@@ -355,8 +321,18 @@ private Q_SLOTS:
 private:
     static QStringList Arguments(const QString& font, const QString& target = u"old.c"_s)
     {
-        return {font,     u"-hide"_s,   u"-height"_s,   u"24px"_s,  u"-format"_s,
-                u"AA4"_s, u"-enable"_s, u"0x21-0x7E"_s, u"-save"_s, target};
+        return QStringList{font} +
+               Test::Words(u"-hide -height 24px -format AA4 -enable 0x21-0x7E -save"_s) +
+               QStringList{target};
+    }
+
+    // For the programs that run from now on.
+    void Configure(const std::function<void(Settings&)>& change)
+    {
+        Settings settings(
+            std::make_unique<QSettings>(File(u"Morvek/Glyphor.conf"_s), QSettings::IniFormat));
+        change(settings);
+        qputenv("XDG_CONFIG_HOME", folder_->path().toLocal8Bit());
     }
 
     // The rights of root would let it read and write everything.

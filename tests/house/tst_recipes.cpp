@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDir>
@@ -9,15 +10,7 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-QString Document(const char* name)
-{
-    return QString::fromUtf8(
-        Test::ReadAll(QStringLiteral(PROJECT_SOURCES "/") + QString::fromUtf8(name)));
-}
 
 QString Captured(const QString& text, const char* pattern)
 {
@@ -33,7 +26,7 @@ QString FromHtml(QString text)
 
 QString ReadmeMakefile()
 {
-    QString text = Captured(Document("README.md"), "In a Makefile:\n\n(.*?)\n\n");
+    QString text = Captured(Test::Document(u"README.md"_s), "In a Makefile:\n\n(.*?)\n\n");
     return text.replace(QRegularExpression(u"^    "_s, QRegularExpression::MultilineOption), {});
 }
 
@@ -45,7 +38,7 @@ class TestRecipes : public QObject
 {
     Q_OBJECT
 
-    QString manual_ = Document("docs/manual/index.html");
+    QString manual_ = Test::Document(u"docs/manual/index.html"_s);
 
 private Q_SLOTS:
     void DocumentsAgree()
@@ -53,17 +46,14 @@ private Q_SLOTS:
         const QString makefile = ReadmeMakefile();
         QVERIFY(makefile.startsWith(u"DejaVu.c: DejaVuSans.ttf\n\t"_s));
         QCOMPARE(FromHtml(Captured(manual_, "<pre><code>(DejaVu\\.c: .*?)</code>")), makefile);
-        QString page = Captured(Document("docs/Glyphor.1"), "\n(DejaVu\\.c: .*?)\n\\.fi");
+        QString page = Captured(Test::Document(u"docs/Glyphor.1"_s), "\n(DejaVu\\.c: .*?)\n\\.fi");
         page.replace(" \\e\n\t    "_L1, " "_L1).replace("\\-"_L1, "-"_L1);
         QCOMPARE(page.replace("\\(aq"_L1, "'"_L1), makefile);
     }
 
     void Recipes_data()
     {
-        QTest::addColumn<QString>("recipe"); // for the shell
-        QTest::addColumn<QString>("output");
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<bool>("passes");
+        const Test::Rows<QString, QString, QString, bool> rows;
         struct Recipe
         {
             const char* name;
@@ -78,9 +68,9 @@ private Q_SLOTS:
              FromHtml(Captured(manual_, "<pre><code>(Glyphor [^<]*a\\.txt.*?)</code>")), u"a.c"_s}};
         const QString good = u"exec '%1' \"$@\""_s.arg(QString::fromUtf8(GLYPHOR_PROGRAM));
         for (const Recipe& recipe : recipes) {
-            const auto row = [&recipe](const char* name, const QString& program, bool passes) {
-                QTest::addRow("%s, %s", recipe.name, name)
-                    << recipe.text << recipe.output << program << passes;
+            const auto row = [&](const char* name, const QString& program, bool passes) {
+                rows(QTest::addRow("%s, %s", recipe.name, name), recipe.text, recipe.output,
+                     program, passes);
             };
             row("good", good, true);
             row("missing", {}, false);
@@ -92,10 +82,7 @@ private Q_SLOTS:
 
     void Recipes()
     {
-        QFETCH(const QString, recipe);
-        QFETCH(const QString, output);
-        QFETCH(const QString, program);
-        QFETCH(const bool, passes);
+        const auto [recipe, output, program, passes] = Test::Row<QString, QString, QString, bool>();
         QVERIFY(!recipe.isEmpty());
         const QTemporaryDir folder;
         const auto file = [&folder](const QString& name) { return folder.filePath(name); };

@@ -1,5 +1,7 @@
 #include "model/char_bitmap_framed.h"
 #include "model/font.h"
+#include "support/rows.h"
+#include "support/sample_font.h"
 #include "support/test_main.h"
 
 #include <QTest>
@@ -79,58 +81,34 @@ void Rotate(Rows& rows, std::ptrdiff_t by)
     std::rotate(rows.begin(), by > 0 ? rows.end() - by : rows.begin() - by, rows.end());
 }
 
+// Edits that are never refused.
+template <auto Edit>
+bool Done(CharBitmap& bitmap)
+{
+    (bitmap.*Edit)();
+    return true;
+}
+
+template <typename Change>
+std::function<void(Picture&)> EachRow(Change change)
+{
+    return [change](Picture& rows) { std::ranges::for_each(rows, change); };
+}
+
 // The edits that leave the number of rows alone, which every format has.
 const std::vector<EditCase> WidthEdits = {
     {"InsertColumnRight", &CharBitmap::InsertColumnRight,
-     [](Picture& rows) {
-         for (auto& row : rows)
-             row.push_back(0);
-     }},
+     EachRow([](auto& row) { row.push_back(0); })},
     {"InsertColumnLeft", &CharBitmap::InsertColumnLeft,
-     [](Picture& rows) {
-         for (auto& row : rows)
-             row.insert(row.begin(), 0);
-     }},
+     EachRow([](auto& row) { row.insert(row.begin(), 0); })},
     {"DeleteColumnRight", &CharBitmap::DeleteColumnRight,
-     [](Picture& rows) {
-         for (auto& row : rows)
-             row.pop_back();
-     }},
+     EachRow([](auto& row) { row.pop_back(); })},
     {"DeleteColumnLeft", &CharBitmap::DeleteColumnLeft,
-     [](Picture& rows) {
-         for (auto& row : rows)
-             row.erase(row.begin());
-     }},
-    {"ShiftRight",
-     [](CharBitmap& bitmap) {
-         bitmap.ShiftRight();
-         return true;
-     },
-     [](Picture& rows) {
-         for (auto& row : rows)
-             Rotate(row, 1);
-     }},
-    {"ShiftLeft",
-     [](CharBitmap& bitmap) {
-         bitmap.ShiftLeft();
-         return true;
-     },
-     [](Picture& rows) {
-         for (auto& row : rows)
-             Rotate(row, -1);
-     }},
-    {"ShiftUp",
-     [](CharBitmap& bitmap) {
-         bitmap.ShiftUp();
-         return true;
-     },
-     [](Picture& rows) { Rotate(rows, -1); }},
-    {"ShiftDown",
-     [](CharBitmap& bitmap) {
-         bitmap.ShiftDown();
-         return true;
-     },
-     [](Picture& rows) { Rotate(rows, 1); }},
+     EachRow([](auto& row) { row.erase(row.begin()); })},
+    {"ShiftRight", Done<&CharBitmap::ShiftRight>, EachRow([](auto& row) { Rotate(row, 1); })},
+    {"ShiftLeft", Done<&CharBitmap::ShiftLeft>, EachRow([](auto& row) { Rotate(row, -1); })},
+    {"ShiftUp", Done<&CharBitmap::ShiftUp>, [](Picture& rows) { Rotate(rows, -1); }},
+    {"ShiftDown", Done<&CharBitmap::ShiftDown>, [](Picture& rows) { Rotate(rows, 1); }},
 };
 
 struct RowEditCase
@@ -160,18 +138,16 @@ class TestCharBitmap : public QObject
 private Q_SLOTS:
     void Edits_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("width");
+        const Test::Rows<int, int> row;
         for (const FontFormat format : AllFormats) {
             for (const int width : {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 254})
-                QTest::addRow("format %d, width %d", int(format), width) << int(format) << width;
+                row(QTest::addRow("format %d, width %d", int(format), width), int(format), width);
         }
     }
 
     void Edits()
     {
-        QFETCH(const int, format);
-        QFETCH(const int, width);
+        const auto [format, width] = Test::Row<int, int>();
         for (const EditCase& edit : WidthEdits)
             CheckEdit(edit, FontFormat(format), width);
         for (const RowEditCase& edit : RowEdits) {
@@ -244,11 +220,10 @@ private Q_SLOTS:
             sample.character->info.xPos = 5;
             sample.character->bitmap->Clear();
             const CharInfo& info = sample.character->info;
-            QCOMPARE(int(info.width), 1);
+            const bool isLegacy = IsLegacyFormat(format);
+            QCOMPARE(Test::Numbers(info),
+                     (QList<int>{1, isLegacy ? Sample::Rows : 1, 0, isLegacy ? 0 : 3, 0}));
             QCOMPARE(int(info.bytesPerLine), 1);
-            QCOMPARE(int(info.xPos), 0);
-            QCOMPARE(int(info.yPos), IsLegacyFormat(format) ? 0 : 3);
-            QCOMPARE(int(info.height), IsLegacyFormat(format) ? Sample::Rows : 1);
             const int planes = format == FontFormat::Framed ? 2 : 1;
             QCOMPARE(sample.character->bitmap->DataAsList(),
                      QByteArray(info.height * planes, '\0'));
@@ -260,26 +235,14 @@ private Q_SLOTS:
         Sample sample(FontFormat::Framed, 9);
         auto& bitmap = dynamic_cast<CharBitmapFramed&>(*sample.character->bitmap);
         bitmap.AssignData({});
-        bitmap.SetPixelIndex(4, 2, 1);
-        QCOMPARE(bitmap.Frame().toHex(), QByteArray("0000"
-                                                    "0800"
-                                                    "1400"
-                                                    "0800"
-                                                    "0000"));
+        bitmap.SetPixelIndex(4, 2, 1); // rows of two bytes
+        QCOMPARE(bitmap.Frame().toHex(), QByteArray("00000800140008000000"));
         bitmap.SetPixelIndex(0, 0, 1); // the frame outside is dropped
-        QCOMPARE(bitmap.Frame().toHex(), QByteArray("4000"
-                                                    "8800"
-                                                    "1400"
-                                                    "0800"
-                                                    "0000"));
+        QCOMPARE(bitmap.Frame().toHex(), QByteArray("40008800140008000000"));
         QCOMPARE(int(sample.character->info.width), 9);
 
         QVERIFY(bitmap.InsertColumnLeft());
-        QCOMPARE(bitmap.Frame().toHex(), QByteArray("2000"
-                                                    "4400"
-                                                    "0a00"
-                                                    "0400"
-                                                    "0000"));
+        QCOMPARE(bitmap.Frame().toHex(), QByteArray("200044000a0004000000"));
         QByteArray written;
         bitmap.Write(written);
         QCOMPARE(written, bitmap.Data() + bitmap.Frame());

@@ -47,25 +47,23 @@ private Q_SLOTS:
         CharBitmap& bitmap = *font.AddChar('A').bitmap;
         bitmap.SetPixelIndex(0, 0, 3);
         const CharInfo& info = bitmap.Info();
+        const FontMetrics& metrics = font.Metrics();
         const int yPos = info.yPos;
 
         QVERIFY(font.InsertRowTop());
-        QCOMPARE(int(font.Metrics().height), 4);
-        QCOMPARE(int(font.Metrics().verticalSpace), 4);
-        QCOMPARE(int(font.Metrics().baseline), 3);
+        QCOMPARE((QList<int>{metrics.height, metrics.verticalSpace, metrics.baseline}),
+                 (QList<int>{4, 4, 3}));
         QCOMPARE(int(info.yPos), isLegacy ? 0 : yPos + 1);
         QCOMPARE(int(info.height), isLegacy ? 4 : 1);
         QCOMPARE(bitmap.GetPixelIndex(0, isLegacy ? 1 : 0), 3);
 
         QVERIFY(font.InsertRowBottom());
-        QCOMPARE(int(font.Metrics().baseline), 3);
+        QCOMPARE(int(metrics.baseline), 3);
         QCOMPARE(bitmap.Data().size(), isLegacy ? 5 : 1);
 
-        QVERIFY(font.DeleteRowTop());
-        QVERIFY(font.DeleteRowBottom());
-        QCOMPARE(int(font.Metrics().height), 3);
-        QCOMPARE(int(font.Metrics().baseline), 2);
-        QCOMPARE(int(info.yPos), yPos);
+        QVERIFY(font.DeleteRowTop() && font.DeleteRowBottom());
+        QCOMPARE((QList<int>{metrics.height, metrics.baseline, info.yPos}),
+                 (QList<int>{3, 2, yPos}));
         QCOMPARE(bitmap.Data(), QByteArray::fromHex(isLegacy ? "c00000" : "c0"));
     }
 

@@ -1,4 +1,6 @@
 #include "model/font.h"
+#include "support/rows.h"
+#include "support/sample_font.h"
 #include "support/test_main.h"
 
 #include <QTest>
@@ -46,28 +48,23 @@ class TestGlyphConversion : public QObject
 private Q_SLOTS:
     void Thresholds_data()
     {
-        QTest::addColumn<int>("bits");
-        QTest::addColumn<int>("coverage");
-        QTest::addColumn<int>("index");
-        QTest::newRow("1 bit, below") << 1 << 127 << 0;
-        QTest::newRow("1 bit, at") << 1 << 128 << 1;
-        QTest::newRow("1 bit, full") << 1 << 255 << 1;
-        QTest::newRow("2 bits, 42") << 2 << 42 << 0;
-        QTest::newRow("2 bits, 43") << 2 << 43 << 1;
-        QTest::newRow("2 bits, 127") << 2 << 127 << 1;
-        QTest::newRow("2 bits, 128") << 2 << 128 << 2;
-        QTest::newRow("2 bits, 212") << 2 << 212 << 2;
-        QTest::newRow("2 bits, 213") << 2 << 213 << 3;
-        QTest::newRow("4 bits, 15") << 4 << 15 << 0;
-        QTest::newRow("4 bits, 16") << 4 << 16 << 1;
-        QTest::newRow("4 bits, 255") << 4 << 255 << 15;
+        const Test::Rows<int, int, int> row;
+        row("1 bit, below", 1, 127, 0);
+        row("1 bit, at", 1, 128, 1);
+        row("2 bits, 42", 2, 42, 0);
+        row("2 bits, 43", 2, 43, 1);
+        row("2 bits, 127", 2, 127, 1);
+        row("2 bits, 128", 2, 128, 2);
+        row("2 bits, 212", 2, 212, 2);
+        row("2 bits, 213", 2, 213, 3);
+        row("4 bits, 15", 4, 15, 0);
+        row("4 bits, 16", 4, 16, 1);
+        row("4 bits, 255", 4, 255, 15);
     }
 
     void Thresholds()
     {
-        QFETCH(const int, bits);
-        QFETCH(const int, coverage);
-        QFETCH(const int, index);
+        const auto [bits, coverage, index] = Test::Row<int, int, int>();
         const RenderedGlyph glyph = Solid(1, 1, quint8(coverage));
         GlyphPlacement placement;
         placement.width = placement.height = 1;
@@ -78,49 +75,24 @@ private Q_SLOTS:
     {
         Font font(FontFormat::AA4, EncodingType::Unicode);
         QCOMPARE(font.AddRendered('A', Mono({"X_X", "_X_"})), Font::AddResult::Added);
-        QCOMPARE(font.FindChar('A')->bitmap->Data().toHex(), QByteArray("f0f0"
-                                                                        "0f00"));
+        QCOMPARE(font.FindChar('A')->bitmap->Data().toHex(), QByteArray("f0f00f00"));
         QCOMPARE(font.AddRendered('A', Mono({"X"})), Font::AddResult::Exists);
     }
 
     void LegacyCells_data()
     {
-        QTest::addColumn<int>("xPos");
-        QTest::addColumn<int>("yPos");
-        QTest::addColumn<int>("cursorDistance");
-        QTest::addColumn<QByteArray>("rows"); // of a font 3 pixels high
-        QTest::newRow("in place") << 1 << 1 << 4
-                                  << QByteArray("00"
-                                                "40"
-                                                "40");
-        QTest::newRow("ink beyond the cursor") << 6 << 1 << 4
-                                               << QByteArray("00"
-                                                             "02"
-                                                             "02");
-        QTest::newRow("before the cursor") << -3 << 0 << 4
-                                           << QByteArray("80"
-                                                         "80"
-                                                         "00");
-        QTest::newRow("above the font") << 0 << -1 << 4
-                                        << QByteArray("80"
-                                                      "00"
-                                                      "00");
-        QTest::newRow("below the font") << 0 << 2 << 4
-                                        << QByteArray("00"
-                                                      "00"
-                                                      "80");
-        QTest::newRow("far off") << 0 << 900 << 4
-                                 << QByteArray("00"
-                                               "00"
-                                               "00");
+        const Test::Rows<int, int, int, QByteArray> row; // the rows of a font 3 pixels high
+        row("in place", 1, 1, 4, QByteArray("004040"));
+        row("ink beyond the cursor", 6, 1, 4, QByteArray("000202"));
+        row("before the cursor", -3, 0, 4, QByteArray("808000"));
+        row("above the font", 0, -1, 4, QByteArray("800000"));
+        row("below the font", 0, 2, 4, QByteArray("000080"));
+        row("far off", 0, 900, 4, QByteArray("000000"));
     }
 
     void LegacyCells()
     {
-        QFETCH(const int, xPos);
-        QFETCH(const int, yPos);
-        QFETCH(const int, cursorDistance);
-        QFETCH(const QByteArray, rows);
+        const auto [xPos, yPos, cursorDistance, rows] = Test::Row<int, int, int, QByteArray>();
         Font font(FontFormat::Legacy, EncodingType::Unicode);
         font.SetHeight(3);
         RenderedGlyph glyph = Mono({"X", "X"});
@@ -130,50 +102,30 @@ private Q_SLOTS:
         QCOMPARE(font.AddRendered('A', glyph), Font::AddResult::Added);
         const Character& character = *font.FindChar('A');
         QCOMPARE(character.bitmap->Data().toHex(), rows);
-        QCOMPARE(int(character.info.width), std::max(cursorDistance, std::max(xPos, 0) + 1));
-        QCOMPARE(int(character.info.cursorDistance), cursorDistance);
-        QCOMPARE(int(character.info.xPos), 0);
-        QCOMPARE(int(character.info.yPos), 0);
+        const int width = std::max(cursorDistance, std::max(xPos, 0) + 1);
+        QCOMPARE(Test::Numbers(character.info), (QList<int>{width, 3, 0, 0, cursorDistance}));
     }
 
     void FramesGetRoom_data()
     {
-        QTest::addColumn<QList<QByteArray>>("glyph");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<int>("height");
-        QTest::addColumn<int>("xPos");
-        QTest::addColumn<int>("yPos");
-        QTest::addColumn<QByteArray>("planes");
-        QTest::newRow("ink on every edge") << QList<QByteArray>{"X"} << 3 << 3 << -1 << -1
-                                           << QByteArray("004000"
-                                                         "40a040");
-        QTest::newRow("room above and on the left")
-            << QList<QByteArray>{"__", "_X"} << 3 << 3 << 0 << 0
-            << QByteArray("004000"
-                          "40a040");
-        QTest::newRow("ink on the left only")
-            << QList<QByteArray>{"__", "X_", "__"} << 3 << 3 << -1 << 0
-            << QByteArray("004000"
-                          "40a040");
-        QTest::newRow("no ink") << QList<QByteArray>{"_"} << 1 << 1 << 0 << 0 << QByteArray("0000");
+        const Test::Rows<QList<QByteArray>, int, int, int, int, QByteArray> row;
+        row("ink on every edge", QList<QByteArray>{"X"}, 3, 3, -1, -1, QByteArray("00400040a040"));
+        row("room above and on the left", QList<QByteArray>{"__", "_X"}, 3, 3, 0, 0,
+            QByteArray("00400040a040"));
+        row("ink on the left only", QList<QByteArray>{"__", "X_", "__"}, 3, 3, -1, 0,
+            QByteArray("00400040a040"));
+        row("no ink", QList<QByteArray>{"_"}, 1, 1, 0, 0, QByteArray("0000"));
     }
 
     void FramesGetRoom()
     {
-        QFETCH(const QList<QByteArray>, glyph);
-        QFETCH(const int, width);
-        QFETCH(const int, height);
-        QFETCH(const int, xPos);
-        QFETCH(const int, yPos);
-        QFETCH(const QByteArray, planes);
+        const auto [glyph, width, height, xPos, yPos, planes] =
+            Test::Row<QList<QByteArray>, int, int, int, int, QByteArray>();
         Font font(FontFormat::Framed, EncodingType::Unicode);
         QCOMPARE(font.AddRendered('A', Mono(glyph)), Font::AddResult::Added);
         const Character& character = *font.FindChar('A');
-        QCOMPARE(int(character.info.width), width);
-        QCOMPARE(int(character.info.height), height);
-        QCOMPARE(int(character.info.xPos), xPos);
-        QCOMPARE(int(character.info.yPos), yPos);
-        QCOMPARE(int(character.info.cursorDistance), int(glyph[0].size()));
+        QCOMPARE(Test::Numbers(character.info),
+                 (QList<int>{width, height, xPos, yPos, int(glyph[0].size())}));
         QCOMPARE(character.bitmap->DataAsList().toHex(), planes);
     }
 
@@ -184,53 +136,40 @@ private Q_SLOTS:
         glyph.xPos = 129;
         glyph.yPos = 128;
         QCOMPARE(font.AddRendered('A', glyph), Font::AddResult::Added);
-        const CharInfo& info = font.FindChar('A')->info;
-        QCOMPARE(int(info.xPos), 127);
-        QCOMPARE(int(info.yPos), 127);
-        QCOMPARE(int(info.width), 4);
-        QCOMPARE(int(info.height), 2);
-        QCOMPARE(font.FindChar('A')->bitmap->Data().toHex(), QByteArray("0000"
-                                                                        "00ff"));
+        QCOMPARE(Test::Numbers(font.FindChar('A')->info), (QList<int>{4, 2, 127, 127, 2}));
+        QCOMPARE(font.FindChar('A')->bitmap->Data().toHex(), QByteArray("000000ff"));
 
         RenderedGlyph empty;
         empty.cursorDistance = 5;
         empty.yPos = 200;
         QCOMPARE(font.AddRendered(' ', empty), Font::AddResult::Added);
-        QCOMPARE(int(font.FindChar(' ')->info.yPos), 127);
-        QCOMPARE(int(font.FindChar(' ')->info.height), 0);
+        QCOMPARE(Test::Numbers(font.FindChar(' ')->info), (QList<int>{0, 0, 0, 127, 5}));
     }
 
     void Misfits_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("size");
-        QTest::addColumn<int>("xPos");
-        QTest::addColumn<int>("cursorDistance");
-        QTest::addColumn<bool>("fits");
+        const Test::Rows<int, int, int, int, bool> row;
         const int aa = int(FontFormat::AA4);
         const int framed = int(FontFormat::Framed);
         const int legacy = int(FontFormat::LegacyAA4);
-        QTest::newRow("255 pixels") << aa << 255 << 0 << 255 << true;
-        QTest::newRow("256 pixels") << aa << 256 << 0 << 255 << false;
-        QTest::newRow("256 pixels with padding") << aa << 128 << 255 << 10 << false;
-        QTest::newRow("cursor distance 256") << aa << 5 << 0 << 256 << false;
-        QTest::newRow("negative cursor distance") << aa << 5 << 0 << -1 << false;
-        QTest::newRow("offset -128") << aa << 5 << -128 << 5 << true;
-        QTest::newRow("offset -129") << aa << 5 << -129 << 5 << false;
-        QTest::newRow("framed, 253 pixels") << framed << 253 << 0 << 5 << true;
-        QTest::newRow("framed, 254 pixels") << framed << 254 << 0 << 5 << false;
-        QTest::newRow("legacy, ink up to 255") << legacy << 200 << 55 << 5 << true;
-        QTest::newRow("legacy, ink up to 256") << legacy << 200 << 56 << 5 << false;
-        QTest::newRow("absurd") << aa << 1 << 0x7FFFFFFF << 5 << false;
+        row("255 pixels", aa, 255, 0, 255, true);
+        row("256 pixels", aa, 256, 0, 255, false);
+        row("256 pixels with padding", aa, 128, 255, 10, false);
+        row("cursor distance 256", aa, 5, 0, 256, false);
+        row("negative cursor distance", aa, 5, 0, -1, false);
+        row("offset -128", aa, 5, -128, 5, true);
+        row("offset -129", aa, 5, -129, 5, false);
+        row("framed, 253 pixels", framed, 253, 0, 5, true);
+        row("framed, 254 pixels", framed, 254, 0, 5, false);
+        row("legacy, ink up to 255", legacy, 200, 55, 5, true);
+        row("legacy, ink up to 256", legacy, 200, 56, 5, false);
+        row("absurd", aa, 1, 0x7FFFFFFF, 5, false);
     }
 
     void Misfits()
     {
-        QFETCH(const int, format);
-        QFETCH(const int, size);
-        QFETCH(const int, xPos);
-        QFETCH(const int, cursorDistance);
-        QFETCH(const bool, fits);
+        const auto [format, size, xPos, cursorDistance, fits] =
+            Test::Row<int, int, int, int, bool>();
         Font font(FontFormat(format), EncodingType::Unicode);
         font.SetHeight(10);
         RenderedGlyph glyph = Solid(size, size);

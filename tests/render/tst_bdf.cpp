@@ -7,8 +7,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestBdf : public QObject
 {
     Q_OBJECT
@@ -20,13 +18,9 @@ private Q_SLOTS:
         const FontMetrics& metrics = font->Metrics();
         QCOMPARE(font->Name(), u"Test Bitmap Bold"_s);
         QCOMPARE(metrics.format, FontFormat::Standard);
-        QCOMPARE(metrics.encoding, EncodingType::Unicode);
-        QCOMPARE(int(metrics.height), 12);
-        QCOMPARE(int(metrics.verticalSpace), 12);
-        QCOMPARE(int(metrics.baseline), 9);
-        QCOMPARE(int(metrics.capitalHeight), 9);
-        QCOMPARE(int(metrics.lowercaseHeight), 6);
-        QCOMPARE(int(metrics.maxWidth), 7);
+        QCOMPARE((QList<int>{metrics.height, metrics.verticalSpace, metrics.baseline,
+                             metrics.capitalHeight, metrics.lowercaseHeight, metrics.maxWidth}),
+                 (QList<int>{12, 12, 9, 9, 6, 7}));
         QVERIFY(!font->HasKerning());
 
         // A blank that does not move the cursor is no character; codes beyond 16 bits are not met.
@@ -35,36 +29,23 @@ private Q_SLOTS:
         QCOMPARE(codes, (QList<int>{' ', 'A', 'a', 'g'}));
         QCOMPARE(int(font->FindChar(' ')->info.cursorDistance), 4);
         const Character& letter = *font->FindChar('g');
-        QCOMPARE(int(letter.info.width), 6);
-        QCOMPARE(int(letter.info.height), 9);
-        QCOMPARE(int(letter.info.xPos), -1);
-        QCOMPARE(int(letter.info.yPos), 3);
-        QCOMPARE(int(letter.info.cursorDistance), 7);
+        QCOMPARE(Test::Numbers(letter.info), (QList<int>{6, 9, -1, 3, 7}));
         QCOMPARE(letter.bitmap->Data(), QByteArray::fromHex("748c84848c74048870"));
-    }
-
-    void BaselineIsTheProperty_data()
-    {
-        QTest::addColumn<QByteArray>("from");
-        QTest::addColumn<QByteArray>("to");
-        QTest::addColumn<int>("baseline");
-        const QByteArray ascent = "FONT_ASCENT 9\n";
-        QTest::newRow("there") << ascent << ascent << 9;
-        QTest::newRow("another value") << ascent << QByteArray("FONT_ASCENT 200\n") << 200;
-        QTest::newRow("from the box") << ascent << QByteArray("OTHER 1\n") << 9;
-        QTest::newRow("more than a byte") << ascent << QByteArray("FONT_ASCENT 258\n") << 2;
-        QTest::newRow("the least") << ascent << QByteArray("FONT_ASCENT -2147483648\n") << 0;
     }
 
     void BaselineIsTheProperty()
     {
-        QFETCH(const QByteArray, from);
-        QFETCH(const QByteArray, to);
-        QFETCH(const int, baseline);
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"font.bdf"_s);
-        Test::WriteAll(path, Test::ReadAll(Test::FontPath("bitmap.bdf")).replace(from, to));
-        QCOMPARE(int(FontFileBDF(path).Read()->Metrics().baseline), baseline);
+        for (const auto& [property, baseline] : {std::pair("FONT_ASCENT 200\n", 200),
+                                                 {"OTHER 1\n", 9}, // from the box
+                                                 {"FONT_ASCENT 258\n", 2},
+                                                 {"FONT_ASCENT -2147483648\n", 0}}) {
+            Test::WriteAll(
+                path,
+                Test::ReadAll(Test::FontPath("bitmap.bdf")).replace("FONT_ASCENT 9\n", property));
+            QCOMPARE(int(FontFileBDF(path).Read()->Metrics().baseline), baseline);
+        }
     }
 
     void Refuses_data()

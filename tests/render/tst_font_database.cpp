@@ -1,4 +1,5 @@
 #include "render/font_database.h"
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDir>
@@ -9,8 +10,6 @@
 #include <sys/stat.h>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 class TestFontDatabase : public QObject
 {
@@ -61,8 +60,7 @@ private Q_SLOTS:
 
     void TenDirectories_data()
     {
-        QTest::addColumn<QStringList>("made");
-        QTest::addColumn<int>("entered");
+        const Test::Rows<QStringList, int> row;
         QStringList siblings;
         QString nested;
         QStringList deep;
@@ -71,15 +69,14 @@ private Q_SLOTS:
             nested += u"/n%1"_s.arg(index);
             deep.append(nested.mid(1));
         }
-        QTest::newRow("siblings") << siblings << 10;
-        QTest::newRow("nested") << deep << 10;
-        QTest::newRow("few") << siblings.first(3) << 4;
+        row("siblings", siblings, 10);
+        row("nested", deep, 10);
+        row("few", siblings.first(3), 4);
     }
 
     void TenDirectories()
     {
-        QFETCH(const QStringList, made);
-        QFETCH(const int, entered);
+        const auto [made, entered] = Test::Row<QStringList, int>();
         const QTemporaryDir folder;
         for (const QString& name : made)
             QVERIFY(QDir(folder.path()).mkpath(name));
@@ -97,7 +94,6 @@ private Q_SLOTS:
     void ThreadReports()
     {
         FontDatabaseThread thread({QFileInfo(Test::FontPath("outlines.ttf")).path()}, false);
-        QCOMPARE(thread.stackSize(), 4194304U);
         QSignalSpy counted(&thread, &FontDatabaseThread::initFileCount);
         QSignalSpy done(&thread, &FontDatabaseThread::fileDone);
         QSignalSpy finished(&thread, &FontDatabaseThread::hasFinished);

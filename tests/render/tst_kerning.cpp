@@ -1,4 +1,5 @@
 #include "render/kerning_index.h"
+#include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QFileInfo>
@@ -13,20 +14,17 @@ class TestKerning : public QObject
 private Q_SLOTS:
     void SameAsTheFullPass_data()
     {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("height");
-        QTest::addColumn<int>("step"); // only every so manieth character, where there are many
-        QTest::newRow("small") << Test::FontPath("outlines.ttf") << 20 << 1;
-        QTest::newRow("large") << Test::FontPath("outlines.ttf") << 200 << 1;
-        QTest::newRow("no kerning") << Test::FontPath("strike.ttf") << 20 << 1;
-        QTest::newRow("real font") << QString::fromUtf8(SYSTEM_FONTS "/DejaVuSans.ttf") << 40 << 97;
+        // Of large fonts only every so manieth character.
+        const Test::Rows<QString, int, int> row;
+        row("small", Test::FontPath("outlines.ttf"), 20, 1);
+        row("large", Test::FontPath("outlines.ttf"), 200, 1);
+        row("no kerning", Test::FontPath("strike.ttf"), 20, 1);
+        row("real font", QString::fromUtf8(SYSTEM_FONTS "/DejaVuSans.ttf"), 40, 97);
     }
 
     void SameAsTheFullPass()
     {
-        QFETCH(const QString, path);
-        QFETCH(const int, height);
-        QFETCH(const int, step);
+        const auto [path, height, step] = Test::Row<QString, int, int>();
         FreeTypeFace face(path, 0, FreeTypeLibrary());
         QVERIFY2(face.IsOpen(), qUtf8Printable(path));
         face.SetPixelSize(height);

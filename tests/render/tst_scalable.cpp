@@ -1,11 +1,11 @@
 #include "render/font_file_scalable.h"
+#include "support/rows.h"
+#include "support/sample_font.h"
 #include "support/test_main.h"
 
 #include <QTest>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -93,11 +93,9 @@ private Q_SLOTS:
                 continue;
             }
             const FT_Bitmap& bitmap = slot->bitmap;
-            QCOMPARE(unsigned(character->info.width), bitmap.width);
-            QCOMPARE(unsigned(character->info.height), bitmap.rows);
-            QCOMPARE(int(character->info.xPos), slot->bitmap_left);
-            QCOMPARE(int(character->info.yPos), ascent - slot->bitmap_top);
-            QCOMPARE(int(character->info.cursorDistance), int(slot->advance.x >> 6));
+            QCOMPARE(Test::Numbers(character->info),
+                     (QList<int>{int(bitmap.width), int(bitmap.rows), slot->bitmap_left,
+                                 ascent - slot->bitmap_top, int(slot->advance.x >> 6)}));
             for (int y = 0; y < int(bitmap.rows); ++y) {
                 for (int x = 0; x < int(bitmap.width); ++x) {
                     const uchar* const row = bitmap.buffer + y * bitmap.pitch;
@@ -113,8 +111,7 @@ private Q_SLOTS:
 
     void MetricsAndNames()
     {
-        RenderOptions options = At(100);
-        const auto font = Render("outlines.ttf", options);
+        const auto font = Render("outlines.ttf", At(100));
         QCOMPARE(font->Name(), u"Test Outlines Regular"_s);
         QVERIFY(font->HasKerning());
         QCOMPARE(font->FindChar('V')->kerning.size(), std::size_t(4));
@@ -125,10 +122,11 @@ private Q_SLOTS:
         QCOMPARE(int(metrics.height), int(size.height >> 6));
         QCOMPARE(int(metrics.baseline), int(size.ascender >> 6));
         QCOMPARE(int(metrics.maxWidth), int(std::min<FT_Pos>(size.max_advance >> 6, 255)));
-        FT_Load_Char(direct.Face(), 'a', FT_LOAD_DEFAULT);
-        QCOMPARE(int(metrics.lowercaseHeight), int(direct.Face()->glyph->metrics.height >> 6));
-        FT_Load_Char(direct.Face(), 'A', FT_LOAD_DEFAULT);
-        QCOMPARE(int(metrics.capitalHeight), int(direct.Face()->glyph->metrics.height >> 6));
+        for (const auto& [letter, height] :
+             {std::pair('a', metrics.lowercaseHeight), {'A', metrics.capitalHeight}}) {
+            FT_Load_Char(direct.Face(), FT_ULong(letter), FT_LOAD_DEFAULT);
+            QCOMPARE(int(height), int(direct.Face()->glyph->metrics.height >> 6));
+        }
 
         // The face has no "a": the font's height stands in.
         const auto variable = Render("variable.ttf", At(50));
@@ -232,18 +230,15 @@ private Q_SLOTS:
 
     void Effects_data()
     {
-        QTest::addColumn<quint32>("effects");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("bold") << quint32(BoldEffect) << u"Test Outlines Regular (Bold)"_s;
-        QTest::newRow("italic") << quint32(ItalicEffect) << u"Test Outlines Regular (Italic)"_s;
-        QTest::newRow("both") << quint32(BoldEffect | ItalicEffect)
-                              << u"Test Outlines Regular (Bold, Italic)"_s;
+        const Test::Rows<quint32, QString> row;
+        row("bold", quint32(BoldEffect), u"Test Outlines Regular (Bold)"_s);
+        row("italic", quint32(ItalicEffect), u"Test Outlines Regular (Italic)"_s);
+        row("both", quint32(BoldEffect | ItalicEffect), u"Test Outlines Regular (Bold, Italic)"_s);
     }
 
     void Effects()
     {
-        QFETCH(const quint32, effects);
-        QFETCH(const QString, name);
+        const auto [effects, name] = Test::Row<quint32, QString>();
         Test::RecordingInterface interface;
         const auto plain = Render("outlines.ttf", At(40));
         RenderOptions options = At(40);
@@ -285,8 +280,7 @@ private Q_SLOTS:
                 chequered);
         RenderOptions options = At(10, FontFormat::Standard);
         options.useStrikes = false;
-        const auto outline = Render("strike.ttf", options);
-        QVERIFY(outline->FindChar('A')->bitmap->Data() != chequered);
+        QVERIFY(Render("strike.ttf", options)->FindChar('A')->bitmap->Data() != chequered);
     }
 
     void NamedInstances()
@@ -326,8 +320,7 @@ private Q_SLOTS:
     {
         FontFileTTF file(u"none.ttf"_s, At(10));
         QVERIFY(!file.OpenFault().isEmpty());
-        const auto font = file.Read();
-        QVERIFY(!font->HasEnabledChars());
+        QVERIFY(!file.Read()->HasEnabledChars());
         FreeTypeFace face;
         const FreeTypeFace copy = face;
         QCOMPARE(copy.Ascent() + copy.GlyphHeight('A') + copy.Kerning('A', 'V'), 0);

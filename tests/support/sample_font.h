@@ -46,6 +46,12 @@ inline std::unique_ptr<Font> MakeSampleFont(FontFormat format,
     return font;
 }
 
+// Width, height, both offsets and the cursor distance.
+inline QList<int> Numbers(const CharInfo& info)
+{
+    return {info.width, info.height, info.xPos, info.yPos, info.cursorDistance};
+}
+
 // The font's metrics and those and the pixels of its characters: all of them, or the enabled ones,
 // which are what a file keeps.
 inline QByteArray Snapshot(const Font& font, bool onlyEnabled = false)
@@ -62,12 +68,10 @@ inline QByteArray Snapshot(const Font& font, bool onlyEnabled = false)
             continue;
         const Character& character = *font.FindChar(code);
         text += '\n' + QByteArray::number(code);
-        for (const int value :
-             {int(character.info.width), int(character.info.height), int(character.info.xPos),
-              int(character.info.yPos), int(character.info.cursorDistance),
-              int(font.IsEnabled(quint16(code)))})
+        for (const int value : Numbers(character.info))
             text += ' ' + QByteArray::number(value);
-        text += ' ' + character.bitmap->DataAsList().toHex();
+        text += QByteArray(font.IsEnabled(code) ? " 1 " : " 0 ");
+        text += character.bitmap->DataAsList().toHex();
     }
     return text;
 }

@@ -31,6 +31,11 @@ QString FontPath(const char* name)
     return QString::fromUtf8(TEST_FONTS "/") + QString::fromUtf8(name);
 }
 
+QString Document(const QString& path)
+{
+    return QString::fromUtf8(ReadAll(QStringLiteral(PROJECT_SOURCES "/") + path));
+}
+
 QByteArray ReadAll(const QString& path)
 {
     QFile file(path);

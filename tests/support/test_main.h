@@ -8,6 +8,13 @@
 #include <functional>
 #include <memory>
 
+namespace Glyphor {
+
+// For all tests.
+using namespace Qt::StringLiterals;
+
+} // namespace Glyphor
+
 namespace Glyphor::Test {
 
 // Registers a test class for the test program's main().
@@ -43,6 +50,15 @@ public:
 
 // A file that comes with the tests or is made for them.
 [[nodiscard]] QString FontPath(const char* name);
+
+// A document of the project, with its path in it.
+[[nodiscard]] QString Document(const QString& path);
+
+// The words between blanks.
+[[nodiscard]] inline QStringList Words(const QString& line)
+{
+    return line.split(u' ', Qt::SkipEmptyParts);
+}
 
 [[nodiscard]] QByteArray ReadAll(const QString& path);
 void WriteAll(const QString& path, const QByteArray& contents);

@@ -61,7 +61,11 @@ struct HistoryOwner
 class UndoSession final : private HistoryOwner, public Session
 {
 public:
-    UndoSession() : Session(history) {}
+    explicit UndoSession(std::unique_ptr<Font> font = nullptr) : Session(history)
+    {
+        if (font != nullptr)
+            ReplaceFont(std::move(font), {});
+    }
 
     [[nodiscard]] UndoHistory& Stack() { return history; }
 };

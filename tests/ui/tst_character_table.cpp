@@ -15,8 +15,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestCharacterTable : public QObject
 {
     Q_OBJECT

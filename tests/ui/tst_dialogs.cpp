@@ -34,8 +34,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QPushButton* Ok(const QDialog& dialog)

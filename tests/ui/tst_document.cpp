@@ -15,7 +15,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
 using Test::BoxAnswer;
 using Test::DialogAnswer;
 

@@ -14,8 +14,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestEditor : public QObject
 {
     Q_OBJECT

@@ -14,8 +14,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // A line for each entry: indentation, text, shortcut, number and state.

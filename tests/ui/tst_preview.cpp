@@ -10,8 +10,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestPreview : public QObject
 {
     Q_OBJECT

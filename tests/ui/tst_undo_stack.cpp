@@ -9,8 +9,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 class TestUndoStack : public QObject
 {
     Q_OBJECT

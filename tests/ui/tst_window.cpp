@@ -20,7 +20,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
 using Test::BoxAnswer;
 using Test::DialogAnswer;
 
