@@ -250,6 +250,8 @@ bool CharBitmapView::event(QEvent* event)
             return true;
         }
     }
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        viewport()->update();
     return QGraphicsView::event(event);
 }
 
@@ -310,18 +312,6 @@ void CharBitmapView::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
     painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
-}
-
-void CharBitmapView::focusInEvent(QFocusEvent* event)
-{
-    QGraphicsView::focusInEvent(event);
-    viewport()->update();
-}
-
-void CharBitmapView::focusOutEvent(QFocusEvent* event)
-{
-    QGraphicsView::focusOutEvent(event);
-    viewport()->update();
 }
 
 } // namespace Glyphor

@@ -75,16 +75,6 @@ void EditCommands::RunTogether(const std::function<void()>& work)
     Q_EMIT Changed();
 }
 
-void EditCommands::Undo()
-{
-    MoveInHistory(true);
-}
-
-void EditCommands::Redo()
-{
-    MoveInHistory(false);
-}
-
 void EditCommands::NoteChange(const Action* action)
 {
     if (isMovingInHistory_ && action != nullptr)

@@ -42,8 +42,8 @@ public:
     // Inverts a pixel by no action, so the history does not know of it.
     void InvertPixel(int column, int row);
 
-    void Undo();
-    void Redo();
+    void Undo() { MoveInHistory(true); }
+    void Redo() { MoveInHistory(false); }
 
     // What undo and redo change is selected once they are done.
     void NoteChange(const Action* action);

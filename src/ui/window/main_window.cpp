@@ -19,7 +19,6 @@
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
 #include "ui/window/menu_bar.h"
-#include "ui/window/progress_area.h"
 #include "ui/window/tool_bar.h"
 
 #include <QAction>
@@ -189,21 +188,6 @@ void MainWindow::KeepState()
     Settings::Instance().mainWindow.save({saveGeometry(), state});
 }
 
-void MainWindow::OnSplitterMoved(int, int)
-{
-    resizeTimer_.start();
-}
-
-void MainWindow::OnSplitterSubMoved(int, int)
-{
-    resizeTimer_.start();
-}
-
-void MainWindow::OnTimerResize()
-{
-    KeepState();
-}
-
 void MainWindow::OnActionTriggered(quint32 id)
 {
     if (!Progress().IsWorking()) // screen readers trigger commands without input
@@ -290,36 +274,11 @@ bool MainWindow::ProgressChanged(const QString& text, int value, int maximum)
     return !Progress().IsStopped();
 }
 
-void MainWindow::ProgressFinished()
-{
-    OnProgbarClose();
-}
-
-void MainWindow::OnProgbarInitCnt(const char* text, int, int maximum)
-{
-    Progress().BeginWork(QString::fromUtf8(text), maximum);
-}
-
-void MainWindow::OnProgbarUpdateCnt(int value)
-{
-    Progress().SetWork(value);
-}
-
 void MainWindow::OnProgbarClose()
 {
     Progress().EndWork();
     if (Progress().IsStopped())
         status_->Tell(tr("Stopped."));
-}
-
-void MainWindow::OnDatabaseFileDone(int done)
-{
-    Progress().SetBackground(done);
-}
-
-void MainWindow::OnDatabaseThreadFinished()
-{
-    Progress().EndBackground();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -2,6 +2,7 @@
 
 #include "ui/dialogs/gui_interface.h"
 #include "ui/window/panes.h"
+#include "ui/window/progress_area.h"
 #include "ui/window/status_line.h"
 
 #include <QMainWindow>
@@ -34,7 +35,7 @@ public:
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
     void ActionChanged(const std::shared_ptr<Action>& action) override;
     bool ProgressChanged(const QString& text, int value, int maximum) override;
-    void ProgressFinished() override;
+    void ProgressFinished() override { OnProgbarClose(); }
     bool handleRequest(ActionType kind) override;
 
     [[nodiscard]] Document& CurrentDocument() const { return *document_; }
@@ -51,14 +52,17 @@ protected:
 
 private:
     Q_SLOT void OnActionTriggered(quint32 id);
-    Q_SLOT void OnSplitterMoved(int position, int index);
-    Q_SLOT void OnSplitterSubMoved(int position, int index);
-    Q_SLOT void OnTimerResize();
-    Q_SLOT void OnProgbarInitCnt(const char* text, int minimum, int maximum);
-    Q_SLOT void OnProgbarUpdateCnt(int value);
+    Q_SLOT void OnSplitterMoved(int, int) { resizeTimer_.start(); }
+    Q_SLOT void OnSplitterSubMoved(int, int) { resizeTimer_.start(); }
+    Q_SLOT void OnTimerResize() { KeepState(); }
+    Q_SLOT void OnProgbarInitCnt(const char* text, int, int maximum)
+    {
+        Progress().BeginWork(QString::fromUtf8(text), maximum);
+    }
+    Q_SLOT void OnProgbarUpdateCnt(int value) { Progress().SetWork(value); }
     Q_SLOT void OnProgbarClose();
-    Q_SLOT void OnDatabaseFileDone(int done);
-    Q_SLOT void OnDatabaseThreadFinished();
+    Q_SLOT void OnDatabaseFileDone(int done) { Progress().SetBackground(done); }
+    Q_SLOT void OnDatabaseThreadFinished() { Progress().EndBackground(); }
 
     void ConnectCommands();
     void ConnectViews();
