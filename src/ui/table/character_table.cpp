@@ -15,8 +15,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 CharacterTable::CharacterTable(QWidget* parent)
     : QTableView(parent),
       model_(new CharacterModel(this)),
