@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace Glyphor {
@@ -42,10 +43,7 @@ public:
 
     // Opens the face; on failure the handle stays empty and OpenFault() tells why.
     FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library);
-    FreeTypeFace(const FreeTypeFace& other);
-    FreeTypeFace& operator=(const FreeTypeFace& other);
-
-    virtual ~FreeTypeFace();
+    virtual ~FreeTypeFace() = default;
 
     // The baseline, in pixels from the top of the font.
     [[nodiscard]] virtual int Ascent() const;
@@ -54,12 +52,12 @@ public:
     [[nodiscard]] const QString& Path() const { return path_; }
     [[nodiscard]] QString OpenFault() const;
 
-    [[nodiscard]] int FaceCount() const;
+    [[nodiscard]] int FaceCount() const { return IsOpen() ? int(face_->num_faces) : 0; }
 
     // Which face of its file this is, whatever named instance was chosen; -1 without a face.
     [[nodiscard]] int MemberIndex() const;
-    [[nodiscard]] int GlyphCount() const;
-    [[nodiscard]] bool HasKerning() const;
+    [[nodiscard]] int GlyphCount() const { return IsOpen() ? int(face_->num_glyphs) : 0; }
+    [[nodiscard]] bool HasKerning() const { return IsOpen() && FT_HAS_KERNING(face_); }
     [[nodiscard]] QString FamilyName() const;
     [[nodiscard]] QString StyleName() const;
     [[nodiscard]] int LineHeight() const;
@@ -73,7 +71,7 @@ public:
     [[nodiscard]] QList<int> StrikeHeights() const;
 
     // False for a face that has only bitmaps.
-    [[nodiscard]] bool HasOutlines() const;
+    [[nodiscard]] bool HasOutlines() const { return IsOpen() && FT_IS_SCALABLE(face_); }
 
     // The height of the glyph's box at the current size; 0 where it can't be loaded.
     [[nodiscard]] int GlyphHeight(quint16 code) const;
@@ -105,7 +103,10 @@ public:
 
     // Loads, emboldens, slants and renders the glyph. The record keeps its buffer from call to
     // call.
-    bool RenderGlyph(quint16 code, RenderedGlyph& glyph) const;
+    bool RenderGlyph(quint16 code, RenderedGlyph& glyph) const
+    {
+        return RenderIndex(GlyphIndex(code), glyph);
+    }
 
     // The same for a glyph whose index is known; 0 fails.
     bool RenderIndex(FT_UInt index, RenderedGlyph& glyph) const;
@@ -125,7 +126,7 @@ public:
     // The four words of the OS/2 table; nothing where the face has none.
     [[nodiscard]] QList<quint32> UnicodeRanges() const;
 
-    [[nodiscard]] FT_Face Handle() const { return face_; }
+    [[nodiscard]] FT_Face Handle() const { return face_.get(); }
 
 private:
     static constexpr int AnySize = std::numeric_limits<int>::max();
@@ -135,7 +136,7 @@ private:
     [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;
     void FillGlyph(RenderedGlyph& glyph) const;
 
-    FT_Face face_ = nullptr;
+    std::shared_ptr<FT_FaceRec> face_;
     QString path_;
     quint32 effects_ = 0;
     bool monochrome_ = false;
@@ -152,10 +153,10 @@ void FreeTypeFace::WalkCharmap(Visit visit) const
     FT_UInt glyph = 0;
     if (!IsOpen())
         return;
-    for (FT_ULong code = FT_Get_First_Char(face_, &glyph); glyph != 0 && code <= lastCharacter;
-         code = FT_Get_Next_Char(face_, code, &glyph)) {
+    for (FT_ULong code = FT_Get_First_Char(Handle(), &glyph); glyph != 0 && code <= lastCharacter;
+         code = FT_Get_Next_Char(Handle(), code, &glyph)) {
         const auto code16 = static_cast<quint16>(code);
-        if (!visit(code16, code16 == code ? glyph : FT_Get_Char_Index(face_, code16)))
+        if (!visit(code16, code16 == code ? glyph : FT_Get_Char_Index(Handle(), code16)))
             return;
     }
 }
