@@ -18,10 +18,10 @@ public:
 
     void undo() override;
     void redo() override;
-    [[nodiscard]] int id() const override;
+    [[nodiscard]] int id() const override { return int(action_->Type()); }
 
     // As its text, in the language of the window.
-    [[nodiscard]] QString ShownText() const;
+    [[nodiscard]] QString ShownText() const { return action_->Log().Translated(); }
 
 private:
     std::shared_ptr<Action> action_;
