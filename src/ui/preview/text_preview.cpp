@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QDataStream>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -156,8 +155,6 @@ TextPreview::TextPreview(QWidget* parent)
       inkButton_(new QToolButton),
       paperButton_(new QToolButton)
 {
-    auto* const label = new QLabel(tr("Sa&mple:"));
-    label->setBuddy(field_);
     field_->setAccessibleName(tr("Sample text"));
     zoom_->setRange(1, 8);
     zoom_->setPrefix(tr("×"));
@@ -169,18 +166,13 @@ TextPreview::TextPreview(QWidget* parent)
     for (QToolButton* const button : {inkButton_, paperButton_})
         button->setAccessibleName(button->toolTip());
 
-    auto* const controls = new QHBoxLayout;
-    for (QWidget* const widget :
-         std::initializer_list<QWidget*>{label, field_, zoom_, kerning_, inkButton_, paperButton_})
-        controls->addWidget(widget, widget == field_ ? 1 : 0);
-    auto* const area = new QScrollArea;
-    area->setWidget(strip_);
-    area->setWidgetResizable(true);
+    QScrollArea* const area = ScrollAreaOf(*strip_);
     area->setFrameShape(QFrame::StyledPanel);
-    area->setFocusPolicy(Qt::NoFocus);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 4, 6, 4);
-    layout->addLayout(controls);
+    layout->addWidget(
+        Row({LabelFor(*field_, tr("Sa&mple:")), field_, zoom_, kerning_, inkButton_, paperButton_},
+            field_));
     layout->addWidget(area, 1);
 
     connect(field_, &QLineEdit::textChanged, strip_, &TextStrip::SetText);
@@ -229,11 +221,6 @@ void TextPreview::RestoreState(const QByteArray& state)
     ShowColour(*inkButton_, ink_);
     ShowColour(*paperButton_, paper_);
     strip_->SetColours(ink_, paper_);
-}
-
-void TextPreview::Refresh()
-{
-    strip_->Resized();
 }
 
 void TextPreview::ChooseColour(QColor& colour, QToolButton& button, const QString& title)

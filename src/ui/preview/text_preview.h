@@ -59,7 +59,7 @@ public:
     explicit TextPreview(QWidget* parent = nullptr);
 
     void ShowFont(const Font* font);
-    void Refresh();
+    void Refresh() { strip_->Resized(); }
 
     // The sample and how it is shown, to be remembered. An unknown state changes nothing.
     [[nodiscard]] QByteArray State() const;
