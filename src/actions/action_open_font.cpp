@@ -115,8 +115,7 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
 
 std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
 {
-    const auto namedType = FileTypeOf(args.path);
-    if (args.format || (namedType && IsScalable(*namedType)))
+    if (args.format || IsScalable(FileTypeOf(args.path)))
         CheckCombination(args.format.value_or(FontFormat::Standard),
                          args.encoding.value_or(EncodingType::Unicode));
     auto font = IsScalable(CheckInputFile(args.path)) ? Render(args) : ReadFile(args);
