@@ -81,11 +81,6 @@ void KerningFileC::Write(const std::vector<KerningEntry>& pairs, const Font& fon
     Replace([&](const Sink& sink) { Compose(pairs, font, sink); });
 }
 
-void KerningFileBinary::Write(const std::vector<KerningEntry>&, const Font&)
-{
-    Replace(QByteArray());
-}
-
 std::unique_ptr<KerningFile> MakeKerningFile(const QString& path, const CFileOptions& options)
 {
     if (FileTypeOf(path) == FileType::C)

@@ -50,7 +50,7 @@ class KerningFileBinary final : public KerningFile
 public:
     using KerningFile::KerningFile;
 
-    void Write(const std::vector<KerningEntry>& pairs, const Font& font) override;
+    void Write(const std::vector<KerningEntry>&, const Font&) override { Replace(QByteArray()); }
 };
 
 // The kind that the name tells, in any letter case: C by one of its suffixes, else ".kern"; null
