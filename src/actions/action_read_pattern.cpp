@@ -22,9 +22,4 @@ void ActionReadPattern::RedoOnce()
     CurrentFont()->SetEnabledCodes(codes);
 }
 
-void ActionReadPattern::UndoOnce()
-{
-    CurrentFont()->SetEnabledCodes(previousCodes_);
-}
-
 } // namespace Glyphor
