@@ -95,13 +95,6 @@ void CFileText::BoxRule()
     BoxLine(u"*"_s);
 }
 
-void CFileText::BoxActionLog(const QStringList& log)
-{
-    BoxRule();
-    for (const QString& line : log)
-        BoxLine(u"*  "_s + line);
-}
-
 void CFileText::CommentBox(int fontHeight, QByteArrayView contentType)
 {
     Line('/' + QByteArray(BoxWidth - 1, '*'));
@@ -121,47 +114,39 @@ void CFileText::CommentBox(int fontHeight, QByteArrayView contentType)
     BoxLine(u"*  Font:         %1"_s.arg(fontName_));
     BoxLine(u"*  Height:       %1"_s.arg(fontHeight));
     BoxLine(u"*  Content type: %1"_s.arg(QLatin1StringView(contentType)));
-    if (options_.actionLog)
-        BoxActionLog(*options_.actionLog);
+    if (options_.actionLog) {
+        BoxRule();
+        for (const QString& line : *options_.actionLog)
+            BoxLine(u"*  "_s + line);
+    }
     BoxLine(u"*"_s);
     Line(QByteArray(BoxWidth, '*'));
     Line("*/");
     Line();
 }
 
-void CFileText::IncludeGuardStart()
+void CFileText::Begin(int fontHeight, QByteArrayView contentType)
 {
-    if (guardSymbol_.isEmpty())
-        return;
-    Line("#ifndef ", guardSymbol_);
-    Line("#define ", guardSymbol_);
-    Line();
-}
-
-void CFileText::IncludeGuardEnd()
-{
-    if (guardSymbol_.isEmpty())
-        return;
-    Line("#endif // ", guardSymbol_);
-    Line();
-}
-
-void CFileText::IncludeLine()
-{
+    CommentBox(fontHeight, contentType);
+    if (!guardSymbol_.isEmpty()) {
+        Line("#ifndef ", guardSymbol_);
+        Line("#define ", guardSymbol_);
+        Line();
+    }
     Line("#include \"GUI.h\"");
     Line();
-}
-
-void CFileText::StorageClassBlock()
-{
     Line("#ifndef   GUI_CONST_STORAGE");
     Line("  #define GUI_CONST_STORAGE const");
     Line("#endif");
     Line();
 }
 
-void CFileText::EndLine()
+void CFileText::End()
 {
+    if (!guardSymbol_.isEmpty()) {
+        Line("#endif // ", guardSymbol_);
+        Line();
+    }
     Line("/*************************** End of file ****************************/");
     Flush();
 }

@@ -39,8 +39,6 @@ public:
     void Write(const std::vector<KerningEntry>& pairs, const Font& font) override;
 
 private:
-    void Compose(const std::vector<KerningEntry>& pairs, const Font& font, const Sink& sink) const;
-
     CFileOptions options_;
 };
 
