@@ -17,7 +17,6 @@
 #include <limits>
 #include <memory>
 #include <span>
-#include <utility>
 
 namespace Glyphor {
 
@@ -179,24 +178,14 @@ QString FreeTypeFace::StyleName() const
     return IsOpen() ? QString::fromUtf8(face_->style_name) : QString();
 }
 
-int FreeTypeFace::Ascent() const
+int FreeTypeFace::SizeMetric(FT_Pos FT_Size_Metrics::*metric) const
 {
-    return IsOpen() ? WholePixels(face_->size->metrics.ascender) : 0;
-}
-
-int FreeTypeFace::LineHeight() const
-{
-    return IsOpen() ? WholePixels(face_->size->metrics.height) : 0;
+    return IsOpen() ? WholePixels(face_->size->metrics.*metric) : 0;
 }
 
 int FreeTypeFace::EmSize() const
 {
     return IsOpen() && face_->size != nullptr ? face_->size->metrics.y_ppem : 0;
-}
-
-int FreeTypeFace::MaxAdvance() const
-{
-    return IsOpen() ? WholePixels(face_->size->metrics.max_advance) : 0;
 }
 
 QList<int> FreeTypeFace::StrikeHeights() const
@@ -282,19 +271,14 @@ QList<quint32> FreeTypeFace::UnicodeRanges() const
     return ranges;
 }
 
-bool FreeTypeFace::SelectStrike(int height)
-{
-    const qsizetype index = StrikeHeights().indexOf(height);
-    if (index < 0)
-        return false;
-    FT_Select_Size(Handle(), static_cast<FT_Int>(index));
-    return true;
-}
-
 void FreeTypeFace::SetPixelSize(int height, bool useStrikes)
 {
-    if (!IsOpen() || (useStrikes && SelectStrike(height)))
+    if (!IsOpen())
         return;
+    if (const qsizetype strike = useStrikes ? StrikeHeights().indexOf(height) : -1; strike >= 0) {
+        FT_Select_Size(Handle(), static_cast<FT_Int>(strike));
+        return;
+    }
     FT_Size_RequestRec request{};
     request.type = FT_SIZE_REQUEST_TYPE_BBOX;
     request.height = FT_Long(height) * 64;
@@ -380,14 +364,16 @@ void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
 
 int FreeTypeFace::Kerning(quint16 left, quint16 right) const
 {
-    if (!HasKerning())
-        return 0;
+    return HasKerning()
+               ? GlyphKerning(FT_Get_Char_Index(Handle(), left), FT_Get_Char_Index(Handle(), right))
+               : 0;
+}
+
+int FreeTypeFace::GlyphKerning(FT_UInt left, FT_UInt right) const
+{
     FT_Vector distance{};
-    const FT_UInt leftGlyph = FT_Get_Char_Index(Handle(), left);
-    const FT_UInt rightGlyph = FT_Get_Char_Index(Handle(), right);
-    if (FT_Get_Kerning(Handle(), leftGlyph, rightGlyph, FT_KERNING_DEFAULT, &distance) != 0)
-        return 0;
-    return WholePixels(distance.x);
+    const FT_Error error = FT_Get_Kerning(Handle(), left, right, FT_KERNING_DEFAULT, &distance);
+    return error == 0 ? WholePixels(distance.x) : 0;
 }
 
 std::vector<KerningPair> FreeTypeFace::KerningPairs(quint16 left) const

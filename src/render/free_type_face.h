@@ -46,7 +46,7 @@ public:
     virtual ~FreeTypeFace() = default;
 
     // The baseline, in pixels from the top of the font.
-    [[nodiscard]] virtual int Ascent() const;
+    [[nodiscard]] virtual int Ascent() const { return SizeMetric(&FT_Size_Metrics::ascender); }
 
     [[nodiscard]] bool IsOpen() const { return face_ != nullptr; }
     [[nodiscard]] const QString& Path() const { return path_; }
@@ -60,8 +60,8 @@ public:
     [[nodiscard]] bool HasKerning() const { return IsOpen() && FT_HAS_KERNING(face_); }
     [[nodiscard]] QString FamilyName() const;
     [[nodiscard]] QString StyleName() const;
-    [[nodiscard]] int LineHeight() const;
-    [[nodiscard]] int MaxAdvance() const;
+    [[nodiscard]] int LineHeight() const { return SizeMetric(&FT_Size_Metrics::height); }
+    [[nodiscard]] int MaxAdvance() const { return SizeMetric(&FT_Size_Metrics::max_advance); }
 
     // In pixels, at the current size.
     [[nodiscard]] int EmSize() const;
@@ -114,6 +114,9 @@ public:
     // By how many whole pixels a pair stands closer (negative) or further apart.
     [[nodiscard]] int Kerning(quint16 left, quint16 right) const;
 
+    // The same for the glyphs of an open face.
+    [[nodiscard]] int GlyphKerning(FT_UInt left, FT_UInt right) const;
+
     // The pairs of one character, found by asking for every character of the charmap.
     [[nodiscard]] std::vector<KerningPair> KerningPairs(quint16 left) const;
 
@@ -132,7 +135,7 @@ private:
     static constexpr int AnySize = std::numeric_limits<int>::max();
 
     [[nodiscard]] FT_UInt GlyphIndex(quint16 code) const;
-    bool SelectStrike(int height);
+    [[nodiscard]] int SizeMetric(FT_Pos FT_Size_Metrics::*metric) const;
     [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;
     void FillGlyph(RenderedGlyph& glyph) const;
 
