@@ -18,8 +18,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int Margin = 6; // around the text, in pixels of the screen
@@ -36,30 +34,6 @@ void TextStrip::Resized()
 {
     setMinimumSize(sizeHint());
     update();
-}
-
-void TextStrip::ShowFont(const Font* font)
-{
-    font_ = font;
-    Resized();
-}
-
-void TextStrip::SetText(const QString& text)
-{
-    text_ = text;
-    Resized();
-}
-
-void TextStrip::SetZoom(int zoom)
-{
-    zoom_ = zoom;
-    Resized();
-}
-
-void TextStrip::SetKerning(bool isOn)
-{
-    kerning_ = isOn;
-    Resized();
 }
 
 void TextStrip::SetColours(const QColor& ink, const QColor& paper)
@@ -159,8 +133,7 @@ TextPreview::TextPreview(QWidget* parent)
     zoom_->setRange(1, 8);
     zoom_->setPrefix(tr("×"));
     zoom_->setAccessibleName(tr("Zoom of the sample"));
-    ShowColour(*inkButton_, ink_);
-    ShowColour(*paperButton_, paper_);
+    ShowColours();
     inkButton_->setToolTip(tr("Colour of the ink"));
     paperButton_->setToolTip(tr("Colour of the paper"));
     for (QToolButton* const button : {inkButton_, paperButton_})
@@ -178,10 +151,9 @@ TextPreview::TextPreview(QWidget* parent)
     connect(field_, &QLineEdit::textChanged, strip_, &TextStrip::SetText);
     connect(zoom_, &QSpinBox::valueChanged, strip_, &TextStrip::SetZoom);
     connect(kerning_, &QCheckBox::toggled, strip_, &TextStrip::SetKerning);
-    connect(inkButton_, &QToolButton::clicked, this,
-            [this] { ChooseColour(ink_, *inkButton_, tr("Ink")); });
+    connect(inkButton_, &QToolButton::clicked, this, [this] { ChooseColour(ink_, tr("Ink")); });
     connect(paperButton_, &QToolButton::clicked, this,
-            [this] { ChooseColour(paper_, *paperButton_, tr("Paper")); });
+            [this] { ChooseColour(paper_, tr("Paper")); });
     zoom_->setValue(2);
     field_->setCursorPosition(0);
     strip_->SetText(field_->text());
@@ -218,26 +190,26 @@ void TextPreview::RestoreState(const QByteArray& state)
     kerning_->setChecked(hasKerning);
     ink_ = ink;
     paper_ = paper;
-    ShowColour(*inkButton_, ink_);
-    ShowColour(*paperButton_, paper_);
-    strip_->SetColours(ink_, paper_);
+    ShowColours();
 }
 
-void TextPreview::ChooseColour(QColor& colour, QToolButton& button, const QString& title)
+void TextPreview::ChooseColour(QColor& colour, const QString& title)
 {
     const QColor chosen = QColorDialog::getColor(colour, this, title);
     if (!chosen.isValid())
         return;
     colour = chosen;
-    ShowColour(button, chosen);
-    strip_->SetColours(ink_, paper_);
+    ShowColours();
 }
 
-void TextPreview::ShowColour(QToolButton& button, const QColor& colour)
+void TextPreview::ShowColours()
 {
     QPixmap pixmap(16, 16);
-    pixmap.fill(colour);
-    button.setIcon(pixmap);
+    pixmap.fill(ink_);
+    inkButton_->setIcon(pixmap);
+    pixmap.fill(paper_);
+    paperButton_->setIcon(pixmap);
+    strip_->SetColours(ink_, paper_);
 }
 
 } // namespace Glyphor
