@@ -86,16 +86,6 @@ QString UndoStack::ShownText(int index) const
     return single != nullptr ? single->ShownText() : done->text();
 }
 
-QString UndoStack::ShownUndoText() const
-{
-    return canUndo() ? ShownText(index() - 1) : QString();
-}
-
-QString UndoStack::ShownRedoText() const
-{
-    return canRedo() ? ShownText(index()) : QString();
-}
-
 void UndoStack::AddUndoCommand(QAction* command)
 {
     undoCommands_.append(command);

@@ -44,8 +44,14 @@ public:
     void MarkSaved() override { setClean(); }
 
     // What undo and redo would do now, in the language of the window; empty for nothing.
-    [[nodiscard]] QString ShownUndoText() const;
-    [[nodiscard]] QString ShownRedoText() const;
+    [[nodiscard]] QString ShownUndoText() const
+    {
+        return canUndo() ? ShownText(index() - 1) : QString();
+    }
+    [[nodiscard]] QString ShownRedoText() const
+    {
+        return canRedo() ? ShownText(index()) : QString();
+    }
 
     // The commands stay their owner's.
     void AddUndoCommand(QAction* command);
