@@ -1,7 +1,6 @@
 #include "actions/action_merge_font.h"
 
 #include "actions/font_files.h"
-#include "actions/session.h"
 #include "app/engine_texts.h"
 
 namespace Glyphor {

@@ -1,7 +1,6 @@
 #include "actions/action_read_pattern.h"
 
 #include "actions/pattern_file.h"
-#include "actions/session.h"
 
 namespace Glyphor {
 

@@ -4,7 +4,6 @@
 #include "model/code_text.h"
 
 #include <initializer_list>
-#include <vector>
 
 namespace Glyphor {
 

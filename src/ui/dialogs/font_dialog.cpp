@@ -23,8 +23,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr quint32 UsualWeight = 400;
