@@ -23,20 +23,16 @@ struct LogMessageRow
 };
 
 // Those of actions that are no edits. Disabling a range and disabling everything read alike.
-constexpr std::array LogMessages = {
-    LogMessageRow{ActionType::CreateFont,
-                  QT_TRANSLATE_NOOP("Engine", "[Font]: Initial height of font: %1px.")},
-    LogMessageRow{ActionType::OpenFont,
-                  QT_TRANSLATE_NOOP("Engine", "[Font]: Opened font file: %1")},
-    LogMessageRow{ActionType::MergeFont,
-                  QT_TRANSLATE_NOOP("Engine", "[Font]: Font merged with: %1")},
-    LogMessageRow{ActionType::Enable, QT_TRANSLATE_NOOP("Engine", "Enabled.")},
-    LogMessageRow{ActionType::Disable, QT_TRANSLATE_NOOP("Engine", "Disabled.")},
-    LogMessageRow{ActionType::DisableAll, QT_TRANSLATE_NOOP("Engine", "Disabled.")},
-    LogMessageRow{ActionType::Toggle, "%1."},
-    LogMessageRow{ActionType::ReadPattern,
-                  QT_TRANSLATE_NOOP("Engine", "[Font]: Read pattern file: %1.")},
-};
+constexpr auto LogMessages = std::to_array<LogMessageRow>({
+    {ActionType::CreateFont, QT_TRANSLATE_NOOP("Engine", "[Font]: Initial height of font: %1px.")},
+    {ActionType::OpenFont, QT_TRANSLATE_NOOP("Engine", "[Font]: Opened font file: %1")},
+    {ActionType::MergeFont, QT_TRANSLATE_NOOP("Engine", "[Font]: Font merged with: %1")},
+    {ActionType::Enable, QT_TRANSLATE_NOOP("Engine", "Enabled.")},
+    {ActionType::Disable, QT_TRANSLATE_NOOP("Engine", "Disabled.")},
+    {ActionType::DisableAll, QT_TRANSLATE_NOOP("Engine", "Disabled.")},
+    {ActionType::Toggle, "%1."},
+    {ActionType::ReadPattern, QT_TRANSLATE_NOOP("Engine", "[Font]: Read pattern file: %1.")},
+});
 
 } // namespace
 

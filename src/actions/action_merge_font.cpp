@@ -1,17 +1,16 @@
 #include "actions/action_merge_font.h"
 
 #include "actions/font_files.h"
-#include "actions/session.h"
+#include "app/critical_exception.h"
 #include "app/engine_texts.h"
 
 namespace Glyphor {
 
 namespace {
 
-const QString& MergeNotPossible()
+[[noreturn]] void RefuseMerge(const QString& reason)
 {
-    static const QString title = Engine::tr("Font merging not possible!");
-    return title;
+    throw CriticalException(Engine::tr("Font merging not possible!"), reason);
 }
 
 // A character refers to the metrics of its font, so that it can't move to another one.
@@ -24,37 +23,34 @@ std::unique_ptr<Character> CopyInto(const Font& font, const Character& character
     return copy;
 }
 
-} // namespace
-
-void ActionMergeFont::CheckFonts(const Font& font, const Font& other) const
+void CheckFonts(const Font& font, const Font& other)
 {
     const FontMetrics& own = font.Metrics();
     const FontMetrics& theirs = other.Metrics();
     if (own.format != theirs.format)
-        ThrowActionError(MergeNotPossible(),
-                         Engine::tr("The two fonts do not have the same format!\nThe current font "
-                                    "with the format \"%1\" "
-                                    "cannot be merged with the other font of the format \"%2\".")
-                             .arg(FormatDisplayName(own.format), FormatDisplayName(theirs.format)));
+        RefuseMerge(Engine::tr("The two fonts do not have the same format!\nThe current font "
+                               "with the format \"%1\" "
+                               "cannot be merged with the other font of the format \"%2\".")
+                        .arg(FormatDisplayName(own.format), FormatDisplayName(theirs.format)));
     if (own.encoding != theirs.encoding)
-        ThrowActionError(
-            MergeNotPossible(),
+        RefuseMerge(
             Engine::tr("One of the two fonts is encoded in Unicode and the other one in Shift "
                        "JIS: a code means different characters in them."));
     if (IsLegacyFormat(own.format) && own.height != theirs.height)
-        ThrowActionError(MergeNotPossible(),
-                         Engine::tr("All characters of a font in a legacy format have the font's "
-                                    "height: the current font "
-                                    "is %1 pixels high and the other one %2.")
-                             .arg(QString::number(own.height), QString::number(theirs.height)));
+        RefuseMerge(Engine::tr("All characters of a font in a legacy format have the font's "
+                               "height: the current font "
+                               "is %1 pixels high and the other one %2.")
+                        .arg(QString::number(own.height), QString::number(theirs.height)));
 }
+
+} // namespace
 
 bool ActionMergeFont::Execute()
 {
     SetRepeat(1);
     const Font* const font = CurrentFont();
     if (font == nullptr)
-        ThrowActionError(MergeNotPossible(), Engine::tr("There is no font to merge with."));
+        RefuseMerge(Engine::tr("There is no font to merge with."));
     const std::unique_ptr<Font> other = ReadFont(Args().source);
     CheckFonts(*font, *other);
 

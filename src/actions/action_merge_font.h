@@ -35,7 +35,6 @@ public:
     }
 
 private:
-    void CheckFonts(const Font& font, const Font& other) const;
     void Swap();
 
     // The state that the next step puts into the font, by code; null for no character.

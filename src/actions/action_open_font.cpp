@@ -38,16 +38,12 @@ QString MissingFace(const QString& path, int index, int faceCount)
         .arg(Shown(path), QString::number(index), faces);
 }
 
-[[noreturn]] void Fail(const QString& title, const QString& text)
-{
-    throw CriticalException(title, text);
-}
-
 void CheckCombination(FontFormat format, EncodingType encoding)
 {
     if (!IsValidCombination(format, encoding))
-        Fail(Engine::tr("Invalid combination of encoding and font format!"),
-             Engine::tr("SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."));
+        throw CriticalException(
+            Engine::tr("Invalid combination of encoding and font format!"),
+            Engine::tr("SJIS fonts have to be in a legacy font format [LEG, LEG_AA2, LEG_AA4]."));
 }
 
 RenderOptions OptionsOf(const ActionOpenFontArgs& args)
@@ -64,10 +60,11 @@ std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
     const auto file = MakeScalableFontFile(args.path, options);
     const int faceCount = file->FaceCount();
     if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
-        Fail(CreationFailed(), MissingFace(args.path, options.faceIndex, faceCount));
+        throw CriticalException(CreationFailed(),
+                                MissingFace(args.path, options.faceIndex, faceCount));
     if (!file->OpenFault().isEmpty())
-        Fail(CreationFailed(), Engine::tr("The font file %1 can't be used: %2")
-                                   .arg(Shown(args.path), file->OpenFault()));
+        throw CriticalException(CreationFailed(), Engine::tr("The font file %1 can't be used: %2")
+                                                      .arg(Shown(args.path), file->OpenFault()));
     WarnOfPoints(args);
     file->SetCharacterFilter(args.selection);
     return file->Read();
@@ -115,13 +112,12 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
 
 std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
 {
-    const auto namedType = FileTypeOf(args.path);
-    if (args.format || (namedType && IsScalable(*namedType)))
+    if (args.format || IsScalable(FileTypeOf(args.path)))
         CheckCombination(args.format.value_or(FontFormat::Standard),
                          args.encoding.value_or(EncodingType::Unicode));
     auto font = IsScalable(CheckInputFile(args.path)) ? Render(args) : ReadFile(args);
     if (font->Metrics().height == 0)
-        Fail(CreationFailed(), Engine::tr("Font has invalid metrics."));
+        throw CriticalException(CreationFailed(), Engine::tr("Font has invalid metrics."));
     return font;
 }
 

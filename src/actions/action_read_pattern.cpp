@@ -1,7 +1,6 @@
 #include "actions/action_read_pattern.h"
 
 #include "actions/pattern_file.h"
-#include "actions/session.h"
 
 namespace Glyphor {
 
@@ -20,11 +19,6 @@ void ActionReadPattern::RedoOnce()
     CodeSet codes = previousCodes_;
     ApplyTo(codes);
     CurrentFont()->SetEnabledCodes(codes);
-}
-
-void ActionReadPattern::UndoOnce()
-{
-    CurrentFont()->SetEnabledCodes(previousCodes_);
 }
 
 } // namespace Glyphor

@@ -21,7 +21,7 @@ public:
 
     // Reads the file; false where there is none.
     bool Execute() override;
-    void UndoOnce() override;
+    void UndoOnce() override { CurrentFont()->SetEnabledCodes(previousCodes_); }
     void RedoOnce() override;
     [[nodiscard]] LogEntry Log() const override
     {

@@ -17,10 +17,14 @@ CodeSet RangeOf(quint16 first, quint16 last)
     return codes;
 }
 
-// Like Toggle, after the state that it leads to.
-LogEntry StateEntry(bool isEnabled)
+// Toggling tells the state that it led to.
+template <typename RangeAction>
+LogEntry EntryOf(const RangeAction& action, bool isEnabled)
 {
-    return LogEntry(LogMessage(isEnabled ? ActionType::Enable : ActionType::Disable));
+    const ActionType state = isEnabled ? ActionType::Enable : ActionType::Disable;
+    const bool isToggle = action.Type() == ActionType::Toggle;
+    return LogEntry(action.MessageFor(isToggle ? state : ActionType::None))
+        .About(RangePrefix(action.Args().first, action.Args().last));
 }
 
 } // namespace
@@ -90,9 +94,7 @@ CodeSet ActionChar::AffectedCodes() const
 
 LogEntry ActionChar::Log() const
 {
-    const LogEntry entry =
-        Type() == ActionType::Toggle ? StateEntry(target_) : LogEntry(MessageFor());
-    return entry.About(RangePrefix(Args().first, Args().last));
+    return EntryOf(*this, target_);
 }
 
 bool ActionFont::Execute()
@@ -217,9 +219,7 @@ void ActionCharState::ApplyTo(CodeSet& codes) const
 
 LogEntry ActionCharState::Log() const
 {
-    const LogEntry entry =
-        Type() == ActionType::Toggle ? StateEntry(target_) : LogEntry(MessageFor());
-    return entry.About(RangePrefix(Args().first, Args().last));
+    return EntryOf(*this, target_);
 }
 
 bool ActionCharDelete::Execute()

@@ -62,7 +62,7 @@ std::unique_ptr<FontFile> MakeInputFile(const QString& path, const FormatAnswer&
 std::unique_ptr<FontFile> MakeOutputFile(const QString& path, const QStringList& actionLog)
 {
     const auto type = FileTypeOf(path);
-    if (!type || !IsWritten(*type))
+    if (!IsWritten(type))
         ThrowUnsupportedFormat();
     return RowOf(*type).make(path, {.answer = {}, .text = CFileOptionsOfSettings(actionLog)});
 }

@@ -30,11 +30,6 @@ QString LogEntry::Filled(QString text) const
     return prefix_ + text;
 }
 
-QString LogEntry::Text() const
-{
-    return Filled(QString::fromLatin1(text_));
-}
-
 QString LogEntry::Translated() const
 {
     const QString english = QString::fromLatin1(text_);

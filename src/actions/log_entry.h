@@ -21,7 +21,7 @@ public:
     // The characters that it is about, in front of the text.
     [[nodiscard]] LogEntry About(const QString& prefix) const;
 
-    [[nodiscard]] QString Text() const;
+    [[nodiscard]] QString Text() const { return Filled(QString::fromLatin1(text_)); }
     [[nodiscard]] QString Translated() const;
 
 private:

@@ -5,6 +5,7 @@
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 
+#include <QDataStream>
 #include <QFileInfo>
 #include <QtEndian>
 
@@ -13,12 +14,6 @@ namespace Glyphor {
 namespace {
 
 constexpr quint16 ByteOrderMark = 0xFEFF;
-
-void AppendUnit(QByteArray& bytes, quint16 unit)
-{
-    bytes.append(static_cast<char>(unit & 0xFF));
-    bytes.append(static_cast<char>(unit >> 8));
-}
 
 } // namespace
 
@@ -65,9 +60,11 @@ CodeSet PatternFile::Read()
 void PatternFile::Write(const CodeSet& codes)
 {
     QByteArray bytes;
-    AppendUnit(bytes, ByteOrderMark);
+    QDataStream units(&bytes, QIODevice::WriteOnly);
+    units.setByteOrder(QDataStream::LittleEndian);
+    units << ByteOrderMark;
     for (const quint16 code : codes)
-        AppendUnit(bytes, code);
+        units << code;
     Replace(bytes);
 }
 

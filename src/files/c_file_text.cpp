@@ -1,6 +1,7 @@
 #include "files/c_file_text.h"
 
 #include "app/version.h"
+#include "files/c_scanner.h"
 
 #include <QFileInfo>
 
@@ -26,46 +27,33 @@ QString Centred(const QString& text)
 // line or turn its direction of writing.
 QString InComment(QString text)
 {
+    constexpr std::array disturbing = {QChar::Other_Control, QChar::Other_Format,
+                                       QChar::Separator_Line, QChar::Separator_Paragraph};
     for (QChar& character : text) {
-        switch (character.category()) {
-        case QChar::Other_Control:
-        case QChar::Other_Format:
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
+        if (std::ranges::find(disturbing, character.category()) != disturbing.end())
             character = u' ';
-            break;
-        default:
-            break;
-        }
     }
     text.replace(u"*/"_s, u"* /"_s);
     text.replace(u"/*"_s, u"/ *"_s);
     return text;
 }
 
-bool IsIdentifierPart(QChar character)
-{
-    return (character >= u'0' && character <= u'9') || (character >= u'A' && character <= u'Z') ||
-           (character >= u'a' && character <= u'z') || character == u'_';
-}
-
 bool IsHeaderName(const QString& fileName)
 {
-    const qsizetype dot = fileName.lastIndexOf(u'.');
-    const QStringView suffix = dot < 0 ? QStringView() : QStringView(fileName).mid(dot);
-    return suffix == u".h" || suffix == u".hh" || suffix == u".hxx" || suffix == u".hpp";
+    return std::ranges::any_of(
+        std::array{".h"_L1, ".hh"_L1, ".hxx"_L1, ".hpp"_L1},
+        [&fileName](QLatin1StringView suffix) { return fileName.endsWith(suffix); });
 }
 
 } // namespace
 
 QByteArray CName(const QString& fontName)
 {
-    const qsizetype dot = fontName.lastIndexOf(u'.');
-    const QStringView stem = dot < 0 ? QStringView(fontName) : QStringView(fontName).left(dot);
+    const QString stem = fontName.left(fontName.lastIndexOf(u'.'));
     QByteArray name;
     name.reserve(stem.size());
     for (const QChar character : stem)
-        name.append(IsIdentifierPart(character) ? character.toLatin1() : '_');
+        name.append(IsIdentifierCharacter(character.toLatin1()) ? character.toLatin1() : '_');
     return name;
 }
 
@@ -107,13 +95,6 @@ void CFileText::BoxRule()
     BoxLine(u"*"_s);
 }
 
-void CFileText::BoxActionLog(const QStringList& log)
-{
-    BoxRule();
-    for (const QString& line : log)
-        BoxLine(u"*  "_s + line);
-}
-
 void CFileText::CommentBox(int fontHeight, QByteArrayView contentType)
 {
     Line('/' + QByteArray(BoxWidth - 1, '*'));
@@ -133,47 +114,39 @@ void CFileText::CommentBox(int fontHeight, QByteArrayView contentType)
     BoxLine(u"*  Font:         %1"_s.arg(fontName_));
     BoxLine(u"*  Height:       %1"_s.arg(fontHeight));
     BoxLine(u"*  Content type: %1"_s.arg(QLatin1StringView(contentType)));
-    if (options_.actionLog)
-        BoxActionLog(*options_.actionLog);
+    if (options_.actionLog) {
+        BoxRule();
+        for (const QString& line : *options_.actionLog)
+            BoxLine(u"*  "_s + line);
+    }
     BoxLine(u"*"_s);
     Line(QByteArray(BoxWidth, '*'));
     Line("*/");
     Line();
 }
 
-void CFileText::IncludeGuardStart()
+void CFileText::Begin(int fontHeight, QByteArrayView contentType)
 {
-    if (guardSymbol_.isEmpty())
-        return;
-    Line("#ifndef ", guardSymbol_);
-    Line("#define ", guardSymbol_);
-    Line();
-}
-
-void CFileText::IncludeGuardEnd()
-{
-    if (guardSymbol_.isEmpty())
-        return;
-    Line("#endif // ", guardSymbol_);
-    Line();
-}
-
-void CFileText::IncludeLine()
-{
+    CommentBox(fontHeight, contentType);
+    if (!guardSymbol_.isEmpty()) {
+        Line("#ifndef ", guardSymbol_);
+        Line("#define ", guardSymbol_);
+        Line();
+    }
     Line("#include \"GUI.h\"");
     Line();
-}
-
-void CFileText::StorageClassBlock()
-{
     Line("#ifndef   GUI_CONST_STORAGE");
     Line("  #define GUI_CONST_STORAGE const");
     Line("#endif");
     Line();
 }
 
-void CFileText::EndLine()
+void CFileText::End()
 {
+    if (!guardSymbol_.isEmpty()) {
+        Line("#endif // ", guardSymbol_);
+        Line();
+    }
     Line("/*************************** End of file ****************************/");
     Flush();
 }

@@ -55,15 +55,11 @@ public:
             to = std::copy_n(view.data(), view.size(), to);
     }
 
-    // The box at the head of the file.
-    void CommentBox(int fontHeight, QByteArrayView contentType);
+    // What stands in front of the contents, for the name of a header with the start of its guard.
+    void Begin(int fontHeight, QByteArrayView contentType);
 
-    // Lines only for the name of a header.
-    void IncludeGuardStart();
-    void IncludeGuardEnd();
-
-    void IncludeLine();
-    void StorageClassBlock();
+    // What stands behind them; nothing may follow it.
+    void End();
 
     // Three comment lines, the texts in the middle one.
     template <typename... Texts>
@@ -73,9 +69,6 @@ public:
         Line("// ", texts...);
         Line("//");
     }
-
-    // The last line; nothing may follow it.
-    void EndLine();
 
     // For text that is written straight into the file.
     [[nodiscard]] QByteArray& Bytes() { return bytes_; }
@@ -96,7 +89,7 @@ private:
 
     void BoxLine(const QString& text);
     void BoxRule();
-    void BoxActionLog(const QStringList& log);
+    void CommentBox(int fontHeight, QByteArrayView contentType);
 
     CFileOptions options_;
     QString fileName_;

@@ -22,8 +22,7 @@ QString ToText(std::string_view text)
 
 constexpr quint8 NoDigit = 0xFF;
 
-constexpr std::array<quint8, 256> MakeHexDigits()
-{
+constexpr std::array<quint8, 256> HexDigits = [] {
     std::array<quint8, 256> digits{};
     digits.fill(NoDigit);
     for (quint8 value = 0; value < 10; ++value)
@@ -33,9 +32,7 @@ constexpr std::array<quint8, 256> MakeHexDigits()
         digits[static_cast<std::size_t>('a' + value - 10)] = value;
     }
     return digits;
-}
-
-constexpr std::array<quint8, 256> HexDigits = MakeHexDigits();
+}();
 
 quint8 HexDigit(char character)
 {

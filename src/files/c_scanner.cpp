@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <string>
 
 namespace Glyphor {
 
@@ -48,17 +49,7 @@ void BlankTabs(QByteArray& text)
         character = character == '\t' || character == '\v' || character == '\f' ? ' ' : character;
 }
 
-} // namespace
-
-std::string_view Trimmed(std::string_view text)
-{
-    while (!text.empty() && IsWhitespace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && IsWhitespace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
+// An integer of automatic base; false for anything else.
 bool ParseInteger(std::string_view text, int& value)
 {
     const bool isNegative = text.starts_with('-');
@@ -78,6 +69,17 @@ bool ParseInteger(std::string_view text, int& value)
     const auto result = std::from_chars(digits.data(), end, value, base);
     value = isNegative ? -value : value;
     return result.ec == std::errc() && result.ptr == end;
+}
+
+} // namespace
+
+std::string_view Trimmed(std::string_view text)
+{
+    while (!text.empty() && IsWhitespace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && IsWhitespace(text.back()))
+        text.remove_suffix(1);
+    return text;
 }
 
 CScanner::CScanner(QByteArray text) : text_(std::move(text))
@@ -143,19 +145,13 @@ int CScanner::Integer()
     const std::size_t start = position_;
     while (Current() == '-' || IsIdentifierCharacter(Current()))
         ++position_;
-    int value = 0;
-    if (!ParseInteger(view_.substr(start, position_ - start), value))
-        FailAt(start, Engine::tr("Error parsing integer!"));
-    return value;
+    return Number(view_.substr(start, position_ - start));
 }
 
 std::string_view CScanner::Until(char end, std::string_view limits)
 {
-    std::size_t at = position_;
-    while (at < view_.size() && view_[at] != end &&
-           limits.find(view_[at]) == std::string_view::npos)
-        ++at;
-    if (at >= view_.size() || view_[at] != end)
+    const std::size_t at = view_.find_first_of(std::string(limits) + end, position_);
+    if (at == std::string_view::npos || view_[at] != end)
         return {};
     const std::string_view part = view_.substr(position_, at - position_);
     position_ = at + 1;

@@ -81,7 +81,4 @@ private:
 // Without the white space at both ends.
 [[nodiscard]] std::string_view Trimmed(std::string_view text);
 
-// An integer of automatic base, or nothing.
-[[nodiscard]] bool ParseInteger(std::string_view text, int& value);
-
 } // namespace Glyphor

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <unordered_map>
 #include <utility>
 #include <vector>

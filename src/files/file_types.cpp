@@ -8,7 +8,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <utility>
 
 namespace Glyphor {
 
@@ -108,8 +107,7 @@ QString FontFileFilter(bool forSaving)
         if (forSaving && !IsWritten(group.type))
             continue;
         entries.append(u"%1 (%2)"_s.arg(Engine::tr(group.description), patterns.join(u' ')));
-        for (const QString& pattern : std::as_const(patterns))
-            all += pattern + u' ';
+        all += patterns.join(u' ') + u' ';
     }
     entries.append(u"%1 (%2)"_s.arg(Engine::tr("All supported file types"), all));
     return entries.join(u";;"_s);

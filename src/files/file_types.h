@@ -56,16 +56,16 @@ extern const std::array<FileTypeRow, 6> FileTypeTable;
 // True for ".kern", in any letter case.
 [[nodiscard]] bool IsBinaryKerningName(QStringView fileName);
 
-// True for the kinds that are written.
-[[nodiscard]] inline bool IsWritten(FileType type)
+// True for the kinds that are written; false for none.
+[[nodiscard]] inline bool IsWritten(std::optional<FileType> type)
 {
-    return RowOf(type).isWritten;
+    return type && RowOf(*type).isWritten;
 }
 
-// True for the kinds that are rendered at a height.
-[[nodiscard]] inline bool IsScalable(FileType type)
+// True for the kinds that are rendered at a height; false for none.
+[[nodiscard]] inline bool IsScalable(std::optional<FileType> type)
 {
-    return RowOf(type).isScalable;
+    return type && RowOf(*type).isScalable;
 }
 
 } // namespace Glyphor

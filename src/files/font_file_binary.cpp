@@ -3,7 +3,6 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/shown_text.h"
-#include "model/code_text.h"
 
 #include <QFileInfo>
 #include <QtEndian>
@@ -39,25 +38,6 @@ quint16 LittleEndianBytes::U16(qint64 offset) const
         return U8(offset);
     return qFromLittleEndian<quint16>(bytes_.data() + offset);
 }
-
-qint16 LittleEndianBytes::I16(qint64 offset) const
-{
-    return static_cast<qint16>(U16(offset));
-}
-
-quint32 LittleEndianBytes::U32(qint64 offset) const
-{
-    return U16(offset) | quint32(U16(offset + 2)) << 16;
-}
-
-QByteArrayView LittleEndianBytes::Part(qint64 offset, qint64 size) const
-{
-    return bytes_.sliced(offset, size);
-}
-
-FontFileBinary::FontFileBinary(const QString& path, const FormatAnswer& answer)
-    : FontFile(path), answer_(answer)
-{}
 
 // One append for all of them: fonts have tens of thousands of records.
 void FontFileBinary::Append16(QByteArray& bytes, std::initializer_list<int> values)
@@ -156,11 +136,6 @@ void FontFileBinary::Fail(const QString& reason) const
     throw CriticalException(
         FailureTitle(),
         Engine::tr("The file %1 can't be used as a font. %2").arg(Shown(fileName()), reason));
-}
-
-void FontFileBinary::FailAtChar(quint16 code, const QString& reason) const
-{
-    Fail(reason.arg(Hex4Text(code)));
 }
 
 } // namespace Glyphor

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "files/font_file.h"
+#include "model/code_text.h"
 
 #include <initializer_list>
-#include <vector>
 
 namespace Glyphor {
 
@@ -17,11 +17,17 @@ public:
     [[nodiscard]] bool Holds(qint64 offset, qint64 size) const;
     [[nodiscard]] quint8 U8(qint64 offset) const;
     [[nodiscard]] quint16 U16(qint64 offset) const;
-    [[nodiscard]] qint16 I16(qint64 offset) const;
-    [[nodiscard]] quint32 U32(qint64 offset) const;
+    [[nodiscard]] qint16 I16(qint64 offset) const { return qint16(U16(offset)); }
+    [[nodiscard]] quint32 U32(qint64 offset) const
+    {
+        return U16(offset) | quint32(U16(offset + 2)) << 16;
+    }
 
     // These must be in the file.
-    [[nodiscard]] QByteArrayView Part(qint64 offset, qint64 size) const;
+    [[nodiscard]] QByteArrayView Part(qint64 offset, qint64 size) const
+    {
+        return bytes_.sliced(offset, size);
+    }
 
 private:
     QByteArrayView bytes_;
@@ -31,7 +37,9 @@ private:
 class FontFileBinary : public FontFile
 {
 public:
-    explicit FontFileBinary(const QString& path, const FormatAnswer& answer = {});
+    explicit FontFileBinary(const QString& path, const FormatAnswer& answer = {})
+        : FontFile(path), answer_(answer)
+    {}
 
 protected:
     static constexpr qint64 MagicSize = 4;
@@ -67,7 +75,10 @@ protected:
 
     // Throws the failure of this kind; the text names the file.
     [[noreturn]] void Fail(const QString& reason) const;
-    [[noreturn]] void FailAtChar(quint16 code, const QString& reason) const;
+    [[noreturn]] void FailAtChar(quint16 code, const QString& reason) const
+    {
+        Fail(reason.arg(Hex4Text(code)));
+    }
 
     [[nodiscard]] virtual QString FailureTitle() const = 0;
 

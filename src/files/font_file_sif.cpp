@@ -135,10 +135,9 @@ std::unique_ptr<Font> FontFileSIF::Read()
     const LittleEndianBytes bytes(contents);
     if (!contents.startsWith(SifMagic) || bytes.Size() < SifHeaderSize)
         Fail(Engine::tr("It does not begin with \"GUIP\" and a header."));
-    std::optional<FontFormat> format = TrailerFormat(bytes, SifTrailerName);
-    const bool isAnswered = !format;
-    if (!format)
-        format = Answer().format;
+    const std::optional<FontFormat> ownFormat = TrailerFormat(bytes, SifTrailerName);
+    const bool isAnswered = !ownFormat;
+    const std::optional<FontFormat> format = isAnswered ? Answer().format : ownFormat;
     if (!format)
         throw CriticalException(
             Engine::tr("Error opening file!"),

@@ -50,40 +50,27 @@ KerningFileC::KerningFileC(const QString& path, const CFileOptions& options)
     : KerningFile(path), options_(options)
 {}
 
-void KerningFileC::Compose(const std::vector<KerningEntry>& pairs, const Font& font,
-                           const Sink& sink) const
+void KerningFileC::Write(const std::vector<KerningEntry>& pairs, const Font& font)
 {
     const QByteArray array = 'a' + CName(font.Name());
     const QByteArray count = CSymbol(CName(font.Name()) + "_NumPairs");
-    CFileText text(options_, fileName(), font.Name(), sink);
-    text.CommentBox(font.Metrics().height, "Kerning data");
-    text.IncludeGuardStart();
-    text.IncludeLine();
-    text.StorageClassBlock();
-    text.Triple("The following lines need to be included in any file using the kerning pairs:");
-    text.Line("extern GUI_CONST_STORAGE U16 ", array, "[];");
-    text.Line("extern                   U32  ", count, ";");
-    text.Line();
-    text.Triple("Kerning pairs");
-    text.Line("GUI_CONST_STORAGE U16 ", array, "[] = {");
-    WritePairs(text, pairs);
-    text.Line("};");
-    text.Line();
-    text.Triple("Number of kerning pairs: ", Decimal(static_cast<int>(pairs.size())));
-    text.Line("U32 ", count, " = (sizeof(", array, ") / sizeof(", array, "[0])) / 3;");
-    text.Line();
-    text.IncludeGuardEnd();
-    text.EndLine();
-}
-
-void KerningFileC::Write(const std::vector<KerningEntry>& pairs, const Font& font)
-{
-    Replace([&](const Sink& sink) { Compose(pairs, font, sink); });
-}
-
-void KerningFileBinary::Write(const std::vector<KerningEntry>&, const Font&)
-{
-    Replace(QByteArray());
+    Replace([&](const Sink& sink) {
+        CFileText text(options_, fileName(), font.Name(), sink);
+        text.Begin(font.Metrics().height, "Kerning data");
+        text.Triple("The following lines need to be included in any file using the kerning pairs:");
+        text.Line("extern GUI_CONST_STORAGE U16 ", array, "[];");
+        text.Line("extern                   U32  ", count, ";");
+        text.Line();
+        text.Triple("Kerning pairs");
+        text.Line("GUI_CONST_STORAGE U16 ", array, "[] = {");
+        WritePairs(text, pairs);
+        text.Line("};");
+        text.Line();
+        text.Triple("Number of kerning pairs: ", Decimal(static_cast<int>(pairs.size())));
+        text.Line("U32 ", count, " = (sizeof(", array, ") / sizeof(", array, "[0])) / 3;");
+        text.Line();
+        text.End();
+    });
 }
 
 std::unique_ptr<KerningFile> MakeKerningFile(const QString& path, const CFileOptions& options)

@@ -39,8 +39,6 @@ public:
     void Write(const std::vector<KerningEntry>& pairs, const Font& font) override;
 
 private:
-    void Compose(const std::vector<KerningEntry>& pairs, const Font& font, const Sink& sink) const;
-
     CFileOptions options_;
 };
 
@@ -50,7 +48,7 @@ class KerningFileBinary final : public KerningFile
 public:
     using KerningFile::KerningFile;
 
-    void Write(const std::vector<KerningEntry>& pairs, const Font& font) override;
+    void Write(const std::vector<KerningEntry>&, const Font&) override { Replace(QByteArray()); }
 };
 
 // The kind that the name tells, in any letter case: C by one of its suffixes, else ".kern"; null

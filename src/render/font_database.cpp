@@ -22,39 +22,26 @@ struct FontFileEntry
     FileType type;
 };
 
-// Enters directories and those below them, each once.
-class DirectoryWalk
+// Enters a directory and, if asked for, those below it, each once.
+void EnterDirectory(const QString& path, bool recursively, QSet<QString>& seen,
+                    QStringList& entered)
 {
-public:
-    explicit DirectoryWalk(bool recursively) : recursively_(recursively) {}
-
-    void Enter(const QString& path)
-    {
-        const QString canonical = QDir(path).canonicalPath();
-        if (canonical.isEmpty() || seen_.contains(canonical) || !QFileInfo(canonical).isDir())
-            return;
-        seen_.insert(canonical);
-        entered_.append(path);
-        if (!recursively_)
-            return;
-        const QDir directory(path);
-        for (const QString& name :
-             directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted)) {
-            // The count never goes down again, so it limits the whole list and not the depth.
-            if (entered_.size() < MaxEntered)
-                Enter(directory.filePath(name));
-        }
+    constexpr qsizetype maxEntered = 10;
+    const QString canonical = QDir(path).canonicalPath();
+    if (canonical.isEmpty() || seen.contains(canonical) || !QFileInfo(canonical).isDir())
+        return;
+    seen.insert(canonical);
+    entered.append(path);
+    if (!recursively)
+        return;
+    const QDir directory(path);
+    for (const QString& name :
+         directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted)) {
+        // The count never goes down again, so it limits the whole list and not the depth.
+        if (entered.size() < maxEntered)
+            EnterDirectory(directory.filePath(name), true, seen, entered);
     }
-
-    [[nodiscard]] const QStringList& Entered() const { return entered_; }
-
-private:
-    static constexpr qsizetype MaxEntered = 10;
-
-    bool recursively_;
-    QStringList entered_;
-    QSet<QString> seen_;
-};
+}
 
 std::vector<FontFileEntry> FontFilesIn(const QStringList& directories)
 {
@@ -143,10 +130,11 @@ const FontFamily* FontDatabase::Find(const QString& name) const
 
 QStringList ExpandDirectories(const QStringList& directories, bool recursively)
 {
-    DirectoryWalk walk(recursively);
+    QSet<QString> seen;
+    QStringList entered;
     for (const QString& directory : directories)
-        walk.Enter(directory);
-    return walk.Entered();
+        EnterDirectory(directory, recursively, seen, entered);
+    return entered;
 }
 
 QStringList FontSearchList(const QStringList& additional, bool recursively)

@@ -11,11 +11,10 @@ namespace Glyphor {
 
 namespace {
 
-#ifdef GLYPHOR_FONTCONFIG
-
 QStringList FontconfigDirectories()
 {
     QStringList directories;
+#ifdef GLYPHOR_FONTCONFIG
     FcConfig* const config = FcInitLoadConfigAndFonts();
     FcStrList* const list = config != nullptr ? FcConfigGetFontDirs(config) : nullptr;
     if (list != nullptr) {
@@ -25,17 +24,9 @@ QStringList FontconfigDirectories()
     }
     if (config != nullptr)
         FcConfigDestroy(config);
+#endif
     return directories;
 }
-
-#else
-
-QStringList FontconfigDirectories()
-{
-    return {};
-}
-
-#endif
 
 } // namespace
 

@@ -26,39 +26,21 @@ void FontFamily::AddStyle(const QString& name, const QString& path, int faceInde
     styles_.try_emplace(name, Entry{path, faceIndex, isInstance, style});
 }
 
-const FontFamily::Entry* FontFamily::Find(const QString& style) const
+FontFamily::Entry FontFamily::Find(const QString& style) const
 {
     const auto found = styles_.find(style);
-    return found != styles_.end() ? &found->second : nullptr;
+    return found != styles_.end() ? found->second : Entry();
 }
 
 FreeTypeFace FontFamily::Face(const QString& style) const
 {
-    const Entry* const entry = Find(style);
-    if (entry == nullptr)
+    const Entry entry = Find(style);
+    if (entry.path.isEmpty())
         return {};
-    FreeTypeFace face(entry->path, entry->isInstance ? 0 : entry->faceIndex, FreeTypeLibrary());
-    if (entry->isInstance)
-        face.SetNamedInstance(entry->faceIndex);
+    FreeTypeFace face(entry.path, entry.isInstance ? 0 : entry.faceIndex, FreeTypeLibrary());
+    if (entry.isInstance)
+        face.SetNamedInstance(entry.faceIndex);
     return face;
-}
-
-int FontFamily::FaceIndex(const QString& style) const
-{
-    const Entry* const entry = Find(style);
-    return entry != nullptr ? entry->faceIndex : 0;
-}
-
-QString FontFamily::Path(const QString& style) const
-{
-    const Entry* const entry = Find(style);
-    return entry != nullptr ? entry->path : QString();
-}
-
-FaceStyle FontFamily::Style(const QString& style) const
-{
-    const Entry* const entry = Find(style);
-    return entry != nullptr ? entry->style : FaceStyle();
 }
 
 QStringList FontFamily::StyleNames() const

@@ -24,18 +24,21 @@ public:
     [[nodiscard]] virtual FreeTypeFace Face(const QString& style) const;
 
     // What -face would be for the style's file; 0 for an unknown style.
-    [[nodiscard]] virtual int FaceIndex(const QString& style) const;
+    [[nodiscard]] virtual int FaceIndex(const QString& style) const
+    {
+        return Find(style).faceIndex;
+    }
 
     // By weight, by width, upright before italic.
     [[nodiscard]] virtual QStringList StyleNames() const;
 
-    [[nodiscard]] virtual FaceStyle Style(const QString& style) const;
+    [[nodiscard]] virtual FaceStyle Style(const QString& style) const { return Find(style).style; }
 
     [[nodiscard]] const QString& Name() const { return name_; }
     [[nodiscard]] const QList<quint32>& UnicodeRanges() const { return unicodeRanges_; }
 
     // The file of a style; empty for an unknown one.
-    [[nodiscard]] QString Path(const QString& style) const;
+    [[nodiscard]] QString Path(const QString& style) const { return Find(style).path; }
 
     // Takes over the styles that this family does not have yet.
     void AddStyles(const FontFamily& other);
@@ -51,12 +54,13 @@ private:
     struct Entry
     {
         QString path;
-        int faceIndex;
-        bool isInstance; // the index is that of a named instance, not of a face
+        int faceIndex = 0;
+        bool isInstance = false; // the index is that of a named instance, not of a face
         FaceStyle style;
     };
 
-    [[nodiscard]] const Entry* Find(const QString& style) const;
+    // An empty entry where there is no such style.
+    [[nodiscard]] Entry Find(const QString& style) const;
 
     QString name_;
     QList<quint32> unicodeRanges_;

@@ -17,7 +17,6 @@
 #include <limits>
 #include <memory>
 #include <span>
-#include <utility>
 
 namespace Glyphor {
 
@@ -142,44 +141,10 @@ FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& 
     : path_(path)
 {
     library.AllowFile(QFileInfo(path).size());
-    openError_ = FT_New_Face(library.Get(), QFile::encodeName(path).constData(), faceIndex, &face_);
-    if (openError_ != 0)
-        face_ = nullptr;
-}
-
-FreeTypeFace::FreeTypeFace(const FreeTypeFace& other)
-    : face_(other.face_),
-      path_(other.path_),
-      effects_(other.effects_),
-      monochrome_(other.monochrome_),
-      largestWidth_(other.largestWidth_),
-      largestRows_(other.largestRows_),
-      openError_(other.openError_)
-{
-    if (face_ != nullptr)
-        FT_Reference_Face(face_);
-}
-
-FreeTypeFace& FreeTypeFace::operator=(const FreeTypeFace& other)
-{
-    if (other.face_ != nullptr)
-        FT_Reference_Face(other.face_);
-    if (face_ != nullptr)
-        FT_Done_Face(face_);
-    face_ = other.face_;
-    path_ = other.path_;
-    effects_ = other.effects_;
-    monochrome_ = other.monochrome_;
-    largestWidth_ = other.largestWidth_;
-    largestRows_ = other.largestRows_;
-    openError_ = other.openError_;
-    return *this;
-}
-
-FreeTypeFace::~FreeTypeFace()
-{
-    if (face_ != nullptr)
-        FT_Done_Face(face_);
+    FT_Face face = nullptr;
+    openError_ = FT_New_Face(library.Get(), QFile::encodeName(path).constData(), faceIndex, &face);
+    if (openError_ == 0)
+        face_.reset(face, FT_Done_Face);
 }
 
 QString FreeTypeFace::OpenFault() const
@@ -198,24 +163,9 @@ QString FreeTypeFace::OpenFault() const
     }
 }
 
-int FreeTypeFace::FaceCount() const
-{
-    return IsOpen() ? static_cast<int>(face_->num_faces) : 0;
-}
-
 int FreeTypeFace::MemberIndex() const
 {
     return IsOpen() ? static_cast<int>(face_->face_index & 0xFFFF) : -1;
-}
-
-int FreeTypeFace::GlyphCount() const
-{
-    return IsOpen() ? static_cast<int>(face_->num_glyphs) : 0;
-}
-
-bool FreeTypeFace::HasKerning() const
-{
-    return IsOpen() && FT_HAS_KERNING(face_);
 }
 
 QString FreeTypeFace::FamilyName() const
@@ -228,24 +178,14 @@ QString FreeTypeFace::StyleName() const
     return IsOpen() ? QString::fromUtf8(face_->style_name) : QString();
 }
 
-int FreeTypeFace::Ascent() const
+int FreeTypeFace::SizeMetric(FT_Pos FT_Size_Metrics::*metric) const
 {
-    return IsOpen() ? WholePixels(face_->size->metrics.ascender) : 0;
-}
-
-int FreeTypeFace::LineHeight() const
-{
-    return IsOpen() ? WholePixels(face_->size->metrics.height) : 0;
+    return IsOpen() ? WholePixels(face_->size->metrics.*metric) : 0;
 }
 
 int FreeTypeFace::EmSize() const
 {
     return IsOpen() && face_->size != nullptr ? face_->size->metrics.y_ppem : 0;
-}
-
-int FreeTypeFace::MaxAdvance() const
-{
-    return IsOpen() ? WholePixels(face_->size->metrics.max_advance) : 0;
 }
 
 QList<int> FreeTypeFace::StrikeHeights() const
@@ -256,11 +196,6 @@ QList<int> FreeTypeFace::StrikeHeights() const
     return heights;
 }
 
-bool FreeTypeFace::HasOutlines() const
-{
-    return IsOpen() && FT_IS_SCALABLE(face_);
-}
-
 int FreeTypeFace::GlyphHeight(quint16 code) const
 {
     return LoadGlyph(code, FT_LOAD_DEFAULT) ? WholePixels(face_->glyph->metrics.height) : 0;
@@ -268,21 +203,21 @@ int FreeTypeFace::GlyphHeight(quint16 code) const
 
 bool FreeTypeFace::IsMultiMaster() const
 {
-    return VariationsOf(face_) != nullptr;
+    return VariationsOf(Handle()) != nullptr;
 }
 
 int FreeTypeFace::NamedInstanceCount() const
 {
-    const Variations variations = VariationsOf(face_);
+    const Variations variations = VariationsOf(Handle());
     return variations ? static_cast<int>(variations->num_namedstyles) : 0;
 }
 
 std::vector<NamedInstance> FreeTypeFace::NamedInstances() const
 {
-    const Variations variations = VariationsOf(face_);
+    const Variations variations = VariationsOf(Handle());
     if (!variations)
         return {};
-    const QHash<FT_UInt, QString> names = AllNames(face_);
+    const QHash<FT_UInt, QString> names = AllNames(Handle());
     std::vector<NamedInstance> instances;
     for (FT_UInt index = 0; index < variations->num_namedstyles; ++index)
         instances.push_back({names.value(variations->namedstyle[index].strid),
@@ -303,19 +238,19 @@ QStringList FreeTypeFace::NamedInstanceNames() const
 void FreeTypeFace::SetNamedInstance(int index)
 {
     if (IsMultiMaster() && index >= 0 && index <= NamedInstanceCount())
-        FT_Set_Named_Instance(face_, static_cast<FT_UInt>(index));
+        FT_Set_Named_Instance(Handle(), static_cast<FT_UInt>(index));
 }
 
 FaceStyle FreeTypeFace::Style() const
 {
     FaceStyle style;
-    if (const Variations variations = VariationsOf(face_)) {
+    if (const Variations variations = VariationsOf(Handle())) {
         const FT_Long instance = (face_->face_index >> 16) - 1;
         if (instance >= 0 && instance < FT_Long(variations->num_namedstyles))
             style.weight = InstanceWeight(*variations, static_cast<FT_UInt>(instance));
         return style;
     }
-    if (const TT_OS2* const os2 = Os2Table(face_)) {
+    if (const TT_OS2* const os2 = Os2Table(Handle())) {
         constexpr int italicOrOblique = 0x201;
         style.weight = os2->usWeightClass;
         style.width = os2->usWidthClass;
@@ -326,7 +261,7 @@ FaceStyle FreeTypeFace::Style() const
 
 QList<quint32> FreeTypeFace::UnicodeRanges() const
 {
-    const TT_OS2* const os2 = Os2Table(face_);
+    const TT_OS2* const os2 = Os2Table(Handle());
     if (os2 == nullptr)
         return {};
     QList<quint32> ranges;
@@ -336,23 +271,18 @@ QList<quint32> FreeTypeFace::UnicodeRanges() const
     return ranges;
 }
 
-bool FreeTypeFace::SelectStrike(int height)
-{
-    const qsizetype index = StrikeHeights().indexOf(height);
-    if (index < 0)
-        return false;
-    FT_Select_Size(face_, static_cast<FT_Int>(index));
-    return true;
-}
-
 void FreeTypeFace::SetPixelSize(int height, bool useStrikes)
 {
-    if (!IsOpen() || (useStrikes && SelectStrike(height)))
+    if (!IsOpen())
         return;
+    if (const qsizetype strike = useStrikes ? StrikeHeights().indexOf(height) : -1; strike >= 0) {
+        FT_Select_Size(Handle(), static_cast<FT_Int>(strike));
+        return;
+    }
     FT_Size_RequestRec request{};
     request.type = FT_SIZE_REQUEST_TYPE_BBOX;
     request.height = FT_Long(height) * 64;
-    FT_Request_Size(face_, &request);
+    FT_Request_Size(Handle(), &request);
 }
 
 // Without a charmap the code is the index.
@@ -360,24 +290,19 @@ FT_UInt FreeTypeFace::GlyphIndex(quint16 code) const
 {
     if (!IsOpen())
         return 0;
-    return face_->charmap != nullptr ? FT_Get_Char_Index(face_, code) : code;
+    return face_->charmap != nullptr ? FT_Get_Char_Index(Handle(), code) : code;
 }
 
 bool FreeTypeFace::LoadGlyph(quint16 code, FT_Int32 loadFlags) const
 {
     const FT_UInt index = GlyphIndex(code);
-    return index != 0 && FT_Load_Glyph(face_, index, loadFlags) == 0;
-}
-
-bool FreeTypeFace::RenderGlyph(quint16 code, RenderedGlyph& glyph) const
-{
-    return RenderIndex(GlyphIndex(code), glyph);
+    return index != 0 && FT_Load_Glyph(Handle(), index, loadFlags) == 0;
 }
 
 bool FreeTypeFace::RenderIndex(FT_UInt index, RenderedGlyph& glyph) const
 {
     const FT_Int32 loadFlags = monochrome_ ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT;
-    if (index == 0 || FT_Load_Glyph(face_, index, loadFlags) != 0)
+    if (index == 0 || FT_Load_Glyph(Handle(), index, loadFlags) != 0)
         return false;
     if ((effects_ & BoldEffect) != 0)
         FT_GlyphSlot_Embolden(face_->glyph);
@@ -439,14 +364,16 @@ void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
 
 int FreeTypeFace::Kerning(quint16 left, quint16 right) const
 {
-    if (!HasKerning())
-        return 0;
+    return HasKerning()
+               ? GlyphKerning(FT_Get_Char_Index(Handle(), left), FT_Get_Char_Index(Handle(), right))
+               : 0;
+}
+
+int FreeTypeFace::GlyphKerning(FT_UInt left, FT_UInt right) const
+{
     FT_Vector distance{};
-    const FT_UInt leftGlyph = FT_Get_Char_Index(face_, left);
-    const FT_UInt rightGlyph = FT_Get_Char_Index(face_, right);
-    if (FT_Get_Kerning(face_, leftGlyph, rightGlyph, FT_KERNING_DEFAULT, &distance) != 0)
-        return 0;
-    return WholePixels(distance.x);
+    const FT_Error error = FT_Get_Kerning(Handle(), left, right, FT_KERNING_DEFAULT, &distance);
+    return error == 0 ? WholePixels(distance.x) : 0;
 }
 
 std::vector<KerningPair> FreeTypeFace::KerningPairs(quint16 left) const

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <limits>
+#include <memory>
 #include <vector>
 
 namespace Glyphor {
@@ -42,28 +43,25 @@ public:
 
     // Opens the face; on failure the handle stays empty and OpenFault() tells why.
     FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library);
-    FreeTypeFace(const FreeTypeFace& other);
-    FreeTypeFace& operator=(const FreeTypeFace& other);
-
-    virtual ~FreeTypeFace();
+    virtual ~FreeTypeFace() = default;
 
     // The baseline, in pixels from the top of the font.
-    [[nodiscard]] virtual int Ascent() const;
+    [[nodiscard]] virtual int Ascent() const { return SizeMetric(&FT_Size_Metrics::ascender); }
 
     [[nodiscard]] bool IsOpen() const { return face_ != nullptr; }
     [[nodiscard]] const QString& Path() const { return path_; }
     [[nodiscard]] QString OpenFault() const;
 
-    [[nodiscard]] int FaceCount() const;
+    [[nodiscard]] int FaceCount() const { return IsOpen() ? int(face_->num_faces) : 0; }
 
     // Which face of its file this is, whatever named instance was chosen; -1 without a face.
     [[nodiscard]] int MemberIndex() const;
-    [[nodiscard]] int GlyphCount() const;
-    [[nodiscard]] bool HasKerning() const;
+    [[nodiscard]] int GlyphCount() const { return IsOpen() ? int(face_->num_glyphs) : 0; }
+    [[nodiscard]] bool HasKerning() const { return IsOpen() && FT_HAS_KERNING(face_); }
     [[nodiscard]] QString FamilyName() const;
     [[nodiscard]] QString StyleName() const;
-    [[nodiscard]] int LineHeight() const;
-    [[nodiscard]] int MaxAdvance() const;
+    [[nodiscard]] int LineHeight() const { return SizeMetric(&FT_Size_Metrics::height); }
+    [[nodiscard]] int MaxAdvance() const { return SizeMetric(&FT_Size_Metrics::max_advance); }
 
     // In pixels, at the current size.
     [[nodiscard]] int EmSize() const;
@@ -73,7 +71,7 @@ public:
     [[nodiscard]] QList<int> StrikeHeights() const;
 
     // False for a face that has only bitmaps.
-    [[nodiscard]] bool HasOutlines() const;
+    [[nodiscard]] bool HasOutlines() const { return IsOpen() && FT_IS_SCALABLE(face_); }
 
     // The height of the glyph's box at the current size; 0 where it can't be loaded.
     [[nodiscard]] int GlyphHeight(quint16 code) const;
@@ -105,13 +103,19 @@ public:
 
     // Loads, emboldens, slants and renders the glyph. The record keeps its buffer from call to
     // call.
-    bool RenderGlyph(quint16 code, RenderedGlyph& glyph) const;
+    bool RenderGlyph(quint16 code, RenderedGlyph& glyph) const
+    {
+        return RenderIndex(GlyphIndex(code), glyph);
+    }
 
     // The same for a glyph whose index is known; 0 fails.
     bool RenderIndex(FT_UInt index, RenderedGlyph& glyph) const;
 
     // By how many whole pixels a pair stands closer (negative) or further apart.
     [[nodiscard]] int Kerning(quint16 left, quint16 right) const;
+
+    // The same for the glyphs of an open face.
+    [[nodiscard]] int GlyphKerning(FT_UInt left, FT_UInt right) const;
 
     // The pairs of one character, found by asking for every character of the charmap.
     [[nodiscard]] std::vector<KerningPair> KerningPairs(quint16 left) const;
@@ -125,17 +129,17 @@ public:
     // The four words of the OS/2 table; nothing where the face has none.
     [[nodiscard]] QList<quint32> UnicodeRanges() const;
 
-    [[nodiscard]] FT_Face Handle() const { return face_; }
+    [[nodiscard]] FT_Face Handle() const { return face_.get(); }
 
 private:
     static constexpr int AnySize = std::numeric_limits<int>::max();
 
     [[nodiscard]] FT_UInt GlyphIndex(quint16 code) const;
-    bool SelectStrike(int height);
+    [[nodiscard]] int SizeMetric(FT_Pos FT_Size_Metrics::*metric) const;
     [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;
     void FillGlyph(RenderedGlyph& glyph) const;
 
-    FT_Face face_ = nullptr;
+    std::shared_ptr<FT_FaceRec> face_;
     QString path_;
     quint32 effects_ = 0;
     bool monochrome_ = false;
@@ -152,10 +156,10 @@ void FreeTypeFace::WalkCharmap(Visit visit) const
     FT_UInt glyph = 0;
     if (!IsOpen())
         return;
-    for (FT_ULong code = FT_Get_First_Char(face_, &glyph); glyph != 0 && code <= lastCharacter;
-         code = FT_Get_Next_Char(face_, code, &glyph)) {
+    for (FT_ULong code = FT_Get_First_Char(Handle(), &glyph); glyph != 0 && code <= lastCharacter;
+         code = FT_Get_Next_Char(Handle(), code, &glyph)) {
         const auto code16 = static_cast<quint16>(code);
-        if (!visit(code16, code16 == code ? glyph : FT_Get_Char_Index(face_, code16)))
+        if (!visit(code16, code16 == code ? glyph : FT_Get_Char_Index(Handle(), code16)))
             return;
     }
 }

@@ -12,12 +12,6 @@ namespace {
 constexpr std::size_t HeaderSize = alignof(std::max_align_t);
 static_assert(HeaderSize >= sizeof(qint64));
 
-void* BlockOf(void* header, qint64 size)
-{
-    *static_cast<qint64*>(header) = size;
-    return static_cast<std::byte*>(header) + HeaderSize;
-}
-
 void* HeaderOf(void* block)
 {
     return static_cast<std::byte*>(block) - HeaderSize;
@@ -75,7 +69,8 @@ void* FontLibrary::Reallocate(FT_Memory memory, long, long newSize, void* block)
     if (moved == nullptr)
         return nullptr;
     library.used_ += newSize - oldSize;
-    return BlockOf(moved, newSize);
+    *static_cast<qint64*>(moved) = newSize;
+    return static_cast<std::byte*>(moved) + HeaderSize;
 }
 
 FontLibrary& FreeTypeLibrary()

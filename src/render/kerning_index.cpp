@@ -117,14 +117,6 @@ void KerningIndex::ReadCharmap()
         positions_[next[glyphs[position]]++] = static_cast<quint32>(position);
 }
 
-int KerningIndex::Distance(FT_UInt left, FT_UInt right) const
-{
-    FT_Vector distance{};
-    if (FT_Get_Kerning(face_.Handle(), left, right, FT_KERNING_DEFAULT, &distance) != 0)
-        return 0;
-    return static_cast<int>(distance.x >> 6);
-}
-
 std::vector<KerningPair> KerningIndex::PairsOf(quint16 left) const
 {
     if (!isComplete_)
@@ -147,7 +139,7 @@ std::vector<KerningPair> KerningIndex::PairsOfGlyph(quint16 leftGlyph, quint32 f
     for (quint32 index = firstPair; index < endPair; ++index) {
         const quint16 right = pairs_[index].right;
         const auto [first, end] = EntriesOf(firstPosition_, right);
-        const int distance = first < end ? Distance(leftGlyph, right) : 0;
+        const int distance = first < end ? face_.GlyphKerning(leftGlyph, right) : 0;
         for (quint32 place = first; distance != 0 && place < end; ++place)
             found.emplace_back(positions_[place], distance);
     }

@@ -31,7 +31,6 @@ private:
                                                         quint32 endPair) const;
     void ReadKernTable(const std::vector<quint8>& table);
     void ReadCharmap();
-    [[nodiscard]] int Distance(FT_UInt left, FT_UInt right) const;
 
     FreeTypeFace face_;
     bool isComplete_ = false; // every pair of the face is in pairs_

@@ -6,8 +6,6 @@
 
 #include <QDialog>
 
-#include <optional>
-
 class QComboBox;
 class QLabel;
 class QLineEdit;

@@ -3,15 +3,12 @@
 #include "actions/action_open_font.h"
 #include "app/engine_texts.h"
 #include "app/settings.h"
-#include "ui/dialogs/font_size_box.h"
 #include "ui/preview/face_sample.h"
 #include "ui/support/dialog_parts.h"
 
 #include <QComboBox>
 #include <QCompleter>
 #include <QCoreApplication>
-#include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -25,8 +22,6 @@
 #include <array>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -92,14 +87,10 @@ FontDialog::FontDialog(QWidget* parent)
     auto* const directories = new QPushButton(tr("Font &directories..."));
     for (QPushButton* const button : {index_, directories})
         button->setAutoDefault(false);
-    auto* const indexRow = new QHBoxLayout;
-    indexRow->addWidget(status_, 1);
-    indexRow->addWidget(index_);
-    indexRow->addWidget(directories);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(MakeChoices(), 1);
     layout->addWidget(MakeSample());
-    layout->addLayout(indexRow);
+    layout->addWidget(Row({status_, index_, directories}, status_));
     ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
 
     const FontDialogData stored = Settings::Instance().fontDialog.load();
@@ -140,8 +131,8 @@ FontDialog::~FontDialog()
     if (result() == Accepted) {
         record.family = wantedFamily_;
         record.style = wantedStyle_;
-        record.size = ChosenSize().value;
-        record.inPoints = ChosenSize().inPoints;
+        record.size = size_->Value().value;
+        record.inPoints = size_->Value().inPoints;
         record.script = script_->currentData(Qt::UserRole + 1).toString();
     }
     Settings::Instance().fontDialog.save(record);
@@ -160,50 +151,22 @@ QWidget* FontDialog::MakeChoices()
     styles_->setRootIsDecorated(false);
     families_->setAccessibleName(tr("Families"));
     styles_->setAccessibleName(tr("Styles"));
-    auto* const searchRow = new QHBoxLayout;
-    searchRow->addWidget(LabelFor(*search_, tr("&Search:")));
-    searchRow->addWidget(search_, 1);
-    searchRow->addWidget(LabelFor(*script_, tr("S&cript:")));
-    searchRow->addWidget(script_);
-    auto* const left = new QWidget;
-    auto* const leftLayout = new QVBoxLayout(left);
-    leftLayout->setContentsMargins(0, 0, 0, 0);
-    leftLayout->addWidget(LabelFor(*families_, tr("&Families:")));
-    leftLayout->addWidget(families_, 1);
-    auto* const right = new QWidget;
-    auto* const rightLayout = new QVBoxLayout(right);
-    rightLayout->setContentsMargins(0, 0, 0, 0);
-    rightLayout->addWidget(LabelFor(*styles_, tr("S&tyles:")));
-    rightLayout->addWidget(styles_, 1);
+
     auto* const splitter = new QSplitter;
-    splitter->addWidget(left);
-    splitter->addWidget(right);
+    splitter->addWidget(Column({LabelFor(*families_, tr("&Families:")), families_}, families_));
+    splitter->addWidget(Column({LabelFor(*styles_, tr("S&tyles:")), styles_}, styles_));
     splitter->setChildrenCollapsible(false);
-    auto* const choices = new QWidget;
-    auto* const layout = new QVBoxLayout(choices);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(searchRow);
-    layout->addWidget(splitter, 1);
-    return choices;
+    QWidget* const searchRow = Row(
+        {LabelFor(*search_, tr("&Search:")), search_, LabelFor(*script_, tr("S&cript:")), script_},
+        search_);
+    return Column({searchRow, splitter}, splitter);
 }
 
 QWidget* FontDialog::MakeSample()
 {
-    auto* const sizeRow = new QHBoxLayout;
-    sizeRow->addWidget(LabelFor(*size_, tr("&Height:")));
-    sizeRow->addWidget(size_);
-    sizeRow->addStretch();
-    auto* const area = new QScrollArea;
-    area->setWidget(sample_);
-    area->setWidgetResizable(true);
+    QScrollArea* const area = ScrollAreaOf(*sample_);
     area->setMinimumHeight(90);
-    area->setFocusPolicy(Qt::NoFocus);
-    auto* const sample = new QWidget;
-    auto* const layout = new QVBoxLayout(sample);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(sizeRow);
-    layout->addWidget(area, 1);
-    return sample;
+    return Column({Row({LabelFor(*size_, tr("&Height:")), size_}, nullptr), area}, area);
 }
 
 void FontDialog::ShowDatabase()
@@ -304,7 +267,7 @@ void FontDialog::ShowSample()
     ActionOpenFontArgs args;
     args.path = Path();
     args.render.faceIndex = FaceIndex();
-    RenderAt(ChosenSize(), args);
+    RenderAt(size_->Value(), args);
     sample_->ShowFace(Family()->Face(ChosenStyle()), std::move(args));
 }
 
@@ -318,11 +281,6 @@ int FontDialog::FaceIndex() const
 {
     const FontFamily* const family = Family();
     return family != nullptr ? family->FaceIndex(ChosenStyle()) : 0;
-}
-
-FontSize FontDialog::ChosenSize() const
-{
-    return size_->Value();
 }
 
 } // namespace Glyphor

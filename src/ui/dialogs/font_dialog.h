@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/font_database.h"
+#include "ui/dialogs/font_size_box.h"
 
 #include <QDialog>
 
@@ -16,7 +17,6 @@ class QTreeWidget;
 namespace Glyphor {
 
 class FaceSample;
-class FontSizeBox;
 
 // Chooses an installed font: its family, its style and a size. The last choice is remembered.
 class FontDialog final : public QDialog
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] QString Path() const;
     [[nodiscard]] int FaceIndex() const;
 
-    [[nodiscard]] FontSize ChosenSize() const;
+    [[nodiscard]] FontSize ChosenSize() const { return size_->Value(); }
 
 Q_SIGNALS:
     void IndexRequested();

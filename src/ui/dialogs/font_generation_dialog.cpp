@@ -14,7 +14,6 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -45,11 +44,8 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
     auto* const previewGroup = new QGroupBox(tr("Preview"));
     auto* const previewLayout = new QVBoxLayout(previewGroup);
     previewLayout->addWidget(preview_);
-    auto* const columns = new QHBoxLayout;
-    columns->addWidget(MakeEntries());
-    columns->addWidget(previewGroup, 1);
     auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(columns, 1);
+    layout->addWidget(Row({MakeEntries(), previewGroup}, previewGroup), 1);
     ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
     LoadEntries();
     ConnectEntries();
@@ -66,16 +62,12 @@ FontGenerationDialog::~FontGenerationDialog()
 
 QWidget* FontGenerationDialog::MakeEntries()
 {
-    auto* const effects = new QHBoxLayout;
-    effects->addWidget(bold_);
-    effects->addWidget(italic_);
-    effects->addStretch();
     auto* const form = new QFormLayout;
     form->addRow(tr("&Height:"), size_);
     form->addRow(tr("&Format:"), format_);
     form->addRow(tr("&Encoding:"), encoding_);
     form->addRow(tr("F&ace:"), face_);
-    form->addRow(tr("Effects:"), effects);
+    form->addRow(tr("Effects:"), Row({bold_, italic_}, nullptr));
     auto* const group = new QGroupBox(tr("Characters"));
     auto* const groupLayout = new QVBoxLayout(group);
     groupLayout->addWidget(selection_);

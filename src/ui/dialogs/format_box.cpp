@@ -12,13 +12,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
-FormatBox::FormatBox(QWidget* parent) : QComboBox(parent)
-{
-    OfferFormats(LegacyFormats::Offered);
-}
-
 void FormatBox::OfferFormats(LegacyFormats legacy)
 {
     const FontFormat chosen = Format();
@@ -60,11 +53,6 @@ void FormatBox::SetFormat(FontFormat format)
     setCurrentIndex(std::max(1, findData(int(format))));
 }
 
-EncodingBox::EncodingBox(QWidget* parent) : QComboBox(parent)
-{
-    SetFormat(FontFormat::Standard);
-}
-
 void EncodingBox::SetFormat(FontFormat format)
 {
     const EncodingType chosen = Encoding();
@@ -73,11 +61,6 @@ void EncodingBox::SetFormat(FontFormat format)
     if (IsLegacyFormat(format))
         addItem(tr("Shift JIS"), int(EncodingType::ShiftJis));
     SetEncoding(chosen);
-}
-
-EncodingType EncodingBox::Encoding() const
-{
-    return EncodingType(currentData().toInt());
 }
 
 void EncodingBox::SetEncoding(EncodingType encoding)

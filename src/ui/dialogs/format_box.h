@@ -16,7 +16,7 @@ class FormatBox final : public QComboBox
     Q_OBJECT
 
 public:
-    explicit FormatBox(QWidget* parent = nullptr);
+    FormatBox() { OfferFormats(LegacyFormats::Offered); }
 
     // Makes the list and keeps the choice if it can.
     void OfferFormats(LegacyFormats legacy);
@@ -34,12 +34,12 @@ class EncodingBox final : public QComboBox
     Q_OBJECT
 
 public:
-    explicit EncodingBox(QWidget* parent = nullptr);
+    EncodingBox() { SetFormat(FontFormat::Standard); }
 
     // Offers what goes with the format and keeps the choice if it can.
     void SetFormat(FontFormat format);
 
-    [[nodiscard]] EncodingType Encoding() const;
+    [[nodiscard]] EncodingType Encoding() const { return EncodingType(currentData().toInt()); }
     void SetEncoding(EncodingType encoding);
 };
 

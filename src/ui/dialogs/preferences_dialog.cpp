@@ -1,6 +1,5 @@
 #include "ui/dialogs/preferences_dialog.h"
 
-#include "app/settings.h"
 #include "ui/support/dialog_parts.h"
 
 #include <QCheckBox>
@@ -8,7 +7,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -20,17 +18,7 @@
 namespace Glyphor {
 
 PreferencesDialog::PreferencesDialog(QWidget* parent)
-    : QDialog(parent),
-      pages_(new QTabWidget),
-      numeralSystem_(new QComboBox),
-      hideLegacy_(new QCheckBox(tr("&Hide legacy font formats"))),
-      logActions_(new QCheckBox(tr("&Log actions in C files"))),
-      createLogFile_(new QCheckBox(tr("Create a log &file beside a saved font"))),
-      useSystemEndings_(new QCheckBox(tr("Use the s&ystem's line endings"))),
-      lineEndings_(new QComboBox),
-      directories_(new QListWidget),
-      recursively_(new QCheckBox(tr("Search additional directories &recursively"))),
-      useBitmaps_(new QCheckBox(tr("&Use included bitmap sizes")))
+    : QDialog(parent), pages_(new QTabWidget), directories_(new QListWidget)
 {
     setWindowTitle(tr("Preferences"));
     pages_->addTab(MakeGeneralPage(), tr("General"));
@@ -54,69 +42,78 @@ void PreferencesDialog::ShowPage(Page page)
     pages_->setCurrentIndex(page);
 }
 
+QCheckBox* PreferencesDialog::MakeBox(OptionByRef<bool>& option, const QString& text,
+                                      const QString& toolTip)
+{
+    auto* const box = new QCheckBox(text);
+    box->setChecked(option.value());
+    box->setToolTip(toolTip);
+    connect(this, &QDialog::accepted, box, [box, &option] { option.setValue(box->isChecked()); });
+    return box;
+}
+
+QComboBox* PreferencesDialog::MakeList(OptionByRef<int>& option, const QStringList& choices)
+{
+    auto* const list = new QComboBox;
+    list->addItems(choices);
+    list->setCurrentIndex(option.value());
+    connect(this, &QDialog::accepted, list,
+            [list, &option] { option.setValue(list->currentIndex()); });
+    return list;
+}
+
 QWidget* PreferencesDialog::MakeGeneralPage()
 {
-    const Settings& settings = Settings::Instance();
-    numeralSystem_->addItems({tr("Decimal"), tr("Hexadecimal")});
-    numeralSystem_->setCurrentIndex(settings.numeralSystem.value());
-    hideLegacy_->setChecked(settings.hideLegacy.value());
-    hideLegacy_->setToolTip(
-        tr("The choice of a format then has the formats for new firmware only."));
+    Settings& settings = Settings::Instance();
     auto* const page = new QWidget;
     auto* const form = new QFormLayout(page);
-    form->addRow(tr("&Numeral system of codes:"), numeralSystem_);
-    form->addRow(hideLegacy_);
+    form->addRow(tr("&Numeral system of codes:"),
+                 MakeList(settings.numeralSystem, {tr("Decimal"), tr("Hexadecimal")}));
+    form->addRow(MakeBox(settings.hideLegacy, tr("&Hide legacy font formats"),
+                         tr("The choice of a format then has the formats for new firmware only.")));
     return page;
 }
 
 QWidget* PreferencesDialog::MakeFilesPage()
 {
-    const Settings& settings = Settings::Instance();
-    logActions_->setChecked(settings.logActions.value());
-    createLogFile_->setChecked(settings.createLogFile.value());
-    useSystemEndings_->setToolTip(tr("CR LF, which the tools for firmware expect"));
-    useSystemEndings_->setChecked(settings.useSysLineEndings.value());
-    lineEndings_->addItems({tr("CR LF"), tr("CR"), tr("LF")});
-    lineEndings_->setCurrentIndex(settings.lineEndings.value());
+    Settings& settings = Settings::Instance();
+    QCheckBox* const useSystemEndings =
+        MakeBox(settings.useSysLineEndings, tr("Use the s&ystem's line endings"),
+                tr("CR LF, which the tools for firmware expect"));
+    QComboBox* const lineEndings =
+        MakeList(settings.lineEndings, {tr("CR LF"), tr("CR"), tr("LF")});
     auto* const page = new QWidget;
     auto* const form = new QFormLayout(page);
-    form->addRow(logActions_);
-    form->addRow(createLogFile_);
-    form->addRow(useSystemEndings_);
-    form->addRow(tr("Line &endings:"), lineEndings_);
-    const auto update = [this] { lineEndings_->setEnabled(!useSystemEndings_->isChecked()); };
-    connect(useSystemEndings_, &QCheckBox::toggled, this, update);
-    update();
+    form->addRow(MakeBox(settings.logActions, tr("&Log actions in C files")));
+    form->addRow(MakeBox(settings.createLogFile, tr("Create a log &file beside a saved font")));
+    form->addRow(useSystemEndings);
+    form->addRow(tr("Line &endings:"), lineEndings);
+    connect(useSystemEndings, &QCheckBox::toggled, lineEndings, &QWidget::setDisabled);
+    lineEndings->setDisabled(useSystemEndings->isChecked());
     return page;
 }
 
 QWidget* PreferencesDialog::MakeFontsPage()
 {
-    const Settings& settings = Settings::Instance();
-    useBitmaps_->setChecked(settings.useIncludedBitmaps.value());
-    useBitmaps_->setToolTip(
-        tr("A font that has bitmaps of the wanted height then gives these instead of outlines."));
-    recursively_->setChecked(settings.searchDirsRecursively.value());
+    Settings& settings = Settings::Instance();
+    directories_->setAccessibleName(tr("Additional font directories"));
     for (const QString& path : settings.additionalFontDirs.value())
         AddDirectory(path);
+    connect(this, &QDialog::accepted, directories_,
+            [this, &settings] { settings.additionalFontDirs.setValue(Directories()); });
     auto* const add = new QPushButton(tr("&Add..."));
     auto* const remove = new QPushButton(tr("Re&move"));
-    auto* const buttons = new QVBoxLayout;
-    buttons->addWidget(add);
-    buttons->addWidget(remove);
-    buttons->addStretch();
-    auto* const row = new QHBoxLayout;
-    directories_->setAccessibleName(tr("Additional font directories"));
-    row->addWidget(directories_, 1);
-    row->addLayout(buttons);
     auto* const note = new QLabel(tr("System directories are always searched recursively.<br>"
                                      "<b>Note:</b> Maximum depth is limited to 10."));
     auto* const page = new QWidget;
     auto* const layout = new QVBoxLayout(page);
-    layout->addWidget(useBitmaps_);
+    layout->addWidget(MakeBox(
+        settings.useIncludedBitmaps, tr("&Use included bitmap sizes"),
+        tr("A font that has bitmaps of the wanted height then gives these instead of outlines.")));
     layout->addWidget(LabelFor(*directories_, tr("Additional font &directories:")));
-    layout->addLayout(row, 1);
-    layout->addWidget(recursively_);
+    layout->addWidget(Row({directories_, Column({add, remove}, nullptr)}, directories_), 1);
+    layout->addWidget(
+        MakeBox(settings.searchDirsRecursively, tr("Search additional directories &recursively")));
     layout->addWidget(note);
     connect(add, &QPushButton::clicked, this, [this] {
         AddDirectory(QFileDialog::getExistingDirectory(this, tr("Additional font directory")));
@@ -147,21 +144,6 @@ QStringList PreferencesDialog::Directories() const
     for (int row = 0; row < directories_->count(); ++row)
         paths.append(directories_->item(row)->text());
     return paths;
-}
-
-void PreferencesDialog::accept()
-{
-    Settings& settings = Settings::Instance();
-    settings.numeralSystem.setValue(numeralSystem_->currentIndex());
-    settings.hideLegacy.setValue(hideLegacy_->isChecked());
-    settings.logActions.setValue(logActions_->isChecked());
-    settings.createLogFile.setValue(createLogFile_->isChecked());
-    settings.useSysLineEndings.setValue(useSystemEndings_->isChecked());
-    settings.lineEndings.setValue(lineEndings_->currentIndex());
-    settings.useIncludedBitmaps.setValue(useBitmaps_->isChecked());
-    settings.searchDirsRecursively.setValue(recursively_->isChecked());
-    settings.additionalFontDirs.setValue(Directories());
-    QDialog::accept();
 }
 
 } // namespace Glyphor

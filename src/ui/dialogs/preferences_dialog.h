@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/settings.h"
+
 #include <QDialog>
 
 class QCheckBox;
@@ -21,27 +23,23 @@ public:
     ~PreferencesDialog() override;
 
     void ShowPage(Page page);
-    void accept() override;
 
     // Takes a directory into the list, once.
     void AddDirectory(const QString& path);
 
 private:
+    // Boxes and lists that show an option, and set it once the dialog is accepted.
+    [[nodiscard]] QCheckBox* MakeBox(OptionByRef<bool>& option, const QString& text,
+                                     const QString& toolTip = {});
+    [[nodiscard]] QComboBox* MakeList(OptionByRef<int>& option, const QStringList& choices);
+
     [[nodiscard]] QWidget* MakeGeneralPage();
     [[nodiscard]] QWidget* MakeFilesPage();
     [[nodiscard]] QWidget* MakeFontsPage();
     [[nodiscard]] QStringList Directories() const;
 
     QTabWidget* pages_;
-    QComboBox* numeralSystem_;
-    QCheckBox* hideLegacy_;
-    QCheckBox* logActions_;
-    QCheckBox* createLogFile_;
-    QCheckBox* useSystemEndings_;
-    QComboBox* lineEndings_;
     QListWidget* directories_;
-    QCheckBox* recursively_;
-    QCheckBox* useBitmaps_;
 };
 
 } // namespace Glyphor

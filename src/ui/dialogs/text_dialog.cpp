@@ -6,8 +6,6 @@
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;

@@ -95,8 +95,7 @@ bool Document::AskFont(ActionOpenFontArgs& args)
 
 bool Document::CompleteArgs(ActionOpenFontArgs& args)
 {
-    const auto type = FileTypeOf(args.path);
-    const bool isComplete = !type || !IsScalable(*type) || args.size.value > 0;
+    const bool isComplete = !IsScalable(FileTypeOf(args.path)) || args.size.value > 0;
     RenderAt(args.size, args);
     return isComplete || AskGeneration(args);
 }
@@ -142,7 +141,7 @@ void Document::Merge()
         const auto action = std::make_shared<ActionMergeFont>(session_);
         ActionOpenFontArgs& source = action->Args().source;
         source.path = path;
-        if (const auto type = FileTypeOf(path); type && IsScalable(*type)) {
+        if (IsScalable(FileTypeOf(path))) {
             source.format = session_.CurrentFont()->Metrics().format;
             source.encoding = session_.CurrentFont()->Metrics().encoding;
         }
@@ -191,8 +190,7 @@ QString Document::AskSavePath(const QString& title, const QString& proposed, con
 // Fonts are not saved over the scalable ones that they come from.
 bool Document::HasOwnFile() const
 {
-    const auto type = FileTypeOf(session_.Path());
-    return type && IsWritten(*type);
+    return IsWritten(FileTypeOf(session_.Path()));
 }
 
 bool Document::Save()

@@ -12,7 +12,7 @@ FontIndexer::~FontIndexer()
     if (thread_ == nullptr)
         return;
     disconnect(thread_, nullptr, this, nullptr);
-    thread_->requestInterruption();
+    Stop();
     thread_->wait();
 }
 
@@ -25,8 +25,7 @@ void FontIndexer::Start()
 {
     if (thread_ != nullptr) { // with the directories that were set when it began
         startsAgain_ = true;
-        thread_->requestInterruption();
-        return;
+        return Stop();
     }
     const Settings& settings = Settings::Instance();
     thread_ = new FontDatabaseThread(settings.additionalFontDirs.value(),

@@ -9,8 +9,6 @@
 
 namespace Glyphor {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int ReadableHeight = 60; // in pixels of the screen

@@ -9,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -66,22 +65,14 @@ GenerationPreview::GenerationPreview(QWidget* parent)
       sizes_(PlainLabel()),
       notes_(PlainLabel())
 {
-    auto* const label = new QLabel(tr("&Sample:"));
-    label->setBuddy(field_);
-    auto* const row = new QHBoxLayout;
-    row->addWidget(label);
-    row->addWidget(field_, 1);
-    auto* const area = new QScrollArea;
-    area->setWidget(strip_);
-    area->setWidgetResizable(true);
+    QScrollArea* const area = ScrollAreaOf(*strip_);
     area->setMinimumSize(300, 130);
-    area->setFocusPolicy(Qt::NoFocus);
     strip_->SetZoom(2);
     notes_->setWordWrap(true);
     sizes_->setWordWrap(true);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(row);
+    layout->addWidget(Row({LabelFor(*field_, tr("&Sample:")), field_}, field_));
     layout->addWidget(area, 1);
     layout->addWidget(sizes_);
     layout->addWidget(notes_);

@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QDataStream>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -18,8 +17,6 @@
 #include <algorithm>
 
 namespace Glyphor {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,30 +34,6 @@ void TextStrip::Resized()
 {
     setMinimumSize(sizeHint());
     update();
-}
-
-void TextStrip::ShowFont(const Font* font)
-{
-    font_ = font;
-    Resized();
-}
-
-void TextStrip::SetText(const QString& text)
-{
-    text_ = text;
-    Resized();
-}
-
-void TextStrip::SetZoom(int zoom)
-{
-    zoom_ = zoom;
-    Resized();
-}
-
-void TextStrip::SetKerning(bool isOn)
-{
-    kerning_ = isOn;
-    Resized();
 }
 
 void TextStrip::SetColours(const QColor& ink, const QColor& paper)
@@ -156,40 +129,31 @@ TextPreview::TextPreview(QWidget* parent)
       inkButton_(new QToolButton),
       paperButton_(new QToolButton)
 {
-    auto* const label = new QLabel(tr("Sa&mple:"));
-    label->setBuddy(field_);
     field_->setAccessibleName(tr("Sample text"));
     zoom_->setRange(1, 8);
     zoom_->setPrefix(tr("×"));
     zoom_->setAccessibleName(tr("Zoom of the sample"));
-    ShowColour(*inkButton_, ink_);
-    ShowColour(*paperButton_, paper_);
+    ShowColours();
     inkButton_->setToolTip(tr("Colour of the ink"));
     paperButton_->setToolTip(tr("Colour of the paper"));
     for (QToolButton* const button : {inkButton_, paperButton_})
         button->setAccessibleName(button->toolTip());
 
-    auto* const controls = new QHBoxLayout;
-    for (QWidget* const widget :
-         std::initializer_list<QWidget*>{label, field_, zoom_, kerning_, inkButton_, paperButton_})
-        controls->addWidget(widget, widget == field_ ? 1 : 0);
-    auto* const area = new QScrollArea;
-    area->setWidget(strip_);
-    area->setWidgetResizable(true);
+    QScrollArea* const area = ScrollAreaOf(*strip_);
     area->setFrameShape(QFrame::StyledPanel);
-    area->setFocusPolicy(Qt::NoFocus);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 4, 6, 4);
-    layout->addLayout(controls);
+    layout->addWidget(
+        Row({LabelFor(*field_, tr("Sa&mple:")), field_, zoom_, kerning_, inkButton_, paperButton_},
+            field_));
     layout->addWidget(area, 1);
 
     connect(field_, &QLineEdit::textChanged, strip_, &TextStrip::SetText);
     connect(zoom_, &QSpinBox::valueChanged, strip_, &TextStrip::SetZoom);
     connect(kerning_, &QCheckBox::toggled, strip_, &TextStrip::SetKerning);
-    connect(inkButton_, &QToolButton::clicked, this,
-            [this] { ChooseColour(ink_, *inkButton_, tr("Ink")); });
+    connect(inkButton_, &QToolButton::clicked, this, [this] { ChooseColour(ink_, tr("Ink")); });
     connect(paperButton_, &QToolButton::clicked, this,
-            [this] { ChooseColour(paper_, *paperButton_, tr("Paper")); });
+            [this] { ChooseColour(paper_, tr("Paper")); });
     zoom_->setValue(2);
     field_->setCursorPosition(0);
     strip_->SetText(field_->text());
@@ -226,31 +190,26 @@ void TextPreview::RestoreState(const QByteArray& state)
     kerning_->setChecked(hasKerning);
     ink_ = ink;
     paper_ = paper;
-    ShowColour(*inkButton_, ink_);
-    ShowColour(*paperButton_, paper_);
-    strip_->SetColours(ink_, paper_);
+    ShowColours();
 }
 
-void TextPreview::Refresh()
-{
-    strip_->Resized();
-}
-
-void TextPreview::ChooseColour(QColor& colour, QToolButton& button, const QString& title)
+void TextPreview::ChooseColour(QColor& colour, const QString& title)
 {
     const QColor chosen = QColorDialog::getColor(colour, this, title);
     if (!chosen.isValid())
         return;
     colour = chosen;
-    ShowColour(button, chosen);
-    strip_->SetColours(ink_, paper_);
+    ShowColours();
 }
 
-void TextPreview::ShowColour(QToolButton& button, const QColor& colour)
+void TextPreview::ShowColours()
 {
     QPixmap pixmap(16, 16);
-    pixmap.fill(colour);
-    button.setIcon(pixmap);
+    pixmap.fill(ink_);
+    inkButton_->setIcon(pixmap);
+    pixmap.fill(paper_);
+    paperButton_->setIcon(pixmap);
+    strip_->SetColours(ink_, paper_);
 }
 
 } // namespace Glyphor

@@ -21,11 +21,11 @@ public:
     explicit TextStrip(QWidget* parent = nullptr);
 
     // Null for no font, which must outlive its use here. Call Resized() after every change of it.
-    void ShowFont(const Font* font);
+    void ShowFont(const Font* font) { Take(font_, font); }
     void Resized();
-    void SetText(const QString& text);
-    void SetZoom(int zoom);
-    void SetKerning(bool isOn);
+    void SetText(const QString& text) { Take(text_, text); }
+    void SetZoom(int zoom) { Take(zoom_, zoom); }
+    void SetKerning(bool isOn) { Take(kerning_, isOn); }
     void SetColours(const QColor& ink, const QColor& paper);
 
     // Where each character of the text begins, in font pixels, and the end of the last one.
@@ -37,6 +37,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    template <typename Value>
+    void Take(Value& shown, const Value& value)
+    {
+        shown = value;
+        Resized();
+    }
+
     [[nodiscard]] const Character* CharacterOf(QChar character) const;
     [[nodiscard]] int KerningBetween(QChar left, QChar right) const;
     void PaintMissing(QPainter& painter, int x) const;
@@ -59,7 +66,7 @@ public:
     explicit TextPreview(QWidget* parent = nullptr);
 
     void ShowFont(const Font* font);
-    void Refresh();
+    void Refresh() { strip_->Resized(); }
 
     // The sample and how it is shown, to be remembered. An unknown state changes nothing.
     [[nodiscard]] QByteArray State() const;
@@ -68,8 +75,8 @@ public:
     [[nodiscard]] TextStrip& Strip() const { return *strip_; }
 
 private:
-    void ChooseColour(QColor& colour, QToolButton& button, const QString& title);
-    void ShowColour(QToolButton& button, const QColor& colour);
+    void ChooseColour(QColor& colour, const QString& title);
+    void ShowColours();
 
     TextStrip* strip_;
     QLineEdit* field_;

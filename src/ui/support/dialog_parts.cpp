@@ -9,11 +9,48 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QWidget* Lined(QBoxLayout::Direction direction, std::initializer_list<QWidget*> parts,
+               const QWidget* growing)
+{
+    auto* const whole = new QWidget;
+    auto* const layout = new QBoxLayout(direction, whole);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (QWidget* const part : parts)
+        layout->addWidget(part, part == growing ? 1 : 0);
+    if (growing == nullptr)
+        layout->addStretch();
+    return whole;
+}
+
+} // namespace
+
+QWidget* Row(std::initializer_list<QWidget*> parts, const QWidget* growing)
+{
+    return Lined(QBoxLayout::LeftToRight, parts, growing);
+}
+
+QWidget* Column(std::initializer_list<QWidget*> parts, const QWidget* growing)
+{
+    return Lined(QBoxLayout::TopToBottom, parts, growing);
+}
+
+QScrollArea* ScrollAreaOf(QWidget& content)
+{
+    auto* const area = new QScrollArea;
+    area->setWidget(&content);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    return area;
+}
 
 QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
                              QDialogButtonBox::StandardButtons kinds)

@@ -6,11 +6,13 @@
 #include <QMessageBox>
 #include <QString>
 
+#include <initializer_list>
 #include <optional>
 #include <vector>
 
 class QDialog;
 class QLabel;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace Glyphor {
@@ -32,6 +34,14 @@ ShowPlainBox(QWidget* parent, QMessageBox::Icon icon, const QString& title, cons
 
 // A name as a part of a window's title, where "[*]" stands for the mark of changes.
 [[nodiscard]] QString TitlePart(const QString& name);
+
+// Widgets beside or below each other, without margins. The growing one takes the room that is
+// left; where there is none, that stays empty at the end.
+[[nodiscard]] QWidget* Row(std::initializer_list<QWidget*> parts, const QWidget* growing);
+[[nodiscard]] QWidget* Column(std::initializer_list<QWidget*> parts, const QWidget* growing);
+
+// A view of something that scrolls in it, and that keys do not reach.
+[[nodiscard]] QScrollArea* ScrollAreaOf(QWidget& content);
 
 // For rows of more than one widget, which have no buddy of their own.
 [[nodiscard]] QLabel* LabelFor(QWidget& buddy, const QString& text);

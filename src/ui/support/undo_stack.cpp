@@ -15,6 +15,16 @@ QString StatusTip(const QString& tip, const QString& lastAction)
     return lastAction.isEmpty() ? tip : tip + u": %1"_s.arg(lastAction);
 }
 
+// A command keeps its own tip until there is more to say.
+void Introduce(QAction* command, bool isEnabled, const QString& tip)
+{
+    if (command == nullptr)
+        return;
+    command->setEnabled(isEnabled);
+    if (command->statusTip().isEmpty())
+        command->setStatusTip(tip);
+}
+
 } // namespace
 
 UndoAction::UndoAction(std::shared_ptr<Action> action)
@@ -29,16 +39,6 @@ void UndoAction::undo()
 void UndoAction::redo()
 {
     action_->Redo();
-}
-
-int UndoAction::id() const
-{
-    return static_cast<int>(action_->Type());
-}
-
-QString UndoAction::ShownText() const
-{
-    return action_->Log().Translated();
 }
 
 UndoStack::UndoStack()
@@ -86,35 +86,16 @@ QString UndoStack::ShownText(int index) const
     return single != nullptr ? single->ShownText() : done->text();
 }
 
-QString UndoStack::ShownUndoText() const
-{
-    return canUndo() ? ShownText(index() - 1) : QString();
-}
-
-QString UndoStack::ShownRedoText() const
-{
-    return canRedo() ? ShownText(index()) : QString();
-}
-
-// A command keeps its own tip until there is more to say.
 void UndoStack::AddUndoCommand(QAction* command)
 {
     undoCommands_.append(command);
-    if (command == nullptr)
-        return;
-    command->setEnabled(canUndo());
-    if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(tr("Undo last action"), ShownUndoText()));
+    Introduce(command, canUndo(), StatusTip(tr("Undo last action"), ShownUndoText()));
 }
 
 void UndoStack::AddRedoCommand(QAction* command)
 {
     redoCommands_.append(command);
-    if (command == nullptr)
-        return;
-    command->setEnabled(canRedo());
-    if (command->statusTip().isEmpty())
-        command->setStatusTip(StatusTip(tr("Redo last action"), ShownRedoText()));
+    Introduce(command, canRedo(), StatusTip(tr("Redo last action"), ShownRedoText()));
 }
 
 // Most runs have no commands, and nobody to read the tips.

@@ -18,10 +18,10 @@ public:
 
     void undo() override;
     void redo() override;
-    [[nodiscard]] int id() const override;
+    [[nodiscard]] int id() const override { return int(action_->Type()); }
 
     // As its text, in the language of the window.
-    [[nodiscard]] QString ShownText() const;
+    [[nodiscard]] QString ShownText() const { return action_->Log().Translated(); }
 
 private:
     std::shared_ptr<Action> action_;
@@ -44,8 +44,14 @@ public:
     void MarkSaved() override { setClean(); }
 
     // What undo and redo would do now, in the language of the window; empty for nothing.
-    [[nodiscard]] QString ShownUndoText() const;
-    [[nodiscard]] QString ShownRedoText() const;
+    [[nodiscard]] QString ShownUndoText() const
+    {
+        return canUndo() ? ShownText(index() - 1) : QString();
+    }
+    [[nodiscard]] QString ShownRedoText() const
+    {
+        return canRedo() ? ShownText(index()) : QString();
+    }
 
     // The commands stay their owner's.
     void AddUndoCommand(QAction* command);
