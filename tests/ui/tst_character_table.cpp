@@ -71,6 +71,16 @@ private Q_SLOTS:
         QCOMPARE(table_->CurrentCode(), -1);
     }
 
+    // Of those that are shown.
+    void BeginsAtTheFirstCharacterWithPixels()
+    {
+        font_->SetEnabled(0x41, 0x42, false);
+        table_->ShowAll(false);
+        table_->ShowFont(font_.get());
+        QCOMPARE(table_->CurrentCode(), 0x7F);
+        QCOMPARE(Selected(), QList<int>{0x7F});
+    }
+
     void Keys()
     {
         QSignalSpy changes(table_.get(), &CharacterTable::CurrentCodeChanged);

@@ -9,7 +9,6 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
-#include <QSignalSpy>
 #include <QTest>
 
 namespace Glyphor {
@@ -101,18 +100,6 @@ private Q_SLOTS:
         const InfoPanel info;
         QCOMPARE(info.findChildren<QLabel*>().size(), 40); // no two captions became one
         QCoreApplication::removeTranslator(&texts);
-    }
-
-    void CommandsTellTheirNumber()
-    {
-        const MenuBar bar(nullptr);
-        QSignalSpy triggered(&bar, &MenuBar::CommandTriggered);
-        bar.Command(ActionType::CreateFont)->trigger();
-        bar.Command(ActionType::SaveFont)->trigger(); // disabled
-        bar.Command(WindowCommand::CommandLineOptions)->trigger();
-        QCOMPARE(triggered.size(), 2);
-        QCOMPARE(triggered[0][0].toUInt(), CommandId(ActionType::CreateFont));
-        QCOMPARE(triggered[1][0].toUInt(), CommandId(WindowCommand::CommandLineOptions));
     }
 };
 

@@ -112,9 +112,14 @@ std::optional<quint16> ParseCode(const QString& text, EncodingType encoding)
     return isUnicode ? Encoded(quint16(code), encoding) : std::optional(quint16(code));
 }
 
+bool ShowsHexadecimal()
+{
+    return Settings::Instance().numeralSystem.value() != 0;
+}
+
 QString CodeText(int code)
 {
-    return ShownCode(quint16(code), Settings::Instance().numeralSystem.value() != 0);
+    return ShownCode(quint16(code), ShowsHexadecimal());
 }
 
 const std::vector<UnicodeBlock>& UnicodeBlocks()

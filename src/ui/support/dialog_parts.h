@@ -54,6 +54,9 @@ ShowPlainBox(QWidget* parent, QMessageBox::Icon icon, const QString& title, cons
 [[nodiscard]] std::optional<quint16> ParseCode(const QString& text,
                                                EncodingType encoding = EncodingType::Unicode);
 
+// Whether the settings have codes shown in hexadecimal.
+[[nodiscard]] bool ShowsHexadecimal();
+
 // A code in the numeral system of the settings.
 [[nodiscard]] QString CodeText(int code);
 

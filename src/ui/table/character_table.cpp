@@ -65,13 +65,12 @@ void CharacterTable::ShowFont(const Font* font)
 int CharacterTable::FirstCodeWithPixels() const
 {
     const CodeSet& codes = model_->ShownFont()->ExistingCodes();
-    const int first = codes.Next(model_->CodeOf(model_->index(0, 0)));
-    for (int code = first; code < CodeSet::Limit; code = codes.Next(code + 1)) {
-        const CharInfo& info = model_->ShownFont()->FindChar(quint16(code))->info;
-        if (model_->IndexOf(code).isValid() && info.width > 1 && info.Rows() > 0)
+    for (const quint16 code : codes) {
+        const Character* const character = model_->CharacterAt(code);
+        if (character != nullptr && character->info.width > 1 && character->info.Rows() > 0)
             return code;
     }
-    return first;
+    return codes.Next(model_->CodeOf(model_->index(0, 0)));
 }
 
 void CharacterTable::Refresh()

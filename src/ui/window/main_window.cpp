@@ -105,7 +105,7 @@ void MainWindow::ConnectCommands()
     });
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
     connect(commands_, &Commands::PreferencesChanged, this, [this] {
-        panes_->ShowHexadecimal(Settings::Instance().numeralSystem.value() != 0);
+        panes_->ShowHexadecimal(ShowsHexadecimal());
         ShowChanges();
     });
 }
@@ -145,7 +145,7 @@ void MainWindow::ConnectIndexer()
 // Everything that is remembered of the window but its geometry stands in one record.
 void MainWindow::RecallState()
 {
-    panes_->ShowHexadecimal(Settings::Instance().numeralSystem.value() != 0);
+    panes_->ShowHexadecimal(ShowsHexadecimal());
     resize(1240, 760);
     const WindowData stored = Settings::Instance().mainWindow.load();
     restoreGeometry(stored.geometry);
