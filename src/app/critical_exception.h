@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/place.h"
+
 #include <QString>
 
 #include <exception>
@@ -12,16 +14,19 @@ class CriticalException : public std::exception
 public:
     [[nodiscard]] static QString DefaultTitle();
 
-    CriticalException(const QString& title, const QString& text);
+    // The place is told where the text does not.
+    CriticalException(const QString& title, const QString& text, const Place& place = {});
     explicit CriticalException(const QString& text) : CriticalException(DefaultTitle(), text) {}
 
     [[nodiscard]] const QString& Title() const { return title_; }
     [[nodiscard]] const QString& Text() const { return text_; }
+    [[nodiscard]] const Place& Where() const { return place_; }
     [[nodiscard]] const char* what() const noexcept override { return what_.constData(); }
 
 private:
     QString title_;
     QString text_;
+    Place place_;
     QByteArray what_;
 };
 
