@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <string>
 #include <utility>
 
 #ifdef Q_OS_WIN
@@ -43,6 +42,11 @@ std::optional<int> ConsoleAttribute(ConsoleColour colour)
     return entry == Attributes.end() ? std::nullopt : std::optional(entry->second);
 }
 
+void Put(const QByteArray& bytes, std::FILE* stream)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+}
+
 #ifdef Q_OS_WIN
 
 bool IsTerminalStream(std::FILE* stream)
@@ -53,13 +57,24 @@ bool IsTerminalStream(std::FILE* stream)
 class AttributePainter final : public ConsolePainter
 {
 public:
-    explicit AttributePainter(std::FILE*) {}
+    explicit AttributePainter(std::FILE* stream) : stream_(stream) {}
 
-    void SetColour(ConsoleColour colour) override
+    void Write(const QByteArray& text, ConsoleColour colour, const QByteArray& rest) override
+    {
+        SetColour(colour);
+        Put(text, stream_);
+        SetColour(ConsoleColour::Default);
+        Put(rest, stream_);
+    }
+
+private:
+    static void SetColour(ConsoleColour colour)
     {
         if (const auto attribute = ConsoleAttribute(colour))
             SetConsoleTextAttribute(GetStdHandle(STD_OUTPUT_HANDLE), static_cast<WORD>(*attribute));
     }
+
+    std::FILE* stream_;
 };
 
 using TerminalPainter = AttributePainter;
@@ -76,13 +91,18 @@ class AnsiPainter final : public ConsolePainter
 public:
     explicit AnsiPainter(std::FILE* stream) : stream_(stream) {}
 
-    void SetColour(ConsoleColour colour) override
+    void Write(const QByteArray& text, ConsoleColour colour, const QByteArray& rest) override
     {
-        if (ConsoleAttribute(colour))
-            std::fprintf(stream_, "\033[%dm", static_cast<int>(colour));
+        Put(Sequence(colour) + text + Sequence(ConsoleColour::Default) + rest, stream_);
     }
 
 private:
+    static QByteArray Sequence(ConsoleColour colour)
+    {
+        return ConsoleAttribute(colour) ? "\033[" + QByteArray::number(int(colour)) + 'm'
+                                        : QByteArray();
+    }
+
     std::FILE* stream_;
 };
 
@@ -100,29 +120,26 @@ Console::Console(std::FILE* stream) : stream_(stream), isTerminal_(IsTerminalStr
 
 void Console::Print(QStringView text, ConsoleColour colour)
 {
-    const bool isColoured = painter_ != nullptr && colour != ConsoleColour::Default;
-    if (isColoured)
-        painter_->SetColour(colour);
-    Write(ShownLines(text));
-    if (isColoured)
-        painter_->SetColour(ConsoleColour::Default);
+    Write(ShownLines(text), colour, {});
 }
 
 void Console::PrintLine(QStringView text, ConsoleColour colour)
 {
-    Print(text, colour);
-    Write(u"\n");
+    Write(ShownLines(text), colour, "\n"_ba);
 }
 
 void Console::ShowStatus(QStringView text)
 {
-    Write(text.isEmpty() ? u"\r\033[K"_s : u'\r' + Shown(text));
+    Write(text.isEmpty() ? u"\r\033[K"_s : u'\r' + Shown(text), ConsoleColour::Default, {});
 }
 
-void Console::Write(QStringView text)
+void Console::Write(QStringView text, ConsoleColour colour, const QByteArray& rest)
 {
     const QByteArray bytes = text.toLocal8Bit();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream_);
+    if (painter_ != nullptr && colour != ConsoleColour::Default)
+        painter_->Write(bytes, colour, rest);
+    else
+        Put(bytes + rest, stream_);
 }
 
 } // namespace Glyphor

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QStringView>
 
 #include <cstdio>
@@ -27,10 +28,12 @@ public:
     ConsolePainter& operator=(const ConsolePainter&) = delete;
     virtual ~ConsolePainter() = default;
 
-    virtual void SetColour(ConsoleColour colour) = 0;
+    // Writes the text in the colour, and what follows it in the default one.
+    virtual void Write(const QByteArray& text, ConsoleColour colour, const QByteArray& rest) = 0;
 };
 
-// Text output in colour where the output is a terminal, and plain elsewhere.
+// Text output in colour where the output is a terminal, and plain elsewhere. Each call hands the system
+// all of its text at once, so that lines of several programs with one output stay whole.
 class Console
 {
 public:
@@ -47,7 +50,7 @@ public:
     [[nodiscard]] bool IsTerminal() const { return isTerminal_; }
 
 private:
-    void Write(QStringView text);
+    void Write(QStringView text, ConsoleColour colour, const QByteArray& rest);
 
     std::FILE* stream_;
     bool isTerminal_;
