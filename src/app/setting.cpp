@@ -1,6 +1,9 @@
 #include "app/setting.h"
 
+#include "app/engine_texts.h"
+
 #include <QDataStream>
+#include <QDir>
 
 namespace Glyphor {
 
@@ -29,6 +32,26 @@ std::optional<QStringList> ToSetting(const QVariant& stored, const QStringList*)
     QStringList list = stored.toStringList();
     list.removeAll(QString());
     return list;
+}
+
+QVariant ValueOfText(const QString& text, const QStringList*)
+{
+    return text.split(QDir::listSeparator());
+}
+
+QString ValuesOf(const bool*)
+{
+    return Engine::tr("true or false");
+}
+
+QString ValuesOf(const int*)
+{
+    return Engine::tr("0, 1 or 2"); // what the numbers that a run heeds have
+}
+
+QString ValuesOf(const QStringList*)
+{
+    return Engine::tr("folders");
 }
 
 QDataStream& operator<<(QDataStream& out, const WindowData& data)

@@ -34,9 +34,39 @@ private:
 [[nodiscard]] std::optional<int> ToSetting(const QVariant& stored, const int*);
 [[nodiscard]] std::optional<QStringList> ToSetting(const QVariant& stored, const QStringList*);
 
+// A value as the command line has it. Lists are parted as the system parts lists of paths.
+[[nodiscard]] inline QVariant ValueOfText(const QString& text, const void*)
+{
+    return text;
+}
+[[nodiscard]] QVariant ValueOfText(const QString& text, const QStringList*);
+
+[[nodiscard]] QString ValuesOf(const bool*);
+[[nodiscard]] QString ValuesOf(const int*);
+[[nodiscard]] QString ValuesOf(const QStringList*);
+
+// A setting that a run can replace without storing it.
+class Preference : public OptionBase
+{
+public:
+    virtual void UseDefault() = 0;
+
+    // False where the text is no value of the setting.
+    virtual bool UseText(const QString& text) = 0;
+
+    [[nodiscard]] virtual QVariant Current() const = 0;
+
+    // "true or false": the values that it takes.
+    [[nodiscard]] virtual QString Values() const = 0;
+
+protected:
+    using OptionBase::OptionBase;
+    ~Preference() = default;
+};
+
 // A setting bound to a variable, which has the stored value or else the default.
 template <typename Value>
-class OptionByRef final : public OptionBase
+class OptionByRef final : public Preference
 {
 public:
     using Check = bool (*)(const Value&);
@@ -44,12 +74,11 @@ public:
     // A stored value that fails the check counts as not stored.
     OptionByRef(SettingsRegistry& registry, const QString& key, Value& variable,
                 const Value& defaultValue, Check isValid = nullptr)
-        : OptionBase(registry, key), variable_(variable)
+        : Preference(registry, key), variable_(variable), default_(defaultValue), isValid_(isValid)
     {
         registry.RegisterDefault(key, QVariant::fromValue(defaultValue));
-        const auto stored = ToSetting(registry.value(key), static_cast<const Value*>(nullptr));
-        const bool isUsable = stored && (isValid == nullptr || isValid(*stored));
-        variable_ = isUsable ? *stored : defaultValue;
+        if (!Use(registry.value(key)))
+            UseDefault();
     }
 
     [[nodiscard]] const Value& value() const { return variable_; }
@@ -60,8 +89,30 @@ public:
         Registry().setValue(Key(), QVariant::fromValue(value));
     }
 
+    void UseDefault() override { variable_ = default_; }
+    bool UseText(const QString& text) override
+    {
+        return Use(ValueOfText(text, static_cast<const Value*>(nullptr)));
+    }
+    [[nodiscard]] QVariant Current() const override { return QVariant::fromValue(variable_); }
+    [[nodiscard]] QString Values() const override
+    {
+        return ValuesOf(static_cast<const Value*>(nullptr));
+    }
+
 private:
+    bool Use(const QVariant& given)
+    {
+        const auto value = ToSetting(given, static_cast<const Value*>(nullptr));
+        const bool isUsable = value && (isValid_ == nullptr || isValid_(*value));
+        if (isUsable)
+            variable_ = *value;
+        return isUsable;
+    }
+
     Value& variable_;
+    Value default_;
+    Check isValid_;
 };
 
 // The whole record of a dialog's last entries and geometry, stored as one value. The record is a

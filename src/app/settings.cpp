@@ -1,5 +1,8 @@
 #include "app/settings.h"
 
+#include "app/critical_exception.h"
+#include "app/engine_texts.h"
+#include "app/shown_text.h"
 #include "app/unknown_types.h"
 
 #include <QDataStream>
@@ -62,6 +65,7 @@ Settings::Settings(std::unique_ptr<QSettings> store)
       searchDirsRecursively(*this, u"SearchDirsRecursively"_s, variables_.searchDirsRecursively,
                             true),
       useIncludedBitmaps(*this, u"UseIncludedBitmaps"_s, variables_.useIncludedBitmaps, true),
+      writePaths(*this, u"WritePaths"_s, variables_.writePaths, true),
       mainWindow(*this, u"MainWindowData"_s),
       fontDialog(*this, u"FontDialogData"_s),
       fontGenerationDialog(*this, u"FontGenerationDialogData"_s),
@@ -75,6 +79,47 @@ Settings& Settings::Instance()
 {
     static Settings settings(OpenUserStore());
     return settings;
+}
+
+std::array<Preference*, 8> Settings::HeededPreferences()
+{
+    return {&logActions,         &createLogFile,         &useSysLineEndings,  &lineEndings,
+            &additionalFontDirs, &searchDirsRecursively, &useIncludedBitmaps, &writePaths};
+}
+
+void Settings::UseDefaults()
+{
+    for (Preference* const preference : HeededPreferences())
+        preference->UseDefault();
+}
+
+void Settings::Override(const QString& assignment)
+{
+    const qsizetype sign = assignment.indexOf(u'=');
+    const QString key = assignment.left(sign);
+    QStringList keys;
+    for (Preference* const preference : HeededPreferences()) {
+        keys.append(preference->Key());
+        if (sign < 0 || key.compare(preference->Key(), Qt::CaseInsensitive) != 0)
+            continue;
+        const QString text = assignment.mid(sign + 1);
+        if (preference->UseText(text))
+            return;
+        throw CriticalException(Engine::tr("The setting %1 can't be \"%2\": it takes %3.")
+                                    .arg(preference->Key(), Shown(text), preference->Values()));
+    }
+    throw CriticalException(
+        sign < 0 ? Engine::tr("%1 sets nothing: write KEY=VALUE.").arg(Shown(assignment))
+                 : Engine::tr("There is no setting %1 that a run heeds. Those that there are: %2")
+                       .arg(Shown(key), keys.join(u", "_s)));
+}
+
+QJsonObject Settings::Heeded()
+{
+    QJsonObject values;
+    for (const Preference* const preference : HeededPreferences())
+        values[preference->Key()] = QJsonValue::fromVariant(preference->Current());
+    return values;
 }
 
 QByteArray Settings::LineEnding() const

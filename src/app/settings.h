@@ -3,7 +3,10 @@
 #include "app/dialog_data.h"
 #include "app/setting.h"
 
+#include <QJsonObject>
 #include <QStringList>
+
+#include <array>
 
 namespace Glyphor {
 
@@ -25,6 +28,7 @@ class Settings final : public SettingsRegistry
         QStringList additionalFontDirs;
         bool searchDirsRecursively;
         bool useIncludedBitmaps;
+        bool writePaths;
     };
 
     Variables variables_{};
@@ -44,6 +48,7 @@ public:
     OptionByRef<QStringList> additionalFontDirs;
     OptionByRef<bool> searchDirsRecursively;
     OptionByRef<bool> useIncludedBitmaps;
+    OptionByRef<bool> writePaths;
 
     OptionWindowData mainWindow;
     OptionDialogData<FontDialogData> fontDialog;
@@ -53,8 +58,21 @@ public:
     OptionDialogData<PreferencesDialogData> preferencesDialog;
     OptionDialogData<CommandDialogData> commandDialog;
 
+    // For this run alone: the store keeps what it has.
+    void UseDefaults();
+
+    // The same for one preference that a run without a window heeds, from "KEY=VALUE". Throws a
+    // CriticalException where there is no such key or value.
+    void Override(const QString& assignment);
+
+    // The preferences that a run without a window heeds, with their values.
+    [[nodiscard]] QJsonObject Heeded();
+
     // What ends every line of a generated text file.
     [[nodiscard]] QByteArray LineEnding() const;
+
+private:
+    [[nodiscard]] std::array<Preference*, 8> HeededPreferences();
 };
 
 } // namespace Glyphor
