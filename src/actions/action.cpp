@@ -68,11 +68,15 @@ void Action::ThrowActionError(const QString& title, const QString& message)
 bool Action::Run()
 {
     const std::shared_ptr<Action> self = shared_from_this();
-    if (!Execute())
-        return false;
-    session_.Stack().Push(self);
-    CurrentInterface().actionPerformed(self, LogText());
-    return true;
+    const bool isPerformed = Execute();
+    if (isPerformed) {
+        session_.Stack().Push(self);
+        CurrentInterface().actionPerformed(self, LoggedSteps() > 0 ? LogText() : QString());
+    }
+    const QString shortfall = Shortfall();
+    if (!shortfall.isEmpty())
+        CurrentInterface().PartlyDone(shortfall);
+    return isPerformed;
 }
 
 void Action::Undo()

@@ -39,6 +39,12 @@ public:
     // The action's line in the log; empty for none.
     [[nodiscard]] virtual QString LogText() const { return Log().Text(); }
 
+    // What the action could not do of what it was told; empty where it did everything.
+    [[nodiscard]] virtual QString Shortfall() const { return {}; }
+
+    // How often its line stands in the log.
+    [[nodiscard]] virtual int LoggedSteps() const { return applied_; }
+
     // The codes that undo and redo change; empty where that is the font as a whole.
     [[nodiscard]] virtual CodeSet AffectedCodes() const { return {}; }
 

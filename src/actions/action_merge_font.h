@@ -2,7 +2,6 @@
 
 #include "actions/action.h"
 #include "actions/action_open_font.h"
-#include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "model/font.h"
 
@@ -31,7 +30,7 @@ public:
     [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] LogEntry Log() const override
     {
-        return LogEntry(MessageFor(), {Shown(Args().source.path)});
+        return LogEntry(MessageFor(), {LoggedPath(Args().source.path)});
     }
 
 private:

@@ -129,6 +129,8 @@ int EmSize(const ActionOpenFontArgs& args)
 bool ActionOpenFont::Execute()
 {
     font_ = ReadFont(Args());
+    if (Args().name)
+        font_->SetName(*Args().name);
     return true;
 }
 
@@ -141,7 +143,7 @@ LogEntry ActionOpenFont::Log() const
 {
     const bool isCreated = Type() == ActionType::CreateFont;
     return LogEntry(MessageFor(),
-                    {isCreated ? QString::number(Args().render.height) : Shown(Args().path)});
+                    {isCreated ? QString::number(Args().render.height) : LoggedPath(Args().path)});
 }
 
 } // namespace Glyphor

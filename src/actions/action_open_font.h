@@ -22,6 +22,9 @@ struct ActionOpenFontArgs
     FontSize size;
     RenderOptions render;
 
+    // Instead of the name that the font has.
+    std::optional<QString> name;
+
     // Where set, only these characters are rendered, or stay enabled.
     std::optional<CodeSet> selection;
 };

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "actions/edit_actions.h"
-#include "app/shown_text.h"
 
 namespace Glyphor {
 
@@ -25,7 +24,7 @@ public:
     void RedoOnce() override;
     [[nodiscard]] LogEntry Log() const override
     {
-        return LogEntry(MessageFor(), {Shown(Args().path)});
+        return LogEntry(MessageFor(), {LoggedPath(Args().path)});
     }
     void ApplyTo(CodeSet& codes) const override { codes |= pattern_; }
 

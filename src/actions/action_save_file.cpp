@@ -25,6 +25,10 @@ bool ActionSaveFile::Execute()
     if (font == nullptr || !font->HasEnabledChars())
         ThrowActionError(Engine::tr("Font is empty!"),
                          Engine::tr("The font has no enabled characters that could be saved."));
+    // No reader takes a font without rows.
+    if (!IsKerning() && font->Metrics().height == 0)
+        ThrowActionError(Engine::tr("Font has no rows!"),
+                         Engine::tr("All rows of the font were deleted, so it can't be saved."));
     const QStringList actionLog = CurrentSession().Stack().LogLines();
     if (IsKerning()) {
         SaveKerning(*font, actionLog);
@@ -77,11 +81,15 @@ void ActionSaveFile::SaveKerning(const Font& font, const QStringList& actionLog)
     if (file == nullptr)
         ThrowUnsupportedFormat();
     const std::vector<KerningEntry> pairs = EnabledKerning(font);
-    if (pairs.empty())
-        ThrowActionError(
-            Engine::tr("No kerning data!"),
+    if (pairs.empty()) {
+        const QString title = Engine::tr("No kerning data!");
+        const QString text =
             Engine::tr("The enabled characters don't have any kerning data that could be "
-                       "saved to a file."));
+                       "saved to a file.");
+        if (!Args().writesEmptyKerning)
+            ThrowActionError(title, text);
+        CurrentInterface().warning(title, text);
+    }
     file->Write(pairs, font);
 }
 
@@ -108,7 +116,7 @@ LogEntry ActionSaveFile::Log() const
 {
     return LogEntry(IsKerning() ? QT_TRANSLATE_NOOP("Engine", "Saved kerning file: %1")
                                 : QT_TRANSLATE_NOOP("Engine", "Saved font file: %1"),
-                    {Shown(Args().path)});
+                    {LoggedPath(Args().path)});
 }
 
 } // namespace Glyphor

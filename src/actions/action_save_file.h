@@ -9,6 +9,7 @@ class Font;
 struct ActionSaveFileArgs
 {
     QString path;
+    bool writesEmptyKerning = false; // with a warning, where there are no pairs
 };
 
 // Writes the enabled characters to a file whose kind its name tells, and the log file beside it

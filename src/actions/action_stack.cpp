@@ -27,7 +27,7 @@ QStringList ActionStack::LogLines() const
         const QString text = action->LogText();
         if (text.isEmpty())
             continue;
-        for (int step = 0; step < action->Applied(); ++step)
+        for (int step = 0; step < action->LoggedSteps(); ++step)
             lines.append(text);
     }
     return lines;

@@ -3,10 +3,13 @@
 #include "actions/edit_table.h"
 #include "actions/session.h"
 #include "app/engine_texts.h"
+#include "model/code_text.h"
 
 #include <algorithm>
 
 namespace Glyphor {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,7 +39,7 @@ ActionChar::ActionChar(Session& session, ActionType type, quint16 code)
 }
 
 template <typename Visit>
-void ActionChar::ForEachChar(Visit visit)
+void ActionChar::ForEachChar(Visit visit) const
 {
     Font& font = *CurrentFont();
     const CodeSet& existing = font.ExistingCodes();
@@ -97,13 +100,56 @@ LogEntry ActionChar::Log() const
     return EntryOf(*this, target_);
 }
 
+int ActionChar::CharCount() const
+{
+    int count = 0;
+    ForEachChar([&count](quint16, const Character&) { ++count; });
+    return count;
+}
+
+int ActionChar::LoggedSteps() const
+{
+    if (refused_.isEmpty() || refused_.size() < CharCount())
+        return Applied();
+    return Applied() - *std::ranges::min_element(refused_);
+}
+
+QString ActionChar::Shortfall() const
+{
+    const auto [first, last] = Args();
+    const QString range = first == last ? u"0x"_s + Hex4Text(first)
+                                        : u"0x%1-0x%2"_s.arg(Hex4Text(first), Hex4Text(last));
+    const int count = CharCount();
+    if (count == 0)
+        return Engine::tr("%1: the font has no character there").arg(range);
+    if (refused_.isEmpty())
+        return {};
+    const QString steps = QString::number(Repeat());
+    const QString leftOut = QString::number(*std::ranges::max_element(refused_));
+    if (first == last)
+        return Engine::tr("%1: %2 of %3 steps were left out").arg(range, leftOut, steps);
+    return Engine::tr("%1: up to %2 of %3 steps were left out, on %4 of %5 characters")
+        .arg(range, leftOut, steps, QString::number(refused_.size()), QString::number(count));
+}
+
 bool ActionFont::Execute()
 {
     if (CurrentFont() == nullptr)
         return false;
     const int possible = EditOf(Type())->room(*CurrentFont());
+    leftOut_ = std::max(0, Repeat() - possible);
     SetRepeat(std::min(Repeat(), possible));
     return possible > 0;
+}
+
+QString ActionFont::Shortfall() const
+{
+    if (leftOut_ == 0)
+        return {};
+    const int height = CurrentFont()->Metrics().height;
+    return Engine::tr("[Font]: %1 of %2 steps were left out; its height is %3 now")
+        .arg(QString::number(leftOut_), QString::number(leftOut_ + Applied()),
+             QString::number(height));
 }
 
 void ActionFont::RedoOnce()

@@ -34,10 +34,16 @@ public:
     void RedoOnce() override;
     [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] LogEntry Log() const override;
+    [[nodiscard]] QString Shortfall() const override;
+
+    // Without the steps that every character refused.
+    [[nodiscard]] int LoggedSteps() const override;
 
 private:
+    [[nodiscard]] int CharCount() const;
+
     template <typename Visit>
-    void ForEachChar(Visit visit);
+    void ForEachChar(Visit visit) const;
 
     // How many steps the character of a code refused. Undo leaves as many out on it, so it never
     // becomes larger than it was. A character that refuses a step refuses all that follow.
@@ -58,8 +64,10 @@ public:
     void UndoOnce() override;
     void RedoOnce() override;
     [[nodiscard]] LogEntry Log() const override { return LogEntry(MessageFor()); }
+    [[nodiscard]] QString Shortfall() const override;
 
 private:
+    int leftOut_ = 0; // steps that were asked for
     std::vector<CodeSet> grown_; // by each step at the top: which characters got a row of their own
 };
 

@@ -1,6 +1,10 @@
 #include "actions/log_entry.h"
 
 #include "app/engine_texts.h"
+#include "app/settings.h"
+#include "app/shown_text.h"
+
+#include <QFileInfo>
 
 namespace Glyphor {
 
@@ -35,6 +39,11 @@ QString LogEntry::Translated() const
     const QString english = QString::fromLatin1(text_);
     const QString translated = text_ != nullptr ? Engine::tr(text_) : QString();
     return Filled(english.left(PrefixLength(english)) + translated.mid(PrefixLength(translated)));
+}
+
+QString LoggedPath(const QString& path)
+{
+    return Shown(Settings::Instance().writePaths.value() ? path : QFileInfo(path).fileName());
 }
 
 } // namespace Glyphor

@@ -32,4 +32,7 @@ private:
     QString prefix_;
 };
 
+// A file as the log tells of it: without its folders where the settings want that.
+[[nodiscard]] QString LoggedPath(const QString& path);
+
 } // namespace Glyphor

@@ -47,6 +47,9 @@ public:
     // Tells that an action was performed, with its log line. True if there is an action.
     virtual bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) = 0;
 
+    // Tells that a part of an action could not be done.
+    virtual void PartlyDone(const QString& text) = 0;
+
     // Tells that an action was undone or redone, so that views show the change.
     virtual void ActionChanged(const std::shared_ptr<Action>& action) = 0;
 
@@ -78,6 +81,7 @@ public:
     {
         return action != nullptr;
     }
+    void PartlyDone(const QString&) override {}
     void ActionChanged(const std::shared_ptr<Action>&) override {}
     bool ProgressChanged(const QString&, int, int) override { return true; }
     void ProgressFinished() override {}

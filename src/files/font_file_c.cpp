@@ -199,19 +199,19 @@ std::unique_ptr<Font> FontFileC::Read()
     return CFontReader(std::move(contents)).Read();
 }
 
-qint64 FlashSize(const Font& font)
+FlashParts FlashPartsOf(const Font& font)
 {
     constexpr qint64 plainRecord = 8;     // three bytes, and an address on its boundary
     constexpr qint64 extendedRecord = 12; // five bytes, and an address
     constexpr qint64 propertyBlock = 12;  // two codes and two addresses
-    constexpr qint64 structure = 16;      // the type, seven bytes and an address
     const bool isLegacy = IsLegacyFormat(font.Metrics().format);
-    qint64 size = structure + qint64(font.EnabledRuns().size()) * propertyBlock;
+    FlashParts parts;
+    parts.ranges = qint64(font.EnabledRuns().size()) * propertyBlock;
     font.ForEachEnabled([&](quint16, const Character& character) {
-        size += isLegacy ? plainRecord : extendedRecord;
-        size += qint64(font.CharDataWidth(character)) * character.info.Rows();
+        parts.characters += isLegacy ? plainRecord : extendedRecord;
+        parts.pixels += qint64(font.CharDataWidth(character)) * character.info.Rows();
     });
-    return size;
+    return parts;
 }
 
 void FontFileC::Write(const Font& font)

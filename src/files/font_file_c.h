@@ -21,7 +21,22 @@ private:
     CFileOptions options_;
 };
 
-// Bytes of the C file's font on a target with 32-bit addresses: pixels, tables and the structure.
-[[nodiscard]] qint64 FlashSize(const Font& font);
+// Bytes of the C file's font on a target with 32-bit addresses.
+struct FlashParts
+{
+    qint64 pixels = 0;
+    qint64 characters = 0; // the table of their metrics
+    qint64 ranges = 0;     // the property blocks
+    qint64 structure = 16; // the type, seven bytes and an address
+
+    [[nodiscard]] qint64 Total() const { return pixels + characters + ranges + structure; }
+};
+
+[[nodiscard]] FlashParts FlashPartsOf(const Font& font);
+
+[[nodiscard]] inline qint64 FlashSize(const Font& font)
+{
+    return FlashPartsOf(font).Total();
+}
 
 } // namespace Glyphor

@@ -63,6 +63,8 @@ void KerningFileC::Write(const std::vector<KerningEntry>& pairs, const Font& fon
         text.Line();
         text.Triple("Kerning pairs");
         text.Line("GUI_CONST_STORAGE U16 ", array, "[] = {");
+        if (pairs.empty())
+            text.Line("  0, "); // C has no empty arrays; there are still no pairs in it
         WritePairs(text, pairs);
         text.Line("};");
         text.Line();

@@ -98,6 +98,10 @@ public:
     [[nodiscard]] const CodeSet& EnabledCodes() const { return enabled_; }
     [[nodiscard]] const CodeSet& ExistingCodes() const { return existing_; }
 
+    // Codes whose characters were too large for the font when it was made.
+    [[nodiscard]] const CodeSet& LeftOutCodes() const { return leftOut_; }
+    void LeaveOut(quint16 code) { leftOut_.Set(code, true); }
+
     // The enabled codes that have a character.
     [[nodiscard]] CodeSet SavedCodes() const;
 
@@ -154,6 +158,7 @@ private:
     std::array<std::unique_ptr<Page>, PageSize> pages_;
     CodeSet existing_;
     CodeSet enabled_;
+    CodeSet leftOut_;
 };
 
 } // namespace Glyphor

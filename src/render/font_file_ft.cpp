@@ -42,8 +42,10 @@ bool FontFileFT::AddGlyph(Font& font, quint16 code, const RenderedGlyph& glyph)
     if (isEmpty && glyph.cursorDistance <= 0)
         return false;
     const Font::AddResult result = font.AddRendered(code, glyph);
-    if (result == Font::AddResult::DoesNotFit)
+    if (result == Font::AddResult::DoesNotFit) {
         misfits_.push_back(code);
+        font.LeaveOut(code);
+    }
     return result == Font::AddResult::Added;
 }
 

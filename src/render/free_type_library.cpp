@@ -79,4 +79,13 @@ FontLibrary& FreeTypeLibrary()
     return library;
 }
 
+QString FreeTypeVersion()
+{
+    int major = 0;
+    int minor = 0;
+    int patch = 0;
+    FT_Library_Version(FreeTypeLibrary().Get(), &major, &minor, &patch);
+    return QStringLiteral("%1.%2.%3").arg(major).arg(minor).arg(patch);
+}
+
 } // namespace Glyphor

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <QString>
+
 #include <ft2build.h>
 #include FT_FREETYPE_H
 #include FT_MODULE_H
-
-#include <QtGlobal>
 
 namespace Glyphor {
 
@@ -37,5 +37,8 @@ private:
 
 // The one of the program's main thread, opened on first use.
 [[nodiscard]] FontLibrary& FreeTypeLibrary();
+
+// "2.12.1": of the library that is in use.
+[[nodiscard]] QString FreeTypeVersion();
 
 } // namespace Glyphor

@@ -58,9 +58,10 @@ private Q_SLOTS:
         const bool isRefused = isRowEdit && IsLegacyFormat(FontFormat(format));
         QCOMPARE(after == before, isRefused);
         QCOMPARE(after.mid(after.lastIndexOf('\n')), lastBefore); // "D" is outside
-        QCOMPARE(session.Stack().LogLines(),
-                 QStringList(2, u"[Range 0x0041-0x0043]: "_s +
-                                    QString::fromLatin1(LogMessage(ActionType(type)))));
+        QCOMPARE(
+            session.Stack().LogLines(),
+            QStringList(isRefused ? 0 : 2, u"[Range 0x0041-0x0043]: "_s +
+                                               QString::fromLatin1(LogMessage(ActionType(type)))));
 
         session.Stack().Undo();
         const QByteArray undone = Test::Snapshot(font);
@@ -70,6 +71,45 @@ private Q_SLOTS:
         QCOMPARE(font.FindChar('A')->info.width, quint8(5));
         QCOMPARE(font.FindChar('A')->info.height, quint8(4));
         QVERIFY(session.Stack().LogLines().isEmpty());
+    }
+
+    // The characters of the font are 5 pixels wide, but "D" has 7.
+    void Shortfalls_data()
+    {
+        const Test::Rows<ActionType, CodeRange, int, QString, qsizetype> row;
+        using enum ActionType;
+        row("one", DeleteColumnRight, {'A', 'A'}, 50, u"0x0041: 46 of 50 steps were left out"_s, 4);
+        row("some", DeleteColumnRight, {'A', 'D'}, 6,
+            u"0x0041-0x0044: up to 2 of 6 steps were left out, on 2 of 3 characters"_s, 6);
+        row("none", DeleteColumnRight, {'A', 'D'}, 4, QString(), 4);
+        row("nobody", ShiftRight, {'0', '9'}, 1,
+            u"0x0030-0x0039: the font has no character there"_s, 1);
+        row("rows", FontDeleteRowTop, {}, 300,
+            u"[Font]: 296 of 300 steps were left out; its height is 0 now"_s, 4);
+    }
+
+    void Shortfalls()
+    {
+        const auto [type, range, repeat, text, logged] =
+            Test::Row<ActionType, CodeRange, int, QString, qsizetype>();
+        auto font = MakeFont(FontFormat::AA4);
+        font->FindChar('D')->bitmap->InsertColumnRight();
+        font->FindChar('D')->bitmap->InsertColumnRight();
+        Test::UndoSession session(std::move(font));
+        Test::RecordingInterface interface;
+        const auto run = [&](auto action) {
+            action->SetRepeat(repeat);
+            action->Run();
+        };
+        if (type == ActionType::FontDeleteRowTop) {
+            run(std::make_shared<ActionFont>(session, type));
+        } else {
+            const auto action = std::make_shared<ActionChar>(session, type);
+            action->Args() = {range.first, range.last};
+            run(action);
+        }
+        QCOMPARE(interface.shortfalls, text.isEmpty() ? QStringList() : QStringList(text));
+        QCOMPARE(session.Stack().LogLines().size(), logged);
     }
 
     void TogglesTellTheirTarget()

@@ -1,6 +1,7 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
 #include "app/progress.h"
+#include "files/file_types.h"
 #include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
@@ -210,7 +211,10 @@ private Q_SLOTS:
         QVERIFY(failure(args).startsWith(u"Invalid combination of encoding and font format!"_s));
         auto flat = MakeFilled("A", 0);
         flat->SetHeight(0);
-        WriteFont(std::move(flat), Path("flat.xbf"));
+        RowOf(FileType::Xbf).make(Path("flat.xbf"), {})->Write(*flat);
+        QVERIFY(Test::FailureOf([&] {
+                    WriteFont(std::move(flat), Path("flat.c"));
+                }).startsWith(u"Font has no rows!"_s));
         QCOMPARE(failure(Source(Path("flat.xbf"))),
                  u"Font creation failed!: Font has invalid metrics."_s);
         const QByteArray sif = Test::ReadAll(Path("font.sif"));

@@ -41,9 +41,11 @@ public:
         performed.append(logText);
         return action != nullptr;
     }
+    void PartlyDone(const QString& text) override { shortfalls.append(text); }
     void ActionChanged(const std::shared_ptr<Action>&) override { ++changes; }
 
     QStringList warnings;
+    QStringList shortfalls;
     QStringList performed;
     int changes = 0;
 };

@@ -33,6 +33,7 @@ public:
     // Of UserInterface.
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
+    void PartlyDone(const QString& text) override { status_->Tell(text); }
     void ActionChanged(const std::shared_ptr<Action>& action) override;
     bool ProgressChanged(const QString& text, int value, int maximum) override;
     void ProgressFinished() override { OnProgbarClose(); }
