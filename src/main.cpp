@@ -40,8 +40,8 @@ void BecomeWindow(int argc, char** argv)
 
 } // namespace
 
-// The exit status is 0 whatever happens: callers tell a failure by the console text or by the error
-// file.
+// Unless -strict is given, the exit status is 0 whatever happens: callers tell a failure by the console
+// text or by the error file.
 int main(int argc, char** argv)
 {
     using namespace Glyphor;
@@ -65,5 +65,5 @@ int main(int argc, char** argv)
     SetCurrentInterface(&commandLine);
     commandLine.RunGuarded(argc, argv, session);
     SetCurrentInterface(nullptr);
-    return 0;
+    return commandLine.ExitStatus();
 }

@@ -61,7 +61,8 @@ enum class ActionType : int {
     SetPixelIndex15 = 53,
     ExitProgram = 54,
     ListFonts = 60,
-    PrintUsage = 64
+    PrintUsage = 64,
+    PrintVersion = 67
 };
 
 } // namespace Glyphor

@@ -32,8 +32,8 @@ public:
     virtual void Write(const QByteArray& text, ConsoleColour colour, const QByteArray& rest) = 0;
 };
 
-// Text output in colour where the output is a terminal, and plain elsewhere. Each call hands the system
-// all of its text at once, so that lines of several programs with one output stay whole.
+// Text output in colour where the output is a terminal, and plain elsewhere. Each call hands the
+// system all of its text at once, so that lines of several programs with one output stay whole.
 class Console
 {
 public:

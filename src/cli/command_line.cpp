@@ -6,11 +6,20 @@
 #include "app/critical_exception.h"
 #include "app/error_file.h"
 #include "app/progress.h"
+#include "app/settings.h"
 #include "app/shown_text.h"
+#include "app/version.h"
 #include "cli/installed_fonts.h"
 #include "cli/option_actions.h"
+#include "render/free_type_library.h"
 
 #include <QScopeGuard>
+
+#ifdef Q_OS_WIN
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
 
 #include <iostream>
 #include <new>
@@ -22,17 +31,40 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList ArgumentList(int argc, const char* const* argv)
+bool IsTerminalInput()
 {
-    QStringList arguments;
-    for (int index = 1; index < argc; ++index)
-        arguments.append(QString::fromLocal8Bit(argv[index]));
-    return arguments;
+#ifdef Q_OS_WIN
+    return _isatty(_fileno(stdin)) != 0;
+#else
+    return isatty(STDIN_FILENO) != 0;
+#endif
 }
 
-bool HasArgument(int argc, const char* const* argv, QStringView argument)
+// What the messages of an option are about: its file, or else the option itself.
+Place SubjectOf(const OptionOccurrence& occurrence)
 {
-    return ArgumentList(argc, argv).contains(argument, Qt::CaseInsensitive);
+    const auto& parameters = occurrence.option->parameters;
+    const bool hasFile = !parameters.empty() && parameters.front().placeholder == FilePlaceholder;
+    return hasFile ? Place{occurrence.Get<QString>(0), 0, {}} : occurrence.place;
+}
+
+void UseSettings(const std::vector<OptionOccurrence>& occurrences)
+{
+    Settings& settings = Settings::Instance();
+    for (const OptionOccurrence& occurrence : occurrences) {
+        if (occurrence.Id() == OptionId::Defaults)
+            settings.UseDefaults();
+    }
+    for (const OptionOccurrence& occurrence : occurrences) {
+        if (occurrence.Id() == OptionId::Set)
+            settings.Override(occurrence.Get<QString>(0));
+    }
+}
+
+QString Versions()
+{
+    return u"%1 %2\nFreeType %3\nQt %4\n"_s.arg(Program::Name, Program::Version,
+                                                FreeTypeVersion(), QLatin1StringView(qVersion()));
 }
 
 // A line of standard input, of which the first characters matter; nothing at its end.
@@ -52,7 +84,7 @@ std::optional<QString> ReadLine()
 
 } // namespace
 
-CommandLine::CommandLine() : console_(stdout), progressConsole_(stderr) {}
+CommandLine::CommandLine() = default;
 
 CommandLine& CommandLine::Instance()
 {
@@ -62,23 +94,44 @@ CommandLine& CommandLine::Instance()
 
 bool CommandLine::isCommandLineMode(int argc, const char* const* argv)
 {
-    return HasArgument(argc, argv, u"-hide");
+    try {
+        const Arguments arguments = ReadArguments(argc, argv);
+        return arguments.Names(OptionId::Hide) || arguments.Names(OptionId::Version);
+    } catch (const CriticalException&) {
+        return true;
+    }
+}
+
+void CommandLine::Fail(const QString& title, const QString& text, const Place& place, bool toFile)
+{
+    const bool isKnown = !place.file.isEmpty() || !place.option.isEmpty();
+    if (isKnown)
+        messages_.SetPlace(place);
+    const QString where = PlaceLine(messages_.CurrentPlace(), text);
+    const bool isOnConsole = &CurrentInterface() == this;
+    CurrentInterface().critical(title, isOnConsole || where.isEmpty() ? text
+                                                                      : text + u'\n' + where);
+    if (!isOnConsole)
+        messages_.MarkFailed();
+    if (toFile)
+        ErrorFile().Write(text);
 }
 
 void CommandLine::RunGuarded(int argc, const char* const* argv, Session& session)
 {
-    const auto fail = [&](const QString& title, const QString& text) {
-        CurrentInterface().critical(title, text);
-        if (HasArgument(argc, argv, u"-xirtsek"))
-            ErrorFile().Write(text);
-    };
+    const Arguments written = WrittenArguments(argc, argv);
+    messages_.SetMode({written.Names(OptionId::Strict), written.Names(OptionId::Quiet)});
+    bool toFile = written.Names(OptionId::ErrorFile);
     try {
         try {
-            run(argc, argv, session);
+            const Arguments arguments = ReadArguments(argc, argv);
+            messages_.SetMode({arguments.Names(OptionId::Strict), arguments.Names(OptionId::Quiet)});
+            toFile = arguments.Names(OptionId::ErrorFile);
+            Run(arguments, session);
         } catch (const CriticalException& error) {
-            fail(error.Title(), error.Text());
+            Fail(error.Title(), error.Text(), error.Where(), toFile);
         } catch (const std::bad_alloc&) {
-            fail(CriticalException::DefaultTitle(), u"There is not enough memory."_s);
+            Fail(CriticalException::DefaultTitle(), u"There is not enough memory."_s, {}, toFile);
         } catch (const WorkStopped&) {
             // The user knows; the options that are left do not run.
         }
@@ -89,66 +142,111 @@ void CommandLine::RunGuarded(int argc, const char* const* argv, Session& session
 
 void CommandLine::run(int argc, const char* const* argv, Session& session)
 {
-    if (argc < 2)
+    Run(ReadArguments(argc, argv), session);
+}
+
+void CommandLine::Run(const Arguments& arguments, Session& session)
+{
+    if (arguments.words.empty())
         return;
-    std::vector<OptionOccurrence> occurrences = parser_.parse(ArgumentList(argc, argv));
-    if (!parser_.check(occurrences))
+    if (arguments.Names(OptionId::Help)) { // whatever else there is, and be it broken
+        CurrentInterface().handleRequest(ActionType::PrintUsage);
+        return;
+    }
+    std::vector<OptionOccurrence> occurrences = parser_.Parse(arguments.words);
+    const bool isStandalone = parser_.check(occurrences);
+    if (!isStandalone)
         ReorderOccurrences(occurrences);
-    options_ = ReadRunOptions(occurrences, &CurrentInterface() != this);
+    UseSettings(occurrences);
+    options_ = ReadRunOptions(occurrences, &CurrentInterface() != this,
+                              [this](const Place& place) { messages_.SetPlace(place); });
+    record_ = RunRecord(arguments.files, occurrences);
     for (const OptionOccurrence& occurrence : occurrences)
         Execute(occurrence, session);
+    if (!isStandalone)
+        Finish(session);
 }
 
 void CommandLine::Execute(const OptionOccurrence& occurrence, Session& session)
 {
-    std::optional<CodeSet>& selection = options_.open.selection;
-    switch (occurrence.Id()) {
-    case OptionId::Enable:
-    case OptionId::Disable:
-        SelectRange(selection, occurrence.Get<CodeRange>(0), occurrence.Id() == OptionId::Enable);
+    messages_.SetPlace(SubjectOf(occurrence));
+    if (SelectsCharacters(occurrence.Id())) {
+        Select(occurrence, options_);
         return;
-    case OptionId::ReadPattern:
-        SelectPattern(selection, occurrence.Get<QString>(0));
-        return;
-    default:
-        break;
     }
     const OptionAction* const row = ActionOf(occurrence.Id());
     if (row == nullptr)
         return;
-    if (row->make == nullptr)
+    if (row->make == nullptr) {
         CurrentInterface().handleRequest(row->request);
-    else
-        Perform(row->make(occurrence, options_, session));
+        return;
+    }
+    const Font* const font = session.CurrentFont();
+    const bool isWritten =
+        occurrence.Id() == OptionId::Save || occurrence.Id() == OptionId::Kerning;
+    if (isWritten && font != nullptr)
+        TellMissing(*font);
+    Perform(row->make(occurrence, options_, session));
 }
 
 void CommandLine::Perform(const std::shared_ptr<Action>& action)
 {
+    if (action == nullptr) // nothing to do
+        return;
     requested_ = action.get();
     const auto forget = qScopeGuard([this] { requested_ = nullptr; });
     BasicInterface& interface = CurrentInterface();
-    if (requestAction(*action) && (&interface == this || interface.requestAction(*action)))
-        action->Run();
+    const bool isWanted =
+        requestAction(*action) && (&interface == this || interface.requestAction(*action));
+    if (isWanted && action->Run())
+        record_.Add(*action);
+}
+
+// Once, with the font as it is written.
+void CommandLine::TellMissing(const Font& font)
+{
+    if (record_.IsChecked())
+        return;
+    record_.SetMissing(options_.demand.MissingIn(font, options_.open.selection));
+    for (const MissingCharacters& missing : record_.Missing()) {
+        if (options_.onlyChecks)
+            messages_.Warning(missing.text, missing.place);
+        else
+            messages_.Note(missing.text, missing.place);
+    }
+}
+
+void CommandLine::Finish(Session& session)
+{
+    const Font* const font = session.CurrentFont();
+    if (font == nullptr)
+        return;
+    TellMissing(*font);
+    if (options_.onlyChecks)
+        information({}, record_.CheckResult());
+    if (!options_.reportPath.isEmpty()) {
+        messages_.SetPlace({options_.reportPath, 0, {}});
+        record_.WriteReport(*font, options_.reportPath, messages_.Warnings());
+    }
+    if (!options_.dependencyFilePath.isEmpty()) {
+        messages_.SetPlace({options_.dependencyFilePath, 0, {}});
+        record_.WriteDependencies(options_.dependencyFilePath);
+    }
 }
 
 void CommandLine::information(const QString&, const QString& text)
 {
-    console_.PrintLine(text);
+    messages_.Information(text);
 }
 
 void CommandLine::warning(const QString&, const QString& text)
 {
-    console_.PrintLine(text, ConsoleColour::Yellow);
+    messages_.Warning(text);
 }
 
 void CommandLine::critical(const QString& title, const QString& text)
 {
-    // Exit status 0 tells nothing, so every failure begins with the same line.
-    if (!title.isEmpty())
-        console_.PrintLine(CriticalException::DefaultTitle(), ConsoleColour::Red);
-    if (!title.isEmpty() && title != CriticalException::DefaultTitle())
-        console_.PrintLine(title, ConsoleColour::Red);
-    console_.PrintLine(text, ConsoleColour::Red);
+    messages_.Critical(title, text);
 }
 
 bool CommandLine::handleRequest(ActionType kind)
@@ -157,10 +255,13 @@ bool CommandLine::handleRequest(ActionType kind)
     case ActionType::ExitProgram: // the program ends after the run anyway
         return true;
     case ActionType::ListFonts:
-        console_.Print(InstalledFontTable());
+        messages_.Answer(InstalledFontTable());
         return true;
     case ActionType::PrintUsage:
-        console_.Print(parser_.usage());
+        messages_.Answer(parser_.usage());
+        return true;
+    case ActionType::PrintVersion:
+        messages_.Answer(Versions());
         return true;
     default:
         return false;
@@ -178,34 +279,35 @@ bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const Q
     if (action == nullptr)
         return false;
     if (const auto* const open = dynamic_cast<const ActionOpenFont*>(action.get()))
-        console_.PrintLine(u"Opened font file: "_s + Shown(open->Args().path));
+        messages_.Information(u"Opened font file: "_s + Shown(open->Args().path));
     else if (const auto* const save = dynamic_cast<const ActionSaveFile*>(action.get()))
-        console_.PrintLine(u"Saved font file: "_s + Shown(save->Args().path));
+        messages_.Information((save->Type() == ActionType::SaveKerning ? u"Saved kerning file: "_s
+                                                                       : u"Saved font file: "_s) +
+                              Shown(save->Args().path));
     else if (options_.verbose && !logText.isEmpty())
-        console_.PrintLine(logText);
+        messages_.Information(logText);
     return true;
 }
 
 bool CommandLine::ProgressChanged(const QString& text, int value, int maximum)
 {
-    if (progressConsole_.IsTerminal())
-        progressConsole_.ShowStatus(u"%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
+    messages_.Status(u"%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
     return true;
 }
 
 void CommandLine::ProgressFinished()
 {
-    if (progressConsole_.IsTerminal())
-        progressConsole_.ShowStatus({});
+    messages_.Status({});
 }
 
 int CommandLine::AskKeyword(const QString& reason, const QString& subject,
                             const ParameterKeywordTable& keywords)
 {
-    console_.PrintLine(reason);
-    for (;;) {
-        console_.PrintLine(u"Please select a %1 that should be used:"_s.arg(subject));
-        console_.Print(parser_.KeywordList(keywords));
+    constexpr int maxAttempts = 100;
+    messages_.Ask(reason + u'\n');
+    for (int attempt = 1;; ++attempt) {
+        messages_.Ask(u"Please select a %1 that should be used:\n"_s.arg(subject));
+        messages_.Ask(parser_.KeywordList(keywords));
         const std::optional<QString> line = ReadLine();
         if (!line)
             throw CriticalException(
@@ -213,7 +315,10 @@ int CommandLine::AskKeyword(const QString& reason, const QString& subject,
         const QString answer = line->trimmed();
         if (const auto* const entry = keywords.Find(answer))
             return entry->value;
-        console_.PrintLine(u"Invalid %1 \"%2\""_s.arg(subject, answer), ConsoleColour::Red);
+        messages_.RefuseAnswer(u"Invalid %1 \"%2\""_s.arg(subject, answer));
+        if (attempt == maxAttempts && !IsTerminalInput())
+            throw CriticalException(
+                u"Standard input gave %1 answers that are no %2."_s.arg(attempt).arg(subject));
     }
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "app/console.h"
 #include "app/user_interface.h"
 #include "cli/command_line_parser.h"
+#include "cli/run_messages.h"
 #include "cli/run_options.h"
+#include "cli/run_record.h"
 
 #include <iosfwd>
 
@@ -21,7 +22,8 @@ public:
     // The program's own, made on first use; it outlives the application object.
     static CommandLine& Instance();
 
-    // True where "-hide" stands among the arguments, in any letter case.
+    // True where "-hide", or an option that needs no window, stands among the arguments, in any letter
+    // case; also where they can't all be read, since nobody knows then.
     [[nodiscard]] static bool isCommandLineMode(int argc, const char* const* argv);
 
     // Parses and runs the arguments on the session's font. A failure is shown by the current
@@ -31,29 +33,39 @@ public:
     // The same, throwing a CriticalException on failure.
     void run(int argc, const char* const* argv, Session& session);
 
+    // What the program ends with: 0 unless the run was strict.
+    [[nodiscard]] int ExitStatus() const { return messages_.ExitStatus(); }
+
     void information(const QString& title, const QString& text) override;
     void warning(const QString& title, const QString& text) override;
     void critical(const QString& title, const QString& text) override;
     bool handleRequest(ActionType kind) override;
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
+    void PartlyDone(const QString& text) override { messages_.Warning(text); }
     bool ProgressChanged(const QString& text, int value, int maximum) override;
     void ProgressFinished() override;
 
-    // Throw a CriticalException where standard input ends before an answer.
+    // Throw a CriticalException where standard input ends before an answer, or is no terminal and gives a
+    // hundred wrong ones.
     std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
     std::optional<MergeMode> askMergeMode() override;
 
 private:
+    // Shows the failure, and writes it to the error file where that was asked for.
+    void Fail(const QString& title, const QString& text, const Place& place, bool toFile);
+    void Run(const Arguments& arguments, Session& session);
     void Execute(const OptionOccurrence& occurrence, Session& session);
     void Perform(const std::shared_ptr<Action>& action);
+    void TellMissing(const Font& font);
+    void Finish(Session& session);
     int AskKeyword(const QString& reason, const QString& subject,
                    const ParameterKeywordTable& keywords);
 
     CommandLineParser parser_;
-    Console console_;
-    Console progressConsole_;
+    RunMessages messages_;
     RunOptions options_;
+    RunRecord record_;
     const Action* requested_ = nullptr; // by the option that is being executed
 };
 

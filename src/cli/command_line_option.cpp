@@ -28,6 +28,11 @@ CommandLineParameter Text(const QString& placeholder,
     return {ParameterKind::Text, placeholder, keywords, required};
 }
 
+CommandLineParameter File()
+{
+    return Text(FilePlaceholder.toString());
+}
+
 CommandLineParameter Number(const QString& placeholder, bool required = true)
 {
     return {ParameterKind::Number, placeholder, nullptr, required};
@@ -50,7 +55,7 @@ std::vector<CommandLineOption> MakeOptions()
 {
     using enum OptionId;
     return {
-        Option(Open, {}, {}, {Text(u"<file path>"_s)},
+        Option(Open, {}, {}, {File()},
                u"Open font file. Allowed are TTF, TTC, BDF, C, XBF and SIF font files."_s,
                {.position = 0, .exclusiveWith = Create}),
         Option(Create, u"create"_s, u"c"_s, {Text(u"<family name>"_s), Text(u"<style name>"_s)},
@@ -79,7 +84,7 @@ std::vector<CommandLineOption> MakeOptions()
                u"Disable a range of characters. Allowed are decimal or hexadecimal ranges (e.g. "
                "0x10-0x30) or \"all\"."_s,
                {.multiple = true}),
-        Option(ReadPattern, u"readpattern"_s, u"p"_s, {Text(u"<file path>"_s)},
+        Option(ReadPattern, u"readpattern"_s, u"p"_s, {File()},
                u"Reads a pattern file."_s, {.multiple = true}),
         Option(EditFont, u"editfont"_s, u"ef"_s,
                {Text(u"<action>"_s, &FontEditKeywords()), Number(u"<count>"_s, false)},
@@ -88,10 +93,10 @@ std::vector<CommandLineOption> MakeOptions()
                {Text(u"<action>"_s, &CharEditKeywords()), Range(), Number(u"<value>"_s, false)},
                u"Equivalent to the 'Edit' menu (character dependent)."_s, {.multiple = true}),
         Option(Merge, u"merge"_s, u"m"_s,
-               {Text(u"<file path>"_s), Text(u"<merge mode>"_s, &MergeKeywords(), false)},
+               {File(), Text(u"<merge mode>"_s, &MergeKeywords(), false)},
                u"Merge the currently loaded font with another font file. Only C, XBF, SIF and BDF "
                "allowed."_s),
-        Option(Save, u"save"_s, u"s"_s, {Text(u"<file path>"_s)}, u"Save font file."_s,
+        Option(Save, u"save"_s, u"s"_s, {File()}, u"Save font file."_s,
                {.required = true}),
         Option(
             ListFonts, u"listfonts"_s, u"lf"_s, {},
@@ -106,6 +111,31 @@ std::vector<CommandLineOption> MakeOptions()
         Option(ErrorFile, u"xirtsek"_s, {}, {}, {}),
         Option(Help, u"help"_s, u"?"_s, {}, u"Displays usage information and exits."_s,
                {.standalone = true}),
+        Option(Strict, u"strict"_s, u"st"_s, {},
+               u"Tells by the exit status how the run went (0 well, 1 error, 2 warnings) and writes "
+               "messages to standard error as compilers do."_s),
+        Option(Quiet, u"quiet"_s, u"q"_s, {}, u"Prints warnings and errors only."_s),
+        Option(Version, u"version"_s, u"ver"_s, {},
+               u"Displays the versions of the program and of what it uses, and exits."_s,
+               {.standalone = true}),
+        Option(Defaults, u"defaults"_s, u"df"_s, {},
+               u"Uses the built-in settings instead of the user's."_s),
+        Option(Set, u"set"_s, u"se"_s, {Text(u"<key>=<value>"_s)},
+               u"Uses a value for one of the settings in this run, e.g. WritePaths=false."_s,
+               {.multiple = true}),
+        Option(Chars, u"chars"_s, u"ch"_s, {Text(u"<text>"_s)},
+               u"Enables the characters of the text."_s, {.multiple = true}),
+        Option(Check, u"check"_s, u"ck"_s, {},
+               u"Tells which of the characters that were asked for the font does not have, and "
+               "writes no font."_s),
+        Option(Name, u"name"_s, u"n"_s, {Text(u"<name>"_s)},
+               u"Name of the font, and of the C structure behind \"GUI_Font\"."_s),
+        Option(Kerning, u"kerning"_s, u"k"_s, {File()},
+               u"Save kerning table as a C file."_s),
+        Option(Report, u"report"_s, u"r"_s, {File()},
+               u"Writes what was made of what into a JSON file."_s),
+        Option(DependencyFile, u"depfile"_s, u"dep"_s, {File()},
+               u"Writes the files that the output depends on into a file for Make or Ninja."_s),
     };
 }
 
@@ -128,6 +158,21 @@ std::span<const CommandLineOption> CommandLineOptions()
 const CommandLineOption& OptionOf(OptionId id)
 {
     return *std::ranges::find(CommandLineOptions(), id, &CommandLineOption::id);
+}
+
+const CommandLineOption* FindOption(QStringView argument)
+{
+    if (!argument.startsWith(u'-'))
+        return nullptr;
+    const auto matches = [name = argument.mid(1)](const QString& candidate) {
+        return !candidate.isEmpty() && candidate.size() == name.size() &&
+               name.compare(candidate, Qt::CaseInsensitive) == 0;
+    };
+    const auto options = CommandLineOptions();
+    const auto found = std::ranges::find_if(options, [&matches](const auto& option) {
+        return matches(option.longName) || matches(option.shortName);
+    });
+    return found != options.end() ? &*found : nullptr;
 }
 
 const ParameterKeywordTable& FormatKeywords()

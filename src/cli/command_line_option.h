@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/place.h"
 #include "model/code_range.h"
 
 #include <QString>
@@ -34,7 +35,18 @@ enum class OptionId : int {
     Help = 18,
     Hide = 19,
     ErrorFile = 20,
-    ListFonts = 21
+    ListFonts = 21,
+    Strict = 22,
+    Quiet = 23,
+    Version = 24,
+    Defaults = 25,
+    Set = 26,
+    Chars = 28,
+    Check = 31,
+    Name = 32,
+    Kerning = 33,
+    Report = 34,
+    DependencyFile = 35
 };
 
 enum class ParameterKind { Number = 0, Text = 1, Range = 2 };
@@ -70,6 +82,9 @@ struct CommandLineParameter
     bool required = true;
 };
 
+// What the parameters are called that are files to read or to write.
+inline constexpr QStringView FilePlaceholder = u"<file path>";
+
 struct OptionMarks
 {
     bool multiple = false;
@@ -101,6 +116,8 @@ struct OptionOccurrence
 {
     const CommandLineOption* option;
     std::vector<ParameterValue> values; // one for each parameter
+    Place place;
+    QStringList words; // as they were given: the name, and each value that was not left out
 
     [[nodiscard]] OptionId Id() const { return option->id; }
 
@@ -115,6 +132,9 @@ struct OptionOccurrence
 [[nodiscard]] std::span<const CommandLineOption> CommandLineOptions();
 
 [[nodiscard]] const CommandLineOption& OptionOf(OptionId id);
+
+// The option that the argument names in any letter case, "-save" or "-s"; null for no option's name.
+[[nodiscard]] const CommandLineOption* FindOption(QStringView argument);
 
 [[nodiscard]] const ParameterKeywordTable& FormatKeywords();
 [[nodiscard]] const ParameterKeywordTable& EncodingKeywords();

@@ -19,15 +19,6 @@ namespace {
     throw CriticalException(text);
 }
 
-bool IsNamed(const CommandLineOption& option, QStringView argument)
-{
-    const QStringView name = argument.mid(1);
-    const auto matches = [name](const QString& candidate) {
-        return !candidate.isEmpty() && name.compare(candidate, Qt::CaseInsensitive) == 0;
-    };
-    return argument.startsWith(u'-') && (matches(option.longName) || matches(option.shortName));
-}
-
 // Decimal, or hexadecimal behind "0x"; nothing but digits. What does not fit is the largest number.
 quint64 ParseNumber(const QString& text)
 {
@@ -94,28 +85,38 @@ ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& 
 class ArgumentReader
 {
 public:
-    explicit ArgumentReader(const QStringList& arguments) : arguments_(arguments) {}
+    explicit ArgumentReader(const std::vector<Argument>& arguments) : arguments_(arguments) {}
 
     std::vector<OptionOccurrence> ReadAll()
     {
         std::vector<OptionOccurrence> occurrences;
         for (int position = 0; next_ < arguments_.size();) {
-            const CommandLineOption& option = Recognise(arguments_[next_], position);
-            if (option.position < 0)
+            place_ = arguments_[next_].place;
+            const CommandLineOption& option = Recognise(arguments_[next_].text, position);
+            const std::size_t begin = next_;
+            if (option.position < 0) {
+                place_.option = arguments_[next_].text;
                 ++next_;
+            }
             if (option.id != OptionId::Hide)
                 ++position;
-            occurrences.push_back({&option, ReadValues(option)});
+            OptionOccurrence& occurrence =
+                occurrences.emplace_back(&option, ReadValues(option), place_);
+            for (std::size_t word = begin; word < next_; ++word)
+                occurrence.words.append(arguments_[word].text);
         }
         return occurrences;
     }
+
+    // Where it stopped.
+    [[nodiscard]] const Place& CurrentPlace() const { return place_; }
 
 private:
     const CommandLineOption& Recognise(const QString& argument, int position)
     {
         for (const CommandLineOption& option : CommandLineOptions()) {
             const bool isPositional = option.position == position && !argument.startsWith(u'-');
-            if (!isPositional && !IsNamed(option, argument))
+            if (!isPositional && FindOption(argument) != &option)
                 continue;
             if (!present_.insert(option.id).second && !option.multiple)
                 Fail(u"Argument -%1 supplied more than once!"_s.arg(option.longName));
@@ -139,13 +140,9 @@ private:
                 Fail(u"Parameter missing!"_s);
             return {};
         }
-        const QString& argument = arguments_[next_];
+        const QString& argument = arguments_[next_].text;
         if (argument.startsWith(u'-')) {
-            const bool isOption =
-                std::ranges::any_of(CommandLineOptions(), [&argument](const auto& option) {
-                    return IsNamed(option, argument);
-                });
-            if (parameter.required || !isOption)
+            if (parameter.required || FindOption(argument) == nullptr)
                 Fail(
                     u"Read new argument %1 where a parameter was expected!"_s.arg(Shown(argument)));
             return {};
@@ -154,9 +151,10 @@ private:
         return ParseValue(parameter, argument);
     }
 
-    const QStringList& arguments_;
-    qsizetype next_ = 0;
+    const std::vector<Argument>& arguments_;
+    std::size_t next_ = 0;
     std::set<OptionId> present_;
+    Place place_;
 };
 
 // Moves the first occurrence of the option to the place; the others keep their order.
@@ -177,14 +175,27 @@ void MoveToBack(std::vector<OptionOccurrence>& occurrences, OptionId id)
 bool IsSelection(const OptionOccurrence& occurrence)
 {
     return occurrence.Id() == OptionId::Enable || occurrence.Id() == OptionId::Disable ||
-           occurrence.Id() == OptionId::ReadPattern;
+           occurrence.Id() == OptionId::ReadPattern || occurrence.Id() == OptionId::Chars;
 }
 
 } // namespace
 
 std::vector<OptionOccurrence> CommandLineParser::parse(const QStringList& arguments) const
 {
-    return ArgumentReader(arguments).ReadAll();
+    std::vector<Argument> words;
+    for (const QString& argument : arguments)
+        words.push_back({argument, {}});
+    return Parse(words);
+}
+
+std::vector<OptionOccurrence> CommandLineParser::Parse(const std::vector<Argument>& arguments) const
+{
+    ArgumentReader reader(arguments);
+    try {
+        return reader.ReadAll();
+    } catch (const CriticalException& error) {
+        throw CriticalException(error.Title(), error.Text(), reader.CurrentPlace());
+    }
 }
 
 bool CommandLineParser::check(std::vector<OptionOccurrence>& occurrences) const
@@ -218,6 +229,7 @@ void ReorderOccurrences(std::vector<OptionOccurrence>& occurrences)
     MoveToFront(occurrences, OptionId::Create);
     std::stable_partition(occurrences.begin(), occurrences.end(), IsSelection);
     MoveToBack(occurrences, OptionId::Save);
+    MoveToBack(occurrences, OptionId::Kerning);
     MoveToBack(occurrences, OptionId::Exit);
 }
 

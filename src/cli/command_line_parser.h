@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/arguments.h"
 #include "cli/command_line_option.h"
 
 #include <QStringList>
@@ -15,6 +16,7 @@ class CommandLineParser
 public:
     // The arguments without the program's name; one occurrence for each use of an option.
     [[nodiscard]] std::vector<OptionOccurrence> parse(const QStringList& arguments) const;
+    [[nodiscard]] std::vector<OptionOccurrence> Parse(const std::vector<Argument>& arguments) const;
 
     // Keeps only a standalone option where there is one, else sees to it that exactly one of each
     // exclusive pair is given. True where a standalone option was found.

@@ -61,6 +61,7 @@ std::shared_ptr<Action> MakeMerge(const OptionOccurrence& occurrence, const RunO
     source = options.open;
     source.path = occurrence.Get<QString>(0);
     source.selection.reset();
+    source.name.reset();
     if (std::holds_alternative<int>(occurrence.values[1]))
         action->Args().mode = static_cast<MergeMode>(occurrence.Get<int>(1));
     const auto type = FileTypeOf(source.path);
@@ -74,6 +75,14 @@ std::shared_ptr<Action> MakeSave(const OptionOccurrence& occurrence, const RunOp
 {
     auto action = std::make_shared<ActionSaveFile>(session, ActionType::SaveFont);
     action->Args().path = occurrence.Get<QString>(0);
+    return action;
+}
+
+std::shared_ptr<Action> MakeKerning(const OptionOccurrence& occurrence, const RunOptions&,
+                                    Session& session)
+{
+    auto action = std::make_shared<ActionSaveFile>(session, ActionType::SaveKerning);
+    action->Args() = {occurrence.Get<QString>(0), true};
     return action;
 }
 
@@ -105,9 +114,11 @@ constexpr std::array OptionActions = {
     OptionAction{OptionId::EditChar, ActionType::None, MakeCharEdit},
     OptionAction{OptionId::Merge, ActionType::MergeFont, MakeMerge},
     OptionAction{OptionId::Save, ActionType::SaveFont, MakeSave},
+    OptionAction{OptionId::Kerning, ActionType::SaveKerning, MakeKerning},
     OptionAction{OptionId::ListFonts, ActionType::ListFonts},
     OptionAction{OptionId::Exit, ActionType::ExitProgram},
     OptionAction{OptionId::Help, ActionType::PrintUsage},
+    OptionAction{OptionId::Version, ActionType::PrintVersion},
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "actions/pattern_file.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "files/file_types.h"
 #include "model/code_text.h"
@@ -22,6 +23,9 @@ constexpr int MaxHeight = 0xFFFF;
 // Without a window there is no resolution either, and points give no height.
 constexpr int NoScreen = 0;
 
+// Whether a font has a character does not depend on its height.
+constexpr int CheckHeight = 16;
+
 // Metrics wrap long before, and every step is a line of the log.
 constexpr int MaxCount = 0xFFFF;
 
@@ -30,10 +34,24 @@ void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
     if (!std::holds_alternative<int>(occurrence.values[parameter]))
         return;
     const int count = occurrence.Get<int>(parameter);
-    if (count < 1 || count > MaxCount)
-        throw CriticalException(Engine::tr("The %1 of -%2 has to be from 1 to %3.")
+    if (count > MaxCount)
+        throw CriticalException(Engine::tr("The %1 of -%2 has to be from 0 to %3.")
                                     .arg(occurrence.option->parameters[parameter].placeholder,
                                          occurrence.option->longName, QString::number(MaxCount)));
+}
+
+// It becomes a part of identifiers.
+QString CheckedName(const QString& name)
+{
+    const bool isUsable = !name.isEmpty() && std::ranges::all_of(name, [](QChar character) {
+        return character == u'_' || (character < u'\x80' && character.isLetterOrNumber());
+    });
+    if (!isUsable)
+        throw CriticalException(
+            Engine::tr("The name %1 is not usable: -name takes letters of ASCII, digits and "
+                       "underscores, as in the identifiers of C.")
+                .arg(Shown(name)));
+    return name;
 }
 
 void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
@@ -67,9 +85,46 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Verbose:
         options.verbose = true;
         break;
+    case OptionId::Check:
+        options.onlyChecks = true;
+        break;
+    case OptionId::Name:
+        options.open.name = CheckedName(occurrence.Get<QString>(0));
+        break;
+    case OptionId::Save:
+        if (!IsWritten(FileTypeOf(occurrence.Get<QString>(0))) &&
+            !IsBinaryKerningName(occurrence.Get<QString>(0)))
+            ThrowUnsupportedFormat();
+        break;
+    case OptionId::Kerning:
+        if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
+            ThrowUnsupportedFormat();
+        break;
+    case OptionId::Report:
+        options.reportPath = occurrence.Get<QString>(0);
+        break;
+    case OptionId::DependencyFile:
+        options.dependencyFilePath = occurrence.Get<QString>(0);
+        break;
     default:
         break;
     }
+}
+
+// A dependency file names what it is about.
+void CheckOutputs(const std::vector<OptionOccurrence>& occurrences, const RunOptions& options)
+{
+    const auto isGiven = [&occurrences](OptionId id) {
+        return std::ranges::find(occurrences, id, &OptionOccurrence::Id) != occurrences.end();
+    };
+    const bool writesFont = isGiven(OptionId::Save) || isGiven(OptionId::Kerning);
+    if (options.onlyChecks && writesFont)
+        throw CriticalException(
+            Engine::tr("-check writes no font: it can't be given with -save or -kerning."));
+    if (!options.dependencyFilePath.isEmpty() && !writesFont && options.reportPath.isEmpty())
+        throw CriticalException(
+            Engine::tr("-depfile needs a file that depends on others: give -save, -kerning or "
+                       "-report."));
 }
 
 bool OpensScalableFont(const OptionOccurrence& occurrence)
@@ -105,21 +160,33 @@ FontSize ParseHeight(const QString& text)
     return {height, inPoints};
 }
 
-RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool canAsk)
+RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool canAsk,
+                          const std::function<void(const Place&)>& onOption)
 {
     RunOptions options;
     bool needsHeight = false;
     bool hasFace = false;
     bool createsByName = false;
     for (const OptionOccurrence& occurrence : occurrences) {
+        onOption(occurrence.place);
         ReadOption(occurrence, options);
         needsHeight = needsHeight || OpensScalableFont(occurrence);
         hasFace = hasFace || occurrence.Id() == OptionId::Face;
         createsByName = createsByName || occurrence.Id() == OptionId::Create;
     }
+    onOption({});
+    CheckOutputs(occurrences, options);
     if (hasFace && createsByName)
         CurrentInterface().warning(
             u"Face"_s, Engine::tr("-face is not used with -create: the style tells the face."));
+    if (options.onlyChecks && options.open.size.value == 0) {
+        options.open.size = {CheckHeight, false};
+        options.open.render.height = CheckHeight;
+    }
+    if (!needsHeight) {
+        const EncodingType encoding = options.open.encoding.value_or(EncodingType::Unicode);
+        options.demand.SetEncoding(encoding);
+    }
     if (needsHeight && !canAsk && options.open.size.value == 0)
         throw CriticalException(
             Engine::tr("A scalable font needs a height: give -height (e.g. -height 24px)."));
@@ -148,12 +215,62 @@ void SelectRange(std::optional<CodeSet>& selection, CodeRange range, bool state)
     selection->SetRange(range.first, range.last, state);
 }
 
-void SelectPattern(std::optional<CodeSet>& selection, const QString& path)
+void SelectCodes(std::optional<CodeSet>& selection, const CodeSet& codes)
 {
-    const CodeSet pattern = PatternFile(path).Read();
     if (!selection)
         selection.emplace();
-    *selection |= pattern;
+    *selection |= codes;
+}
+
+bool SelectsCharacters(OptionId option)
+{
+    using enum OptionId;
+    return option == Enable || option == Disable || option == ReadPattern || option == Chars;
+}
+
+void Select(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    std::optional<CodeSet>& selection = options.open.selection;
+    Demand& demand = options.demand;
+    switch (occurrence.Id()) {
+    case OptionId::Enable:
+    case OptionId::Disable: {
+        const CodeRange range = Ordered(occurrence.Get<CodeRange>(0));
+        const bool enables = occurrence.Id() == OptionId::Enable;
+        SelectRange(selection, range, enables);
+        if (enables)
+            demand.AskRange(range, occurrence.place);
+        break;
+    }
+    case OptionId::ReadPattern: {
+        const QString& path = occurrence.Get<QString>(0);
+        const CodeSet pattern = PatternFile(path).Read();
+        SelectCodes(selection, pattern);
+        demand.Ask(pattern, {path, 0, {}});
+        break;
+    }
+    case OptionId::Chars: {
+        CodeSet codes;
+        for (const char32_t character : occurrence.Get<QString>(0).toUcs4()) {
+            if (const auto code = demand.Ask(character, occurrence.place))
+                codes.Set(*code, true);
+        }
+        SelectCodes(selection, codes);
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path)
+{
+    using enum OptionId;
+    const OptionId id = occurrence.Id();
+    if (id == Height || id == Bold || id == Italic || id == Face)
+        CurrentInterface().warning(Engine::tr("Option without effect"),
+                                   Engine::tr("-%1 was not used: the file %2 is not rendered.")
+                                       .arg(occurrence.option->longName, Shown(path)));
 }
 
 } // namespace Glyphor

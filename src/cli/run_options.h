@@ -1,7 +1,10 @@
 #pragma once
 
 #include "actions/action_open_font.h"
+#include "actions/demand.h"
 #include "cli/command_line_option.h"
+
+#include <functional>
 
 namespace Glyphor {
 
@@ -10,14 +13,20 @@ struct RunOptions
 {
     // The fields that options fill; the path comes with the option that opens the font.
     ActionOpenFontArgs open;
+    Demand demand; // for what the selection of characters asks for
     bool verbose = false;
+    bool onlyChecks = false;
+    QString reportPath;         // empty for none
+    QString dependencyFilePath; // likewise
 };
 
 // Reads and checks these options; a missing height may be asked for where somebody can. Throws a
 // CriticalException for a height that is no height, or that is missing where the font to open needs
-// one; warns of a height without a unit.
-[[nodiscard]] RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences,
-                                        bool canAsk = false);
+// one, and for files that can't be written because of their kind; warns of a height without a unit.
+// `onOption` is told which option is read.
+[[nodiscard]] RunOptions
+ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool canAsk = false,
+               const std::function<void(const Place&)>& onOption = [](const Place&) {});
 
 // "24px", "18pt", or a bare number of pixels, after a warning.
 [[nodiscard]] FontSize ParseHeight(const QString& text);
@@ -29,7 +38,16 @@ struct RunOptions
 // first option enables, and full where it disables.
 void SelectRange(std::optional<CodeSet>& selection, CodeRange range, bool state);
 
-// Adds the characters of a pattern file to the selection, which begins empty where this is first.
-void SelectPattern(std::optional<CodeSet>& selection, const QString& path);
+// Adds codes to the selection, which begins empty where this is first.
+void SelectCodes(std::optional<CodeSet>& selection, const CodeSet& codes);
+
+// True for the options that select characters, before a font is opened.
+[[nodiscard]] bool SelectsCharacters(OptionId option);
+
+// Runs one of them.
+void Select(const OptionOccurrence& occurrence, RunOptions& options);
+
+// Warns of an option that has no effect on the file, since that is not rendered.
+void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path);
 
 } // namespace Glyphor
