@@ -5,43 +5,54 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
+#include <cctype>
+
 namespace Glyphor {
 
 namespace {
 
-void CheckJson(QByteArrayView text, const TextCollector& collector)
+void CheckJson(const QByteArray& text, const TextCollector& collector)
 {
     QJsonParseError error;
-    static_cast<void>(
-        QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), text.size()), &error));
+    static_cast<void>(QJsonDocument::fromJson(text, &error));
     if (error.error != QJsonParseError::NoError)
         collector.Fail(Engine::tr("It is not valid JSON: %1").arg(Shown(error.errorString())),
                        LineAt(text, std::clamp<qsizetype>(error.offset, 0, text.size())));
 }
 
 // Of the four digits of an escape.
-char16_t JsonUnit(QByteArrayView string, qsizetype at)
+char16_t JsonUnit(QByteArrayView string, qsizetype at, const TextCollector& collector, int line)
 {
-    return static_cast<char16_t>(string.sliced(at, 4).toUShort(nullptr, 16));
+    const QByteArrayView digits =
+        string.sliced(at).first(std::min<qsizetype>(string.size() - at, 4));
+    const bool areDigits = std::ranges::all_of(
+        digits, [](char digit) { return std::isxdigit(static_cast<uchar>(digit)) != 0; });
+    if (digits.size() < 4 || !areDigits)
+        collector.Fail(Engine::tr("An escape sequence lacks its digits."), line);
+    return digits.toUShort(nullptr, 16);
 }
 
 // The escape whose backslash the string has there; returns the place behind it.
 qsizetype AddJsonEscape(QByteArrayView string, qsizetype at, TextCollector& collector, int line)
 {
     constexpr QByteArrayView controls("bfnrt");
+    constexpr QByteArrayView plain("\"\\/");
     const char kind = string[at + 1];
-    if (kind != 'u') {
-        collector.Add(controls.contains(kind) ? U'\n' : static_cast<uchar>(kind), line);
+    if (plain.contains(kind))
+        collector.Add(static_cast<uchar>(kind), line);
+    else if (kind != 'u' && !controls.contains(kind))
+        collector.Fail(Engine::tr("An escape sequence has no meaning."), line);
+    if (kind != 'u')
         return at + 2;
-    }
     constexpr qsizetype size = 6;
-    const char16_t unit = JsonUnit(string, at + 2);
+    const char16_t unit = JsonUnit(string, at + 2, collector, line);
     if (!QChar::isSurrogate(unit)) {
         collector.Add(unit, line);
         return at + size;
     }
     const QByteArrayView next = string.sliced(at + size);
-    const char16_t low = next.startsWith("\\u") ? JsonUnit(next, 2) : u'\0';
+    const char16_t low = next.startsWith("\\u") ? JsonUnit(next, 2, collector, line) : u'\0';
     if (!QChar::isHighSurrogate(unit) || !QChar::isLowSurrogate(low))
         collector.Fail(Engine::tr("It holds one half of a surrogate pair."), line);
     collector.Add(QChar::surrogateToUcs4(unit, low), line);
@@ -58,12 +69,24 @@ void AddJsonString(QByteArrayView string, TextCollector& collector, int line)
     }
 }
 
-// The place of the quote that closes the string in valid JSON.
-qsizetype EndOfJsonString(QByteArrayView text, qsizetype start)
+bool IsEscaped(QByteArrayView text, qsizetype start, qsizetype quote)
 {
-    qsizetype end = start;
-    while (text[end] != '"')
-        end += text[end] == '\\' ? 2 : 1;
+    qsizetype before = quote;
+    while (before > start && text[before - 1] == '\\')
+        --before;
+    return (quote - before) % 2 != 0;
+}
+
+// The place of the quote that closes the string, on its line.
+qsizetype EndOfJsonString(QByteArrayView text, qsizetype start, const TextCollector& collector,
+                          int line)
+{
+    qsizetype end = text.indexOf('"', start);
+    while (end >= 0 && IsEscaped(text, start, end))
+        end = text.indexOf('"', end + 1);
+    const QByteArrayView string = text.sliced(start).first(std::max<qsizetype>(end - start, 0));
+    if (end < 0 || string.contains('\n') || string.contains('\r'))
+        collector.Fail(Engine::tr("A string is not closed."), line);
     return end;
 }
 
@@ -77,21 +100,27 @@ bool IsJsonKey(QByteArrayView text, qsizetype behind)
 
 } // namespace
 
-// The toolkit's reader knows no lines, so it checks the text, and what is valid is easy to walk.
+// The toolkit's reader knows no lines and keeps all that it reads, so it checks no more than what
+// is around the values.
 void ReadJsonText(QByteArrayView text, TextCollector& collector)
 {
-    CheckJson(text, collector);
+    QByteArray frame;
+    frame.reserve(text.size());
     int line = 1;
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        if (EndsLine(text, at))
-            ++line;
-        if (text[at] != '"')
-            continue;
-        const qsizetype end = EndOfJsonString(text, at + 1);
-        if (!IsJsonKey(text, end + 1))
+    qsizetype end = 0;
+    for (qsizetype at = text.indexOf('"'); at >= 0; at = text.indexOf('"', end + 1)) {
+        line += LineAt(text.sliced(end), at - end) - 1;
+        frame.append(text.sliced(end, at - end));
+        end = EndOfJsonString(text, at + 1, collector, line);
+        if (IsJsonKey(text, end + 1)) {
+            frame.append(text.sliced(at, end - at));
+        } else {
+            frame.append('"');
             AddJsonString(text.sliced(at + 1, end - at - 1), collector, line);
-        at = end;
+        }
     }
+    frame.append(text.sliced(end));
+    CheckJson(frame, collector);
 }
 
 } // namespace Glyphor

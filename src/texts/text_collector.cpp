@@ -11,9 +11,10 @@ int TextCollector::AddUtf8(QByteArrayView utf8, int line)
 {
     for (qsizetype at = 0; at < utf8.size();) {
         const Utf8Character character = FirstCharacter(utf8.sliced(at));
-        Add(character.code, line);
-        if (EndsLine(utf8, at))
+        if (character.code < ' ' && EndsLine(utf8, at))
             ++line;
+        else
+            Add(character.code, line);
         at += std::max(character.size, 1);
     }
     return line;

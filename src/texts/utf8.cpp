@@ -6,7 +6,6 @@
 #include <QtEndian>
 
 #include <array>
-#include <bit>
 
 namespace Glyphor {
 
@@ -73,26 +72,6 @@ bool MayBeUtf16(QByteArrayView bytes)
 }
 
 } // namespace
-
-Utf8Character FirstMultibyteCharacter(QByteArrayView bytes)
-{
-    // The least code of each size; less is an overlong form.
-    constexpr std::array<char32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
-    const auto first = static_cast<uchar>(bytes.front());
-    const int size = std::countl_one(first);
-    if (size < 2 || size > 4 || bytes.size() < size)
-        return {};
-    char32_t code = first & (0x7FU >> size);
-    for (const char next : bytes.sliced(1, size - 1)) {
-        if ((static_cast<uchar>(next) & 0xC0U) != 0x80)
-            return {};
-        code = code << 6 | (static_cast<uchar>(next) & 0x3FU);
-    }
-    if (code < least[static_cast<std::size_t>(size)] || code > QChar::LastValidCodePoint ||
-        QChar::isSurrogate(code))
-        return {};
-    return {code, size};
-}
 
 int LineAt(QByteArrayView text, qsizetype at)
 {

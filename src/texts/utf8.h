@@ -1,6 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QChar>
+
+#include <array>
+#include <bit>
 
 namespace Glyphor {
 
@@ -13,11 +17,26 @@ struct Utf8Character
 };
 
 // The character that the bytes begin with.
-[[nodiscard]] Utf8Character FirstMultibyteCharacter(QByteArrayView bytes);
 [[nodiscard]] inline Utf8Character FirstCharacter(QByteArrayView bytes)
 {
+    // The least code of each size; less is an overlong form.
+    constexpr std::array<char32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
     const auto first = static_cast<uchar>(bytes.front());
-    return first < 0x80 ? Utf8Character{first, 1} : FirstMultibyteCharacter(bytes);
+    if (first < 0x80)
+        return {first, 1};
+    const int size = std::countl_one(first);
+    if (size < 2 || size > 4 || bytes.size() < size)
+        return {};
+    char32_t code = first & (0x7FU >> size);
+    for (const char next : bytes.sliced(1, size - 1)) {
+        if ((static_cast<uchar>(next) & 0xC0U) != 0x80)
+            return {};
+        code = code << 6 | (static_cast<uchar>(next) & 0x3FU);
+    }
+    if (code < least[static_cast<std::size_t>(size)] || code > QChar::LastValidCodePoint ||
+        QChar::isSurrogate(code))
+        return {};
+    return {code, size};
 }
 
 // Whether the byte is the last one of its line: LF, or CR without LF.

@@ -99,7 +99,6 @@ private Q_SLOTS:
         row("JSON", u"a.json"_s,
             "{\"k\" : \"a\\n\\\"\\\\\\/\", \"l\": [\"b\", {\"m\": \"\\u00e4\\uD83D\\uDE00c\", \"n\": 12}, true, \"d\"]}"_ba,
             u"a\"\\/bä😀cd"_s);
-        row("JSON, an escape of no meaning", u"a.json"_s, "[\"\\q\"]"_ba, u"q"_s);
 
         row("C strings", u"a.c"_s,
             "puts(\"a\\t\\\"\\x62\\143\\?\" \"\\xE2\\x82\\xAC\" \"\\u00E4\\U0001F600\\u{f6}\" u8\"d\");"_ba,
@@ -186,8 +185,17 @@ private Q_SLOTS:
             "<TS><message><translation>\n<byte value='xd800'/></translation></message></TS>"_ba,
             u"The value \"d800\" is no character."_s, 2);
         row("JSON", u"a.json"_s, "[1,\n2,]"_ba, u"It is not valid JSON: "_s, 2);
-        row("JSON, escape beyond ASCII", u"a.json"_s, "[\"\\\xc3\xa4\"]"_ba,
-            u"It is not valid JSON: "_s, 1);
+        row("JSON, damaged behind texts", u"a.json"_s, "[\"a\",\n\"\",\"\\\"\"\n\"\"]"_ba,
+            u"It is not valid JSON: "_s, 3);
+        row("JSON, damaged key", u"a.json"_s, "\n{\"\\u12\":1}"_ba, u"It is not valid JSON: "_s, 2);
+        row("JSON, open string", u"a.json"_s, "[\n\"a\n\"]"_ba, Open, 2);
+        row("JSON, open at the end", u"a.json"_s, "[\"a\\\""_ba, Open, 1);
+        row("JSON, no escape", u"a.json"_s, "[\"\\\xc3\xa4\"]"_ba,
+            u"An escape sequence has no meaning."_s, 1);
+        row("JSON, no digits", u"a.json"_s, "[\"\\u+123\"]"_ba,
+            u"An escape sequence lacks its digits."_s, 1);
+        row("JSON, few digits", u"a.json"_s, "[\"\\uD83D\\u12\"]"_ba,
+            u"An escape sequence lacks its digits."_s, 1);
         row("JSON, half a pair", u"a.json"_s, "[\n\"\\uD83Dx\"]"_ba, Half, 2);
         row("JSON, second half", u"a.json"_s, "[\"\\uDE00\"]"_ba, Half, 1);
         row("C, open string", u"a.c"_s, "\n\"a\\\nb\nc\""_ba, Open, 2);

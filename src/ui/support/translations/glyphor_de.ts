@@ -760,6 +760,10 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>Eine Zeichenkette ist nicht geschlossen.</translation>
     </message>
     <message>
+        <source>An escape sequence has no meaning.</source>
+        <translation>Eine Escape-Sequenz hat keine Bedeutung.</translation>
+    </message>
+    <message>
         <source>It is not valid JSON: %1</source>
         <translation>Sie ist kein gültiges JSON: %1</translation>
     </message>
