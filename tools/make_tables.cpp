@@ -1,6 +1,6 @@
 // Writes the constant character tables of src/model/ from the files of data/.
 //
-// Usage: make_tables UnicodeData.txt Blocks.txt ShiftJIS.txt OUTPUT.cpp
+// Usage: make_tables UnicodeData.txt Blocks.txt ShiftJIS.txt Charsets.txt OUTPUT.cpp
 //
 // Names stand in one string, each closed by a NUL, and records refer to them by offset, so that the
 // tables need no relocation when the program is loaded.
@@ -12,6 +12,7 @@
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -92,8 +93,37 @@ std::size_t CategoryNumber(const std::string& category)
     return static_cast<std::size_t>(found - kCategories.begin());
 }
 
-void WriteTables(const std::string& unicodePath, const std::string& blocksPath,
-                 const std::string& shiftJisPath, std::ostream& out)
+// Each set takes the ranges that follow those of the set before it.
+void WriteCharsets(const std::string& path, NamePool& pool, std::ostream& out)
+{
+    const std::vector<std::string> sets = ReadLines(path);
+    std::ostringstream ranges;
+    std::size_t rangeCount = 0;
+    out << "const CharsetRecord Charsets[" << sets.size() << "] = {\n";
+    for (const std::string& line : sets) {
+        const auto parts = Split(line, ";", 3);
+        const std::size_t firstRange = rangeCount;
+        std::istringstream words(parts[2]);
+        for (std::string word; words >> word; ++rangeCount) {
+            const std::size_t last = word.find('-') + 1;
+            ranges << "    {0x" << word.substr(0, 4) << ", 0x" << word.substr(last) << "},\n";
+        }
+        out << "    {" << pool.Add(parts[0]) << ", " << pool.Add(parts[1]) << ", " << firstRange
+            << ", " << rangeCount - firstRange << "},\n";
+    }
+    out << "};\n\nconst CodeRange CharsetRanges[" << rangeCount << "] = {\n"
+        << ranges.str() << "};\n\n";
+}
+
+struct TablePaths
+{
+    std::string unicode;
+    std::string blocks;
+    std::string shiftJis;
+    std::string charsets;
+};
+
+void WriteTables(const TablePaths& paths, std::ostream& out)
 {
     NamePool pool;
     const std::size_t noName = pool.Add("");
@@ -103,7 +133,7 @@ void WriteTables(const std::string& unicodePath, const std::string& blocksPath,
            "#include \"model/character_data.h\"\n\n"
            "namespace Glyphor::CharacterData\n{\n\n";
 
-    const std::vector<std::string> characters = ReadLines(unicodePath);
+    const std::vector<std::string> characters = ReadLines(paths.unicode);
     out << "const CharacterRecord Characters[" << characters.size() << "] = {\n";
     for (const std::string& line : characters) {
         const auto parts = Split(line, ";", 3);
@@ -112,7 +142,7 @@ void WriteTables(const std::string& unicodePath, const std::string& blocksPath,
         out << "    {0x" << parts[0] << ", " << CategoryNumber(parts[2]) << ", " << name << "},\n";
     }
 
-    const std::vector<std::string> blocks = ReadLines(blocksPath);
+    const std::vector<std::string> blocks = ReadLines(paths.blocks);
     out << "};\n\nconst BlockRecord Blocks[" << blocks.size() << "] = {\n";
     for (const std::string& line : blocks) {
         const auto parts = Split(line, "; ", 2);
@@ -120,7 +150,7 @@ void WriteTables(const std::string& unicodePath, const std::string& blocksPath,
         out << "    {0x" << range[0] << ", 0x" << range[1] << ", " << pool.Add(parts[1]) << "},\n";
     }
 
-    const std::vector<std::string> shiftJis = ReadLines(shiftJisPath);
+    const std::vector<std::string> shiftJis = ReadLines(paths.shiftJis);
     out << "};\n\nconst ShiftJisRecord ShiftJis[" << shiftJis.size() << "] = {\n";
     for (const std::string& line : shiftJis) {
         const auto parts = Split(line, "\t", 2);
@@ -131,6 +161,7 @@ void WriteTables(const std::string& unicodePath, const std::string& blocksPath,
     }
     out << "};\n\n";
 
+    WriteCharsets(paths.charsets, pool, out);
     pool.Write(out);
     out << "} // namespace Glyphor::CharacterData\n";
 }
@@ -139,16 +170,17 @@ void WriteTables(const std::string& unicodePath, const std::string& blocksPath,
 
 int main(int argc, char** argv)
 {
-    if (argc != 5) {
-        std::cerr << "usage: make_tables UnicodeData.txt Blocks.txt ShiftJIS.txt OUTPUT.cpp\n";
+    if (argc != 6) {
+        std::cerr << "usage: make_tables UnicodeData.txt Blocks.txt ShiftJIS.txt Charsets.txt "
+                     "OUTPUT.cpp\n";
         return EXIT_FAILURE;
     }
     try {
-        std::ofstream out(argv[4]);
-        WriteTables(argv[1], argv[2], argv[3], out);
+        std::ofstream out(argv[5]);
+        WriteTables({argv[1], argv[2], argv[3], argv[4]}, out);
         out.close();
         if (!out)
-            throw std::runtime_error(std::string("cannot write ") + argv[4]);
+            throw std::runtime_error(std::string("cannot write ") + argv[5]);
     } catch (const std::exception& error) {
         std::cerr << "make_tables: " << error.what() << '\n';
         return EXIT_FAILURE;

@@ -747,6 +747,90 @@ Erwartete Größe: %2 Byte.</translation>
         <source>The character 0x%1 has a size in the table that is not the size of its pixels.</source>
         <translation>Das Zeichen 0x%1 hat in der Tabelle eine andere Größe als seine Pixel.</translation>
     </message>
+    <message>
+        <source>A comment is not closed.</source>
+        <translation>Ein Kommentar ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A character literal is not closed.</source>
+        <translation>Eine Zeichenkonstante ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A string is not closed.</source>
+        <translation>Eine Zeichenkette ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>An escape sequence has no meaning.</source>
+        <translation>Eine Escape-Sequenz hat keine Bedeutung.</translation>
+    </message>
+    <message>
+        <source>It is not valid JSON: %1</source>
+        <translation>Sie ist kein gültiges JSON: %1</translation>
+    </message>
+    <message>
+        <source>It holds one half of a surrogate pair.</source>
+        <translation>Sie enthält die eine Hälfte eines Ersatzpaares.</translation>
+    </message>
+    <message>
+        <source>A field in quotes is not closed.</source>
+        <translation>Ein Feld in Anführungszeichen ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A message lacks its translation.</source>
+        <translation>Einer Meldung fehlt ihre Übersetzung.</translation>
+    </message>
+    <message>
+        <source>A translation lacks its message.</source>
+        <translation>Einer Übersetzung fehlt ihre Meldung.</translation>
+    </message>
+    <message>
+        <source>It is no catalogue of gettext.</source>
+        <translation>Sie ist kein Katalog von gettext.</translation>
+    </message>
+    <message>
+        <source>A string lacks its keyword.</source>
+        <translation>Einer Zeichenkette fehlt ihr Schlüsselwort.</translation>
+    </message>
+    <message>
+        <source>It is in the encoding %1; convert it to UTF-8.</source>
+        <translation>Sie hat die Kodierung %1; wandeln Sie sie in UTF-8 um.</translation>
+    </message>
+    <message>
+        <source>The number of an escape sequence is too large.</source>
+        <translation>Die Zahl einer Escape-Sequenz ist zu groß.</translation>
+    </message>
+    <message>
+        <source>An escape sequence lacks its digits.</source>
+        <translation>Einer Escape-Sequenz fehlen ihre Ziffern.</translation>
+    </message>
+    <message>
+        <source>It ends in the middle of a character.</source>
+        <translation>Sie endet mitten in einem Zeichen.</translation>
+    </message>
+    <message>
+        <source>It is not valid UTF-8.</source>
+        <translation>Sie ist kein gültiges UTF-8.</translation>
+    </message>
+    <message>
+        <source>It is in UTF-32; save it in UTF-8.</source>
+        <translation>Sie ist in UTF-32; speichern Sie sie in UTF-8.</translation>
+    </message>
+    <message>
+        <source>It seems to be in UTF-16, but it has no byte order mark.</source>
+        <translation>Sie ist wohl in UTF-16, hat aber keine Bytereihenfolge-Marke.</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; is no character.</source>
+        <translation>Der Wert „%1“ ist kein Zeichen.</translation>
+    </message>
+    <message>
+        <source>Its first element is not %1.</source>
+        <translation>Ihr erstes Element ist nicht %1.</translation>
+    </message>
+    <message>
+        <source>It is not valid XML: %1</source>
+        <translation>Sie ist kein gültiges XML: %1</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
