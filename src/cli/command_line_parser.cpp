@@ -2,9 +2,11 @@
 
 #include "app/critical_exception.h"
 #include "app/shown_text.h"
+#include "cli/command_line_parser_legacy.h"
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <limits>
 #include <set>
 
@@ -72,6 +74,8 @@ CodeRange ParseRange(const QString& text, const QString& placeholder)
     return {ParseCode(parts.first()), ParseCode(parts.last())};
 }
 
+} // namespace
+
 ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& text)
 {
     if (parameter.keywords != nullptr) {
@@ -90,6 +94,8 @@ ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& 
     }
 }
 
+namespace {
+
 // Walks the arguments. The positional option is counted without -hide, which may stand anywhere.
 class ArgumentReader
 {
@@ -100,28 +106,51 @@ public:
     {
         std::vector<OptionOccurrence> occurrences;
         for (int position = 0; next_ < arguments_.size();) {
-            const CommandLineOption& option = Recognise(arguments_[next_], position);
-            if (option.position < 0)
-                ++next_;
-            if (option.id != OptionId::Hide)
+            const CommandLineOption* const option = Recognise(arguments_[next_], position);
+            if (option == nullptr) {
+                ReadLegacy(arguments_[next_++], occurrences);
                 ++position;
-            occurrences.push_back({&option, ReadValues(option)});
+                continue;
+            }
+            if (option->position < 0)
+                ++next_;
+            if (option->id != OptionId::Hide)
+                ++position;
+            occurrences.push_back({option, ReadValues(*option)});
         }
+        std::ranges::move(limits_, std::back_inserter(occurrences));
         return occurrences;
     }
 
 private:
-    const CommandLineOption& Recognise(const QString& argument, int position)
+    // Null where no option has the name.
+    const CommandLineOption* Recognise(const QString& argument, int position)
     {
         for (const CommandLineOption& option : CommandLineOptions()) {
             const bool isPositional = option.position == position && !argument.startsWith(u'-');
             if (!isPositional && !IsNamed(option, argument))
                 continue;
-            if (!present_.insert(option.id).second && !option.multiple)
-                Fail(u"Argument -%1 supplied more than once!"_s.arg(option.longName));
-            return option;
+            MarkPresent(option);
+            return &option;
         }
-        Fail(u"Invalid argument %1 entered!"_s.arg(Shown(argument)));
+        return nullptr;
+    }
+
+    void MarkPresent(const CommandLineOption& option)
+    {
+        if (!present_.insert(option.id).second && !option.multiple)
+            Fail(u"Argument -%1 supplied more than once!"_s.arg(option.longName));
+    }
+
+    void ReadLegacy(const QString& argument, std::vector<OptionOccurrence>& occurrences)
+    {
+        LegacyUses legacy = legacyParser_.Parse(argument);
+        if (legacy.uses.empty())
+            Fail(u"Invalid argument %1 entered!"_s.arg(Shown(argument)));
+        for (const OptionOccurrence& use : legacy.uses)
+            MarkPresent(*use.option);
+        std::ranges::move(legacy.uses, std::back_inserter(occurrences));
+        std::ranges::move(legacy.limits, std::back_inserter(limits_));
     }
 
     std::vector<ParameterValue> ReadValues(const CommandLineOption& option)
@@ -142,6 +171,7 @@ private:
         const QString& argument = arguments_[next_];
         if (argument.startsWith(u'-')) {
             const bool isOption =
+                legacyParser_.CanBegin(argument) ||
                 std::ranges::any_of(CommandLineOptions(), [&argument](const auto& option) {
                     return IsNamed(option, argument);
                 });
@@ -157,6 +187,8 @@ private:
     const QStringList& arguments_;
     qsizetype next_ = 0;
     std::set<OptionId> present_;
+    CommandLineParserLegacy legacyParser_;
+    std::vector<OptionOccurrence> limits_;
 };
 
 // Moves the first occurrence of the option to the place; the others keep their order.

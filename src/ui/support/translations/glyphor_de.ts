@@ -747,6 +747,26 @@ Erwartete Größe: %2 Byte.</translation>
         <source>The character 0x%1 has a size in the table that is not the size of its pixels.</source>
         <translation>Das Zeichen 0x%1 hat in der Tabelle eine andere Größe als seine Pixel.</translation>
     </message>
+    <message>
+        <source>Error parsing range: %1</source>
+        <translation>Fehler beim Lesen des Bereichs: %1</translation>
+    </message>
+    <message>
+        <source>Invalid create string syntax: %1</source>
+        <translation>Ungültige Angaben zum Erstellen der Schrift: %1</translation>
+    </message>
+    <message>
+        <source>Invalid create string syntax: W%1</source>
+        <translation>Ungültige Angaben zum Erstellen der Schrift: W%1</translation>
+    </message>
+    <message>
+        <source>Invalid font format: %1</source>
+        <translation>Ungültiges Schriftformat: %1</translation>
+    </message>
+    <message>
+        <source>Invalid encoding type: %2</source>
+        <translation>Ungültige Kodierung: %2</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
