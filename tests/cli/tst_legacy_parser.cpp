@@ -6,6 +6,7 @@
 #include "support/test_main.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -58,6 +59,12 @@ private Q_SLOTS:
     void NewForms_data()
     {
         const LineRows row;
+        const QRegularExpression entry(
+            u"<td><code>(-[^<]*)</code></td><td><code>(-[^<]*)</code>"_s);
+        const QString manual = Test::Document(u"docs/manual/index.html"_s);
+        QVERIFY(manual.contains(entry));
+        for (const QRegularExpressionMatch& match : entry.globalMatch(manual))
+            row(match.captured(1), match.captured(2));
         for (const auto& [old, now] : {std::pair(u"STD"_s, u"LEG"_s),
                                        {u"AA2"_s, u"LEG_AA2"_s},
                                        {u"aa4"_s, u"LEG_AA4"_s},
