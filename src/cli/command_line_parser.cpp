@@ -2,9 +2,11 @@
 
 #include "app/critical_exception.h"
 #include "app/shown_text.h"
+#include "cli/command_line_parser_legacy.h"
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <limits>
 #include <set>
 
@@ -63,6 +65,8 @@ CodeRange ParseRange(const QString& text, const QString& placeholder)
     return {ParseCode(parts.first()), ParseCode(parts.last())};
 }
 
+} // namespace
+
 ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& text)
 {
     if (parameter.keywords != nullptr) {
@@ -81,6 +85,8 @@ ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& 
     }
 }
 
+namespace {
+
 // Walks the arguments. The positional option is counted without -hide, which may stand anywhere.
 class ArgumentReader
 {
@@ -92,19 +98,25 @@ public:
         std::vector<OptionOccurrence> occurrences;
         for (int position = 0; next_ < arguments_.size();) {
             place_ = arguments_[next_].place;
-            const CommandLineOption& option = Recognise(arguments_[next_].text, position);
-            const std::size_t begin = next_;
-            if (option.position < 0) {
+            const CommandLineOption* const option = Recognise(arguments_[next_].text, position);
+            if (option == nullptr || option->position < 0)
                 place_.option = arguments_[next_].text;
-                ++next_;
+            if (option == nullptr) {
+                ReadLegacy(arguments_[next_++].text, occurrences);
+                ++position;
+                continue;
             }
-            if (option.id != OptionId::Hide)
+            const std::size_t begin = next_;
+            if (option->position < 0)
+                ++next_;
+            if (option->id != OptionId::Hide)
                 ++position;
             OptionOccurrence& occurrence =
-                occurrences.emplace_back(&option, ReadValues(option), place_);
+                occurrences.emplace_back(option, ReadValues(*option), place_);
             for (std::size_t word = begin; word < next_; ++word)
                 occurrence.words.append(arguments_[word].text);
         }
+        std::ranges::move(limits_, std::back_inserter(occurrences));
         return occurrences;
     }
 
@@ -112,17 +124,37 @@ public:
     [[nodiscard]] const Place& CurrentPlace() const { return place_; }
 
 private:
-    const CommandLineOption& Recognise(const QString& argument, int position)
+    // Null where no option has the name.
+    const CommandLineOption* Recognise(const QString& argument, int position)
     {
         for (const CommandLineOption& option : CommandLineOptions()) {
             const bool isPositional = option.position == position && !argument.startsWith(u'-');
             if (!isPositional && FindOption(argument) != &option)
                 continue;
-            if (!present_.insert(option.id).second && !option.multiple)
-                Fail(u"Argument -%1 supplied more than once!"_s.arg(option.longName));
-            return option;
+            MarkPresent(option);
+            return &option;
         }
-        Fail(u"Invalid argument %1 entered!"_s.arg(Shown(argument)));
+        return nullptr;
+    }
+
+    void MarkPresent(const CommandLineOption& option)
+    {
+        if (!present_.insert(option.id).second && !option.multiple)
+            Fail(u"Argument -%1 supplied more than once!"_s.arg(option.longName));
+    }
+
+    void ReadLegacy(const QString& argument, std::vector<OptionOccurrence>& occurrences)
+    {
+        LegacyUses legacy = legacyParser_.Parse(argument);
+        if (legacy.uses.empty())
+            Fail(u"Invalid argument %1 entered!"_s.arg(Shown(argument)));
+        for (OptionOccurrence& use : legacy.uses) {
+            MarkPresent(*use.option);
+            use.place = place_;
+        }
+        legacy.uses.front().words.append(argument);
+        std::ranges::move(legacy.uses, std::back_inserter(occurrences));
+        std::ranges::move(legacy.limits, std::back_inserter(limits_));
     }
 
     std::vector<ParameterValue> ReadValues(const CommandLineOption& option)
@@ -142,7 +174,9 @@ private:
         }
         const QString& argument = arguments_[next_].text;
         if (argument.startsWith(u'-')) {
-            if (parameter.required || FindOption(argument) == nullptr)
+            const bool isOption =
+                FindOption(argument) != nullptr || legacyParser_.CanBegin(argument);
+            if (parameter.required || !isOption)
                 Fail(
                     u"Read new argument %1 where a parameter was expected!"_s.arg(Shown(argument)));
             return {};
@@ -155,6 +189,8 @@ private:
     std::size_t next_ = 0;
     std::set<OptionId> present_;
     Place place_;
+    CommandLineParserLegacy legacyParser_;
+    std::vector<OptionOccurrence> limits_;
 };
 
 // Moves the first occurrence of the option to the place; the others keep their order.

@@ -29,6 +29,9 @@ public:
     [[nodiscard]] QString KeywordList(const ParameterKeywordTable& keywords) const;
 };
 
+// The value that a text has as that parameter; throws a CriticalException where it has none.
+[[nodiscard]] ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& text);
+
 // Puts the options into the order in which they run: the character selection, then the font that it
 // applies to, the others as given, saving and leaving last.
 void ReorderOccurrences(std::vector<OptionOccurrence>& occurrences);

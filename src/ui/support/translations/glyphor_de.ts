@@ -830,6 +830,24 @@ Erwartete Größe: %2 Byte.</translation>
     <message>
         <source>It is not valid XML: %1</source>
         <translation>Sie ist kein gültiges XML: %1</translation>
+        <source>Error parsing range: %1</source>
+        <translation>Fehler beim Lesen des Bereichs: %1</translation>
+    </message>
+    <message>
+        <source>Invalid create string syntax: %1</source>
+        <translation>Ungültige Angaben zum Erstellen der Schrift: %1</translation>
+    </message>
+    <message>
+        <source>Invalid create string syntax: W%1</source>
+        <translation>Ungültige Angaben zum Erstellen der Schrift: W%1</translation>
+    </message>
+    <message>
+        <source>Invalid font format: %1</source>
+        <translation>Ungültiges Schriftformat: %1</translation>
+    </message>
+    <message>
+        <source>Invalid encoding type: %2</source>
+        <translation>Ungültige Kodierung: %2</translation>
     </message>
 </context>
 <context>
