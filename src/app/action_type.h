@@ -62,7 +62,8 @@ enum class ActionType : int {
     ExitProgram = 54,
     ListFonts = 60,
     PrintUsage = 64,
-    PrintVersion = 67
+    PrintVersion = 67,
+    ListCharsets = 68
 };
 
 } // namespace Glyphor

@@ -9,7 +9,7 @@ struct Place
 {
     QString file;   // empty: in none
     int line = 0;   // counted from 1; 0: the file as a whole
-    QString option; // as it was written, "-save"
+    QString option = {}; // as it was written, "-save"
 };
 
 } // namespace Glyphor

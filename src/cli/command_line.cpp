@@ -11,6 +11,7 @@
 #include "app/version.h"
 #include "cli/installed_fonts.h"
 #include "cli/option_actions.h"
+#include "model/charset.h"
 #include "render/free_type_library.h"
 
 #include <QScopeGuard>
@@ -61,10 +62,22 @@ void UseSettings(const std::vector<OptionOccurrence>& occurrences)
     }
 }
 
+QString CharsetTable()
+{
+    constexpr int nameWidth = 12;
+    constexpr int countWidth = 5;
+    QString table;
+    for (const Charset& charset : Charsets())
+        table += u"%1 %2  %3\n"_s.arg(QString(CharsetName(charset)), -nameWidth)
+                     .arg(CodesOf(charset).Count(), countWidth)
+                     .arg(CharsetDescription(charset));
+    return table;
+}
+
 QString Versions()
 {
-    return u"%1 %2\nFreeType %3\nQt %4\n"_s.arg(Program::Name, Program::Version,
-                                                FreeTypeVersion(), QLatin1StringView(qVersion()));
+    return u"%1 %2\nFreeType %3\nQt %4\n"_s.arg(Program::Name, Program::Version, FreeTypeVersion(),
+                                                QLatin1StringView(qVersion()));
 }
 
 // A line of standard input, of which the first characters matter; nothing at its end.
@@ -96,7 +109,8 @@ bool CommandLine::isCommandLineMode(int argc, const char* const* argv)
 {
     try {
         const Arguments arguments = ReadArguments(argc, argv);
-        return arguments.Names(OptionId::Hide) || arguments.Names(OptionId::Version);
+        return arguments.Names(OptionId::Hide) || arguments.Names(OptionId::Version) ||
+               arguments.Names(OptionId::ListCharsets);
     } catch (const CriticalException&) {
         return true;
     }
@@ -109,8 +123,8 @@ void CommandLine::Fail(const QString& title, const QString& text, const Place& p
         messages_.SetPlace(place);
     const QString where = PlaceLine(messages_.CurrentPlace(), text);
     const bool isOnConsole = &CurrentInterface() == this;
-    CurrentInterface().critical(title, isOnConsole || where.isEmpty() ? text
-                                                                      : text + u'\n' + where);
+    CurrentInterface().critical(title,
+                                isOnConsole || where.isEmpty() ? text : text + u'\n' + where);
     if (!isOnConsole)
         messages_.MarkFailed();
     if (toFile)
@@ -125,7 +139,8 @@ void CommandLine::RunGuarded(int argc, const char* const* argv, Session& session
     try {
         try {
             const Arguments arguments = ReadArguments(argc, argv);
-            messages_.SetMode({arguments.Names(OptionId::Strict), arguments.Names(OptionId::Quiet)});
+            messages_.SetMode(
+                {arguments.Names(OptionId::Strict), arguments.Names(OptionId::Quiet)});
             toFile = arguments.Names(OptionId::ErrorFile);
             Run(arguments, session);
         } catch (const CriticalException& error) {
@@ -259,6 +274,9 @@ bool CommandLine::handleRequest(ActionType kind)
         return true;
     case ActionType::PrintUsage:
         messages_.Answer(parser_.usage());
+        return true;
+    case ActionType::ListCharsets:
+        messages_.Answer(CharsetTable());
         return true;
     case ActionType::PrintVersion:
         messages_.Answer(Versions());

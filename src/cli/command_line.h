@@ -22,8 +22,8 @@ public:
     // The program's own, made on first use; it outlives the application object.
     static CommandLine& Instance();
 
-    // True where "-hide", or an option that needs no window, stands among the arguments, in any letter
-    // case; also where they can't all be read, since nobody knows then.
+    // True where "-hide", or an option that needs no window, stands among the arguments, in any
+    // letter case; also where they can't all be read, since nobody knows then.
     [[nodiscard]] static bool isCommandLineMode(int argc, const char* const* argv);
 
     // Parses and runs the arguments on the session's font. A failure is shown by the current
@@ -46,8 +46,8 @@ public:
     bool ProgressChanged(const QString& text, int value, int maximum) override;
     void ProgressFinished() override;
 
-    // Throw a CriticalException where standard input ends before an answer, or is no terminal and gives a
-    // hundred wrong ones.
+    // Throw a CriticalException where standard input ends before an answer, or is no terminal and
+    // gives a hundred wrong ones.
     std::optional<FormatChoice> askFontFormat(EncodingType assumed) override;
     std::optional<MergeMode> askMergeMode() override;
 

@@ -84,8 +84,8 @@ std::vector<CommandLineOption> MakeOptions()
                u"Disable a range of characters. Allowed are decimal or hexadecimal ranges (e.g. "
                "0x10-0x30) or \"all\"."_s,
                {.multiple = true}),
-        Option(ReadPattern, u"readpattern"_s, u"p"_s, {File()},
-               u"Reads a pattern file."_s, {.multiple = true}),
+        Option(ReadPattern, u"readpattern"_s, u"p"_s, {File()}, u"Reads a pattern file."_s,
+               {.multiple = true}),
         Option(EditFont, u"editfont"_s, u"ef"_s,
                {Text(u"<action>"_s, &FontEditKeywords()), Number(u"<count>"_s, false)},
                u"Equivalent to the 'Edit' menu (font dependent)."_s, {.multiple = true}),
@@ -96,8 +96,7 @@ std::vector<CommandLineOption> MakeOptions()
                {File(), Text(u"<merge mode>"_s, &MergeKeywords(), false)},
                u"Merge the currently loaded font with another font file. Only C, XBF, SIF and BDF "
                "allowed."_s),
-        Option(Save, u"save"_s, u"s"_s, {File()}, u"Save font file."_s,
-               {.required = true}),
+        Option(Save, u"save"_s, u"s"_s, {File()}, u"Save font file."_s, {.required = true}),
         Option(
             ListFonts, u"listfonts"_s, u"lf"_s, {},
             u"Lists all font families and styles found in the given font directories. These fonts "
@@ -111,9 +110,10 @@ std::vector<CommandLineOption> MakeOptions()
         Option(ErrorFile, u"xirtsek"_s, {}, {}, {}),
         Option(Help, u"help"_s, u"?"_s, {}, u"Displays usage information and exits."_s,
                {.standalone = true}),
-        Option(Strict, u"strict"_s, u"st"_s, {},
-               u"Tells by the exit status how the run went (0 well, 1 error, 2 warnings) and writes "
-               "messages to standard error as compilers do."_s),
+        Option(
+            Strict, u"strict"_s, u"st"_s, {},
+            u"Tells by the exit status how the run went (0 well, 1 error, 2 warnings) and writes "
+            "messages to standard error as compilers do."_s),
         Option(Quiet, u"quiet"_s, u"q"_s, {}, u"Prints warnings and errors only."_s),
         Option(Version, u"version"_s, u"ver"_s, {},
                u"Displays the versions of the program and of what it uses, and exits."_s,
@@ -123,15 +123,25 @@ std::vector<CommandLineOption> MakeOptions()
         Option(Set, u"set"_s, u"se"_s, {Text(u"<key>=<value>"_s)},
                u"Uses a value for one of the settings in this run, e.g. WritePaths=false."_s,
                {.multiple = true}),
+        Option(
+            TextFile, u"text"_s, u"t"_s, {File()},
+            u"Enables the characters of a text: PO, TS, XLIFF, JSON, CSV, C and C++ by what they "
+            "say, any other file as a whole."_s,
+            {.multiple = true}),
         Option(Chars, u"chars"_s, u"ch"_s, {Text(u"<text>"_s)},
                u"Enables the characters of the text."_s, {.multiple = true}),
+        Option(Charset, u"charset"_s, u"cs"_s, {Text(u"<name>"_s)},
+               u"Enables the characters of a standard (e.g. latin1) or a language (e.g. de)."_s,
+               {.multiple = true}),
+        Option(ListCharsets, u"listcharsets"_s, u"lc"_s, {},
+               u"Lists the names that -charset takes, and how many characters they have."_s,
+               {.standalone = true}),
         Option(Check, u"check"_s, u"ck"_s, {},
                u"Tells which of the characters that were asked for the font does not have, and "
                "writes no font."_s),
         Option(Name, u"name"_s, u"n"_s, {Text(u"<name>"_s)},
                u"Name of the font, and of the C structure behind \"GUI_Font\"."_s),
-        Option(Kerning, u"kerning"_s, u"k"_s, {File()},
-               u"Save kerning table as a C file."_s),
+        Option(Kerning, u"kerning"_s, u"k"_s, {File()}, u"Save kerning table as a C file."_s),
         Option(Report, u"report"_s, u"r"_s, {File()},
                u"Writes what was made of what into a JSON file."_s),
         Option(DependencyFile, u"depfile"_s, u"dep"_s, {File()},
@@ -158,6 +168,13 @@ std::span<const CommandLineOption> CommandLineOptions()
 const CommandLineOption& OptionOf(OptionId id)
 {
     return *std::ranges::find(CommandLineOptions(), id, &CommandLineOption::id);
+}
+
+bool SelectsCharacters(OptionId option)
+{
+    using enum OptionId;
+    constexpr std::array selecting = {Enable, Disable, ReadPattern, TextFile, Chars, Charset};
+    return std::ranges::find(selecting, option) != selecting.end();
 }
 
 const CommandLineOption* FindOption(QStringView argument)

@@ -41,7 +41,10 @@ enum class OptionId : int {
     Version = 24,
     Defaults = 25,
     Set = 26,
+    TextFile = 27,
     Chars = 28,
+    Charset = 29,
+    ListCharsets = 30,
     Check = 31,
     Name = 32,
     Kerning = 33,
@@ -116,8 +119,8 @@ struct OptionOccurrence
 {
     const CommandLineOption* option;
     std::vector<ParameterValue> values; // one for each parameter
-    Place place;
-    QStringList words; // as they were given: the name, and each value that was not left out
+    Place place = {};
+    QStringList words = {}; // as they were given: the name, and each value that was not left out
 
     [[nodiscard]] OptionId Id() const { return option->id; }
 
@@ -133,7 +136,11 @@ struct OptionOccurrence
 
 [[nodiscard]] const CommandLineOption& OptionOf(OptionId id);
 
-// The option that the argument names in any letter case, "-save" or "-s"; null for no option's name.
+// True for the options that select characters, which run before a font is opened.
+[[nodiscard]] bool SelectsCharacters(OptionId option);
+
+// The option that the argument names in any letter case, "-save" or "-s"; null for no option's
+// name.
 [[nodiscard]] const CommandLineOption* FindOption(QStringView argument);
 
 [[nodiscard]] const ParameterKeywordTable& FormatKeywords();

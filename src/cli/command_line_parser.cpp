@@ -208,12 +208,6 @@ void MoveToBack(std::vector<OptionOccurrence>& occurrences, OptionId id)
         std::rotate(found, found + 1, occurrences.end());
 }
 
-bool IsSelection(const OptionOccurrence& occurrence)
-{
-    return occurrence.Id() == OptionId::Enable || occurrence.Id() == OptionId::Disable ||
-           occurrence.Id() == OptionId::ReadPattern || occurrence.Id() == OptionId::Chars;
-}
-
 } // namespace
 
 std::vector<OptionOccurrence> CommandLineParser::parse(const QStringList& arguments) const
@@ -263,7 +257,9 @@ void ReorderOccurrences(std::vector<OptionOccurrence>& occurrences)
 {
     MoveToFront(occurrences, OptionId::Open);
     MoveToFront(occurrences, OptionId::Create);
-    std::stable_partition(occurrences.begin(), occurrences.end(), IsSelection);
+    std::stable_partition(occurrences.begin(), occurrences.end(), [](const auto& occurrence) {
+        return SelectsCharacters(occurrence.Id());
+    });
     MoveToBack(occurrences, OptionId::Save);
     MoveToBack(occurrences, OptionId::Kerning);
     MoveToBack(occurrences, OptionId::Exit);

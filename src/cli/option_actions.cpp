@@ -118,6 +118,7 @@ constexpr std::array OptionActions = {
     OptionAction{OptionId::ListFonts, ActionType::ListFonts},
     OptionAction{OptionId::Exit, ActionType::ExitProgram},
     OptionAction{OptionId::Help, ActionType::PrintUsage},
+    OptionAction{OptionId::ListCharsets, ActionType::ListCharsets},
     OptionAction{OptionId::Version, ActionType::PrintVersion},
 };
 

@@ -6,7 +6,9 @@
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "files/file_types.h"
+#include "model/charset.h"
 #include "model/code_text.h"
+#include "texts/text_file.h"
 
 #include <algorithm>
 #include <utility>
@@ -222,16 +224,24 @@ void SelectCodes(std::optional<CodeSet>& selection, const CodeSet& codes)
     *selection |= codes;
 }
 
-bool SelectsCharacters(OptionId option)
+const Charset& CharsetNamed(const QString& name)
 {
-    using enum OptionId;
-    return option == Enable || option == Disable || option == ReadPattern || option == Chars;
+    const Charset* const charset = FindCharset(name);
+    if (charset == nullptr)
+        throw CriticalException(
+            Engine::tr("There is no character set %1: -listcharsets lists them.").arg(Shown(name)));
+    return *charset;
 }
 
 void Select(const OptionOccurrence& occurrence, RunOptions& options)
 {
     std::optional<CodeSet>& selection = options.open.selection;
     Demand& demand = options.demand;
+    CodeSet asked;
+    const auto ask = [&](char32_t character, const Place& place) {
+        if (const auto code = demand.Ask(character, place))
+            asked.Set(*code, true);
+    };
     switch (occurrence.Id()) {
     case OptionId::Enable:
     case OptionId::Disable: {
@@ -249,15 +259,23 @@ void Select(const OptionOccurrence& occurrence, RunOptions& options)
         demand.Ask(pattern, {path, 0, {}});
         break;
     }
-    case OptionId::Chars: {
-        CodeSet codes;
-        for (const char32_t character : occurrence.Get<QString>(0).toUcs4()) {
-            if (const auto code = demand.Ask(character, occurrence.place))
-                codes.Set(*code, true);
-        }
-        SelectCodes(selection, codes);
+    case OptionId::TextFile: {
+        const QString& path = occurrence.Get<QString>(0);
+        for (const auto& [character, line] : ReadTextFile(path))
+            ask(character, {path, line, {}});
+        SelectCodes(selection, asked);
         break;
     }
+    case OptionId::Chars:
+        for (const char32_t character : occurrence.Get<QString>(0).toUcs4())
+            ask(character, occurrence.place);
+        SelectCodes(selection, asked);
+        break;
+    case OptionId::Charset:
+        for (const quint16 code : CodesOf(CharsetNamed(occurrence.Get<QString>(0))))
+            ask(code, occurrence.place);
+        SelectCodes(selection, asked);
+        break;
     default:
         break;
     }

@@ -24,9 +24,9 @@ struct RunOptions
 // CriticalException for a height that is no height, or that is missing where the font to open needs
 // one, and for files that can't be written because of their kind; warns of a height without a unit.
 // `onOption` is told which option is read.
-[[nodiscard]] RunOptions
-ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool canAsk = false,
-               const std::function<void(const Place&)>& onOption = [](const Place&) {});
+[[nodiscard]] RunOptions ReadRunOptions(
+    const std::vector<OptionOccurrence>& occurrences, bool canAsk = false,
+    const std::function<void(const Place&)>& onOption = [](const Place&) {});
 
 // "24px", "18pt", or a bare number of pixels, after a warning.
 [[nodiscard]] FontSize ParseHeight(const QString& text);
@@ -41,10 +41,7 @@ void SelectRange(std::optional<CodeSet>& selection, CodeRange range, bool state)
 // Adds codes to the selection, which begins empty where this is first.
 void SelectCodes(std::optional<CodeSet>& selection, const CodeSet& codes);
 
-// True for the options that select characters, before a font is opened.
-[[nodiscard]] bool SelectsCharacters(OptionId option);
-
-// Runs one of them.
+// Runs an option that selects characters.
 void Select(const OptionOccurrence& occurrence, RunOptions& options);
 
 // Warns of an option that has no effect on the file, since that is not rendered.

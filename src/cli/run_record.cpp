@@ -82,6 +82,8 @@ RunRecord::RunRecord(const QStringList& argumentFiles,
         optionsInForce_.append(QJsonArray::fromStringList(words));
         if (occurrence.Id() == OptionId::ReadPattern)
             inputs_.push_back({"pattern", occurrence.Get<QString>(0)});
+        if (occurrence.Id() == OptionId::TextFile)
+            inputs_.push_back({"text", occurrence.Get<QString>(0)});
     }
 }
 
