@@ -3,6 +3,8 @@
 #include "texts/string_literal.h"
 #include "texts/text_readers.h"
 
+#include <algorithm>
+
 namespace Glyphor {
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include "app/engine_texts.h"
 
+#include <limits>
+
 namespace Glyphor {
 
 namespace {

@@ -5,6 +5,8 @@
 #include "app/shown_text.h"
 #include "texts/utf8.h"
 
+#include <algorithm>
+
 namespace Glyphor {
 
 int TextCollector::AddUtf8(QByteArrayView utf8, int line)

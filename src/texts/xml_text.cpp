@@ -5,6 +5,10 @@
 
 #include <QXmlStreamReader>
 
+#include <algorithm>
+#include <functional>
+#include <vector>
+
 namespace Glyphor {
 
 namespace {
