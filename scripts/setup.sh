@@ -28,11 +28,12 @@ install() {
             apt-get install -y --no-install-recommends "${missing[@]}" >&2
 }
 
-# build PRESET [TARGET...]: configures once and builds; prints to standard error only.
+# build PRESET [TARGET...]: configures where the preset is new or changed, and builds; prints to standard
+# error only.
 build() {
     local preset=$1
     shift
-    if [ ! -f "build/$preset/build.ninja" ]; then
+    if [ ! "build/$preset/build.ninja" -nt CMakePresets.json ]; then
         cmake --preset "$preset" >&2 || return 1
     fi
     cmake --build --preset "$preset" ${1:+--target "$@"} >&2
