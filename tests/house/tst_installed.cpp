@@ -1,3 +1,4 @@
+#include "files/file_types.h"
 #include "support/test_main.h"
 
 #include <QFileInfo>
@@ -42,6 +43,20 @@ private Q_SLOTS:
         QVERIFY2(QFileInfo::exists(Installed(u"out.c"_s)), said.constData());
         QVERIFY(QFileInfo::exists(
             Installed(QStringLiteral(WINDOW_FOLDER "/" MANUAL_FOLDER "/index.html"))));
+    }
+
+    // Desktops know each kind of file that no other program has.
+    void KindsAreKnown()
+    {
+        const QByteArray kinds =
+            Test::ReadAll(Installed(u"share/mime/packages/com.example.morvek.Glyphor.xml"_s));
+        for (const FileTypeRow& row : FileTypeTable) {
+            if (!row.isWritten || row.type == FileType::C)
+                continue;
+            for (const QLatin1StringView suffix : row.suffixes)
+                QVERIFY2(kinds.contains("<glob pattern=\"*" + QByteArray(suffix.data()) + "\"/>"),
+                         suffix.data());
+        }
     }
 };
 

@@ -21,6 +21,7 @@ Application* current = nullptr;
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
     current = this;
+    setDesktopFileName(u"com.example.morvek.Glyphor"_s);
     if (LoadTexts(QLocale(), texts_, toolkitTexts_)) {
         installTranslator(&toolkitTexts_);
         installTranslator(&texts_);
