@@ -23,7 +23,7 @@ QString WindowProgram(int argc, char** argv)
 {
     const Glyphor::CoreApplication application(argc, argv);
     const QString folder = QCoreApplication::applicationDirPath();
-    const QString built = folder + u"/Glyphor-window"_s;
+    QString built = folder + u"/Glyphor-window"_s;
     if (QFile::exists(built))
         return built;
     return QDir::cleanPath(folder + QStringLiteral("/" GLYPHOR_WINDOW_FOLDER "/Glyphor-window"));

@@ -1,9 +1,14 @@
-# Gives the files of a Debian package the form that policy wants: the changelogs and the copyright, and what man
-# reads compressed.
+# Gives what is installed the form that Debian's policy wants.
 
 set(installed ${CPACK_TEMPORARY_INSTALL_DIRECTORY}${CPACK_PACKAGING_INSTALL_PREFIX})
 set(documents ${installed}/${CPACK_GLYPHOR_DOCDIR})
-file(COPY ${CPACK_GLYPHOR_DEBIAN}/copyright DESTINATION ${documents})
+
+list(TRANSFORM CPACK_GLYPHOR_PROGRAMS PREPEND ${installed}/ OUTPUT_VARIABLE programs)
+execute_process(
+    COMMAND ${CPACK_GLYPHOR_STRIP} --strip-unneeded --remove-section=.comment --remove-section=.note ${programs}
+    COMMAND_ERROR_IS_FATAL ANY)
+
+configure_file(${CPACK_GLYPHOR_DEBIAN}/copyright ${documents}/copyright COPYONLY)
 file(REMOVE ${documents}/LICENSE-UNICODE.txt) # the copyright has it
 configure_file(${CPACK_GLYPHOR_CHANGES} ${documents}/changelog COPYONLY)
 configure_file(${CPACK_GLYPHOR_CHANGELOG} ${documents}/changelog.Debian COPYONLY)
@@ -12,5 +17,5 @@ execute_process(
     COMMAND gzip -9nf ${documents}/changelog ${documents}/changelog.Debian ${pages}
     COMMAND_ERROR_IS_FATAL ANY)
 
-file(COPY ${CPACK_GLYPHOR_DEBIAN}/overrides DESTINATION ${installed}/share/lintian)
-file(RENAME ${installed}/share/lintian/overrides/glyphor.overrides ${installed}/share/lintian/overrides/glyphor)
+configure_file(${CPACK_GLYPHOR_DEBIAN}/doc-base ${installed}/share/doc-base/glyphor.glyphor-manual COPYONLY)
+configure_file(${CPACK_GLYPHOR_DEBIAN}/lintian-overrides ${installed}/share/lintian/overrides/glyphor COPYONLY)
