@@ -208,7 +208,7 @@ private Q_SLOTS:
             QTest::keyClicks(name, u"Big 3-2"_s);
             QMetaObject::invokeMethod(&dialog, "accept");
         });
-        Trigger(ActionType::SaveFontAs);
+        QVERIFY(window_->CurrentDocument().SaveAs());
         QVERIFY(Test::ReadAll(Path("Ui24.c")).contains("GUI_FONT GUI_FontBig32 = {"));
         QCOMPARE(CurrentFont().Name(), u"Big32"_s);
     }
@@ -224,7 +224,7 @@ private Q_SLOTS:
         QVERIFY(window_->CurrentDocument().ReadPattern(Path("codes.txt")));
         QCOMPARE(
             box.text,
-            u"Characters that the font does not have: 1\nU+20AC EURO SIGN is not in the font"_s);
+            u"Read pattern file: Characters that the font does not have: 1\nU+20AC EURO SIGN is not in the font"_s);
     }
 
     void ScalableFontsAskHow()
