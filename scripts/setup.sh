@@ -4,7 +4,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-l10n-tools libqt6svg6 libgl-dev
     libfreetype-dev libfontconfig-dev qt6-translations-l10n)
-fuzz_packages=(clang libclang-rt-dev python3 python3-fonttools fonts-dejavu-core)
+fuzz_packages=(gcc make clang libclang-rt-dev python3 python3-fonttools fonts-dejavu-core)
 
 # install PACKAGE...: installs the Debian packages that are missing, and says nothing otherwise.
 install() {
@@ -25,14 +25,16 @@ install() {
     fi
     "${as_root[@]}" apt-get update >&2 &&
         "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-            apt-get install -y --no-install-recommends "${missing[@]}" >&2
+            apt-get install -y --no-install-recommends "${missing[@]}" >&2 || return 1
+    export packages_changed=1
 }
 
-# build PRESET [TARGET...]: configures once and builds; prints to standard error only.
+# build PRESET [TARGET...]: configures where the preset is new or changed, or more can be found than before,
+# and builds; prints to standard error only.
 build() {
     local preset=$1
     shift
-    if [ ! -f "build/$preset/build.ninja" ]; then
+    if [ ! "build/$preset/build.ninja" -nt CMakePresets.json ] || [ -n "${packages_changed-}" ]; then
         cmake --preset "$preset" >&2 || return 1
     fi
     cmake --build --preset "$preset" ${1:+--target "$@"} >&2

@@ -2,6 +2,7 @@
 #include "app/core_application.h"
 #include "cli/command_line.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 
@@ -16,13 +17,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The window is a program beside this one, so that a headless run loads no widgets.
+// The window is a program of its own, so that a headless run loads no widgets: where it is
+// installed, or beside this one in the folder of the build.
+QString WindowProgram(int argc, char** argv)
+{
+    const Glyphor::CoreApplication application(argc, argv);
+    const QString folder = QCoreApplication::applicationDirPath();
+    QString built = folder + u"/Glyphor-window"_s;
+    if (QFile::exists(built))
+        return built;
+    return QDir::cleanPath(folder + QStringLiteral("/" GLYPHOR_WINDOW_FOLDER "/Glyphor-window"));
+}
+
 void BecomeWindow(int argc, char** argv)
 {
-    const QString program = [&] {
-        const Glyphor::CoreApplication application(argc, argv);
-        return QCoreApplication::applicationDirPath() + u"/Glyphor-window"_s;
-    }();
+    const QString program = WindowProgram(argc, argv);
 #ifdef Q_OS_UNIX
     ::execv(QFile::encodeName(program).constData(), argv);
 #else

@@ -8,7 +8,8 @@ namespace Glyphor::Program {
 extern const QLatin1StringView Name;
 extern const QLatin1StringView Version;
 
-// When this binary was compiled, in the form "Jul 30 2024" and "14:38:18".
+// The time that the build was given, or else the release's date, in the form "Jul 30 2024" and
+// "14:38:18".
 extern const QLatin1StringView BuildDate;
 extern const QLatin1StringView BuildTime;
 

@@ -441,6 +441,8 @@ private Q_SLOTS:
         QVERIFY(!window_->Menus().Command(WindowCommand::AllCharacters)->isChecked());
     }
 
+    void HasItsIcon() { QVERIFY(!window_->windowIcon().pixmap(32).isNull()); }
+
     void TheManualIsFound() { QVERIFY(ManualUrl().isLocalFile()); }
 
     void BrokenStateGivesTheDefaults()

@@ -14,13 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Application* current = nullptr;
+Application* runningApplication = nullptr;
 
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 {
-    current = this;
+    runningApplication = this;
+    setDesktopFileName(u"com.example.morvek.Glyphor"_s);
     if (LoadTexts(QLocale(), texts_, toolkitTexts_)) {
         installTranslator(&toolkitTexts_);
         installTranslator(&texts_);
@@ -29,12 +30,12 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv)
 
 Application::~Application()
 {
-    current = nullptr;
+    runningApplication = nullptr;
 }
 
 Application* Application::Instance()
 {
-    return current;
+    return runningApplication;
 }
 
 // The first language that the user wants and that there are texts in, which English always is.

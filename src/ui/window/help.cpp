@@ -27,12 +27,13 @@ struct Help
 
 } // namespace
 
-// Installed, or beside the folder that it was built in.
+// Installed, or in the sources that the folder of the build stands in.
 QUrl ManualUrl()
 {
-    for (const QString& folder : {u"/../share/doc/glyphor"_s, u"/../../docs"_s}) {
-        const QFileInfo manual(QCoreApplication::applicationDirPath() + folder +
-                               u"/manual/index.html"_s);
+    for (const QString& folder :
+         {QStringLiteral(GLYPHOR_MANUAL_FOLDER), u"../docs/manual"_s, u"../../docs/manual"_s}) {
+        const QFileInfo manual(QCoreApplication::applicationDirPath() + u'/' + folder +
+                               u"/index.html"_s);
         if (manual.isFile())
             return QUrl::fromLocalFile(manual.canonicalFilePath());
     }

@@ -27,6 +27,7 @@
 #include <QDataStream>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QIcon>
 #include <QMimeData>
 
 // Outside of the namespace, as the macro needs it.
@@ -66,6 +67,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       status_(new StatusLine)
 {
     InitResources();
+    setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
     setAcceptDrops(true);
     setMenuBar(menus_);
     addToolBar(new ToolBar(*menus_, *document_, *pencil_));
