@@ -43,6 +43,19 @@ void CheckFonts(const Font& font, const Font& other)
                         .arg(QString::number(own.height), QString::number(theirs.height)));
 }
 
+// Characters of a standard font stand on its baseline and may leave its line.
+void WarnOfOtherMetrics(const FontMetrics& own, const FontMetrics& other)
+{
+    if (own.height == other.height && own.baseline == other.baseline)
+        return;
+    CurrentInterface().warning(
+        Engine::tr("Font merging"),
+        Engine::tr("The current font is %1 pixels high with its baseline at %2, the other one %3 "
+                   "with its baseline at %4: their characters do not stand on one line.")
+            .arg(QString::number(own.height), QString::number(own.baseline),
+                 QString::number(other.height), QString::number(other.baseline)));
+}
+
 } // namespace
 
 bool ActionMergeFont::Execute()
@@ -53,6 +66,7 @@ bool ActionMergeFont::Execute()
         RefuseMerge(Engine::tr("There is no font to merge with."));
     const std::unique_ptr<Font> other = ReadFont(Args().source);
     CheckFonts(*font, *other);
+    WarnOfOtherMetrics(font->Metrics(), other->Metrics());
 
     CodeSet incoming = other->SavedCodes();
     CodeSet duplicates = incoming;

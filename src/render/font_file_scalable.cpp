@@ -63,6 +63,7 @@ std::unique_ptr<Font> FontFileScalable::Read()
     auto font = std::make_unique<Font>(options_.format, options_.encoding);
     face_.SetPixelSize(options_.height, options_.useStrikes);
     face_.SetEffects(options_.effects);
+    RefuseUselessHeight();
     font->SetName(FontName());
     SetMetrics(*font);
     if (font->Metrics().height == 0)
@@ -74,6 +75,31 @@ std::unique_ptr<Font> FontFileScalable::Read()
     RenderCharmap(*font);
     WarnOfMisfits();
     return font;
+}
+
+// A height at which every character is left out only takes time.
+void FontFileScalable::RefuseUselessHeight() const
+{
+    constexpr double largestSide = 255.5; // with rounding
+    constexpr int ordinaryEm = 4 * 255;
+    const int em = face_.EmSize();
+    if (em <= ordinaryEm || !face_.HasOutlines())
+        return;
+    double largestEm = 0;
+    face_.WalkCharmap([&](quint16 faceCode, FT_UInt glyphIndex) {
+        const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
+        const double extent = isWanted ? face_.GlyphExtent(glyphIndex) : 0;
+        if (extent > 0)
+            largestEm = std::max(largestEm, largestSide / extent);
+        return largestEm < em;
+    });
+    if (largestEm > 0 && largestEm < em)
+        throw CriticalException(
+            Engine::tr("Font creation failed!"),
+            Engine::tr("At a height of %1 pixels every character is larger than 255 pixels: the "
+                       "largest height that gives a character is about %2 pixels.")
+                .arg(QString::number(options_.height),
+                     QString::number(int(options_.height * largestEm / em))));
 }
 
 QString FontFileScalable::FontName() const

@@ -35,6 +35,7 @@ protected:
 private:
     void SetMetrics(Font& font) const;
     void RenderCharmap(Font& font);
+    void RefuseUselessHeight() const;
     bool AddCharacter(Font& font, quint16 code, FT_UInt glyphIndex);
     void WarnOfMissingSize() const;
     [[nodiscard]] QString FontName() const;

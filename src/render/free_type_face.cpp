@@ -188,6 +188,17 @@ int FreeTypeFace::EmSize() const
     return IsOpen() && face_->size != nullptr ? face_->size->metrics.y_ppem : 0;
 }
 
+double FreeTypeFace::GlyphExtent(FT_UInt index) const
+{
+    if (!IsOpen() || face_->units_per_EM == 0 ||
+        FT_Load_Glyph(Handle(), index, FT_LOAD_NO_SCALE) != 0)
+        return 0;
+    const FT_Glyph_Metrics& metrics = face_->glyph->metrics;
+    const bool hasInk = metrics.width > 0 && metrics.height > 0;
+    const FT_Pos extent = std::max({metrics.width, metrics.height, metrics.horiAdvance});
+    return hasInk ? double(extent) / face_->units_per_EM : 0;
+}
+
 QList<int> FreeTypeFace::StrikeHeights() const
 {
     QList<int> heights;
