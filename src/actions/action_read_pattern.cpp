@@ -1,13 +1,14 @@
 #include "actions/action_read_pattern.h"
 
 #include "actions/pattern_file.h"
+#include "app/file_system.h"
 
 namespace Glyphor {
 
 bool ActionReadPattern::Execute()
 {
     SetRepeat(1);
-    if (CurrentFont() == nullptr || !QFile::exists(Args().path))
+    if (CurrentFont() == nullptr || KindOf(Args().path) == FileKind::None)
         return false;
     pattern_ = PatternFile(Args().path).Read();
     return true;

@@ -4,14 +4,13 @@
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/file_system.h"
 #include "app/log_file.h"
 #include "app/settings.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "files/c_survey.h"
 #include "files/kerning_file.h"
-
-#include <QFileInfo>
 
 namespace Glyphor {
 
@@ -44,9 +43,9 @@ bool ActionSaveFile::Execute()
 // False where the user does not want a file replaced that holds more than a font.
 bool ActionSaveFile::MayReplace() const
 {
-    if (FileTypeOf(Args().path) != FileType::C || !QFileInfo(Args().path).isFile())
+    if (FileTypeOf(Args().path) != FileType::C || KindOf(Args().path) != FileKind::Ordinary)
         return true;
-    QFile file(Args().path);
+    File file(Args().path);
     if (!file.open(QIODevice::ReadOnly))
         return true; // writing will tell
     const QStringList others = BesideTheFontOfFile(file.readAll());

@@ -2,11 +2,10 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/file_system.h"
 #include "app/settings.h"
 #include "app/shown_text.h"
 #include "render/font_file_bdf.h"
-
-#include <QFileInfo>
 
 namespace Glyphor {
 
@@ -30,19 +29,19 @@ CFileOptions CFileOptionsOfSettings(const QStringList& actionLog)
 
 FileType CheckInputFile(const QString& path)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
+    const FileKind kind = KindOf(path);
+    if (kind == FileKind::None)
         FailToOpen(Engine::tr("Given file does not exist!"));
     const auto type = FileTypeOf(path);
     if (!type)
         ThrowUnsupportedFormat();
-    if (info.isDir())
+    if (kind == FileKind::Directory)
         FailToOpen(Engine::tr("The file %1 is a directory.").arg(Shown(path)));
-    if (!info.isFile())
+    if (kind == FileKind::Other)
         FailToOpen(Engine::tr("The file %1 is not an ordinary file.").arg(Shown(path)));
-    if (info.size() == 0)
+    if (SizeOfFile(path) == 0)
         FailToOpen(Engine::tr("The file %1 is empty.").arg(Shown(path)));
-    QFile file(path);
+    File file(path);
     if (!file.open(QIODevice::ReadOnly))
         FailToOpen(
             Engine::tr("The file %1 could not be read: %2").arg(Shown(path), file.errorString()));

@@ -2,11 +2,11 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/file_system.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 
 #include <QDataStream>
-#include <QFileInfo>
 #include <QtEndian>
 
 namespace Glyphor {
@@ -24,8 +24,7 @@ CodeSet PatternFile::Read()
             Engine::tr("Error opening file!"),
             Engine::tr("The pattern file %1 could not be read: %2").arg(Shown(fileName()), reason));
     };
-    const QFileInfo info(fileName());
-    if (info.exists() && !info.isDir() && !info.isFile())
+    if (KindOf(fileName()) == FileKind::Other)
         fail(Engine::tr("It is not an ordinary file."));
     if (!open(QIODevice::ReadOnly))
         fail(errorString());

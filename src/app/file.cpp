@@ -2,13 +2,46 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/file_name.h"
+#include "app/file_system.h"
 #include "app/replacement.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 
-#include <QFileInfo>
+#ifdef Q_OS_UNIX
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace Glyphor {
+
+bool File::open(OpenMode mode)
+{
+    return HasRawBytes(fileName()) ? OpenByBytes(mode) : QFile::open(mode);
+}
+
+// For reading or writing, as the toolkit does it with other names.
+bool File::OpenByBytes(OpenMode mode)
+{
+#ifdef Q_OS_UNIX
+    constexpr mode_t permissions = 0666;
+    const bool isRead = mode.testFlag(ReadOnly);
+    const int flags = isRead ? O_RDONLY : O_WRONLY | O_CREAT | O_TRUNC;
+    const int file = ::open(BytesOf(fileName()).constData(), flags | O_CLOEXEC, permissions);
+    struct stat status = {};
+    if (file >= 0 && ::fstat(file, &status) == 0 && !S_ISDIR(status.st_mode))
+        return QFile::open(file, mode, AutoCloseHandle);
+    setErrorString(qt_error_string(file >= 0 ? EISDIR : errno));
+    if (file >= 0)
+        ::close(file);
+    return false;
+#else
+    return QFile::open(mode);
+#endif
+}
 
 QByteArray File::Contents()
 {
@@ -52,10 +85,10 @@ void File::WriteDirectly(const std::function<void(const Sink&)>& compose)
 
 void File::Replace(const std::function<void(const Sink&)>& compose)
 {
-    const QFileInfo target(fileName());
-    if (target.isDir())
+    const FileKind kind = KindOf(fileName());
+    if (kind == FileKind::Directory)
         Fail(Engine::tr("It is a directory."));
-    if (target.exists() && !target.isFile()) {
+    if (kind == FileKind::Other) {
         WriteDirectly(compose);
         return;
     }

@@ -6,14 +6,21 @@
 
 namespace Glyphor {
 
-// A file on disk, known by the name that the user gave.
+// A file on disk, known by the name that the user gave, whatever bytes it has.
 class File : public QFile
 {
 public:
     // Takes the next bytes of the contents.
     using Sink = std::function<void(QByteArrayView)>;
 
-    using QFile::QFile;
+    explicit File(const QString& path) : QFile(path), path_(path) {}
+
+    // The toolkit forgets the name of a file that it did not open itself.
+    [[nodiscard]] QString fileName() const override { return path_; }
+
+    using QFile::open;
+
+    bool open(OpenMode mode) override;
 
     // The whole contents. Throws a CriticalException where they can't be read or are larger than
     // any font.
@@ -29,8 +36,11 @@ public:
     void Replace(const std::function<void(const Sink&)>& compose);
 
 private:
+    bool OpenByBytes(OpenMode mode);
     void WriteDirectly(const std::function<void(const Sink&)>& compose);
     [[noreturn]] void Fail(const QString& reason) const;
+
+    QString path_;
 };
 
 } // namespace Glyphor

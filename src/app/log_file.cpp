@@ -2,6 +2,7 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/file_system.h"
 #include "app/shown_text.h"
 
 #include <QFileInfo>
@@ -18,13 +19,13 @@ constexpr QByteArrayView Beginning = "Log file for: ";
 
 LogFile::LogFile(const QString& fontPath)
     : File(fontPath.left(fontPath.lastIndexOf(u'.') + 1) + u"log"_s),
-      subject_(QFileInfo(fontPath).baseName())
+      subject_(Shown(QFileInfo(fontPath).baseName()))
 {}
 
 // An empty file is nobody's loss.
 bool LogFile::MayReplace()
 {
-    if (!QFileInfo(fileName()).isFile() || !open(QIODevice::ReadOnly))
+    if (KindOf(fileName()) != FileKind::Ordinary || !open(QIODevice::ReadOnly))
         return true;
     const QByteArray start = read(Beginning.size());
     close();

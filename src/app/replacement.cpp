@@ -2,8 +2,9 @@
 
 #ifdef Q_OS_UNIX
 
+#include "app/file_name.h"
+
 #include <QCryptographicHash>
-#include <QFile>
 
 #include <algorithm>
 #include <array>
@@ -152,7 +153,7 @@ void RemoveIfStale(const QByteArray& path)
 
 Replacement::Replacement(const QString& path)
 {
-    if (auto target = FollowLinks(QFile::encodeName(path)))
+    if (auto target = FollowLinks(BytesOf(path)))
         target_ = *target;
     else
         error_ = errno;

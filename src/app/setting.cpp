@@ -1,11 +1,32 @@
 #include "app/setting.h"
 
 #include "app/engine_texts.h"
+#include "app/file_name.h"
 
 #include <QDataStream>
 #include <QDir>
+#include <QUrl>
+
+#include <algorithm>
 
 namespace Glyphor {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto StoredScheme = "file:"_L1;
+
+// A directory may have a name that looks like a URL.
+QString FromStored(const QString& text)
+{
+    if (!text.startsWith(StoredScheme))
+        return text;
+    QString path = FileNameOf(QUrl::fromEncoded(text.toUtf8()));
+    return HasRawBytes(path) ? path : text;
+}
+
+} // namespace
 
 std::optional<bool> ToSetting(const QVariant& stored, const bool*)
 {
@@ -31,6 +52,17 @@ std::optional<QStringList> ToSetting(const QVariant& stored, const QStringList*)
         return std::nullopt;
     QStringList list = stored.toStringList();
     list.removeAll(QString());
+    std::ranges::transform(list, list.begin(), FromStored);
+    return list;
+}
+
+QVariant ToStored(const QStringList& paths)
+{
+    QStringList list = paths;
+    for (QString& path : list) {
+        if (HasRawBytes(path))
+            path = StoredScheme + QLatin1StringView(BytesOf(path).toPercentEncoding("/"));
+    }
     return list;
 }
 

@@ -34,6 +34,15 @@ private:
 [[nodiscard]] std::optional<int> ToSetting(const QVariant& stored, const int*);
 [[nodiscard]] std::optional<QStringList> ToSetting(const QVariant& stored, const QStringList*);
 
+// A value as it is stored. Paths with bytes that are no characters, which no text holds, become
+// URLs.
+template <typename Value>
+[[nodiscard]] QVariant ToStored(const Value& value)
+{
+    return QVariant::fromValue(value);
+}
+[[nodiscard]] QVariant ToStored(const QStringList& paths);
+
 // A value as the command line has it. Lists are parted as the system parts lists of paths.
 [[nodiscard]] inline QVariant ValueOfText(const QString& text, const void*)
 {
@@ -86,7 +95,7 @@ public:
     void setValue(const Value& value)
     {
         variable_ = value;
-        Registry().setValue(Key(), QVariant::fromValue(value));
+        Registry().setValue(Key(), ToStored(value));
     }
 
     void UseDefault() override { variable_ = default_; }

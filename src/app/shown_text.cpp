@@ -1,5 +1,7 @@
 #include "app/shown_text.h"
 
+#include "app/file_name.h"
+
 #include <algorithm>
 
 namespace Glyphor {
@@ -46,18 +48,29 @@ QString Escape(QChar character)
     default:
         break;
     }
-    const auto code = uint(character.unicode());
-    const QString digits = u"%1"_s.arg(code, code <= 0xFF ? 2 : 4, 16, QChar(u'0')).toUpper();
-    return (code <= 0xFF ? u"\\x"_s : u"\\u"_s) + digits;
+    const bool isRaw = HasRawBytes(QStringView(&character, 1));
+    const auto code = uint(isRaw ? character.unicode() & 0xFF : character.unicode());
+    const bool isByte = isRaw || code < 0x80;
+    const QString digits = u"%1"_s.arg(code, isByte ? 2 : 4, 16, QChar(u'0')).toUpper();
+    return (isByte ? u"\\x"_s : u"\\u"_s) + digits;
 }
 
+// Halves of characters are always escaped.
 QString Escaped(QStringView text, bool (*isEscaped)(QChar))
 {
-    if (std::ranges::none_of(text, isEscaped))
+    const auto isSpecial = [isEscaped](QChar character) {
+        return character.isSurrogate() || isEscaped(character);
+    };
+    if (std::ranges::none_of(text, isSpecial))
         return text.toString();
     QString escaped;
-    for (const QChar character : text) {
-        if (isEscaped(character))
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar character = text[at];
+        const bool isPair =
+            character.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        if (isPair)
+            escaped += text.sliced(at++, 2);
+        else if (isSpecial(character))
             escaped += Escape(character);
         else
             escaped += character;
@@ -70,6 +83,11 @@ QString Escaped(QStringView text, bool (*isEscaped)(QChar))
 QString Shown(QStringView name)
 {
     return Escaped(name, HasEffect);
+}
+
+QString ShownBytes(QStringView text)
+{
+    return Escaped(text, [](QChar) { return false; });
 }
 
 QString ShownLines(QStringView text)

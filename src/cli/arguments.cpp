@@ -2,10 +2,11 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/file.h"
+#include "app/file_name.h"
+#include "app/file_system.h"
 #include "app/shown_text.h"
 #include "cli/command_line_option.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -29,10 +30,9 @@ QString TextOfArgumentFile(const QString& path, const Place& askedAt)
             Engine::tr("The argument file %1 could not be read: %2").arg(Shown(path), reason),
             askedAt);
     };
-    const QFileInfo info(path);
-    if (info.isDir())
+    if (KindOf(path) == FileKind::Directory)
         fail(Engine::tr("It is a directory."));
-    QFile file(path);
+    File file(path);
     if (!file.open(QIODevice::ReadOnly))
         fail(file.errorString());
     QByteArray bytes = file.readAll();
@@ -145,7 +145,7 @@ Arguments ListOf(int argc, const char* const* argv, FilesBehindAt files)
 {
     ArgumentList arguments(files);
     for (int index = 1; index < argc; ++index)
-        arguments.Add({QString::fromLocal8Bit(argv[index]), {}});
+        arguments.Add({FileNameOf(QByteArrayView(argv[index])), {}});
     return arguments.Take();
 }
 

@@ -127,7 +127,7 @@ ParameterValue LegacyRange(const QString& text)
 
 OptionOccurrence UseOf(OptionId id, const std::vector<ParameterValue>& values)
 {
-    return {&OptionOf(id), values};
+    return {&OptionOf(id), values, {}, {}};
 }
 
 // The parameters may end with a comma.
@@ -211,7 +211,7 @@ LegacyUses ParseEdit(const QString& parameters)
                                           LegacyRange(range)};
     values.push_back(parts.size() > 2 ? ParseValue(option.parameters[2], parts[2])
                                       : ParameterValue());
-    return {{{&option, values}}, {}};
+    return {{{&option, values, {}, {}}}, {}};
 }
 
 LegacyUses ParseReadPattern(const QString& path)

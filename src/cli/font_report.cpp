@@ -1,5 +1,7 @@
 #include "cli/font_report.h"
 
+#include "app/file.h"
+#include "app/file_system.h"
 #include "app/shown_text.h"
 #include "cli/command_line_option.h"
 #include "files/c_file_text.h"
@@ -9,7 +11,6 @@
 #include "model/font.h"
 
 #include <QCryptographicHash>
-#include <QFileInfo>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -79,9 +80,9 @@ QJsonObject FlashReport(const Font& font)
 QJsonObject FileReport(const QString& path, const char* kind)
 {
     QJsonObject report{{u"file"_s, Shown(path)}, {u"kind"_s, QString::fromLatin1(kind)}};
-    QFile file(path);
+    File file(path);
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+    if (KindOf(path) != FileKind::Ordinary || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
         return report;
     report[u"size"_s] = file.size();
     report[u"sha256"_s] = QString::fromLatin1(hash.result().toHex());

@@ -5,6 +5,7 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/file.h"
+#include "app/file_name.h"
 #include "app/settings.h"
 #include "app/shown_text.h"
 #include "app/version.h"
@@ -27,7 +28,7 @@ QByteArray InRule(const QString& path)
 {
     QByteArray escaped;
     qsizetype backslashes = 0;
-    for (const char byte : QFile::encodeName(path)) {
+    for (const char byte : BytesOf(path)) {
         if (byte == '\n' || byte == '\r')
             throw CriticalException(
                 Engine::tr("The name %1 has a line end, which dependency files can't have.")

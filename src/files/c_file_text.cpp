@@ -1,5 +1,6 @@
 #include "files/c_file_text.h"
 
+#include "app/shown_text.h"
 #include "app/version.h"
 #include "files/c_scanner.h"
 
@@ -25,8 +26,9 @@ QString Centred(const QString& text)
 
 // Names and paths come from files and users; none may end the comment, open another one, break its
 // line or turn its direction of writing.
-QString InComment(QString text)
+QString InComment(const QString& line)
 {
+    QString text = ShownBytes(line);
     constexpr std::array disturbing = {QChar::Other_Control, QChar::Other_Format,
                                        QChar::Separator_Line, QChar::Separator_Paragraph};
     for (QChar& character : text) {

@@ -2,6 +2,7 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/file_name.h"
 #include "app/shown_text.h"
 
 #include <QFileInfo>
@@ -88,7 +89,8 @@ std::unique_ptr<Font> FontFileBinary::MakeFont(const LittleEndianBytes& bytes, F
         return static_cast<quint8>(value);
     };
     auto font = std::make_unique<Font>(format, encoding);
-    font->SetName(QFileInfo(fileName()).completeBaseName());
+    font->SetName(
+        WithoutRawBytes(QFileInfo(fileName()).completeBaseName(), QChar::ReplacementCharacter));
     font->SetHeight(metric(HeightOffset));
     font->SetBaseline(metric(BaselineOffset));
     font->SetReferenceHeights(metric(LowercaseOffset), metric(CapitalOffset));

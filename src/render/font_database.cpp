@@ -1,9 +1,9 @@
 #include "render/font_database.h"
 
+#include "app/file_system.h"
 #include "render/font_directories.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QSet>
 
 #include <algorithm>
@@ -27,16 +27,15 @@ void EnterDirectory(const QString& path, bool recursively, QSet<QString>& seen,
                     QStringList& entered)
 {
     constexpr qsizetype maxEntered = 10;
-    const QString canonical = QDir(path).canonicalPath();
-    if (canonical.isEmpty() || seen.contains(canonical) || !QFileInfo(canonical).isDir())
+    const QString canonical = CanonicalPathOf(path);
+    if (canonical.isEmpty() || seen.contains(canonical) || KindOf(canonical) != FileKind::Directory)
         return;
     seen.insert(canonical);
     entered.append(path);
     if (!recursively)
         return;
     const QDir directory(path);
-    for (const QString& name :
-         directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted)) {
+    for (const QString& name : EntriesOf(path, FileKind::Directory)) {
         // The count never goes down again, so it limits the whole list and not the depth.
         if (entered.size() < maxEntered)
             EnterDirectory(directory.filePath(name), true, seen, entered);
@@ -45,20 +44,13 @@ void EnterDirectory(const QString& path, bool recursively, QSet<QString>& seen,
 
 std::vector<FontFileEntry> FontFilesIn(const QStringList& directories)
 {
-    QStringList patterns;
-    for (const FileTypeRow& row : FileTypeTable) {
-        for (const QLatin1StringView suffix :
-             IsScalable(row.type) ? row.suffixes : decltype(row.suffixes)())
-            patterns.append(u'*' + suffix);
-    }
     std::vector<FontFileEntry> files;
     for (const QString& directory : directories) {
-        for (const QFileInfo& file :
-             QDir(directory).entryInfoList(patterns, QDir::Files | QDir::Readable, QDir::Name)) {
-            // A link may lead to a pipe, which would never open.
-            const auto type = FileTypeOf(file.fileName());
-            if (type && file.isFile())
-                files.push_back({file.filePath(), *type});
+        QStringList names = EntriesOf(directory, FileKind::Ordinary);
+        names.sort();
+        for (const QString& name : names) {
+            if (const auto type = FileTypeOf(name); IsScalable(type))
+                files.push_back({QDir(directory).filePath(name), *type});
         }
     }
     return files;

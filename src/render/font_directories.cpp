@@ -1,6 +1,7 @@
 #include "render/font_directories.h"
 
-#include <QFile>
+#include "app/file_name.h"
+
 #include <QStandardPaths>
 
 #ifdef GLYPHOR_FONTCONFIG
@@ -19,7 +20,8 @@ QStringList FontconfigDirectories()
     FcStrList* const list = config != nullptr ? FcConfigGetFontDirs(config) : nullptr;
     if (list != nullptr) {
         while (const FcChar8* const directory = FcStrListNext(list))
-            directories.append(QFile::decodeName(reinterpret_cast<const char*>(directory)));
+            directories.append(
+                FileNameOf(QByteArrayView(reinterpret_cast<const char*>(directory))));
         FcStrListDone(list);
     }
     if (config != nullptr)

@@ -1,5 +1,6 @@
 #include "render/font_file_scalable.h"
 
+#include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/progress.h"
 #include "app/user_interface.h"

@@ -1,9 +1,9 @@
 #include "render/free_type_face.h"
 
 #include "app/engine_texts.h"
+#include "app/file_name.h"
+#include "app/file_system.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QHash>
 #include <QtEndian>
 
@@ -140,9 +140,9 @@ void CopyRows(const FT_Bitmap& bitmap, std::vector<quint8>& pixels)
 FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library)
     : path_(path)
 {
-    library.AllowFile(QFileInfo(path).size());
+    library.AllowFile(SizeOfFile(path));
     FT_Face face = nullptr;
-    openError_ = FT_New_Face(library.Get(), QFile::encodeName(path).constData(), faceIndex, &face);
+    openError_ = FT_New_Face(library.Get(), BytesOf(path).constData(), faceIndex, &face);
     if (openError_ == 0)
         face_.reset(face, FT_Done_Face);
 }

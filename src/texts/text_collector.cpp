@@ -34,7 +34,8 @@ void TextCollector::Fail(const QString& reason, int line) const
 {
     throw CriticalException(
         Engine::tr("Error opening file!"),
-        Engine::tr("The file %1 could not be read: %2").arg(Shown(path_), reason), {path_, line});
+        Engine::tr("The file %1 could not be read: %2").arg(Shown(path_), reason),
+        {path_, line, {}});
 }
 
 } // namespace Glyphor

@@ -3,6 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
 #include "app/file.h"
+#include "app/file_system.h"
 #include "app/shown_text.h"
 #include "texts/text_collector.h"
 #include "texts/text_readers.h"
@@ -48,17 +49,17 @@ TextReader ReaderFor(const QString& path)
 QByteArray ContentsOf(const QString& path)
 {
     const auto fail = [&path](const QString& text) {
-        throw CriticalException(Engine::tr("Error opening file!"), text, {path, 0});
+        throw CriticalException(Engine::tr("Error opening file!"), text, {path, 0, {}});
     };
-    const QFileInfo info(path);
-    if (info.isDir())
+    const FileKind kind = KindOf(path);
+    if (kind == FileKind::Directory)
         fail(Engine::tr("The file %1 is a directory.").arg(Shown(path)));
-    if (info.exists() && !info.isFile())
+    if (kind == FileKind::Other)
         fail(Engine::tr("The file %1 is not an ordinary file.").arg(Shown(path)));
     try {
         return File(path).Contents();
     } catch (const CriticalException& failure) {
-        throw CriticalException(failure.Title(), failure.Text(), {path, 0});
+        throw CriticalException(failure.Title(), failure.Text(), {path, 0, {}});
     }
 }
 

@@ -16,8 +16,13 @@ private Q_SLOTS:
     {
         QCOMPARE(Shown(u"a b\u00e9\u4e9c"), QStringLiteral("a b\u00e9\u4e9c"));
         QCOMPARE(Shown(u"\u001b[31m\n\r\t\u0007\u009b\u007f"),
-                 QStringLiteral("\\x1B[31m\\n\\r\\t\\x07\\x9B\\x7F"));
+                 QStringLiteral("\\x1B[31m\\n\\r\\t\\x07\\u009B\\x7F"));
         QCOMPARE(Shown(u"\u202etxt.exe\u2028"), QStringLiteral("\\u202Etxt.exe\\u2028"));
+        // A byte that is no character is told from the character of its number.
+        const QString raw = u"\u00e9\U0001F480"_s + QChar(0xDCE9);
+        QCOMPARE(Shown(raw), u"\u00e9\U0001F480\\xE9"_s);
+        QCOMPARE(ShownBytes(u'\t' + raw), u"\t\u00e9\U0001F480\\xE9"_s);
+        QCOMPARE(Shown(QString(QChar(0xD800))), u"\\uD800"_s);
         QCOMPARE(ShownLines(u"one\n\u001btwo\tthree"), QStringLiteral("one\n\\x1Btwo\tthree"));
         std::FILE* const stream = std::tmpfile(); // no terminal, so without colours
         Console(stream).PrintLine(u"Gr\u00fc\u00dfe\u001b]0;title\u0007\nb", ConsoleColour::Red);

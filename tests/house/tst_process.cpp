@@ -1,3 +1,6 @@
+#include "app/file.h"
+#include "app/file_name.h"
+#include "app/file_system.h"
 #include "app/settings.h"
 #include "support/rows.h"
 #include "support/test_main.h"
@@ -10,6 +13,7 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -37,6 +41,8 @@ private Q_SLOTS:
         folder_ = std::make_unique<QTemporaryDir>();
         QFile::setPermissions(folder_->path(), QFile::Permissions(0x7777));
     }
+
+    void cleanup() { Test::RemoveAll(folder_->path()); }
 
     void Converts()
     {
@@ -151,6 +157,67 @@ private Q_SLOTS:
         QVERIFY(Test::ReadAll(File(u"c\nd.c"_s)).contains("file: a\\x1B[2J\\nb.ttf"));
         QVERIFY(Run(Arguments(u"\u001bx\n.ttf"_s)).output.indexOf(u'\u001b') < 0);
         QVERIFY(Run({u"-hide"_s, u"-\u001bx"_s}).output.contains(u"-\\x1Bx"_s));
+    }
+
+    // Not every tree of sources is in UTF-8.
+    void NamesOfOtherEncodings()
+    {
+        const auto path = [this](const char* name) { return File(FileNameOf(name)); };
+        const auto saved = [](const char* from, const char* to) {
+            return u"Opened font file: %1\nSaved font file: %2\n"_s.arg(QString::fromUtf8(from),
+                                                                        QString::fromUtf8(to));
+        };
+        Configure([](Settings& settings) { settings.createLogFile.setValue(true); });
+        Glyphor::File(path("caf\xE9.ttf")).Replace(Test::ReadAll(Test::FontPath("outlines.ttf")));
+        Glyphor::File(path("p\xE9.txt")).Replace(QByteArray::fromHex("fffe41005600"));
+
+        const QString font = u"caf$E9.ttf -height 30px -format AA2 "_s;
+        QCOMPARE(RunInShell(font + u"-p p$E9.txt -save ${FF}out.c"_s).output,
+                 saved("caf\\xE9.ttf", "\\xFFout.c"));
+        const QByteArray text = Glyphor::File(path("\xFFout.c")).Contents();
+        QVERIFY(text.isValidUtf8() && text.contains("File:         \\xFFout.c  "));
+        QVERIFY(text.contains("[Font]: Opened font file: caf\\xE9.ttf") &&
+                text.contains("_CharInfo[2]"));
+        const QByteArray log = Glyphor::File(path("\xFFout.log")).Contents();
+        QVERIFY(log.startsWith("Log file for: \\xFFout\r\n") && log.contains("caf\\xE9.ttf"));
+
+        QCOMPARE(RunInShell(font + u"-e 0x61 -save $FE.xbf"_s).output,
+                 saved("caf\\xE9.ttf", "\\xFE.xbf"));
+        QVERIFY(
+            RunInShell(u"$FE.xbf -merge ${FF}out.c KEEP -save $FE.h -report $E9.j -depfile $E9.d"_s)
+                .output.startsWith(saved("\\xFE.xbf", "\\xFE.h")));
+        QVERIFY(
+            Glyphor::File(path("\xE9.d")).Contents().startsWith("\xFE.h \xE9.j: \\\n  \xFE.xbf"));
+        QCOMPARE(Glyphor::File(path("\xE9.j")).Contents().count("\"sha256\""), 3);
+        const QByteArray merged = Glyphor::File(path("\xFE.h")).Contents();
+        QVERIFY(merged.isValidUtf8() && merged.contains("_CharInfo[3]"));
+        QVERIFY(merged.contains("#ifndef __H\r\n") && merged.contains("GUI_Font_ = {"));
+        QCOMPARE(RunInShell(font + u"-p p$E9.txt -save $FE.kern"_s).output,
+                 saved("caf\\xE9.ttf", "\\xFE.kern"));
+
+        QCOMPARE(::mkdir(BytesOf(path("\xFF")).constData(), 0755), 0);
+        Glyphor::File(path("\xFF/\xE9.ttc"))
+            .Replace(Test::ReadAll(Test::FontPath("collection.ttc")));
+        Configure(
+            [&](Settings& settings) { settings.additionalFontDirs.setValue({path("\xFF")}); });
+        QVERIFY(RunInShell(u"-create 'Test Collection' Oblique -height 9px -save $FE.h"_s)
+                    .output.endsWith(u"/\\xFF/\\xE9.ttc\nSaved font file: \\xFE.h\n"_s));
+
+        Glyphor::File(path("\xFFout.c")).Replace(text + "int used;\n");
+        const auto fails = [&](const QString& arguments, const QString& reason) {
+            return RunInShell(arguments).output.contains(reason);
+        };
+        QVERIFY(fails(font + u"-save ${FF}out.c"_s, u"The file \\xFFout.c holds more than"_s));
+        QVERIFY(fails(font + u"-save $E9/a.c"_s, u"The file \\xE9/a.c could not be written"_s));
+        QVERIFY(fails(u"p$FE.ttf -xirtsek -height 9px"_s, u"does not exist"_s));
+        QStringList names = EntriesOf(folder_->path(), FileKind::Ordinary);
+        names.sort();
+        QList<QByteArray> bytes;
+        for (const QString& name : names)
+            bytes.append(BytesOf(name));
+        QCOMPARE(bytes, (QList<QByteArray>{"Glyphor.err", "caf\xE9.ttf", "p\xE9.txt", "\xE9.d",
+                                           "\xE9.j", "\xFE.h", "\xFE.kern", "\xFE.log", "\xFE.xbf",
+                                           "\xFFout.c", "\xFFout.log"}));
     }
 
     void MergesAndAsks()
@@ -345,11 +412,28 @@ private:
 
     Result Run(const QStringList& arguments, const std::function<void()>& prepare = {})
     {
+        return RunProgram(QString::fromUtf8(GLYPHOR_PROGRAM), arguments, prepare);
+    }
+
+    // With arguments as a shell writes them, since the toolkit passes on no others than UTF-8.
+    Result RunInShell(const QString& arguments)
+    {
+        return RunProgram(u"/bin/sh"_s,
+                          {u"-c"_s,
+                           u"E9=$(printf '\\351') FE=$(printf '\\376') FF=$(printf '\\377')\n"
+                           "exec \"$0\" -hide "_s +
+                               arguments,
+                           QString::fromUtf8(GLYPHOR_PROGRAM)});
+    }
+
+    Result RunProgram(const QString& program, const QStringList& arguments,
+                      const std::function<void()>& prepare = {})
+    {
         QProcess process;
         process.setWorkingDirectory(folder_->path());
         if (prepare)
             process.setChildProcessModifier(prepare);
-        process.start(QString::fromUtf8(GLYPHOR_PROGRAM), arguments);
+        process.start(program, arguments);
         process.closeWriteChannel();
         if (!process.waitForFinished())
             qFatal("the program does not end");

@@ -1,3 +1,5 @@
+#include "app/file.h"
+#include "app/file_name.h"
 #include "render/font_database.h"
 #include "support/rows.h"
 #include "support/test_main.h"
@@ -56,6 +58,22 @@ private Q_SLOTS:
         QCOMPARE(variable.FaceIndex(u"Heavy"_s), 2);
         QCOMPARE(variable.Face(u"Heavy"_s).Style().weight, 900U);
         QVERIFY(database.Find(u"test collection"_s) == nullptr);
+    }
+
+    void NamesThatAreNotUtf8()
+    {
+        const QTemporaryDir folder;
+        const QString below = folder.filePath(FileNameOf("caf\xE9"));
+        QCOMPARE(::mkdir(BytesOf(below).constData(), 0700), 0);
+        const QString path = below + u'/' + FileNameOf("\xFF.ttc");
+        File(path).Replace(Test::ReadAll(Test::FontPath("collection.ttc")));
+        FontDatabase database;
+        database.Build(
+            ExpandDirectories({folder.path()}, true), [](int) {}, [](int) { return true; });
+        const FontFamily* const family = database.Find(u"Test Collection"_s);
+        QVERIFY(family != nullptr && family->Face(u"Oblique"_s).IsOpen());
+        QCOMPARE(family->Path(u"Oblique"_s), path);
+        Test::RemoveAll(folder.path());
     }
 
     void TenDirectories_data()

@@ -1,5 +1,7 @@
 #include "support/test_main.h"
 
+#include "app/file_name.h"
+
 #if __has_include(<QApplication>)
 #include <QApplication>
 #endif
@@ -8,6 +10,8 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <filesystem>
 
 namespace Glyphor::Test {
 
@@ -47,6 +51,11 @@ void WriteAll(const QString& path, const QByteArray& contents)
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
         qFatal("cannot write %s", qUtf8Printable(path));
+}
+
+void RemoveAll(const QString& directory)
+{
+    std::filesystem::remove_all(BytesOf(directory).toStdString());
 }
 
 } // namespace Glyphor::Test

@@ -65,4 +65,7 @@ public:
 [[nodiscard]] QByteArray ReadAll(const QString& path);
 void WriteAll(const QString& path, const QByteArray& contents);
 
+// Removes a directory with files that the toolkit can't name and so leaves behind.
+void RemoveAll(const QString& directory);
+
 } // namespace Glyphor::Test

@@ -1,4 +1,6 @@
 #include "app/critical_exception.h"
+#include "app/file.h"
+#include "app/file_name.h"
 #include "app/settings.h"
 #include "files/font_file_c.h"
 #include "render/font_database.h"
@@ -368,8 +370,8 @@ private Q_SLOTS:
 
     void PatternsThatCantBeRead()
     {
-        const QString path = folder_.filePath(u"pattern.txt"_s);
-        Test::WriteAll(path, "no mark");
+        const QString path = folder_.filePath(FileNameOf("p\xE9.txt")); // the field keeps the byte
+        File(path).Replace("no mark");
         FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
         dialog.show();
         Labelled<QRadioButton>(dialog, u"Pattern file"_s)->click();
@@ -377,18 +379,19 @@ private Q_SLOTS:
         auto* const field = Labelled<QLineEdit>(dialog, u"Pattern file"_s);
         field->setText(path);
         QVERIFY(!Ok(dialog)->isEnabled());
-        Test::WriteAll(path, QByteArray::fromHex("fffe4100"));
+        File(path).Replace(QByteArray::fromHex("fffe4100"));
         field->clear();
         field->setText(path);
         QVERIFY(Ok(dialog)->isEnabled());
-        Test::WriteAll(path, "broken meanwhile");
+        File(path).Replace("broken meanwhile");
         Test::RecordingInterface interface;
         Ok(dialog)->click();
         QVERIFY(dialog.isVisible());
-        Test::WriteAll(path, QByteArray::fromHex("fffe4100"));
+        File(path).Replace(QByteArray::fromHex("fffe4100"));
         Ok(dialog)->click();
         QVERIFY(!dialog.isVisible());
         QVERIFY(dialog.Args().selection->Test('A'));
+        Test::RemoveAll(path);
     }
 
     void InstalledFonts()
@@ -445,6 +448,7 @@ private Q_SLOTS:
     {
         Settings& settings = Settings::Instance();
         settings.additionalFontDirs.setValue({folder_.path()});
+        const QString raw = FileNameOf("/none\xE9");
         for (const bool isAccepted : {false, true}) {
             PreferencesDialog dialog(nullptr);
             dialog.show();
@@ -456,7 +460,8 @@ private Q_SLOTS:
             QVERIFY(endings->isEnabled());
             endings->setCurrentIndex(2);
             dialog.AddDirectory(folder_.path()); // is there already
-            dialog.AddDirectory(u"/none"_s);
+            dialog.AddDirectory(raw);
+            QCOMPARE(dialog.findChild<QListWidget*>()->item(1)->text(), u"/none\\xE9"_s);
             isAccepted ? dialog.accept() : dialog.reject();
             QCOMPARE(settings.numeralSystem.value(), isAccepted ? 0 : 1);
         }
@@ -464,7 +469,7 @@ private Q_SLOTS:
         QVERIFY(settings.createLogFile.value() && !settings.useSysLineEndings.value());
         QCOMPARE(settings.lineEndings.value(), 2);
         QVERIFY(!settings.searchDirsRecursively.value() && !settings.useIncludedBitmaps.value());
-        QCOMPARE(settings.additionalFontDirs.value(), (QStringList{folder_.path(), u"/none"_s}));
+        QCOMPARE(settings.additionalFontDirs.value(), (QStringList{folder_.path(), raw}));
         const PreferencesDialog dialog(nullptr);
         QCOMPARE(dialog.findChild<QTabWidget*>()->currentIndex(), int(PreferencesDialog::Files));
         for (OptionByRef<bool>* const option :

@@ -1,4 +1,7 @@
 #include "actions/action_save_file.h"
+#include "actions/pattern_file.h"
+#include "app/file_name.h"
+#include "app/settings.h"
 #include "files/font_file_c.h"
 #include "support/test_main.h"
 #include "ui/dialogs/font_generation_dialog.h"
@@ -9,9 +12,13 @@
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QMimeData>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QUrl>
+
+#include <sys/stat.h>
 
 namespace Glyphor {
 
@@ -22,10 +29,12 @@ class TestDocument : public QObject, protected Test::WindowFixture
 {
     Q_OBJECT
 
-    [[nodiscard]] bool Drop(const QString& path) const
+    [[nodiscard]] bool Drop(const QString& path) const { return Drop(QUrl::fromLocalFile(path)); }
+
+    [[nodiscard]] bool Drop(const QUrl& url) const
     {
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
+        data.setUrls({url});
         QDropEvent event(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         event.setAccepted(false);
         // Straight to the window: the application takes drops only from a drag of its own.
@@ -35,7 +44,11 @@ class TestDocument : public QObject, protected Test::WindowFixture
 
 private Q_SLOTS:
     void init() { OpenWindow(); }
-    void cleanup() { CloseWindow(); }
+    void cleanup()
+    {
+        CloseWindow();
+        Test::RemoveAll(raw_);
+    }
 
     void SavesAndTells()
     {
@@ -68,6 +81,51 @@ private Q_SLOTS:
         Test::WriteAll(Path("<b>x.xbf"), "nothing");
         QVERIFY(!Open(Path("<b>x.xbf")));
         QVERIFY(isPlain);
+    }
+
+    // A file whose name and folder are no UTF-8, all the ways that it comes in.
+    void NamesThatAreNotUtf8()
+    {
+        QCOMPARE(::mkdir(BytesOf(raw_).constData(), 0700), 0);
+        const QString path = raw_ + FileNameOf("/caf\xE9.sif");
+        WriteSample(FontFormat::AA2, path);
+        const auto url = [this](const char* name) {
+            return QUrl::fromEncoded("file://" + (BytesOf(raw_) + name).toPercentEncoding("/"));
+        };
+        QVERIFY(Drop(url("/caf\xE9.sif")));
+        QCOMPARE(session_->Path(), path);
+        QVERIFY(window_->windowTitle().startsWith(u"caf\\xE9.sif[*] "_s));
+        QCOMPARE(session_->CurrentFont()->Name(), u"caf\uFFFD"_s);
+
+        // Saved under the same name, and found there by another window.
+        Settings::Instance().createLogFile.setValue(true);
+        Trigger(ActionType::FontInsertRowTop);
+        Trigger(ActionType::SaveFont);
+        Settings::Instance().createLogFile.setValue(false);
+        QVERIFY(!window_->isWindowModified());
+        QCOMPARE(File(raw_ + FileNameOf("/caf\xE9.log")).Contents().left(21),
+                 "Log file for: caf\\xE9");
+        CloseWindow();
+        OpenWindow();
+        QMenu menu;
+        window_->CurrentDocument().FillRecentMenu(menu);
+        QCOMPARE(menu.actions().constFirst()->text(), u"caf\\xE9.sif"_s);
+        menu.actions().constFirst()->trigger();
+        QCOMPARE(session_->Path(), path);
+        QCOMPARE(int(CurrentFont().Metrics().height), 4);
+
+        PatternFile(raw_ + FileNameOf("/\xE9.txt")).Write({});
+        BoxAnswer answer(QMessageBox::Yes);
+        QVERIFY(Drop(url("/\xE9.txt")));
+        QVERIFY(answer.text.contains(u"pattern file \\xE9.txt to"_s));
+
+        // A file dialog would lose the bytes of the name that it proposes.
+        const DialogAnswer<QFileDialog> save([&](QFileDialog& dialog) {
+            dialog.setDirectory(folder_.path());
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        Trigger(ActionType::SaveFontAs);
+        QCOMPARE(session_->Path(), folder_.filePath(u"caf_.sif"_s));
     }
 
     void AsksBeforeMoreThanAFontIsReplaced()
@@ -221,6 +279,9 @@ private Q_SLOTS:
         QVERIFY(Drop(Path("pattern.txt")));
         QVERIFY(CurrentFont().IsEnabled(0x42));
     }
+
+private:
+    QString raw_ = folder_.filePath(FileNameOf("\xFF"));
 };
 
 GLYPHOR_TEST(TestDocument)

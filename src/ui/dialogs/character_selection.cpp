@@ -1,11 +1,12 @@
 #include "ui/dialogs/character_selection.h"
 
 #include "actions/pattern_file.h"
+#include "app/file_system.h"
+#include "app/shown_text.h"
 #include "ui/support/dialog_parts.h"
 
 #include <QButtonGroup>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
+#include <QUrl>
 
 namespace Glyphor {
 
@@ -85,8 +87,9 @@ QWidget* CharacterSelection::MakePatternPage()
 
 void CharacterSelection::BrowsePattern()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Read pattern file"), patternPath_->text(), tr("Text files (*.txt)"));
+    const QString path = ChosenPath(QFileDialog::getOpenFileUrl(
+        this, tr("Read pattern file"), QUrl::fromLocalFile(patternPath_->text()),
+        tr("Text files (*.txt)"), nullptr, {}, {QStringLiteral("file")}));
     if (!path.isEmpty())
         patternPath_->setText(path);
 }
@@ -161,9 +164,9 @@ QString CharacterSelection::Fault() const
     case CharacterChoice::Pattern:
         if (record.patternPath.isEmpty())
             return tr("Choose a pattern file.");
-        return QFileInfo(record.patternPath).isFile()
+        return KindOf(record.patternPath) == FileKind::Ordinary
                    ? QString()
-                   : tr("The file %1 does not exist.").arg(record.patternPath);
+                   : tr("The file %1 does not exist.").arg(Shown(record.patternPath));
     case CharacterChoice::Text:
         return Codes() == CodeSet() ? tr("Enter some characters.") : QString();
     default:

@@ -1,10 +1,11 @@
 #include "ui/dialogs/preferences_dialog.h"
 
+#include "app/file_system.h"
+#include "app/shown_text.h"
 #include "ui/support/dialog_parts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QLabel>
@@ -116,7 +117,9 @@ QWidget* PreferencesDialog::MakeFontsPage()
         MakeBox(settings.searchDirsRecursively, tr("Search additional directories &recursively")));
     layout->addWidget(note);
     connect(add, &QPushButton::clicked, this, [this] {
-        AddDirectory(QFileDialog::getExistingDirectory(this, tr("Additional font directory")));
+        AddDirectory(ChosenPath(QFileDialog::getExistingDirectoryUrl(
+            this, tr("Additional font directory"), {}, QFileDialog::ShowDirsOnly,
+            {QStringLiteral("file")})));
     });
     connect(remove, &QPushButton::clicked, this,
             [this] { delete directories_->takeItem(directories_->currentRow()); });
@@ -130,9 +133,9 @@ void PreferencesDialog::AddDirectory(const QString& path)
 {
     if (path.isEmpty() || Directories().contains(path))
         return;
-    directories_->addItem(path);
-    if (!QDir(path).exists()) {
-        QListWidgetItem* const item = directories_->item(directories_->count() - 1);
+    auto* const item = new QListWidgetItem(Shown(path), directories_);
+    item->setData(Qt::UserRole, path);
+    if (KindOf(path) != FileKind::Directory) {
         item->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
         item->setToolTip(tr("There is no such directory now."));
     }
@@ -142,7 +145,7 @@ QStringList PreferencesDialog::Directories() const
 {
     QStringList paths;
     for (int row = 0; row < directories_->count(); ++row)
-        paths.append(directories_->item(row)->text());
+        paths.append(directories_->item(row)->data(Qt::UserRole).toString());
     return paths;
 }
 

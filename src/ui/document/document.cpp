@@ -6,6 +6,8 @@
 #include "actions/font_files.h"
 #include "actions/pattern_file.h"
 #include "actions/session.h"
+#include "app/file_name.h"
+#include "app/file_system.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "render/font_file_scalable.h"
@@ -21,6 +23,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QUrl>
 
 namespace Glyphor {
 
@@ -154,7 +157,8 @@ void Document::Merge()
 QString Document::AskOpenPath(const QString& title, const QString& filter)
 {
     QString selected = filter.section(u";;"_s, -1);
-    QString path = QFileDialog::getOpenFileName(&window_, title, Folder(), filter, &selected);
+    QString path = ChosenPath(QFileDialog::getOpenFileUrl(
+        &window_, title, QUrl::fromLocalFile(Folder()), filter, &selected, {}, {u"file"_s}));
     if (!path.isEmpty())
         folder_ = QFileInfo(path).path();
     return path;
@@ -182,7 +186,7 @@ QString Document::AskSavePath(const QString& title, const QString& proposed, con
     dialog.selectFile(proposed);
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    QString path = dialog.selectedFiles().constFirst();
+    QString path = ChosenPath(dialog.selectedUrls().constFirst());
     folder_ = QFileInfo(path).path();
     return path;
 }
@@ -230,9 +234,10 @@ QString Document::Folder() const
     return isOwn ? font.path() : QDir::homePath();
 }
 
+// Without bytes that a file dialog can't pass on.
 QString Document::ProposedName(const QString& suffix) const
 {
-    return QFileInfo(session_.Path()).completeBaseName() + suffix;
+    return WithoutRawBytes(QFileInfo(session_.Path()).completeBaseName(), u'_') + suffix;
 }
 
 void Document::SaveKerning()
@@ -279,7 +284,7 @@ bool Document::ReadPattern(const QString& path)
 
 void Document::AddRecentFile(const QString& path)
 {
-    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const QString absolute = AbsolutePathOf(path);
     recentFiles_.removeAll(absolute);
     recentFiles_.prepend(absolute);
     recentFiles_ = recentFiles_.first(std::min(recentFiles_.size(), MaxRecentFiles));

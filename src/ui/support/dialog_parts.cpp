@@ -1,5 +1,7 @@
 #include "ui/support/dialog_parts.h"
 
+#include "app/file_name.h"
+#include "app/file_system.h"
 #include "app/settings.h"
 #include "app/shown_text.h"
 #include "model/code_set.h"
@@ -10,6 +12,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QScrollArea>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace Glyphor {
@@ -83,6 +86,11 @@ QLabel* PlainLabel(const QString& text)
 QString TitlePart(const QString& name)
 {
     return Shown(name).replace("[*]"_L1, "[*][*]"_L1);
+}
+
+QString ChosenPath(const QUrl& url)
+{
+    return WithLostBytes(FileNameOf(url));
 }
 
 QLabel* LabelFor(QWidget& buddy, const QString& text)

@@ -13,6 +13,7 @@
 class QDialog;
 class QLabel;
 class QScrollArea;
+class QUrl;
 class QVBoxLayout;
 
 namespace Glyphor {
@@ -34,6 +35,10 @@ ShowPlainBox(QWidget* parent, QMessageBox::Icon icon, const QString& title, cons
 
 // A name as a part of a window's title, where "[*]" stands for the mark of changes.
 [[nodiscard]] QString TitlePart(const QString& name);
+
+// The file that a file dialog gives, whatever bytes its name has. Dialogs of the desktop know such
+// names; the toolkit's own ones leave them out.
+[[nodiscard]] QString ChosenPath(const QUrl& url);
 
 // Widgets beside or below each other, without margins. The growing one takes the room that is
 // left; where there is none, that stays empty at the end.

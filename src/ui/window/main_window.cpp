@@ -3,6 +3,7 @@
 #include "actions/action_open_font.h"
 #include "actions/session.h"
 #include "app/engine_texts.h"
+#include "app/file_name.h"
 #include "app/settings.h"
 #include "app/version.h"
 #include "cli/installed_fonts.h"
@@ -48,7 +49,7 @@ constexpr quint32 StateVersion = 2;
 QString LocalFileOf(const QMimeData& data)
 {
     const QList<QUrl> urls = data.urls();
-    return urls.isEmpty() ? QString() : urls.constFirst().toLocalFile();
+    return urls.isEmpty() ? QString() : FileNameOf(urls.constFirst());
 }
 
 } // namespace
