@@ -1,4 +1,5 @@
 #include "support/c_files.h"
+#include "support/recipes.h"
 #include "support/rows.h"
 #include "support/test_main.h"
 
@@ -286,6 +287,27 @@ private Q_SLOTS:
         const QByteArray said = configured.said.simplified();
         QVERIFY2(configured.isGood == message.isEmpty(), said.constData());
         QVERIFY2(said.contains(message), said.constData());
+    }
+
+    void RunsTheRecipe()
+    {
+        const QString folder = Path(u"recipe/"_s);
+        QVERIFY(QDir().mkpath(folder));
+        for (const char* const name : {"DejaVuSans.ttf", "de.po", "pl.po"})
+            QVERIFY(QFile::copy(SourceFolder(tools_.last()) + QString::fromUtf8(name),
+                                folder + QString::fromUtf8(name)));
+        Test::WriteAll(folder + u"main.c"_s,
+                       "#include \"GUI.h\"\nextern const GUI_FONT GUI_FontUi24;\n"
+                       "int main(void) { return GUI_FontUi24.Height == 0; }\n");
+        Test::WriteAll(folder + u"CMakeLists.txt"_s,
+                       "cmake_minimum_required(VERSION 3.20)\nproject(recipe C)\n"
+                       "add_executable(firmware main.c)\ninclude_directories(" +
+                           QByteArray(Example) + ")\n" + Test::CMakeRecipe().toUtf8() + '\n');
+        const Outcome configured = Configure(u"Ninja"_s, folder);
+        QVERIFY2(configured.isGood, configured.said.constData());
+        const Outcome built = Run(QStringLiteral(CMAKE), {u"--build"_s, u"build"_s}, folder);
+        QVERIFY2(built.isGood, built.said.constData());
+        QVERIFY(Run(folder + u"build/firmware"_s, {}, folder).isGood);
     }
 
     // Readers take this code into projects with warnings of their own.
