@@ -29,7 +29,8 @@ QString WindowProgram(int argc, char** argv)
     return QDir::cleanPath(folder + QStringLiteral("/" GLYPHOR_WINDOW_FOLDER "/Glyphor-window"));
 }
 
-void BecomeWindow(int argc, char** argv)
+// Returns where that fails.
+int BecomeWindow(int argc, char** argv)
 {
     const QString program = WindowProgram(argc, argv);
 #ifdef Q_OS_UNIX
@@ -39,18 +40,19 @@ void BecomeWindow(int argc, char** argv)
     for (int index = 1; index < argc; ++index)
         arguments.append(QString::fromLocal8Bit(argv[index]));
     if (QProcess::startDetached(program, arguments))
-        return;
+        return 0;
 #endif
-    std::fprintf(stderr,
-                 "Glyphor's window, %s, can't be started: add -hide to run the options without "
-                 "it.\n",
-                 qUtf8Printable(program));
+    return Glyphor::CommandLine::TellNoWindow(
+        argc, argv,
+        QStringLiteral("Glyphor's window, %1, can't be started: add -hide to run the options "
+                       "without it.")
+            .arg(program));
 }
 
 } // namespace
 
-// Unless -strict is given, the exit status is 0 whatever happens: callers tell a failure by the console
-// text or by the error file.
+// Unless -strict is given, the exit status is 0 whatever happens: callers tell a failure by the
+// console text or by the error file.
 int main(int argc, char** argv)
 {
     using namespace Glyphor;
@@ -63,10 +65,8 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN);
 #endif
 
-    if (!CommandLine::isCommandLineMode(argc, argv)) {
-        BecomeWindow(argc, argv);
-        return 0;
-    }
+    if (!CommandLine::isCommandLineMode(argc, argv))
+        return BecomeWindow(argc, argv);
 
     const CoreApplication application(argc, argv);
     CommandLine& commandLine = CommandLine::Instance();

@@ -9,24 +9,30 @@
 
 namespace {
 
+int argumentCount = 0;
+char** argumentList = nullptr;
+
 // The toolkit ends the program where it finds no display; this tells what to do instead of why.
 void HandleMessage(QtMsgType type, const QMessageLogContext&, const QString&)
 {
     if (type != QtFatalMsg)
         return;
-    std::fputs("Glyphor can't open a window here: add -hide to run its options without one.\n",
-               stderr);
-    std::_Exit(0);
+    std::_Exit(Glyphor::CommandLine::TellNoWindow(
+        argumentCount, argumentList,
+        QStringLiteral(
+            "Glyphor can't open a window here: add -hide to run its options without one.")));
 }
 
 } // namespace
 
-// The run with a window. The exit status is 0 whatever happens.
+// The run with a window. The exit status is 0 unless -strict is given.
 int main(int argc, char** argv)
 {
     using namespace Glyphor;
 
     std::setvbuf(stdout, nullptr, _IONBF, 0);
+    argumentCount = argc;
+    argumentList = argv;
     qInstallMessageHandler(HandleMessage);
     Application application(argc, argv);
     qInstallMessageHandler(nullptr);
@@ -39,5 +45,5 @@ int main(int argc, char** argv)
     if (window.isVisible()) // not closed meanwhile
         Application::exec();
     SetCurrentInterface(nullptr);
-    return 0;
+    return CommandLine::Instance().ExitStatus();
 }

@@ -48,7 +48,7 @@ QStringList FittingSuffixes(OptionId option)
 QString Fitting(const CommandLineOption& option, const CommandLineParameter& parameter)
 {
     QStringList words;
-    if (parameter.placeholder.contains(u"<file path>"_s)) {
+    if (parameter.placeholder.contains(FilePlaceholder)) {
         words = QStringList{u"files"_s} + FittingSuffixes(option.id);
     } else {
         words.append(u"words"_s);

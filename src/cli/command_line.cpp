@@ -11,6 +11,7 @@
 #include "app/version.h"
 #include "cli/installed_fonts.h"
 #include "cli/option_actions.h"
+#include "files/file_types.h"
 #include "model/charset.h"
 #include "render/free_type_library.h"
 
@@ -116,6 +117,13 @@ bool CommandLine::isCommandLineMode(int argc, const char* const* argv)
     }
 }
 
+int CommandLine::TellNoWindow(int argc, const char* const* argv, const QString& text)
+{
+    const bool isStrict = WrittenArguments(argc, argv).Names(OptionId::Strict);
+    Console(stderr).PrintLine(isStrict ? u"Glyphor: error: "_s + text : text);
+    return isStrict ? 1 : 0;
+}
+
 void CommandLine::Fail(const QString& title, const QString& text, const Place& place, bool toFile)
 {
     const bool isKnown = !place.file.isEmpty() || !place.option.isEmpty();
@@ -176,10 +184,24 @@ void CommandLine::Run(const Arguments& arguments, Session& session)
     options_ = ReadRunOptions(occurrences, &CurrentInterface() != this,
                               [this](const Place& place) { messages_.SetPlace(place); });
     record_ = RunRecord(arguments.files, occurrences);
-    for (const OptionOccurrence& occurrence : occurrences)
+    for (const OptionOccurrence& occurrence : occurrences) {
         Execute(occurrence, session);
+        if (occurrence.Id() == OptionId::Open)
+            WarnOfUnusedOptions(occurrences, occurrence.Get<QString>(0));
+    }
     if (!isStandalone)
         Finish(session);
+}
+
+void CommandLine::WarnOfUnusedOptions(const std::vector<OptionOccurrence>& occurrences,
+                                      const QString& path)
+{
+    if (IsScalable(FileTypeOf(path)))
+        return;
+    for (const OptionOccurrence& occurrence : occurrences) {
+        messages_.SetPlace(occurrence.place);
+        WarnOfUnusedOption(occurrence, path);
+    }
 }
 
 void CommandLine::Execute(const OptionOccurrence& occurrence, Session& session)
@@ -262,6 +284,11 @@ void CommandLine::warning(const QString&, const QString& text)
 void CommandLine::critical(const QString& title, const QString& text)
 {
     messages_.Critical(title, text);
+}
+
+void CommandLine::PartlyDone(const QString& text)
+{
+    messages_.Warning(text);
 }
 
 bool CommandLine::handleRequest(ActionType kind)

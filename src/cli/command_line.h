@@ -26,6 +26,9 @@ public:
     // letter case; also where they can't all be read, since nobody knows then.
     [[nodiscard]] static bool isCommandLineMode(int argc, const char* const* argv);
 
+    // Tells on standard error why there is no window. What the program ends with then.
+    static int TellNoWindow(int argc, const char* const* argv, const QString& text);
+
     // Parses and runs the arguments on the session's font. A failure is shown by the current
     // interface and ends the run; it goes no further.
     void RunGuarded(int argc, const char* const* argv, Session& session);
@@ -42,7 +45,7 @@ public:
     bool handleRequest(ActionType kind) override;
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
-    void PartlyDone(const QString& text) override { messages_.Warning(text); }
+    void PartlyDone(const QString& text) override;
     bool ProgressChanged(const QString& text, int value, int maximum) override;
     void ProgressFinished() override;
 
@@ -56,6 +59,7 @@ private:
     void Fail(const QString& title, const QString& text, const Place& place, bool toFile);
     void Run(const Arguments& arguments, Session& session);
     void Execute(const OptionOccurrence& occurrence, Session& session);
+    void WarnOfUnusedOptions(const std::vector<OptionOccurrence>& occurrences, const QString& path);
     void Perform(const std::shared_ptr<Action>& action);
     void TellMissing(const Font& font);
     void Finish(Session& session);

@@ -87,7 +87,15 @@ ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& 
 
 namespace {
 
-// Walks the arguments. The positional option is counted without -hide, which may stand anywhere.
+// What says how the program runs, and not what it does.
+bool StandsAnywhere(OptionId option)
+{
+    using enum OptionId;
+    return option == Hide || option == Strict || option == Quiet || option == Defaults ||
+           option == Set;
+}
+
+// Walks the arguments. The positional option is counted without those that may stand anywhere.
 class ArgumentReader
 {
 public:
@@ -99,7 +107,7 @@ public:
         for (int position = 0; next_ < arguments_.size();) {
             place_ = arguments_[next_].place;
             const CommandLineOption* const option = Recognise(arguments_[next_].text, position);
-            if (option == nullptr || option->position < 0)
+            if (arguments_[next_].text.startsWith(u'-'))
                 place_.option = arguments_[next_].text;
             if (option == nullptr) {
                 ReadLegacy(arguments_[next_++].text, occurrences);
@@ -109,7 +117,7 @@ public:
             const std::size_t begin = next_;
             if (option->position < 0)
                 ++next_;
-            if (option->id != OptionId::Hide)
+            if (!StandsAnywhere(option->id))
                 ++position;
             OptionOccurrence& occurrence =
                 occurrences.emplace_back(option, ReadValues(*option), place_);

@@ -82,7 +82,8 @@ QJsonObject FileReport(const QString& path, const char* kind)
     QJsonObject report{{u"file"_s, Shown(path)}, {u"kind"_s, QString::fromLatin1(kind)}};
     File file(path);
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (KindOf(path) != FileKind::Ordinary || !file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+    if (KindOf(path) != FileKind::Ordinary || !file.open(QIODevice::ReadOnly) ||
+        !hash.addData(&file))
         return report;
     report[u"size"_s] = file.size();
     report[u"sha256"_s] = QString::fromLatin1(hash.result().toHex());

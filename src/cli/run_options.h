@@ -44,7 +44,7 @@ void SelectCodes(std::optional<CodeSet>& selection, const CodeSet& codes);
 // Runs an option that selects characters.
 void Select(const OptionOccurrence& occurrence, RunOptions& options);
 
-// Warns of an option that has no effect on the file, since that is not rendered.
+// Warns of an option that says how fonts are rendered, which that of the file is not.
 void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path);
 
 } // namespace Glyphor
