@@ -1,10 +1,10 @@
 #include "support/c_files.h"
+#include "support/program.h"
 #include "support/recipes.h"
 #include "support/rows.h"
 #include "support/test_main.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
@@ -55,15 +55,11 @@ class TestFirmware : public QObject
 
     Outcome Run(const QString& program, const QStringList& arguments, const QString& folder) const
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"PATH"_s, Path(u"all of it/bin:/usr/bin:/bin"_s));
-        QProcess process;
-        process.setProcessEnvironment(environment);
-        process.setProcessChannelMode(QProcess::MergedChannels);
-        process.setWorkingDirectory(folder);
-        process.start(program, arguments);
-        const bool ran = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
-        return {ran && process.exitCode() == 0, process.readAll()};
+        const auto findGlyphor = [this] {
+            qputenv("PATH", Path(u"all of it/bin:/usr/bin:/bin"_s).toUtf8());
+        };
+        const auto result = Test::RunProgram(folder, program, arguments, {}, findGlyphor);
+        return {result.status == 0, (result.output + result.errors).toUtf8()};
     }
 
     Outcome Configure(const QString& generator, const QString& folder) const
