@@ -147,7 +147,7 @@ private Q_SLOTS:
         const QString program = folder.filePath(u"dump"_s);
         QStringList arguments = {u"-DFONT_NAME=GUI_Font8_Tests_Plain_1"_s,
                                  u"-DFONT_FILE=\"%1\""_s.arg(fileName), u"-o"_s, program,
-                                 QString::fromUtf8(TEST_SOURCES "/files/gui/dump.c")};
+                                 QString::fromUtf8(TEST_SOURCES "/files/dump.c")};
         if (fileName.endsWith(u".h"_s))
             arguments.append(u"-DFONT_IS_HEADER"_s);
         else

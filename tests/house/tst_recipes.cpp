@@ -1,10 +1,10 @@
+#include "support/c_files.h"
+#include "support/recipes.h"
 #include "support/rows.h"
-#include "support/test_main.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -12,22 +12,20 @@ namespace Glyphor {
 
 namespace {
 
-QString Captured(const QString& text, const char* pattern)
-{
-    const QRegularExpression expression(QString::fromUtf8(pattern),
-                                        QRegularExpression::DotMatchesEverythingOption);
-    return expression.match(text).captured(1);
-}
-
 QString FromHtml(QString text)
 {
     return text.replace("&lt;"_L1, "<"_L1).replace("&gt;"_L1, ">"_L1).replace("&amp;"_L1, "&"_L1);
 }
 
-QString ReadmeMakefile()
+QString ExampleFile(const QString& name)
 {
-    QString text = Captured(Test::Document(u"README.md"_s), "In a Makefile:\n\n(.*?)\n\n");
-    return text.replace(QRegularExpression(u"^    "_s, QRegularExpression::MultilineOption), {});
+    return QString::fromUtf8(
+        Test::ReadAll(QStringLiteral(PROJECT_SOURCES "/docs/examples/firmware/") + name));
+}
+
+QString FontFile()
+{
+    return QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
 }
 
 } // namespace
@@ -40,15 +38,51 @@ class TestRecipes : public QObject
 
     QString manual_ = Test::Document(u"docs/manual/index.html"_s);
 
+    // The block of code of the manual that begins and goes on like this.
+    QString FromManual(const QString& pattern) const
+    {
+        return FromHtml(Test::Captured(manual_, u"<pre><code>(%1)</code></pre>"_s.arg(pattern)));
+    }
+
 private Q_SLOTS:
     void DocumentsAgree()
     {
-        const QString makefile = ReadmeMakefile();
-        QVERIFY(makefile.startsWith(u"DejaVu.c: DejaVuSans.ttf\n\t"_s));
-        QCOMPARE(FromHtml(Captured(manual_, "<pre><code>(DejaVu\\.c: .*?)</code>")), makefile);
-        QString page = Captured(Test::Document(u"docs/Glyphor.1"_s), "\n(DejaVu\\.c: .*?)\n\\.fi");
-        page.replace(" \\e\n\t    "_L1, " "_L1).replace("\\-"_L1, "-"_L1);
-        QCOMPARE(page.replace("\\(aq"_L1, "'"_L1), makefile);
+        const QString makefile = Test::MakefileRecipe();
+        QVERIFY(makefile.startsWith(u"Ui24.c: DejaVuSans.ttf"_s));
+        QCOMPARE(FromManual(u"Ui24\\.c: .*?"_s), makefile);
+        QString page =
+            Test::Captured(Test::Document(u"docs/Glyphor.1"_s), u"\n(Ui24\\.c: .*?)\n\\.fi"_s);
+        QCOMPARE(page.replace("\\e\n"_L1, "\\\n"_L1).replace("\\-"_L1, "-"_L1), makefile);
+        QVERIFY(!Test::CMakeRecipe().isEmpty());
+        QCOMPARE(FromManual(u"find_package.*?"_s), Test::CMakeRecipe());
+        for (const char* const name : {"GUI.h", "draw.h", "draw.c"}) {
+            const QString file = ExampleFile(QString::fromUtf8(name)).chopped(1);
+            QVERIFY2(FromHtml(manual_).contains(u"<code>%1</code>"_s.arg(file)), name);
+        }
+    }
+
+    // What the manual prints is what its programs print.
+    void ManualDraws()
+    {
+        const QTemporaryDir folder;
+        const auto write = [&](const QString& name, const QString& text) {
+            Test::WriteAll(folder.filePath(name), text.toUtf8() + '\n');
+        };
+        for (const QString& name : {u"GUI.h"_s, u"draw.h"_s, u"draw.c"_s})
+            write(name, ExampleFile(name));
+        write(u"main.c"_s, FromManual(u"#include \"draw.h\"\n#include &lt;stdio.h&gt;.*?"_s));
+        QString convert = FromManual(u"Glyphor DejaVuSans.ttf -hide [^<]*-save DejaVu.c"_s);
+        convert.replace(u"Glyphor"_s, u"'%1'"_s.arg(QString::fromUtf8(GLYPHOR_PROGRAM)));
+        convert.replace(u"DejaVuSans.ttf"_s, FontFile());
+        write(u"run.sh"_s, u"set -e; cd '%1'\n"_s.arg(folder.path()) + convert + u" >log\n"_s +
+                               FromManual(u"awk .*?"_s) + u'\n' + FromManual(u"gcc .*?"_s));
+        QString said = QString::fromUtf8(Test::OutputOf(u"sh"_s, {folder.filePath(u"run.sh"_s)}));
+        said.replace(QRegularExpression(u" +\n"_s), u"\n"_s);
+        const QString picture =
+            FromManual(u"gcc [^<]*</code></pre>\n<pre><code>.*?"_s).section(u"<pre><code>"_s, 1);
+        QVERIFY2(!picture.isEmpty() && said.contains(picture + u'\n'), qPrintable(said));
+        QCOMPARE(Test::ReadAll(folder.filePath(u"GUI_patterns.h"_s)),
+                 ExampleFile(u"GUI_patterns.h"_s).section(u'\n', 1).toUtf8());
     }
 
     void Recipes_data()
@@ -59,14 +93,14 @@ private Q_SLOTS:
             const char* name;
             QString text;
             QString output;
+            bool allowsWarnings;
         };
-        const Recipe recipes[] = {
-            {"Makefile", u"make -f recipe.mk"_s, u"DejaVu.c"_s},
-            {"script", FromHtml(Captured(manual_, "<pre><code>(#!/bin/sh.*?)</code>")),
-             u"Ui16.c"_s},
-            {"no warnings",
-             FromHtml(Captured(manual_, "<pre><code>(Glyphor [^<]*a\\.txt.*?)</code>")), u"a.c"_s}};
-        const QString good = u"exec '%1' \"$@\""_s.arg(QString::fromUtf8(GLYPHOR_PROGRAM));
+        const Recipe recipes[] = {{"Makefile", u"make -f recipe.mk"_s, u"Ui24.c"_s, false},
+                                  {"script", FromManual(u"#!/bin/sh.*?"_s), u"Ui16.c"_s, false},
+                                  {"warnings pass",
+                                   u"mkdir new\n"_s + FromManual(u"{ Glyphor .*?"_s), u"Ui24.c"_s,
+                                   true}};
+        const QString good = u"'%1' \"$@\""_s.arg(QString::fromUtf8(GLYPHOR_PROGRAM));
         for (const Recipe& recipe : recipes) {
             const auto row = [&](const char* name, const QString& program, bool passes) {
                 rows(QTest::addRow("%s, %s", recipe.name, name), recipe.text, recipe.output,
@@ -75,8 +109,10 @@ private Q_SLOTS:
             row("good", good, true);
             row("missing", {}, false);
             row("crashing", u"kill -SEGV $$"_s, false);
-            row("failing", u"echo 'Critical error!'; echo Reason"_s, false);
-            row("crashing on the way", u"echo 'Opened font file: x'; kill -KILL $$"_s, false);
+            row("failing", u"echo 'Glyphor: error: Reason' >&2; exit 1"_s, false);
+            row("failing at the end", good + u"; exit 1"_s, false);
+            row("warning", good + u" -chars あ"_s, recipe.allowsWarnings);
+            row("crashing at the end", good + u"; kill -KILL $$"_s, false);
         }
     }
 
@@ -86,9 +122,10 @@ private Q_SLOTS:
         QVERIFY(!recipe.isEmpty());
         const QTemporaryDir folder;
         const auto file = [&folder](const QString& name) { return folder.filePath(name); };
-        QVERIFY(
-            QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf"), file(u"DejaVuSans.ttf"_s)));
-        Test::WriteAll(file(u"recipe.mk"_s), ReadmeMakefile().toUtf8() + '\n');
+        QVERIFY(QFile::copy(FontFile(), file(u"DejaVuSans.ttf"_s)));
+        for (const QString& name : {u"de.po"_s, u"pl.po"_s})
+            Test::WriteAll(file(name), ExampleFile(name).toUtf8());
+        Test::WriteAll(file(u"recipe.mk"_s), Test::MakefileRecipe().toUtf8() + '\n');
         Test::WriteAll(file(u"recipe.sh"_s), recipe.toUtf8() + '\n');
         Test::WriteAll(file(output), "old");
         QFile old(file(output));

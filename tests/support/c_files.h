@@ -27,19 +27,6 @@ inline void CompareWithGolden(QByteArray text, const QString& name)
     QCOMPARE(text, ReadAll(path));
 }
 
-// Writes the constants for every byte that the library's header has: "X" and "_" for its bits.
-inline void WritePatternHeader(const QString& folder)
-{
-    QByteArray text;
-    for (int byte = 0; byte < 256; ++byte) {
-        QByteArray name;
-        for (int bit = 7; bit >= 0; --bit)
-            name += (byte >> bit & 1) != 0 ? 'X' : '_';
-        text += "#define " + name + ' ' + QByteArray::number(byte) + '\n';
-    }
-    WriteAll(folder + QStringLiteral("/GUI_patterns.h"), text);
-}
-
 // What the program prints, on standard output and standard error together.
 inline QByteArray OutputOf(const QString& program, const QStringList& arguments)
 {
@@ -54,8 +41,7 @@ inline QByteArray OutputOf(const QString& program, const QStringList& arguments)
 // What the compiler says to sources that include the library's header and files of the folder.
 inline QByteArray Compile(const QString& folder, const QStringList& arguments)
 {
-    WritePatternHeader(folder);
-    const QString header = QStringLiteral("-I" TEST_SOURCES "/files/gui");
+    const QString header = QStringLiteral("-I" PROJECT_SOURCES "/docs/examples/firmware");
     return OutputOf(QStringLiteral("gcc"),
                     QStringList{QStringLiteral("-std=gnu99"), QStringLiteral("-Wall"),
                                 QStringLiteral("-Wextra"), QStringLiteral("-Werror"), header,

@@ -19,10 +19,10 @@ static void bytes(const unsigned char* data, int count)
 static void legacy(const GUI_FONT* font, const GUI_FONT_PROP* prop)
 {
     for (; prop != 0; prop = prop->pNext) {
-        const GUI_CHARINFO* info = prop->paCharInfo;
+        const GUI_CHARINFO* info = prop->paInfo;
         for (int code = prop->First; code <= prop->Last; ++code, ++info) {
-            printf("%04X %d %d %d:", code, info->XSize, info->XDist, info->BytesPerLine);
-            bytes(info->pData, info->BytesPerLine * font->YSize);
+            printf("%04X %d %d %d:", code, info->Width, info->Advance, info->BytesPerLine);
+            bytes(info->pData, info->BytesPerLine * font->Height);
         }
     }
 }
@@ -30,11 +30,11 @@ static void legacy(const GUI_FONT* font, const GUI_FONT_PROP* prop)
 static void extended(int bits, int planes, const GUI_FONT_PROP_EXT* prop)
 {
     for (; prop != 0; prop = prop->pNext) {
-        const GUI_CHARINFO_EXT* info = prop->paCharInfo;
+        const GUI_CHARINFO_EXT* info = prop->paInfo;
         for (int code = prop->First; code <= prop->Last; ++code, ++info) {
-            printf("%04X %d %d %d %d %d:", code, info->XSize, info->YSize, info->XPos, info->YPos,
-                   info->XDist);
-            bytes(info->pData, (bits * info->XSize + 7) / 8 * info->YSize * planes);
+            printf("%04X %d %d %d %d %d:", code, info->Width, info->Height, info->XOffset,
+                   info->YOffset, info->Advance);
+            bytes(info->pData, (bits * info->Width + 7) / 8 * info->Height * planes);
         }
     }
 }
@@ -43,11 +43,11 @@ int main(void)
 {
     static const int bits[] = {1, 2, 4, 1, 1, 2, 4};
     const GUI_FONT* font = &FONT_NAME;
-    printf("%d %d %d %d %d %d %d %d\n", font->Type, font->YSize, font->YDist, font->XMag,
-           font->YMag, font->Baseline, font->LHeight, font->CHeight);
+    printf("%d %d %d %d %d %d %d %d\n", font->Type, font->Height, font->LineDistance, font->MagX,
+           font->MagY, font->Baseline, font->LowercaseHeight, font->CapitalHeight);
     if (font->Type <= GUI_FONTTYPE_PROP_AA4)
-        legacy(font, font->p.pProp);
+        legacy(font, font->Prop.pFirst);
     else
-        extended(bits[font->Type], font->Type == GUI_FONTTYPE_PROP_FRM ? 2 : 1, font->p.pProp);
+        extended(bits[font->Type], font->Type == GUI_FONTTYPE_PROP_FRM ? 2 : 1, font->Prop.pFirst);
     return 0;
 }
