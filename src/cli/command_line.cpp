@@ -340,13 +340,15 @@ bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const Q
 
 bool CommandLine::ProgressChanged(const QString& text, int value, int maximum)
 {
-    messages_.Status(u"%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
+    if (messages_.ShowsProgress())
+        messages_.Progress(u"%1 %2 %"_s.arg(text).arg(qint64(value) * 100 / maximum));
     return true;
 }
 
 void CommandLine::ProgressFinished()
 {
-    messages_.Status({});
+    if (messages_.ShowsProgress())
+        messages_.Progress({});
 }
 
 int CommandLine::AskKeyword(const QString& reason, const QString& subject,

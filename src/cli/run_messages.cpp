@@ -111,12 +111,6 @@ void RunMessages::Critical(const QString& title, const QString& text, const Plac
         output_.PrintLine(where, ConsoleColour::Red);
 }
 
-void RunMessages::Status(const QString& text)
-{
-    if (errors_.IsTerminal() && !mode_.isQuiet)
-        errors_.ShowStatus(text);
-}
-
 int RunMessages::ExitStatus() const
 {
     constexpr int error = 1;

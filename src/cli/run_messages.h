@@ -54,8 +54,11 @@ public:
     // The user was told of a failure elsewhere.
     void MarkFailed() { hasFailed_ = true; }
 
-    // Progress, where standard error is a terminal; an empty text clears it.
-    void Status(const QString& text);
+    // Where standard error is a terminal.
+    [[nodiscard]] bool ShowsProgress() const { return errors_.IsTerminal() && !mode_.isQuiet; }
+
+    // An empty text clears it.
+    void Progress(const QString& text) { errors_.ShowStatus(text); }
 
     [[nodiscard]] const std::vector<RunWarning>& Warnings() const { return warnings_; }
 
