@@ -193,6 +193,7 @@ private Q_SLOTS:
                                      small, title,        u"Whole.c"_s, u"firmware"_s};
             row(u"pattern.txt"_s, {u"Whole.c"_s, u"firmware"_s});
             row(u"DejaVuSans.ttf"_s, all);
+            row(u"CMakeLists.txt"_s, {plain, plainKerning, u"firmware"_s});
             row(u"../../all of it/bin/Glyphor"_s, all);
             row(u"extra.options"_s, {extra, extraKerning, u"firmware"_s});
             row(u"the extra.txt"_s, {extra, extraKerning, u"firmware"_s});
@@ -204,8 +205,11 @@ private Q_SLOTS:
         const auto [tool, input, expected] = Test::Row<QString, QString, QStringList>();
         Build(tool);
         const auto before = Products(tool);
-        if (!input.isEmpty())
-            Touch(SourceFolder(tool) + input);
+        const QString path = SourceFolder(tool) + input;
+        if (input == "CMakeLists.txt"_L1)
+            Test::WriteAll(path, Test::ReadAll(path).replace("Plain HEIGHT 32", "Plain HEIGHT 33"));
+        else if (!input.isEmpty())
+            Touch(path);
         const Outcome built = Build(tool);
         QVERIFY2(built.isGood, built.said.constData());
         const auto after = Products(tool);
