@@ -12,11 +12,13 @@
 #include "files/c_survey.h"
 #include "files/kerning_file.h"
 
+#include <QScopeGuard>
+
 namespace Glyphor {
 
 bool ActionSaveFile::Execute()
 {
-    const Font* const font = CurrentSession().CurrentFont();
+    Font* const font = CurrentSession().CurrentFont();
     const auto type = FileTypeOf(Args().path);
     const char* const refusal = type ? RowOf(*type).legacyRefusal : nullptr;
     if (refusal != nullptr && font != nullptr && IsLegacyFormat(font->Metrics().format))
@@ -28,14 +30,27 @@ bool ActionSaveFile::Execute()
     if (!IsKerning() && font->Metrics().height == 0)
         ThrowActionError(Engine::tr("Font has no rows!"),
                          Engine::tr("All rows of the font were deleted, so it can't be saved."));
+    if (!Args().name)
+        return Write(*font);
+    const QString before = font->Name();
+    font->SetName(*Args().name);
+    auto restore = qScopeGuard([&] { font->SetName(before); });
+    const bool isWritten = Write(*font);
+    if (isWritten)
+        restore.dismiss();
+    return isWritten;
+}
+
+bool ActionSaveFile::Write(const Font& font) const
+{
     const QStringList actionLog = CurrentSession().Stack().LogLines();
     if (IsKerning()) {
-        SaveKerning(*font, actionLog);
+        SaveKerning(font, actionLog);
         return true;
     }
     if (!MayReplace())
         return false;
-    MakeOutputFile(Args().path, actionLog)->Write(*font);
+    MakeOutputFile(Args().path, actionLog)->Write(font);
     WriteLogFile(actionLog);
     return true;
 }

@@ -2,6 +2,8 @@
 
 #include "actions/action.h"
 
+#include <optional>
+
 namespace Glyphor {
 
 class Font;
@@ -9,7 +11,8 @@ class Font;
 struct ActionSaveFileArgs
 {
     QString path;
-    bool writesEmptyKerning = false; // with a warning, where there are no pairs
+    bool writesEmptyKerning = false;  // with a warning, where there are no pairs
+    std::optional<QString> name = {}; // that the font gets with it
 };
 
 // Writes the enabled characters to a file whose kind its name tells, and the log file beside it
@@ -27,6 +30,8 @@ public:
     [[nodiscard]] bool IsUndoable() const override { return false; }
 
 private:
+    // False where the user does not want it.
+    [[nodiscard]] bool Write(const Font& font) const;
     [[nodiscard]] bool IsKerning() const;
     [[nodiscard]] bool MayReplace() const;
     void SaveKerning(const Font& font, const QStringList& actionLog) const;

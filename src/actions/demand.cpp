@@ -61,7 +61,7 @@ QString NamedCharacter(char32_t character)
     return name.isEmpty() ? code : code + u' ' + name;
 }
 
-MissingCharacters MissingCharacter(char32_t character, EncodingType encoding, const Place& place)
+DemandGap MissingCharacter(char32_t character, EncodingType encoding, const Place& place)
 {
     const Reason reason = ReasonOf(character, encoding);
     return {place, reason.text.arg(NamedCharacter(character)), reason.inShort, {character}};
@@ -123,8 +123,8 @@ void Demand::AskRange(CodeRange range, const Place& place)
         ranges_.push_back({range, place});
 }
 
-std::vector<MissingCharacters> Demand::MissingIn(const Font& font,
-                                                 const std::optional<CodeSet>& selection) const
+std::vector<DemandGap> Demand::MissingIn(const Font& font,
+                                         const std::optional<CodeSet>& selection) const
 {
     const CodeSet saved = font.SavedCodes();
     const EncodingType encoding = font.Metrics().encoding;
@@ -134,7 +134,7 @@ std::vector<MissingCharacters> Demand::MissingIn(const Font& font,
     };
     const auto isSelected = [&](quint16 code) { return !selection || selection->Test(code); };
 
-    std::vector<MissingCharacters> found;
+    std::vector<DemandGap> found;
     for (const auto& [character, code, place] : characters_) {
         if ((!code || isSelected(*code)) && isMissing(character))
             found.push_back(MissingCharacter(character, encoding, place));

@@ -15,7 +15,7 @@ namespace Glyphor {
 class Font;
 
 // What a font does not have of what was asked for, as a message.
-struct MissingCharacters
+struct DemandGap
 {
     Place place; // where it was asked for first
     QString text;
@@ -45,8 +45,8 @@ public:
 
     // What the font does not have enabled of all this, in the order in which it was asked for. What
     // the selection was told to leave out again is not missed.
-    [[nodiscard]] std::vector<MissingCharacters>
-    MissingIn(const Font& font, const std::optional<CodeSet>& selection) const;
+    [[nodiscard]] std::vector<DemandGap> MissingIn(const Font& font,
+                                                   const std::optional<CodeSet>& selection) const;
 
 private:
     struct Character

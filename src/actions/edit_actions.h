@@ -67,7 +67,7 @@ public:
     [[nodiscard]] QString Shortfall() const override;
 
 private:
-    int leftOut_ = 0; // steps that were asked for
+    int leftOut_ = 0;            // steps that were asked for
     std::vector<CodeSet> grown_; // by each step at the top: which characters got a row of their own
 };
 

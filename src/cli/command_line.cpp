@@ -245,7 +245,7 @@ void CommandLine::TellMissing(const Font& font)
     if (record_.IsChecked())
         return;
     record_.SetMissing(options_.demand.MissingIn(font, options_.open.selection));
-    for (const MissingCharacters& missing : record_.Missing()) {
+    for (const DemandGap& missing : record_.Missing()) {
         if (options_.onlyChecks)
             messages_.Warning(missing.text, missing.place);
         else

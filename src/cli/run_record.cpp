@@ -102,7 +102,7 @@ void RunRecord::Add(const Action& action)
     }
 }
 
-void RunRecord::SetMissing(std::vector<MissingCharacters> missing)
+void RunRecord::SetMissing(std::vector<DemandGap> missing)
 {
     missing_ = std::move(missing);
     isChecked_ = true;
@@ -111,7 +111,7 @@ void RunRecord::SetMissing(std::vector<MissingCharacters> missing)
 QString RunRecord::CheckResult() const
 {
     std::size_t count = 0;
-    for (const MissingCharacters& entry : missing_)
+    for (const DemandGap& entry : missing_)
         count += entry.codes.size();
     return count == 0 ? Engine::tr("The font has all characters that were asked for.")
                       : Engine::tr("Characters that the font does not have: %1").arg(qint64(count));
@@ -120,7 +120,7 @@ QString RunRecord::CheckResult() const
 QJsonArray RunRecord::MissingList() const
 {
     QJsonArray list;
-    for (const MissingCharacters& entry : missing_) {
+    for (const DemandGap& entry : missing_) {
         for (const char32_t character : entry.codes) {
             QJsonObject report = PlaceReport(entry.place);
             report[u"code"_s] = CodeReport(character);

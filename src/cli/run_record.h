@@ -22,8 +22,8 @@ public:
     // An action that was performed.
     void Add(const Action& action);
 
-    void SetMissing(std::vector<MissingCharacters> missing);
-    [[nodiscard]] const std::vector<MissingCharacters>& Missing() const { return missing_; }
+    void SetMissing(std::vector<DemandGap> missing);
+    [[nodiscard]] const std::vector<DemandGap>& Missing() const { return missing_; }
 
     // Whether it is known what is missing.
     [[nodiscard]] bool IsChecked() const { return isChecked_; }
@@ -51,7 +51,7 @@ private:
     std::vector<UsedFile> inputs_;
     std::vector<UsedFile> outputs_;
     QJsonArray optionsInForce_;
-    std::vector<MissingCharacters> missing_;
+    std::vector<DemandGap> missing_;
     bool isChecked_ = false;
     std::optional<ActionOpenFontArgs> rendered_; // of a font that is no bitmap font
 };

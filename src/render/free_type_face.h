@@ -66,8 +66,8 @@ public:
     // In pixels, at the current size.
     [[nodiscard]] int EmSize() const;
 
-    // The larger one of a glyph's sides, or its advance where that is larger still, as a fraction of
-    // the em; 0 for a glyph without ink.
+    // The larger one of a glyph's sides, or its advance where that is larger still, as a fraction
+    // of the em; 0 for a glyph without ink.
     [[nodiscard]] double GlyphExtent(FT_UInt index) const;
     [[nodiscard]] FaceStyle Style() const;
 

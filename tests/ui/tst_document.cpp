@@ -194,6 +194,39 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(folder_.filePath(saved)));
     }
 
+    // A font that was named is called so in C, and its file is offered by that name.
+    void SaveDialogNamesTheFont()
+    {
+        auto font = Test::MakeSampleFont(FontFormat::AA4);
+        font->SetName(u"Ui24"_s);
+        session_->ReplaceFont(std::move(font), Path("face.ttf"));
+        const DialogAnswer<QFileDialog> answer([&](QFileDialog& dialog) {
+            dialog.setDirectory(folder_.path());
+            auto* const name = dialog.findChild<QLineEdit*>(u"name"_s);
+            QCOMPARE(name->text(), u"Ui24"_s);
+            name->clear();
+            QTest::keyClicks(name, u"Big 3-2"_s);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        QVERIFY(window_->CurrentDocument().SaveAs());
+        QVERIFY(Test::ReadAll(Path("Ui24.c")).contains("GUI_FONT GUI_FontBig32 = {"));
+        QCOMPARE(CurrentFont().Name(), u"Big32"_s);
+    }
+
+    void PatternsTellWhatIsMissing()
+    {
+        OpenSample();
+        CodeSet codes;
+        for (const QChar code : u"\nA\u20AC"_s)
+            codes.Set(code.unicode(), true);
+        PatternFile(Path("codes.txt")).Write(codes);
+        BoxAnswer box(QMessageBox::Ok);
+        QVERIFY(window_->CurrentDocument().ReadPattern(Path("codes.txt")));
+        QCOMPARE(
+            box.text,
+            u"Read pattern file: Characters that the font does not have: 1\nU+20AC EURO SIGN is not in the font"_s);
+    }
+
     void ScalableFontsAskHow()
     {
         const QString path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");

@@ -87,6 +87,8 @@ QWidget* PreferencesDialog::MakeFilesPage()
     auto* const form = new QFormLayout(page);
     form->addRow(MakeBox(settings.logActions, tr("&Log actions in C files")));
     form->addRow(MakeBox(settings.createLogFile, tr("Create a log &file beside a saved font")));
+    form->addRow(MakeBox(settings.writePaths, tr("&Write the folders of files into both"),
+                         tr("Without them, a font is the same wherever it is made.")));
     form->addRow(useSystemEndings);
     form->addRow(tr("Line &endings:"), lineEndings);
     connect(useSystemEndings, &QCheckBox::toggled, lineEndings, &QWidget::setDisabled);

@@ -3,6 +3,7 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_read_pattern.h"
 #include "actions/action_save_file.h"
+#include "actions/demand.h"
 #include "actions/font_files.h"
 #include "actions/pattern_file.h"
 #include "actions/session.h"
@@ -10,6 +11,7 @@
 #include "app/file_system.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "files/c_file_text.h"
 #include "render/font_file_scalable.h"
 #include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
@@ -21,8 +23,12 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QRegularExpressionValidator>
 #include <QUrl>
 
 namespace Glyphor {
@@ -47,6 +53,24 @@ QStringList ShownFaceNames(const QString& path)
             names[index] = Document::tr("Instance %1").arg(index);
     }
     return names;
+}
+
+// What C files call the font. Dialogs of the desktop have no room for more fields.
+QLineEdit* AddNameField(QFileDialog& dialog, const QString& name)
+{
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    auto* const grid = qobject_cast<QGridLayout*>(dialog.layout());
+    if (grid == nullptr)
+        return nullptr;
+    auto* const field = new QLineEdit(name);
+    field->setObjectName(u"name"_s);
+    static const QRegularExpression letters(u"[A-Za-z0-9_]*"_s);
+    field->setValidator(new QRegularExpressionValidator(letters, field));
+    field->setToolTip(Document::tr("C files call the font GUI_Font and then this."));
+    const int row = grid->rowCount();
+    grid->addWidget(LabelFor(*field, Document::tr("&Name in C files:")), row, 0);
+    grid->addWidget(field, row, 1);
+    return field;
 }
 
 } // namespace
@@ -165,9 +189,11 @@ QString Document::AskOpenPath(const QString& title, const QString& filter)
 }
 
 // A name without a suffix gets the first one of the filter that is chosen.
-QString Document::AskSavePath(const QString& title, const QString& proposed, const QString& filter)
+QString Document::AskSavePath(const QString& title, const QString& proposed, const QString& filter,
+                              QString* name)
 {
     QFileDialog dialog(&window_, title, Folder());
+    QLineEdit* const nameField = name != nullptr ? AddNameField(dialog, *name) : nullptr;
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(filter.split(u";;"_s));
     const auto takeSuffix = [&dialog](const QString& chosen) {
@@ -176,9 +202,9 @@ QString Document::AskSavePath(const QString& title, const QString& proposed, con
     };
     connect(&dialog, &QFileDialog::filterSelected, &dialog, takeSuffix);
     const QString pattern = u"*."_s + QFileInfo(proposed).suffix();
-    for (const QString& name : dialog.nameFilters()) {
-        if (name.contains(pattern + u' ') || name.contains(pattern + u')')) {
-            dialog.selectNameFilter(name);
+    for (const QString& offered : dialog.nameFilters()) {
+        if (offered.contains(pattern + u' ') || offered.contains(pattern + u')')) {
+            dialog.selectNameFilter(offered);
             break;
         }
     }
@@ -186,6 +212,8 @@ QString Document::AskSavePath(const QString& title, const QString& proposed, con
     dialog.selectFile(proposed);
     if (dialog.exec() != QDialog::Accepted)
         return {};
+    if (nameField != nullptr && !nameField->text().isEmpty())
+        *name = nameField->text();
     QString path = ChosenPath(dialog.selectedUrls().constFirst());
     folder_ = QFileInfo(path).path();
     return path;
@@ -205,17 +233,27 @@ bool Document::Save()
 bool Document::SaveAs()
 {
     const QString suffix = HasOwnFile() ? u'.' + QFileInfo(session_.Path()).suffix() : u".c"_s;
-    const QString path =
-        AskSavePath(tr("Save font file"), ProposedName(suffix), FontFileFilter(true));
-    return !path.isEmpty() && SaveTo(path, ActionType::SaveFontAs);
+    return AskAndSave(tr("Save font file"), ProposedName(suffix), FontFileFilter(true),
+                      ActionType::SaveFontAs);
 }
 
-bool Document::SaveTo(const QString& path, ActionType type)
+bool Document::AskAndSave(const QString& title, const QString& proposed, const QString& filter,
+                          ActionType type)
+{
+    const QString before = QString::fromLatin1(CName(session_.CurrentFont()->Name()));
+    QString name = before;
+    const QString path = AskSavePath(title, proposed, filter, &name);
+    return !path.isEmpty() &&
+           SaveTo(path, type, name != before ? std::optional(name) : std::nullopt);
+}
+
+bool Document::SaveTo(const QString& path, ActionType type, const std::optional<QString>& name)
 {
     bool isSaved = false;
     Guarded([&] {
         const auto action = std::make_shared<ActionSaveFile>(session_, type);
         action->Args().path = path;
+        action->Args().name = name;
         isSaved = action->Run();
     });
     if (isSaved && type != ActionType::SaveKerning)
@@ -234,18 +272,20 @@ QString Document::Folder() const
     return isOwn ? font.path() : QDir::homePath();
 }
 
-// Without bytes that a file dialog can't pass on.
+// The name that the font was given, or else that of its file, without bytes that a file dialog
+// can't pass on.
 QString Document::ProposedName(const QString& suffix) const
 {
+    const QString& name = session_.CurrentFont()->Name();
+    if (!HasOwnFile() && name == QString::fromLatin1(CName(name)))
+        return name + suffix;
     return WithoutRawBytes(QFileInfo(session_.Path()).completeBaseName(), u'_') + suffix;
 }
 
 void Document::SaveKerning()
 {
-    const QString path =
-        AskSavePath(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter());
-    if (!path.isEmpty())
-        SaveTo(path, ActionType::SaveKerning);
+    AskAndSave(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter(),
+               ActionType::SaveKerning);
 }
 
 void Document::OpenPattern()
@@ -275,11 +315,31 @@ bool Document::ReadPattern(const QString& path)
         const auto action = std::make_shared<ActionReadPattern>(session_);
         action->Args().path = path;
         isRead = action->Run();
-        if (!isRead)
+        if (isRead)
+            TellMissing(PatternFile(path).Read());
+        else
             CurrentInterface().warning(tr("Read pattern file"),
                                        tr("The file %1 does not exist.").arg(Shown(path)));
     });
     return isRead;
+}
+
+void Document::TellMissing(const CodeSet& pattern) const
+{
+    constexpr std::size_t shown = 20;
+    const Font& font = *session_.CurrentFont();
+    Demand demand;
+    demand.SetEncoding(font.Metrics().encoding);
+    demand.Ask(pattern, {});
+    const std::vector<DemandGap> gaps = demand.MissingIn(font, pattern);
+    if (gaps.empty())
+        return;
+    QStringList lines = {tr("Characters that the font does not have: %1").arg(gaps.size())};
+    for (std::size_t index = 0; index < std::min(shown, gaps.size()); ++index)
+        lines.append(gaps[index].text);
+    if (gaps.size() > shown)
+        lines.append(u"..."_s);
+    CurrentInterface().information(tr("Read pattern file"), lines.join(u'\n'));
 }
 
 void Document::AddRecentFile(const QString& path)

@@ -68,12 +68,17 @@ Q_SIGNALS:
 private:
     [[nodiscard]] bool AskFont(ActionOpenFontArgs& args);
     [[nodiscard]] bool AskGeneration(ActionOpenFontArgs& args);
-    bool SaveTo(const QString& path, ActionType type);
+    bool AskAndSave(const QString& title, const QString& proposed, const QString& filter,
+                    ActionType type);
+    bool SaveTo(const QString& path, ActionType type, const std::optional<QString>& name = {});
+    void TellMissing(const CodeSet& pattern) const;
     [[nodiscard]] QString Folder() const;
     [[nodiscard]] QString ProposedName(const QString& suffix) const;
     [[nodiscard]] QString AskOpenPath(const QString& title, const QString& filter);
+
+    // With a name, its field is in the dialog too, which changes it.
     [[nodiscard]] QString AskSavePath(const QString& title, const QString& proposed,
-                                      const QString& filter);
+                                      const QString& filter, QString* name = nullptr);
 
     Session& session_;
     FontIndexer& indexer_;

@@ -422,10 +422,6 @@ Die aktuelle Schrift im Format „%1“ kann nicht mit der anderen im Format „
         <translation>Die Schrift %1 %2 wurde nicht gefunden!</translation>
     </message>
     <message>
-        <source>The %1 of -%2 has to be from 1 to %3.</source>
-        <translation>%1 bei -%2 muss von 1 bis %3 sein.</translation>
-    </message>
-    <message>
         <source>The font height %1 is not usable: -height takes a whole number from 1 to %2, followed by px or pt (e.g. 24px).</source>
         <translation>Die Schrifthöhe %1 ist nicht verwendbar: -height nimmt eine ganze Zahl von 1 bis %2 mit px oder pt (z. B. 24px).</translation>
     </message>
@@ -828,8 +824,6 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>Ihr erstes Element ist nicht %1.</translation>
     </message>
     <message>
-        <source>It is not valid XML: %1</source>
-        <translation>Sie ist kein gültiges XML: %1</translation>
         <source>Error parsing range: %1</source>
         <translation>Fehler beim Lesen des Bereichs: %1</translation>
     </message>
@@ -848,6 +842,154 @@ Erwartete Größe: %2 Byte.</translation>
     <message>
         <source>Invalid encoding type: %2</source>
         <translation>Ungültige Kodierung: %2</translation>
+    </message>
+    <message>
+        <source>Font merging</source>
+        <translation>Mischen von Schriften</translation>
+    </message>
+    <message>
+        <source>The current font is %1 pixels high with its baseline at %2, the other one %3 with its baseline at %4: their characters do not stand on one line.</source>
+        <translation>Die aktuelle Schrift ist %1 Pixel hoch und hat ihre Grundlinie bei %2, die andere ist %3 Pixel hoch mit der Grundlinie bei %4: Ihre Zeichen stehen nicht auf einer Zeile.</translation>
+    </message>
+    <message>
+        <source>Font has no rows!</source>
+        <translation>Die Schrift hat keine Zeilen!</translation>
+    </message>
+    <message>
+        <source>All rows of the font were deleted, so it can&apos;t be saved.</source>
+        <translation>Alle Zeilen der Schrift sind gelöscht; sie kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 is above U+FFFF, where fonts have no characters: use one of U+E000 to U+F8FF in its place</source>
+        <translation>%1 liegt über U+FFFF, wo Schriften keine Zeichen haben: Nehmen Sie stattdessen eines von U+E000 bis U+F8FF</translation>
+    </message>
+    <message>
+        <source>%1 is not in Shift JIS</source>
+        <translation>%1 gibt es in Shift JIS nicht</translation>
+    </message>
+    <message>
+        <source>%1 is not in the font</source>
+        <translation>%1 fehlt in der Schrift</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 characters 0x%3-0x%4 are not in the font: %5</source>
+        <translation>%1 der %2 Zeichen 0x%3-0x%4 fehlen in der Schrift: %5</translation>
+    </message>
+    <message>
+        <source>%1: the font has no character there</source>
+        <translation>%1: Die Schrift hat dort kein Zeichen</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 steps were left out</source>
+        <translation>%1: %2 von %3 Schritten blieben aus</translation>
+    </message>
+    <message>
+        <source>%1: up to %2 of %3 steps were left out, on %4 of %5 characters</source>
+        <translation>%1: Bis zu %2 von %3 Schritten blieben aus, bei %4 von %5 Zeichen</translation>
+    </message>
+    <message>
+        <source>[Font]: %1 of %2 steps were left out; its height is %3 now</source>
+        <translation>[Schrift]: %1 von %2 Schritten blieben aus; sie ist jetzt %3 Pixel hoch</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true oder false</translation>
+    </message>
+    <message>
+        <source>0, 1 or 2</source>
+        <translation>0, 1 oder 2</translation>
+    </message>
+    <message>
+        <source>folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>The setting %1 can&apos;t be &quot;%2&quot;: it takes %3.</source>
+        <translation>Die Einstellung %1 kann nicht „%2“ sein: Möglich ist %3.</translation>
+    </message>
+    <message>
+        <source>%1 sets nothing: write KEY=VALUE.</source>
+        <translation>%1 stellt nichts ein: Schreiben Sie SCHLÜSSEL=WERT.</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 that a run heeds. Those that there are: %2</source>
+        <translation>Es gibt keine Einstellung %1, die beachtet würde. Es gibt: %2</translation>
+    </message>
+    <message>
+        <source>Error reading arguments!</source>
+        <translation>Fehler beim Lesen der Argumente!</translation>
+    </message>
+    <message>
+        <source>The argument file %1 could not be read: %2</source>
+        <translation>Die Argumentdatei %1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>It is no text in UTF-8.</source>
+        <translation>Sie ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <source>A quotation mark is missing.</source>
+        <translation>Ein Anführungszeichen fehlt.</translation>
+    </message>
+    <message>
+        <source>Argument files are nested deeper than %1.</source>
+        <translation>Argumentdateien sind tiefer als %1 geschachtelt.</translation>
+    </message>
+    <message>
+        <source>Option: %1</source>
+        <translation>Option: %1</translation>
+    </message>
+    <message>
+        <source>File: %1</source>
+        <translation>Datei: %1</translation>
+    </message>
+    <message>
+        <source>The %1 of -%2 has to be from 0 to %3.</source>
+        <translation>%1 von -%2 muss zwischen 0 und %3 liegen.</translation>
+    </message>
+    <message>
+        <source>The name %1 is not usable: -name takes letters of ASCII, digits and underscores, as in the identifiers of C.</source>
+        <translation>Der Name %1 ist nicht verwendbar: -name nimmt ASCII-Buchstaben, Ziffern und Unterstriche, wie in Bezeichnern von C.</translation>
+    </message>
+    <message>
+        <source>-check writes no font: it can&apos;t be given with -save or -kerning.</source>
+        <translation>-check schreibt keine Schrift und kann nicht zusammen mit -save oder -kerning stehen.</translation>
+    </message>
+    <message>
+        <source>-depfile needs a file that depends on others: give -save, -kerning or -report.</source>
+        <translation>-depfile braucht eine Datei, die von anderen abhängt: Geben Sie -save, -kerning oder -report an.</translation>
+    </message>
+    <message>
+        <source>There is no character set %1: -listcharsets lists them.</source>
+        <translation>Es gibt keinen Zeichensatz %1: -listcharsets zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>Option without effect</source>
+        <translation>Option ohne Wirkung</translation>
+    </message>
+    <message>
+        <source>-%1 was not used: the file %2 is not rendered.</source>
+        <translation>-%1 wurde nicht verwendet: Die Datei %2 wird nicht gerastert.</translation>
+    </message>
+    <message>
+        <source>The name %1 has a line end, which dependency files can&apos;t have.</source>
+        <translation>Der Name %1 enthält ein Zeilenende, was in Abhängigkeitsdateien nicht geht.</translation>
+    </message>
+    <message>
+        <source>The font has all characters that were asked for.</source>
+        <translation>Die Schrift hat alle verlangten Zeichen.</translation>
+    </message>
+    <message>
+        <source>Characters that the font does not have: %1</source>
+        <translation>Zeichen, die der Schrift fehlen: %1</translation>
+    </message>
+    <message>
+        <source>At a height of %1 pixels every character is larger than 255 pixels: the largest height that gives a character is about %2 pixels.</source>
+        <translation>Bei einer Höhe von %1 Pixeln ist jedes Zeichen größer als 255 Pixel: Die größte Höhe, die ein Zeichen ergibt, ist etwa %2 Pixel.</translation>
+    </message>
+    <message>
+        <source>It is not valid XML: %1</source>
+        <translation>Sie ist kein gültiges XML: %1</translation>
     </message>
 </context>
 <context>
@@ -1039,6 +1181,18 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Apply the pattern file %1 to this font?</source>
         <translation>Die Musterdatei %1 auf diese Schrift anwenden?</translation>
+    </message>
+    <message>
+        <source>C files call the font GUI_Font and then this.</source>
+        <translation>C-Dateien nennen die Schrift GUI_Font und dann so.</translation>
+    </message>
+    <message>
+        <source>&amp;Name in C files:</source>
+        <translation>&amp;Name in C-Dateien:</translation>
+    </message>
+    <message>
+        <source>Characters that the font does not have: %1</source>
+        <translation>Zeichen, die der Schrift fehlen: %1</translation>
     </message>
 </context>
 <context>
@@ -1648,6 +1802,14 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Additional font directories</source>
         <translation>Zusätzliche Schriftverzeichnisse</translation>
+    </message>
+    <message>
+        <source>&amp;Write the folders of files into both</source>
+        <translation>&amp;Ordner der Dateien in beide schreiben</translation>
+    </message>
+    <message>
+        <source>Without them, a font is the same wherever it is made.</source>
+        <translation>Ohne sie ist eine Schrift überall gleich, wo sie gemacht wird.</translation>
     </message>
 </context>
 <context>
