@@ -372,7 +372,10 @@ private Q_SLOTS:
     void WithoutDisplay()
     {
         // The tests' own display is of another kind.
-        const Result result = Run({u"-help"_s}, [] { ::unsetenv("QT_QPA_PLATFORM"); });
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(u"QT_QPA_PLATFORM"_s);
+        const Result result = Test::RunProgram(folder_->path(), QString::fromUtf8(GLYPHOR_PROGRAM),
+                                               {u"-help"_s}, {}, {}, environment);
         QCOMPARE(result.status, 0);
         QCOMPARE(result.output, QString());
         QCOMPARE(result.errors.count(u'\n'), 1);
