@@ -143,6 +143,10 @@ void CommandLine::RunGuarded(int argc, const char* const* argv, Session& session
 {
     const Arguments written = WrittenArguments(argc, argv);
     messages_.SetMode({written.Names(OptionId::Strict), written.Names(OptionId::Quiet)});
+    if (written.Names(OptionId::Help)) { // whatever else there is, and be it broken
+        CurrentInterface().handleRequest(ActionType::PrintUsage);
+        return;
+    }
     bool toFile = written.Names(OptionId::ErrorFile);
     try {
         try {
@@ -172,7 +176,7 @@ void CommandLine::Run(const Arguments& arguments, Session& session)
 {
     if (arguments.words.empty())
         return;
-    if (arguments.Names(OptionId::Help)) { // whatever else there is, and be it broken
+    if (arguments.Names(OptionId::Help)) { // of an argument file
         CurrentInterface().handleRequest(ActionType::PrintUsage);
         return;
     }

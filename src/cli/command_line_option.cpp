@@ -28,7 +28,7 @@ CommandLineParameter Text(const QString& placeholder,
     return {ParameterKind::Text, placeholder, keywords, required};
 }
 
-CommandLineParameter File()
+CommandLineParameter FilePath()
 {
     return Text(FilePlaceholder.toString());
 }
@@ -55,7 +55,7 @@ std::vector<CommandLineOption> MakeOptions()
 {
     using enum OptionId;
     return {
-        Option(Open, {}, {}, {File()},
+        Option(Open, {}, {}, {FilePath()},
                u"Open font file. Allowed are TTF, TTC, BDF, C, XBF and SIF font files."_s,
                {.position = 0, .exclusiveWith = Create}),
         Option(Create, u"create"_s, u"c"_s, {Text(u"<family name>"_s), Text(u"<style name>"_s)},
@@ -84,7 +84,7 @@ std::vector<CommandLineOption> MakeOptions()
                u"Disable a range of characters. Allowed are decimal or hexadecimal ranges (e.g. "
                "0x10-0x30) or \"all\"."_s,
                {.multiple = true}),
-        Option(ReadPattern, u"readpattern"_s, u"p"_s, {File()}, u"Reads a pattern file."_s,
+        Option(ReadPattern, u"readpattern"_s, u"p"_s, {FilePath()}, u"Reads a pattern file."_s,
                {.multiple = true}),
         Option(EditFont, u"editfont"_s, u"ef"_s,
                {Text(u"<action>"_s, &FontEditKeywords()), Number(u"<count>"_s, false)},
@@ -93,10 +93,10 @@ std::vector<CommandLineOption> MakeOptions()
                {Text(u"<action>"_s, &CharEditKeywords()), Range(), Number(u"<value>"_s, false)},
                u"Equivalent to the 'Edit' menu (character dependent)."_s, {.multiple = true}),
         Option(Merge, u"merge"_s, u"m"_s,
-               {File(), Text(u"<merge mode>"_s, &MergeKeywords(), false)},
+               {FilePath(), Text(u"<merge mode>"_s, &MergeKeywords(), false)},
                u"Merge the currently loaded font with another font file. Only C, XBF, SIF and BDF "
                "allowed."_s),
-        Option(Save, u"save"_s, u"s"_s, {File()}, u"Save font file."_s, {.required = true}),
+        Option(Save, u"save"_s, u"s"_s, {FilePath()}, u"Save font file."_s, {.required = true}),
         Option(
             ListFonts, u"listfonts"_s, u"lf"_s, {},
             u"Lists all font families and styles found in the given font directories. These fonts "
@@ -124,7 +124,7 @@ std::vector<CommandLineOption> MakeOptions()
                u"Uses a value for one of the settings in this run, e.g. WritePaths=false."_s,
                {.multiple = true}),
         Option(
-            TextFile, u"text"_s, u"t"_s, {File()},
+            TextFile, u"text"_s, u"t"_s, {FilePath()},
             u"Enables the characters of a text: PO, TS, XLIFF, JSON, CSV, C and C++ by what they "
             "say, any other file as a whole."_s,
             {.multiple = true}),
@@ -141,10 +141,10 @@ std::vector<CommandLineOption> MakeOptions()
                "writes no font."_s),
         Option(Name, u"name"_s, u"n"_s, {Text(u"<name>"_s)},
                u"Name of the font, and of the C structure behind \"GUI_Font\"."_s),
-        Option(Kerning, u"kerning"_s, u"k"_s, {File()}, u"Save kerning table as a C file."_s),
-        Option(Report, u"report"_s, u"r"_s, {File()},
+        Option(Kerning, u"kerning"_s, u"k"_s, {FilePath()}, u"Save kerning table as a C file."_s),
+        Option(Report, u"report"_s, u"r"_s, {FilePath()},
                u"Writes what was made of what into a JSON file."_s),
-        Option(DependencyFile, u"depfile"_s, u"dep"_s, {File()},
+        Option(DependencyFile, u"depfile"_s, u"dep"_s, {FilePath()},
                u"Writes the files that the output depends on into a file for Make or Ninja."_s),
     };
 }

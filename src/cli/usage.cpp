@@ -105,6 +105,8 @@ QString CommandLineParser::usage() const
         if (BeginsPair(option))
             text += u"    -- OR --\n"_s + Entry(OptionOf(option.exclusiveWith));
     }
+    text += u"   @<file path>  (accepted multiple times)\n"
+            "     Reads options from a file, one a line, with quotes and # comments.\n"_s;
     return text;
 }
 

@@ -5,6 +5,10 @@
 
 #include <QTest>
 
+#include <array>
+#include <sys/socket.h>
+#include <unistd.h>
+
 namespace Glyphor {
 
 class TestConsole : public QObject
@@ -32,6 +36,23 @@ private Q_SLOTS:
         QCOMPARE(QString::fromLocal8Bit(text, qsizetype(length)),
                  QStringLiteral("Gr\u00fc\u00dfe\\x1B]0;title\\x07\nb\n"));
         std::fclose(stream);
+    }
+
+    // Each line is a write of its own, so that those of parallel programs don't mix.
+    void LinesAreWrittenAtOnce()
+    {
+        std::array<int, 2> ends{};
+        QCOMPARE(::socketpair(AF_UNIX, SOCK_SEQPACKET, 0, ends.data()), 0);
+        std::FILE* const stream = ::fdopen(ends[0], "w");
+        std::setvbuf(stream, nullptr, _IONBF, 0);
+        Console console(stream);
+        console.PrintLine(u"one");
+        console.PrintLine(QString(3000, u'x'), ConsoleColour::Red);
+        std::array<char, 4000> packet{};
+        QCOMPARE(::read(ends[1], packet.data(), packet.size()), 4);
+        QCOMPARE(::read(ends[1], packet.data(), packet.size()), 3001);
+        std::fclose(stream);
+        ::close(ends[1]);
     }
 
     void ProgressTellsFullPercents()

@@ -103,7 +103,8 @@ private Q_SLOTS:
         const Test::ProgramResult quiet = Run(u"-hide -quiet @font.opt -chars AB -v -save a.c"_s);
         QCOMPARE(quiet.output + quiet.errors, QString());
         QVERIFY(Run(u"-hide -q none.ttf -h 9px"_s).output.startsWith(failed));
-        for (const QString& help : {u"-hide -save -help -bold -bold"_s, u"-? -hide -nonsense"_s})
+        for (const QString& help : {u"-hide -save -help -bold -bold"_s, u"-? -hide -nonsense"_s,
+                                    u"-hide @none.opt -help"_s})
             QVERIFY(Run(help).output.startsWith(u"USAGE:\n"_s));
         QVERIFY(Run(u"-version"_s).output.startsWith(u"Glyphor "_s));
         QVERIFY(Run(u"-listcharsets"_s).output.contains(u"ascii "_s));
@@ -125,9 +126,10 @@ private Q_SLOTS:
     void SettingsStayOutside()
     {
         Write("Morvek/Glyphor.conf", "[General]\nLogActions=false\nUseSysLineEndings=false\n");
+        const QByteArray ownHome = qgetenv("XDG_CONFIG_HOME");
         qputenv("XDG_CONFIG_HOME", folder_.path().toLocal8Bit());
         Run(u"-hide @font.opt -chars A -defaults -save one.c"_s);
-        qputenv("XDG_CONFIG_HOME", Path(u"none"_s).toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", ownHome);
         const QByteArray one = Test::ReadAll(Path(u"one.c"_s));
         QVERIFY(one.contains("Opened font file: /") && one.contains("\r\n"));
         Run(u"-hide @font.opt -chars A -set writepaths=false -set UseSysLineEndings=0 -set "

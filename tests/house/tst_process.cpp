@@ -372,10 +372,11 @@ private Q_SLOTS:
     void WithoutDisplay()
     {
         // The tests' own display is of another kind.
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(u"QT_QPA_PLATFORM"_s);
-        const Result result = Test::RunProgram(folder_->path(), QString::fromUtf8(GLYPHOR_PROGRAM),
-                                               {u"-help"_s}, {}, {}, environment);
+        const QByteArray own = qgetenv("QT_QPA_PLATFORM");
+        qunsetenv("QT_QPA_PLATFORM");
+        const Result result = Run({u"-help"_s});
+        QCOMPARE(Run({u"-help"_s, u"-strict"_s}).status, 1);
+        qputenv("QT_QPA_PLATFORM", own);
         QCOMPARE(result.status, 0);
         QCOMPARE(result.output, QString());
         QCOMPARE(result.errors.count(u'\n'), 1);
