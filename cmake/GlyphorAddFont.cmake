@@ -48,13 +48,8 @@ function(_glyphor_check_font target)
     endif()
 endfunction()
 
-function(glyphor_add_font target)
-    cmake_parse_arguments(PARSE_ARGV 1 FONT
-        "BOLD;ITALIC;KERNING;WARNINGS_OK"
-        "SOURCE;NAME;HEIGHT;FORMAT;ENCODING;FACE"
-        "ENABLE;DISABLE;CHARSETS;CHARS;TEXTS;PATTERNS;OPTIONS")
-    _glyphor_check_font(${target})
-
+# Makes the paths of files absolute and collects them.
+macro(_glyphor_find_inputs)
     set(inputs "")
     foreach(kind SOURCE TEXTS PATTERNS)
         set(files "")
@@ -65,16 +60,9 @@ function(glyphor_add_font target)
         set(FONT_${kind} "${files}")
         list(APPEND inputs ${files})
     endforeach()
+endmacro()
 
-    # The head of the file names it, so that it is made under its own name, in another folder.
-    set(folder "${CMAKE_CURRENT_BINARY_DIR}/glyphor/${target}")
-    set(files ${FONT_NAME}.c)
-    set(arguments "${FONT_SOURCE}" -hide -quiet -strict -defaults -set WritePaths=false
-        -name ${FONT_NAME} -save "${folder}/new/${FONT_NAME}.c")
-    if(FONT_KERNING)
-        list(APPEND files ${FONT_NAME}_Kerning.c)
-        list(APPEND arguments -kerning "${folder}/new/${FONT_NAME}_Kerning.c")
-    endif()
+macro(_glyphor_add_arguments)
     foreach(option HEIGHT FORMAT ENCODING FACE)
         string(TOLOWER -${option} name)
         _glyphor_option(FONT_${option} ${name})
@@ -93,6 +81,26 @@ function(glyphor_add_font target)
     _glyphor_option(FONT_PATTERNS -readpattern)
     _glyphor_option(FONT_DISABLE -disable)
     _glyphor_option(FONT_OPTIONS)
+endmacro()
+
+function(glyphor_add_font target)
+    cmake_parse_arguments(PARSE_ARGV 1 FONT
+        "BOLD;ITALIC;KERNING;WARNINGS_OK"
+        "SOURCE;NAME;HEIGHT;FORMAT;ENCODING;FACE"
+        "ENABLE;DISABLE;CHARSETS;CHARS;TEXTS;PATTERNS;OPTIONS")
+    _glyphor_check_font(${target})
+    _glyphor_find_inputs()
+
+    # The head of the file names it, so that it is made under its own name, in another folder.
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/glyphor/${target}")
+    set(files ${FONT_NAME}.c)
+    set(arguments "${FONT_SOURCE}" -hide -quiet -strict -defaults -set WritePaths=false
+        -name ${FONT_NAME} -save "${folder}/new/${FONT_NAME}.c")
+    if(FONT_KERNING)
+        list(APPEND files ${FONT_NAME}_Kerning.c)
+        list(APPEND arguments -kerning "${folder}/new/${FONT_NAME}_Kerning.c")
+    endif()
+    _glyphor_add_arguments()
 
     list(TRANSFORM files PREPEND "${folder}/" OUTPUT_VARIABLE outputs)
     list(TRANSFORM files PREPEND "${folder}/new/" OUTPUT_VARIABLE new_files)

@@ -15,13 +15,16 @@ struct ProgramResult
     int status = -1; // -1: it crashed
 };
 
-// Runs a program in a folder, with an input that ends, and waits for its end.
-inline ProgramResult RunProgram(const QString& folder, const QString& program,
-                                const QStringList& arguments, const QByteArray& input = {},
-                                const std::function<void()>& prepare = {})
+// Runs a program in a folder, with an input that ends, and waits for its end. What prepare changes
+// in the memory of the child may change here as well.
+inline ProgramResult
+RunProgram(const QString& folder, const QString& program, const QStringList& arguments,
+           const QByteArray& input = {}, const std::function<void()>& prepare = {},
+           const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
 {
     QProcess process;
     process.setWorkingDirectory(folder);
+    process.setProcessEnvironment(environment);
     if (prepare)
         process.setChildProcessModifier(prepare);
     process.start(program, arguments);
