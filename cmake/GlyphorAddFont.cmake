@@ -91,35 +91,39 @@ function(glyphor_add_font target)
     _glyphor_check_font(${target})
     _glyphor_find_inputs()
 
-    # The head of the file names it, so that it is made under its own name, in another folder.
+    # Where only Glyphor knows all inputs, or warnings may pass, a script looks at what came of it before it
+    # replaces the old files. Heads of files name them, so they are made under their own names, in another folder.
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/glyphor/${target}")
+    set(made "${folder}")
+    set(strictness -strict -werror)
+    if(FONT_OPTIONS OR FONT_WARNINGS_OK)
+        set(made "${folder}/new")
+        set(strictness -strict)
+    endif()
     set(files ${FONT_NAME}.c)
-    set(arguments "${FONT_SOURCE}" -hide -quiet -strict -defaults -set WritePaths=false
-        -name ${FONT_NAME} -save "${folder}/new/${FONT_NAME}.c")
+    set(arguments "${FONT_SOURCE}" -hide -quiet ${strictness} -defaults -set WritePaths=false
+        -name ${FONT_NAME} -save "${made}/${FONT_NAME}.c")
     if(FONT_KERNING)
         list(APPEND files ${FONT_NAME}_Kerning.c)
-        list(APPEND arguments -kerning "${folder}/new/${FONT_NAME}_Kerning.c")
+        list(APPEND arguments -kerning "${made}/${FONT_NAME}_Kerning.c")
     endif()
     _glyphor_add_arguments()
 
     list(TRANSFORM files PREPEND "${folder}/" OUTPUT_VARIABLE outputs)
-    list(TRANSFORM files PREPEND "${folder}/new/" OUTPUT_VARIABLE new_files)
-    file(MAKE_DIRECTORY "${folder}/new")
-    if(CMAKE_HOST_UNIX AND NOT FONT_OPTIONS AND NOT FONT_WARNINGS_OK)
-        # All inputs are known, and a conversion takes less time than CMake needs to start.
-        set(launcher "")
-        set(then COMMAND mv -f ${new_files} "${folder}")
-    else()
+    file(MAKE_DIRECTORY "${made}")
+    set(launcher "")
+    set(dependencies "")
+    if(FONT_OPTIONS OR FONT_WARNINGS_OK)
         list(JOIN files "\\;" file_list)
         set(launcher "${CMAKE_COMMAND}" "-DFOLDER=${folder}" "-DFILES=${file_list}"
             -DWARNINGS_OK=${FONT_WARNINGS_OK} -P "${_glyphor_convert}" --)
-        list(APPEND arguments -depfile "${folder}/new/${FONT_NAME}.d")
-        set(then DEPFILE "${folder}/${FONT_NAME}.d")
+        list(APPEND arguments -depfile "${made}/${FONT_NAME}.d")
+        set(dependencies DEPFILE "${folder}/${FONT_NAME}.d")
     endif()
     add_custom_command(
         OUTPUT ${outputs}
         COMMAND ${launcher} $<TARGET_FILE:Glyphor::Glyphor> ${arguments}
-        ${then}
+        ${dependencies}
         DEPENDS ${inputs} Glyphor::Glyphor "${_glyphor_convert}"
         WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}"
         COMMENT "Converting ${FONT_NAME}.c"

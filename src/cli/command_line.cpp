@@ -4,6 +4,7 @@
 #include "actions/action_save_file.h"
 #include "actions/session.h"
 #include "app/critical_exception.h"
+#include "app/engine_texts.h"
 #include "app/error_file.h"
 #include "app/progress.h"
 #include "app/settings.h"
@@ -12,6 +13,7 @@
 #include "cli/installed_fonts.h"
 #include "cli/option_actions.h"
 #include "files/file_types.h"
+#include "files/kerning_file.h"
 #include "model/charset.h"
 #include "render/free_type_library.h"
 
@@ -185,6 +187,7 @@ void CommandLine::Run(const Arguments& arguments, Session& session)
     if (!isStandalone)
         ReorderOccurrences(occurrences);
     UseSettings(occurrences);
+    options_.warningsAreErrors = arguments.Names(OptionId::WarningsAreErrors);
     options_ = ReadRunOptions(occurrences, &CurrentInterface() != this,
                               [this](const Place& place) { messages_.SetPlace(place); });
     record_ = RunRecord(arguments.files, occurrences);
@@ -226,7 +229,7 @@ void CommandLine::Execute(const OptionOccurrence& occurrence, Session& session)
     const bool isWritten =
         occurrence.Id() == OptionId::Save || occurrence.Id() == OptionId::Kerning;
     if (isWritten && font != nullptr)
-        TellMissing(*font);
+        LookBeforeWriting(*font);
     Perform(row->make(occurrence, options_, session));
 }
 
@@ -243,6 +246,19 @@ void CommandLine::Perform(const std::shared_ptr<Action>& action)
         record_.Add(*action);
 }
 
+// Whatever would be warned of after the first file is written is known here.
+void CommandLine::LookBeforeWriting(const Font& font)
+{
+    TellMissing(font);
+    if (!options_.warningsAreErrors)
+        return;
+    if (!record_.Missing().empty())
+        throw CriticalException(
+            Engine::tr("The font lacks characters that were asked for, so it was not saved."));
+    if (options_.writesKerning && EnabledKerning(font).empty())
+        throw CriticalException(Engine::tr("The font has no kerning, so it was not saved."));
+}
+
 // Once, with the font as it is written.
 void CommandLine::TellMissing(const Font& font)
 {
@@ -250,7 +266,7 @@ void CommandLine::TellMissing(const Font& font)
         return;
     record_.SetMissing(options_.demand.MissingIn(font, options_.open.selection));
     for (const DemandGap& missing : record_.Missing()) {
-        if (options_.onlyChecks)
+        if (options_.onlyChecks || options_.warningsAreErrors)
             messages_.Warning(missing.text, missing.place);
         else
             messages_.Note(missing.text, missing.place);
@@ -282,6 +298,8 @@ void CommandLine::information(const QString&, const QString& text)
 
 void CommandLine::warning(const QString&, const QString& text)
 {
+    if (options_.warningsAreErrors)
+        throw CriticalException(text);
     messages_.Warning(text);
 }
 
@@ -292,7 +310,7 @@ void CommandLine::critical(const QString& title, const QString& text)
 
 void CommandLine::PartlyDone(const QString& text)
 {
-    messages_.Warning(text);
+    warning({}, text);
 }
 
 bool CommandLine::handleRequest(ActionType kind)

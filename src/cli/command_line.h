@@ -61,6 +61,7 @@ private:
     void Execute(const OptionOccurrence& occurrence, Session& session);
     void WarnOfUnusedOptions(const std::vector<OptionOccurrence>& occurrences, const QString& path);
     void Perform(const std::shared_ptr<Action>& action);
+    void LookBeforeWriting(const Font& font);
     void TellMissing(const Font& font);
     void Finish(Session& session);
     int AskKeyword(const QString& reason, const QString& subject,

@@ -146,6 +146,8 @@ std::vector<CommandLineOption> MakeOptions()
                u"Writes what was made of what into a JSON file."_s),
         Option(DependencyFile, u"depfile"_s, u"dep"_s, {FilePath()},
                u"Writes the files that the output depends on into a file for Make or Ninja."_s),
+        Option(WarningsAreErrors, u"werror"_s, u"we"_s, {},
+               u"Takes warnings for errors: a run that would warn writes nothing."_s),
     };
 }
 

@@ -49,7 +49,8 @@ enum class OptionId : int {
     Name = 32,
     Kerning = 33,
     Report = 34,
-    DependencyFile = 35
+    DependencyFile = 35,
+    WarningsAreErrors = 36
 };
 
 enum class ParameterKind { Number = 0, Text = 1, Range = 2 };

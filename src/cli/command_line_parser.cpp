@@ -91,8 +91,8 @@ namespace {
 bool StandsAnywhere(OptionId option)
 {
     using enum OptionId;
-    return option == Hide || option == Strict || option == Quiet || option == Defaults ||
-           option == Set;
+    return option == Hide || option == Strict || option == WarningsAreErrors || option == Quiet ||
+           option == Defaults || option == Set;
 }
 
 // Walks the arguments. The positional option is counted without those that may stand anywhere.

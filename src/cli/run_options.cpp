@@ -101,6 +101,10 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Kerning:
         if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
             ThrowUnsupportedFormat();
+        options.writesKerning = true;
+        break;
+    case OptionId::WarningsAreErrors:
+        options.warningsAreErrors = true;
         break;
     case OptionId::Report:
         options.reportPath = occurrence.Get<QString>(0);

@@ -16,6 +16,8 @@ struct RunOptions
     Demand demand; // for what the selection of characters asks for
     bool verbose = false;
     bool onlyChecks = false;
+    bool writesKerning = false;
+    bool warningsAreErrors = false;
     QString reportPath;         // empty for none
     QString dependencyFilePath; // likewise
 };

@@ -52,6 +52,11 @@ private Q_SLOTS:
             "(-e)\n"_s);
         row("edit", u"-hide @font.opt -chars A -ec DELR 0x41 500 -save a.c"_s, 2, QString());
         row("no kerning", u"-hide @font.opt -chars A -kerning k.c"_s, 2, QString());
+        row("lacks", u"-werror -hide @font.opt -text de.po -save a.c"_s, 1, euro);
+        row("lacks kerning", u"-werror -hide @font.opt -chars A -save a.c -kerning k.c"_s, 1,
+            QString());
+        row("warned", u"-werror -hide FONT -h 24 -chars A -save a.c"_s, 1,
+            bad + u"Invalid measuring format, assuming px. (-h)\n"_s);
         row("no unit", u"-hide FONT -chars A -h 24 -save a.c"_s, 2,
             u"Glyphor: warning: Invalid measuring format, assuming px. (-h)\n"_s);
         row("missing file", u"-hide none.ttf -h 9px -save a.c"_s, 1,

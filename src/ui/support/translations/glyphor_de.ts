@@ -991,6 +991,14 @@ Erwartete Größe: %2 Byte.</translation>
         <source>It is not valid XML: %1</source>
         <translation>Sie ist kein gültiges XML: %1</translation>
     </message>
+    <message>
+        <source>The font lacks characters that were asked for, so it was not saved.</source>
+        <translation>Der Schrift fehlen verlangte Zeichen; sie wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The font has no kerning, so it was not saved.</source>
+        <translation>Die Schrift hat kein Kerning; sie wurde nicht gespeichert.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
