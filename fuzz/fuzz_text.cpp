@@ -12,9 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static const QTemporaryDir folder(QStringLiteral("/dev/shm/glyphor-fuzz-XXXXXX"));
     static const std::array suffixes = {
-        QStringLiteral("po"),   QStringLiteral("ts"),  QStringLiteral("xlf"),
-        QStringLiteral("json"), QStringLiteral("csv"), QStringLiteral("c"),
-        QStringLiteral("txt"),
+        QStringLiteral("po"),  QStringLiteral("ts"), QStringLiteral("xlf"), QStringLiteral("json"),
+        QStringLiteral("csv"), QStringLiteral("c"),  QStringLiteral("txt"),
     };
     const QString path =
         folder.filePath(QStringLiteral("input.") + suffixes[size % suffixes.size()]);

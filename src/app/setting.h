@@ -68,9 +68,10 @@ public:
     // "true or false": the values that it takes.
     [[nodiscard]] virtual QString Values() const = 0;
 
+    virtual ~Preference() = default;
+
 protected:
     using OptionBase::OptionBase;
-    ~Preference() = default;
 };
 
 // A setting bound to a variable, which has the stored value or else the default.

@@ -119,10 +119,11 @@ public:
                 ++next_;
             if (!StandsAnywhere(option->id))
                 ++position;
-            OptionOccurrence& occurrence =
-                occurrences.emplace_back(option, ReadValues(*option), place_);
+            std::vector<ParameterValue> values = ReadValues(*option);
+            OptionOccurrence occurrence{option, std::move(values), place_};
             for (std::size_t word = begin; word < next_; ++word)
                 occurrence.words.append(arguments_[word].text);
+            occurrences.push_back(std::move(occurrence));
         }
         std::ranges::move(limits_, std::back_inserter(occurrences));
         return occurrences;
