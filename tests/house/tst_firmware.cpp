@@ -286,7 +286,7 @@ private Q_SLOTS:
         Test::WriteAll(folder.filePath(u"other/CMakeLists.txt"_s), "add_custom_target(other)\n");
         Test::WriteAll(folder.filePath(u"CMakeLists.txt"_s),
                        "cmake_minimum_required(VERSION 3.20)\nproject(calls NONE)\n"
-                       "find_package(Glyphor 0.1 REQUIRED)\nadd_custom_target(fonts)\n"
+                       "find_package(Glyphor 1.0 REQUIRED)\nadd_custom_target(fonts)\n"
                        "add_subdirectory(other)\nglyphor_add_font(" +
                            call.toUtf8() + ")\n");
         const Outcome configured = Configure(u"Ninja"_s, folder.path());
