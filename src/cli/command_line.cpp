@@ -265,12 +265,33 @@ void CommandLine::TellMissing(const Font& font)
     if (record_.IsChecked())
         return;
     record_.SetMissing(options_.demand.MissingIn(font, options_.open.selection));
+    if (&CurrentInterface() != this) {
+        ShowMissing();
+        return;
+    }
     for (const DemandGap& missing : record_.Missing()) {
         if (options_.onlyChecks || options_.warningsAreErrors)
             messages_.Warning(missing.text, missing.place);
         else
             messages_.Note(missing.text, missing.place);
     }
+}
+
+// In one box of the window.
+void CommandLine::ShowMissing() const
+{
+    constexpr std::size_t shown = 20;
+    QStringList lines;
+    for (const DemandGap& missing : record_.Missing()) {
+        if (lines.size() == shown) {
+            lines.append(u"..."_s);
+            break;
+        }
+        lines.append(u"%1: %2"_s.arg(PlaceText(missing.place), missing.text));
+    }
+    if (!lines.isEmpty())
+        CurrentInterface().information(Engine::tr("Characters that the font does not have"),
+                                       lines.join(u'\n'));
 }
 
 void CommandLine::Finish(Session& session)
@@ -280,7 +301,8 @@ void CommandLine::Finish(Session& session)
         return;
     TellMissing(*font);
     if (options_.onlyChecks)
-        information({}, record_.CheckResult());
+        CurrentInterface().information(Engine::tr("Characters that the font does not have"),
+                                       record_.CheckResult());
     if (!options_.reportPath.isEmpty()) {
         messages_.SetPlace({options_.reportPath, 0, {}});
         record_.WriteReport(*font, options_.reportPath, messages_.Warnings());

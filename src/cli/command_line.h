@@ -63,6 +63,7 @@ private:
     void Perform(const std::shared_ptr<Action>& action);
     void LookBeforeWriting(const Font& font);
     void TellMissing(const Font& font);
+    void ShowMissing() const;
     void Finish(Session& session);
     int AskKeyword(const QString& reason, const QString& subject,
                    const ParameterKeywordTable& keywords);

@@ -90,6 +90,8 @@ std::shared_ptr<Action> MakeFontEdit(const OptionOccurrence& occurrence, const R
                                      Session& session)
 {
     const auto type = static_cast<ActionType>(occurrence.Get<int>(0));
+    if (CountOf(occurrence, 1) == 0)
+        return nullptr;
     auto action = std::make_shared<ActionFont>(session, type);
     action->SetRepeat(CountOf(occurrence, 1));
     return action;
@@ -99,6 +101,8 @@ std::shared_ptr<Action> MakeCharEdit(const OptionOccurrence& occurrence, const R
                                      Session& session)
 {
     const auto type = static_cast<ActionType>(occurrence.Get<int>(0));
+    if (CountOf(occurrence, 2) == 0)
+        return nullptr;
     auto action = std::make_shared<ActionChar>(session, type);
     const CodeRange range = Ordered(occurrence.Get<CodeRange>(1));
     action->Args() = {range.first, range.last};

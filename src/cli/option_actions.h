@@ -14,7 +14,8 @@ struct OptionAction
     ActionType request;
 
     // The action with its arguments, which come from this use of the option and from those that
-    // say how fonts are opened. Null for a kind without one.
+    // say how fonts are opened; null where there is nothing to do. No function for a kind
+    // without an action.
     std::shared_ptr<Action> (*make)(const OptionOccurrence&, const RunOptions&, Session&) = nullptr;
 };
 

@@ -6,6 +6,7 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/preview/text_preview.h"
+#include "ui/support/application.h"
 #include "ui/window/help.h"
 #include "ui/window/progress_area.h"
 #include "ui/window_fixture.h"
@@ -28,6 +29,17 @@ class TestWindow : public QObject, protected Test::WindowFixture
     Q_OBJECT
 
 private Q_SLOTS:
+    void OptionsStayOurs()
+    {
+        char program[] = "Glyphor";
+        char option[] = "-name";
+        char value[] = "-names";
+        char* arguments[] = {program, option, value};
+        KeepOptions(3, arguments);
+        QCOMPARE(QByteArray(option), "-NAME");
+        QCOMPARE(QByteArray(value), "-names");
+    }
+
     void init() { OpenWindow(); }
     void cleanup() { CloseWindow(); }
 

@@ -2,6 +2,9 @@
 
 #include <QLibraryInfo>
 
+#include <algorithm>
+#include <cctype>
+
 // Outside of the namespace, as the macro needs it.
 static void InitTranslations()
 {
@@ -18,7 +21,7 @@ Application* runningApplication = nullptr;
 
 } // namespace
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv)
+Application::Application(int& argc, char** argv) : QApplication(argc, KeepOptions(argc, argv))
 {
     runningApplication = this;
     setDesktopFileName(u"com.example.morvek.Glyphor"_s);
@@ -36,6 +39,17 @@ Application::~Application()
 Application* Application::Instance()
 {
     return runningApplication;
+}
+
+// On X11 the toolkit reads "-name" as the name that window managers know the program by.
+char** KeepOptions(int argc, char** argv)
+{
+    for (int index = 1; index < argc; ++index) {
+        if (QLatin1StringView(argv[index]) == "-name"_L1)
+            std::transform(argv[index], argv[index] + qstrlen(argv[index]), argv[index],
+                           [](char letter) { return char(std::toupper(uchar(letter))); });
+    }
+    return argv;
 }
 
 // The first language that the user wants and that there are texts in, which English always is.

@@ -21,6 +21,10 @@ private:
     QTranslator toolkitTexts_;
 };
 
+// Writes options in upper case that the toolkit would take for its own, which minds the case of
+// letters where the options do not. Gives the arguments back.
+char** KeepOptions(int argc, char** argv);
+
 // Loads the texts of a language, and those of the toolkit; false where there is no translation.
 bool LoadTexts(const QLocale& locale, QTranslator& texts, QTranslator& toolkitTexts);
 

@@ -999,6 +999,10 @@ Erwartete Größe: %2 Byte.</translation>
         <source>The font has no kerning, so it was not saved.</source>
         <translation>Die Schrift hat kein Kerning; sie wurde nicht gespeichert.</translation>
     </message>
+    <message>
+        <source>Characters that the font does not have</source>
+        <translation>Zeichen, die der Schrift fehlen</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
