@@ -56,7 +56,7 @@ Reason ReasonOf(char32_t character, EncodingType encoding)
 // "U+20AC EURO SIGN"
 QString NamedCharacter(char32_t character)
 {
-    const QString code = u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
+    const QString code = UnicodeNotation(character);
     const QString name = NameOf(character);
     return name.isEmpty() ? code : code + u' ' + name;
 }

@@ -38,11 +38,6 @@ QJsonArray RangesOf(const std::vector<CodeRange>& runs)
 
 } // namespace
 
-QString CodeReport(char32_t character)
-{
-    return u"U+"_s + QString::number(character, 16).toUpper().rightJustified(4, u'0');
-}
-
 QJsonObject FontReport(const Font& font)
 {
     const FontMetrics& metrics = font.Metrics();

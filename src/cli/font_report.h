@@ -12,9 +12,6 @@ class Font;
 // The bytes that its C file takes of a target with 32-bit addresses, by part.
 [[nodiscard]] QJsonObject FlashReport(const Font& font);
 
-// "U+20AC"
-[[nodiscard]] QString CodeReport(char32_t character);
-
 // The name, kind, size and SHA-256 of a file; the name and kind alone where it is none any more, or
 // a device.
 [[nodiscard]] QJsonObject FileReport(const QString& path, const char* kind);

@@ -11,6 +11,7 @@
 #include "app/version.h"
 #include "cli/font_report.h"
 #include "files/file_types.h"
+#include "model/code_text.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -123,7 +124,7 @@ QJsonArray RunRecord::MissingList() const
     for (const DemandGap& entry : missing_) {
         for (const char32_t character : entry.codes) {
             QJsonObject report = PlaceReport(entry.place);
-            report[u"code"_s] = CodeReport(character);
+            report[u"code"_s] = UnicodeNotation(character);
             report[u"name"_s] = NameOf(character);
             report[u"reason"_s] = entry.reason;
             list.append(report);

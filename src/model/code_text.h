@@ -21,6 +21,13 @@ namespace Glyphor {
     return QString::fromLatin1(digits.data(), digits.size());
 }
 
+// A character of Unicode as messages name it, "U+20AC".
+[[nodiscard]] inline QString UnicodeNotation(char32_t character)
+{
+    return QStringLiteral("U+") +
+           QString::number(character, 16).toUpper().rightJustified(4, QLatin1Char('0'));
+}
+
 // A character code as the window shows it, by the user's choice.
 [[nodiscard]] inline QString ShownCode(quint16 code, bool isHexadecimal)
 {
