@@ -7,6 +7,8 @@
 #include "app/progress.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "render/font_assembly.h"
+#include "render/font_file_bdf.h"
 #include "render/font_file_scalable.h"
 
 namespace Glyphor {
@@ -54,25 +56,96 @@ RenderOptions OptionsOf(const ActionOpenFontArgs& args)
     return options;
 }
 
+// A scalable font whose face could be opened.
+std::unique_ptr<FontFileScalable> OpenScalable(const QString& path, const RenderOptions& options)
+{
+    auto file = MakeScalableFontFile(path, options);
+    const int faceCount = file->FaceCount();
+    if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
+        throw CriticalException(CreationFailed(), MissingFace(path, options.faceIndex, faceCount));
+    if (!file->OpenFault().isEmpty())
+        throw CriticalException(
+            CreationFailed(),
+            Engine::tr("The font file %1 can't be used: %2").arg(Shown(path), file->OpenFault()));
+    return file;
+}
+
+// What does not belong to the font's own face is the same for all sources.
+RenderOptions OptionsOf(const FontSource& source, const RenderOptions& own, int dotsPerInch)
+{
+    RenderOptions options = own;
+    options.faceIndex = 0;
+    options.charmapIndex = -1;
+    options.axes.clear();
+    options.map = source.map;
+    if (source.size)
+        options.SetHeight(*source.size, dotsPerInch);
+    return options;
+}
+
+GlyphSource OpenSource(const FontSource& source, const ActionOpenFontArgs& args,
+                       const RenderOptions& own)
+{
+    const FileType type = CheckInputFile(source.path);
+    if (type == FileType::Bdf) {
+        GlyphSource glyphs(FontFileBDF(source.path).SourceFace(), Shown(source.path));
+        glyphs.PlanGiven(source.map, own.encoding, args.selection);
+        return glyphs;
+    }
+    if (!IsScalable(type))
+        throw CriticalException(CreationFailed(),
+                                Engine::tr("The file %1 can't be a source of characters: -source "
+                                           "takes TTF, TTC and BDF files.")
+                                    .arg(Shown(source.path)));
+    const RenderOptions options = OptionsOf(source, own, args.dotsPerInch);
+    if (options.height == 0 && options.sixtyFourths == 0)
+        throw CriticalException(
+            CreationFailed(),
+            Engine::tr("The source %1 needs a height, behind its mapping or with -height.")
+                .arg(Shown(source.path)));
+    const auto file = OpenScalable(source.path, options);
+    file->SetCharacterFilter(args.selection);
+    return file->Source();
+}
+
+std::vector<GlyphSource> OpenSources(const ActionOpenFontArgs& args, const RenderOptions& options)
+{
+    std::vector<GlyphSource> sources;
+    for (const FontSource& source : args.sources) {
+        sources.push_back(OpenSource(source, args, options));
+        TellOfCodes(sources.back(), false);
+    }
+    return sources;
+}
+
 std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
 {
     const RenderOptions options = OptionsOf(args);
-    const auto file = MakeScalableFontFile(args.path, options);
-    const int faceCount = file->FaceCount();
-    if (faceCount > 0 && (options.faceIndex < 0 || options.faceIndex >= faceCount))
-        throw CriticalException(CreationFailed(),
-                                MissingFace(args.path, options.faceIndex, faceCount));
-    if (!file->OpenFault().isEmpty())
-        throw CriticalException(CreationFailed(), Engine::tr("The font file %1 can't be used: %2")
-                                                      .arg(Shown(args.path), file->OpenFault()));
+    const auto file = OpenScalable(args.path, options);
     WarnOfPoints(args);
     file->SetCharacterFilter(args.selection);
+    for (GlyphSource& source : OpenSources(args, options))
+        file->AddSource(std::move(source));
     return file->Read();
+}
+
+// Characters of the sources for a font that was read from a file of its own format.
+void AddSources(const ActionOpenFontArgs& args, Font& font)
+{
+    RenderOptions options = args.render;
+    options.format = font.Metrics().format;
+    options.encoding = font.Metrics().encoding;
+    FontAssembly assembly(font, Shown(args.path));
+    for (GlyphSource& source : OpenSources(args, options))
+        assembly.Add(std::move(source));
+    assembly.Render([](const PlannedGlyph&) {});
 }
 
 // The file object; where neither the file nor the arguments tell the format, the user does.
 std::unique_ptr<FontFile> FileWithFormat(const ActionOpenFontArgs& args)
 {
+    if (FileTypeOf(args.path) == FileType::Bdf)
+        return std::make_unique<FontFileBDF>(args.path, args.render.map);
     auto file = MakeInputFile(args.path, {args.format, args.encoding});
     if (args.format || file->TellsFormat())
         return file;
@@ -105,6 +178,8 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
         enabled &= *args.selection;
         font->SetEnabledCodes(enabled);
     }
+    if (!args.sources.empty())
+        AddSources(args, *font);
     return font;
 }
 

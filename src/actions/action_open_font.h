@@ -9,6 +9,16 @@
 
 namespace Glyphor {
 
+// A scalable font or a BDF file that gives characters to the font of another file.
+struct FontSource
+{
+    QString path;
+    CharacterMap map;
+    std::optional<FontSize> size; // that of the font itself where it is missing
+
+    bool operator==(const FontSource&) const = default;
+};
+
 struct ActionOpenFontArgs
 {
     QString path;
@@ -21,6 +31,9 @@ struct ActionOpenFontArgs
     // encoding those above count.
     FontSize size;
     RenderOptions render;
+    int dotsPerInch = 0; // of the screen that points are for; 0 without one
+
+    std::vector<FontSource> sources;
 
     // Instead of the name that the font has.
     std::optional<QString> name;

@@ -5,7 +5,6 @@
 #include "app/file_system.h"
 #include "app/settings.h"
 #include "app/shown_text.h"
-#include "render/font_file_bdf.h"
 
 namespace Glyphor {
 
@@ -51,8 +50,6 @@ FileType CheckInputFile(const QString& path)
 std::unique_ptr<FontFile> MakeInputFile(const QString& path, const FormatAnswer& answer)
 {
     const auto type = FileTypeOf(path);
-    if (type == FileType::Bdf)
-        return std::make_unique<FontFileBDF>(path);
     if (!type || RowOf(*type).make == nullptr)
         ThrowUnsupportedFormat();
     return RowOf(*type).make(path, {.answer = answer, .text = {}});

@@ -16,8 +16,8 @@ FileType CheckInputFile(const QString& path);
 // What the settings say about generated C files; the log is told where they want it told.
 [[nodiscard]] CFileOptions CFileOptionsOfSettings(const QStringList& actionLog);
 
-// The file object for a kind that has a size of its own, to be read. Throws a CriticalException for
-// any other kind.
+// The file object for one of our own kinds, to be read. Throws a CriticalException for any other
+// kind.
 [[nodiscard]] std::unique_ptr<FontFile> MakeInputFile(const QString& path,
                                                       const FormatAnswer& answer);
 

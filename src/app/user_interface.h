@@ -47,6 +47,12 @@ public:
     // Tells that an action was performed, with its log line. True if there is an action.
     virtual bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) = 0;
 
+    // Something that was asked for could not be had.
+    virtual void Lacking(const QString& text) = 0;
+
+    // Worth knowing, and nothing to be done about.
+    virtual void Hint(const QString& text) = 0;
+
     // Tells that a part of an action could not be done.
     virtual void PartlyDone(const QString& text) = 0;
 
@@ -81,6 +87,8 @@ public:
     {
         return action != nullptr;
     }
+    void Lacking(const QString&) override {}
+    void Hint(const QString&) override {}
     void PartlyDone(const QString&) override {}
     void ActionChanged(const std::shared_ptr<Action>&) override {}
     bool ProgressChanged(const QString&, int, int) override { return true; }

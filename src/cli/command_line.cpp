@@ -207,7 +207,7 @@ void CommandLine::WarnOfUnusedOptions(const std::vector<OptionOccurrence>& occur
         return;
     for (const OptionOccurrence& occurrence : occurrences) {
         messages_.SetPlace(occurrence.place);
-        WarnOfUnusedOption(occurrence, path);
+        WarnOfUnusedOption(occurrence, path, !options_.open.sources.empty());
     }
 }
 
@@ -328,6 +328,18 @@ void CommandLine::warning(const QString&, const QString& text)
 void CommandLine::critical(const QString& title, const QString& text)
 {
     messages_.Critical(title, text);
+}
+
+void CommandLine::Lacking(const QString& text)
+{
+    if (options_.warningsAreErrors)
+        throw CriticalException(text);
+    messages_.Note(text, messages_.CurrentPlace());
+}
+
+void CommandLine::Hint(const QString& text)
+{
+    messages_.Hint(text);
 }
 
 void CommandLine::PartlyDone(const QString& text)

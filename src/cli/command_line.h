@@ -45,6 +45,8 @@ public:
     bool handleRequest(ActionType kind) override;
     bool requestAction(Action& action) override;
     bool actionPerformed(const std::shared_ptr<Action>& action, const QString& logText) override;
+    void Lacking(const QString& text) override;
+    void Hint(const QString& text) override;
     void PartlyDone(const QString& text) override;
     bool ProgressChanged(const QString& text, int value, int maximum) override;
     void ProgressFinished() override;

@@ -3,6 +3,7 @@
 #include "actions/edit_table.h"
 #include "app/user_interface.h"
 #include "model/font_format.h"
+#include "render/render_options.h"
 
 #include <algorithm>
 
@@ -64,7 +65,8 @@ std::vector<CommandLineOption> MakeOptions()
                {.exclusiveWith = Open}),
         Option(Height, u"height"_s, u"h"_s, {Text(u"<font height>{px|pt}"_s)},
                u"Height of font in pixels or points. Only required for generating TrueType "
-               "fonts."_s),
+               "fonts. Behind cap:, x:, line: or em: it is that of the letter H or x, of the line "
+               "or of the em."_s),
         Option(Format, u"format"_s, u"f"_s, {Text(u"<output font format>"_s, &FormatKeywords())},
                u"Destination font format."_s),
         Option(Bold, u"bold"_s, u"b"_s, {},
@@ -148,6 +150,27 @@ std::vector<CommandLineOption> MakeOptions()
                u"Writes the files that the output depends on into a file for Make or Ninja."_s),
         Option(WarningsAreErrors, u"werror"_s, u"we"_s, {},
                u"Takes warnings for errors: a run that would warn writes nothing."_s),
+        Option(Fit, u"fit"_s, u"fit"_s, {},
+               u"Makes the font so high that all its ink lies within the line. Only used for TTF "
+               "and TTC."_s),
+        Option(Hinting, u"hinting"_s, u"hi"_s, {Text(u"<mode>"_s, &HintingKeywords())},
+               u"How outlines are fitted to the pixels. Only used for TTF and TTC."_s),
+        Option(Gamma, u"gamma"_s, u"ga"_s, {Text(u"<value>"_s)},
+               u"Makes the edges of strokes darker (above 1) or lighter (below). Only used for TTF "
+               "and TTC with 2 or 4 bits per pixel."_s),
+        Option(Axes, u"axes"_s, u"ax"_s, {Text(u"<tag>=<value>,..."_s)},
+               u"Moves a variable font along its axes (e.g. wght=550,wdth=87)."_s),
+        Option(Map, u"map"_s, u"mp"_s, {Text(u"<codes>[=<code>[:<name>]],..."_s)},
+               u"Which characters of a TTF, TTC or BDF file to take, and where they go (e.g. "
+               "0x20-0x7E,0xF02D1=0xE001)."_s),
+        Option(Source, u"source"_s, u"so"_s,
+               {FilePath(), Text(u"<codes>[=<code>[:<name>]],..."_s),
+                Text(u"<height>"_s, nullptr, false)},
+               u"Takes characters of another TTF, TTC or BDF file into the font; those behind a ? "
+               "where they are missing."_s,
+               {.multiple = true}),
+        Option(Charmap, u"charmap"_s, u"cm"_s, {Number(u"<index>"_s)},
+               u"Index of the charmap that tells the codes of a TTF or TTC file."_s),
     };
 }
 
@@ -230,6 +253,19 @@ const ParameterKeywordTable& MergeKeywords()
         {u"KEEP"_s, u"Retains duplicate characters in opened font."_s, keep},
         {u"ReplaceOld"_s, {}, replace, true},
         {u"KeepOld"_s, {}, keep, true},
+    });
+    return table;
+}
+
+const ParameterKeywordTable& HintingKeywords()
+{
+    using enum Glyphor::Hinting;
+    static const ParameterKeywordTable table({
+        {u"default"_s, u"As the font wants it, with the shapes of letters kept."_s, int(Default)},
+        {u"mono"_s, u"Stems of whole pixels, for 1 bit per pixel."_s, int(Mono)},
+        {u"light"_s, u"Vertically alone, so that widths stay."_s, int(Light)},
+        {u"auto"_s, u"By FreeType instead of the font's own instructions."_s, int(Auto)},
+        {u"none"_s, u"Not at all."_s, int(None)},
     });
     return table;
 }

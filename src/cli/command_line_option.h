@@ -50,7 +50,14 @@ enum class OptionId : int {
     Kerning = 33,
     Report = 34,
     DependencyFile = 35,
-    WarningsAreErrors = 36
+    WarningsAreErrors = 36,
+    Hinting = 37,
+    Gamma = 38,
+    Axes = 39,
+    Fit = 41,
+    Source = 42,
+    Map = 43,
+    Charmap = 44
 };
 
 enum class ParameterKind { Number = 0, Text = 1, Range = 2 };
@@ -147,6 +154,7 @@ struct OptionOccurrence
 [[nodiscard]] const ParameterKeywordTable& FormatKeywords();
 [[nodiscard]] const ParameterKeywordTable& EncodingKeywords();
 [[nodiscard]] const ParameterKeywordTable& MergeKeywords();
+[[nodiscard]] const ParameterKeywordTable& HintingKeywords();
 [[nodiscard]] const ParameterKeywordTable& FontEditKeywords();
 [[nodiscard]] const ParameterKeywordTable& CharEditKeywords();
 

@@ -88,6 +88,16 @@ void RunMessages::Note(const QString& text, const Place& place)
     }
 }
 
+void RunMessages::Hint(const QString& text)
+{
+    if (mode_.isQuiet)
+        return;
+    if (mode_.isStrict)
+        PrintForTools(u"note"_s, text, place_, ConsoleColour::Default);
+    else
+        errors_.PrintLine(text);
+}
+
 void RunMessages::Critical(const QString& title, const QString& text)
 {
     Critical(title, text, place_);

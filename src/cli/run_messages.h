@@ -44,6 +44,9 @@ public:
     // A note that is a warning where the run is strict, and goes to standard error in any case.
     void Note(const QString& text, const Place& place);
 
+    // A note that is one in any case.
+    void Hint(const QString& text);
+
     void Critical(const QString& title, const QString& text);
     void Critical(const QString& title, const QString& text, const Place& place);
 

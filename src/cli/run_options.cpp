@@ -8,9 +8,14 @@
 #include "files/file_types.h"
 #include "model/charset.h"
 #include "model/code_text.h"
+#include "render/face_variations.h"
 #include "texts/text_file.h"
 
+#include <QLocale>
+
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <utility>
 
 namespace Glyphor {
@@ -56,12 +61,35 @@ QString CheckedName(const QString& name)
     return name;
 }
 
+double ParseGamma(const QString& text)
+{
+    constexpr double smallest = 0.1;
+    constexpr double largest = 10;
+    bool isNumber = false;
+    const double gamma = text.toDouble(&isNumber);
+    if (!isNumber || !(gamma >= smallest && gamma <= largest))
+        throw CriticalException(
+            Engine::tr("The gamma %1 is not usable: -gamma takes a number from 0.1 to 10 (e.g. "
+                       "1.4).")
+                .arg(Shown(text)));
+    return gamma;
+}
+
+FontSource SourceOf(const OptionOccurrence& occurrence)
+{
+    FontSource source{occurrence.Get<QString>(0), ParseCharacterMap(occurrence.Get<QString>(1)),
+                      std::nullopt};
+    if (std::holds_alternative<QString>(occurrence.values[2]))
+        source.size = ParseHeight(occurrence.Get<QString>(2));
+    return source;
+}
+
 void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
 {
     switch (occurrence.Id()) {
     case OptionId::Height:
         options.open.size = ParseHeight(occurrence.Get<QString>(0));
-        options.open.render.height = options.open.size.PixelHeight(NoScreen);
+        options.open.render.SetHeight(options.open.size, NoScreen);
         break;
     case OptionId::Format:
         options.open.format = static_cast<FontFormat>(occurrence.Get<int>(0));
@@ -77,6 +105,27 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         break;
     case OptionId::Face:
         options.open.render.faceIndex = occurrence.Get<int>(0);
+        break;
+    case OptionId::Fit:
+        options.open.render.fitsInk = true;
+        break;
+    case OptionId::Hinting:
+        options.open.render.hinting = static_cast<Hinting>(occurrence.Get<int>(0));
+        break;
+    case OptionId::Gamma:
+        options.open.render.gamma = ParseGamma(occurrence.Get<QString>(0));
+        break;
+    case OptionId::Axes:
+        options.open.render.axes = ParseAxes(occurrence.Get<QString>(0));
+        break;
+    case OptionId::Map:
+        options.open.render.map = ParseCharacterMap(occurrence.Get<QString>(0));
+        break;
+    case OptionId::Charmap:
+        options.open.render.charmapIndex = occurrence.Get<int>(0);
+        break;
+    case OptionId::Source:
+        options.open.sources.push_back(SourceOf(occurrence));
         break;
     case OptionId::EditFont:
         CheckCount(occurrence, 1);
@@ -145,25 +194,81 @@ bool OpensScalableFont(const OptionOccurrence& occurrence)
 
 } // namespace
 
+namespace {
+
+struct HeightPrefixRow
+{
+    QLatin1StringView text;
+    HeightUnit unit;
+};
+
+constexpr std::array HeightPrefixes = {
+    HeightPrefixRow{"cap:"_L1, HeightUnit::Capital},
+    HeightPrefixRow{"x:"_L1, HeightUnit::LowercaseX},
+    HeightPrefixRow{"line:"_L1, HeightUnit::Line},
+    HeightPrefixRow{"em:"_L1, HeightUnit::Em},
+};
+
+const HeightPrefixRow* PrefixOf(const QString& text)
+{
+    const auto* const row = std::ranges::find_if(HeightPrefixes, [&text](const auto& candidate) {
+        return text.startsWith(candidate.text, Qt::CaseInsensitive);
+    });
+    return row != HeightPrefixes.end() ? row : nullptr;
+}
+
+// In 64ths, rounded; nothing for what is no number of digits, with a fraction only where that is
+// allowed.
+std::optional<qint64> FineNumber(const QString& text, bool mayHaveFraction)
+{
+    const bool isPlain = std::ranges::all_of(text, [mayHaveFraction](QChar character) {
+        return (character >= u'0' && character <= u'9') || (mayHaveFraction && character == u'.');
+    });
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (!isPlain || !isNumber || number > MaxHeight)
+        return std::nullopt;
+    return std::llround(number * 64);
+}
+
+[[noreturn]] void RefuseHeight(const QString& text, HeightUnit unit)
+{
+    const QString reason =
+        unit == HeightUnit::Em
+            ? Engine::tr("The font height %1 is not usable: em: takes a number from 1/64 to %2, "
+                         "followed by px or pt (e.g. em:16.5px).")
+            : Engine::tr("The font height %1 is not usable: -height takes a whole number "
+                         "from 1 to %2, followed "
+                         "by px or pt (e.g. 24px).");
+    throw CriticalException(reason.arg(text, QString::number(MaxHeight)));
+}
+
+} // namespace
+
+QString TextOf(const FontSize& size)
+{
+    const auto* const prefix = std::ranges::find(HeightPrefixes, size.unit, &HeightPrefixRow::unit);
+    const QString number =
+        QString::number(size.value + size.sixtyFourths / 64.0, 'f', QLocale::FloatingPointShortest);
+    return (prefix != HeightPrefixes.end() ? QString(prefix->text) : QString()) + number +
+           (size.inPoints ? u"pt"_s : u"px"_s);
+}
+
 FontSize ParseHeight(const QString& text)
 {
-    const bool inPoints = text.endsWith(u"pt", Qt::CaseInsensitive);
-    const bool inPixels = text.endsWith(u"px", Qt::CaseInsensitive);
-    const QString number = inPoints || inPixels ? text.chopped(2) : text;
-    const bool onlyDigits =
-        std::ranges::all_of(number, [](QChar digit) { return digit >= u'0' && digit <= u'9'; });
-    bool isNumber = false;
-    const int height = number.toInt(&isNumber);
-    if (!onlyDigits || !isNumber || height == 0 || height > MaxHeight)
-        throw CriticalException(
-            Engine::tr("The font height %1 is not usable: -height takes a whole number "
-                       "from 1 to %2, followed "
-                       "by px or pt (e.g. 24px).")
-                .arg(text, QString::number(MaxHeight)));
+    const HeightPrefixRow* const prefix = PrefixOf(text);
+    const QString rest = prefix != nullptr ? text.mid(prefix->text.size()) : text;
+    const bool inPoints = rest.endsWith(u"pt", Qt::CaseInsensitive);
+    const bool inPixels = rest.endsWith(u"px", Qt::CaseInsensitive);
+    const QString number = inPoints || inPixels ? rest.chopped(2) : rest;
+    const HeightUnit unit = prefix != nullptr ? prefix->unit : HeightUnit::Box;
+    const auto fine = FineNumber(number, unit == HeightUnit::Em);
+    if (!fine || *fine == 0 || *fine > qint64(MaxHeight) * 64)
+        RefuseHeight(text, unit);
     if (!inPoints && !inPixels)
         CurrentInterface().warning(Engine::tr("Height"),
                                    Engine::tr("Invalid measuring format, assuming px."));
-    return {height, inPoints};
+    return {static_cast<int>(*fine / 64), inPoints, unit, static_cast<int>(*fine % 64)};
 }
 
 RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool canAsk,
@@ -185,15 +290,15 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool
     if (hasFace && createsByName)
         CurrentInterface().warning(
             u"Face"_s, Engine::tr("-face is not used with -create: the style tells the face."));
-    if (options.onlyChecks && options.open.size.value == 0) {
-        options.open.size = {CheckHeight, false};
+    if (options.onlyChecks && !options.open.size.IsGiven()) {
+        options.open.size.value = CheckHeight;
         options.open.render.height = CheckHeight;
     }
     if (!needsHeight) {
         const EncodingType encoding = options.open.encoding.value_or(EncodingType::Unicode);
         options.demand.SetEncoding(encoding);
     }
-    if (needsHeight && !canAsk && options.open.size.value == 0)
+    if (needsHeight && !canAsk && !options.open.size.IsGiven())
         throw CriticalException(
             Engine::tr("A scalable font needs a height: give -height (e.g. -height 24px)."));
     return options;
@@ -285,11 +390,26 @@ void Select(const OptionOccurrence& occurrence, RunOptions& options)
     }
 }
 
-void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path)
+namespace {
+
+// What the sources of a font are rendered with, whatever the font.
+bool UsedBySources(OptionId id)
+{
+    using enum OptionId;
+    return id == Height || id == Bold || id == Italic || id == Hinting || id == Gamma;
+}
+
+} // namespace
+
+void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path, bool usesSources)
 {
     using enum OptionId;
     const OptionId id = occurrence.Id();
-    if (id == Height || id == Bold || id == Italic || id == Face)
+    const bool isBdf = FileTypeOf(path) == FileType::Bdf;
+    constexpr std::array rendering = {Height,  Bold,  Italic, Face,    Fit,
+                                      Hinting, Gamma, Axes,   Charmap, Map};
+    const bool hasEffect = (id == Map && isBdf) || (usesSources && UsedBySources(id));
+    if (!hasEffect && std::ranges::find(rendering, id) != rendering.end())
         CurrentInterface().warning(Engine::tr("Option without effect"),
                                    Engine::tr("-%1 was not used: the file %2 is not rendered.")
                                        .arg(occurrence.option->longName, Shown(path)));

@@ -30,8 +30,12 @@ struct RunOptions
     const std::vector<OptionOccurrence>& occurrences, bool canAsk = false,
     const std::function<void(const Place&)>& onOption = [](const Place&) {});
 
-// "24px", "18pt", or a bare number of pixels, after a warning.
+// "24px", "18pt", or a bare number of pixels, after a warning; behind "cap:", "x:", "line:" or
+// "em:" that of something else than the box.
 [[nodiscard]] FontSize ParseHeight(const QString& text);
+
+// The text that gives the height again.
+[[nodiscard]] QString TextOf(const FontSize& size);
 
 // The range in ascending order, after a warning where it was reversed.
 [[nodiscard]] CodeRange Ordered(CodeRange range);
@@ -46,7 +50,8 @@ void SelectCodes(std::optional<CodeSet>& selection, const CodeSet& codes);
 // Runs an option that selects characters.
 void Select(const OptionOccurrence& occurrence, RunOptions& options);
 
-// Warns of an option that says how fonts are rendered, which that of the file is not.
-void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path);
+// Warns of an option that says how fonts are rendered, which that of the file is not; some of them
+// count for its sources.
+void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path, bool usesSources);
 
 } // namespace Glyphor

@@ -166,6 +166,30 @@ GlyphPlacement PlaceStandard(const RenderedGlyph& glyph, const FontMetrics& font
 
 } // namespace
 
+InkBox InkOf(const RenderedGlyph& glyph, int bitsPerPixel)
+{
+    InkBox box{0, 0, glyph.width, 0};
+    std::vector<quint8> coverages(static_cast<std::size_t>(std::max(0, glyph.width)));
+    const QuantiseTable& table = bitsPerPixel == 1   ? Table<1>
+                                 : bitsPerPixel == 2 ? Table<2>
+                                 : bitsPerPixel == 4 ? Table<4>
+                                                     : Table<8>;
+    const auto isInk = [&table](quint8 coverage) { return table[coverage] != 0; };
+    for (int y = 0; y < glyph.rows && !glyph.pixels.empty(); ++y) {
+        ExpandRow(glyph, y, coverages.data());
+        const auto first = std::ranges::find_if(coverages, isInk);
+        if (first == coverages.end())
+            continue;
+        const auto last = std::find_if(coverages.rbegin(), coverages.rend(), isInk);
+        if (box.IsEmpty())
+            box.top = y;
+        box.bottom = y + 1;
+        box.left = std::min(box.left, static_cast<int>(first - coverages.begin()));
+        box.right = std::max(box.right, static_cast<int>(coverages.rend() - last));
+    }
+    return box.IsEmpty() ? InkBox() : box;
+}
+
 std::optional<GlyphPlacement> PlaceGlyph(const RenderedGlyph& glyph, const FontMetrics& font)
 {
     // Larger values fit no field, and smaller ones keep the sums below from overflowing.

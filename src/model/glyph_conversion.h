@@ -21,6 +21,21 @@ struct GlyphPlacement : CharMetrics
 [[nodiscard]] std::optional<GlyphPlacement> PlaceGlyph(const RenderedGlyph& glyph,
                                                        const FontMetrics& font);
 
+// The part of a glyph's bitmap that has ink, in its rows and columns; the ends lie behind the last.
+struct InkBox
+{
+    int top = 0;
+    int bottom = 0;
+    int left = 0;
+    int right = 0;
+
+    [[nodiscard]] int Rows() const { return bottom - top; }
+    [[nodiscard]] bool IsEmpty() const { return bottom == top; }
+};
+
+// What is left of the glyph at that depth; empty where nothing is.
+[[nodiscard]] InkBox InkOf(const RenderedGlyph& glyph, int bitsPerPixel);
+
 // The packed pixel rows of the placed glyph, quantised to the font's depth.
 [[nodiscard]] QByteArray ConvertGlyph(const RenderedGlyph& glyph, const GlyphPlacement& placement,
                                       int bitsPerPixel);

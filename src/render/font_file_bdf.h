@@ -22,14 +22,22 @@ public:
 class FontFileBDF final : public FontFileFT
 {
 public:
-    explicit FontFileBDF(const QString& path);
+    // With a map, the characters that it names.
+    explicit FontFileBDF(const QString& path, const CharacterMap& map = {});
 
     std::unique_ptr<Font> Read() override;
 
+    // For a font that takes characters of the file. Throws a CriticalException where it is no BDF
+    // file.
+    [[nodiscard]] std::shared_ptr<FreeTypeFace> SourceFace() const;
+
 private:
     void RenderCodes(Font& font);
+    void RenderMapped(Font& font);
+    void Check() const;
 
     FreeTypeFace_BDF face_;
+    CharacterMap map_;
 };
 
 } // namespace Glyphor

@@ -2,11 +2,16 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
-#include "app/progress.h"
+#include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "files/file_types.h"
 #include "model/encoding.h"
+#include "render/face_charmaps.h"
+#include "render/font_assembly.h"
 #include "render/kerning_index.h"
+#include "render/size_search.h"
+
+#include <QMultiHash>
 
 #include <limits>
 #include <optional>
@@ -18,17 +23,44 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Pairs are found by codes of 16 bits.
+constexpr char32_t LastKernedCode = 0xFFFF;
+
 // Pairs of a font speak of the font's own codes; characters that it can't encode have no pairs.
-std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs, EncodingType encoding)
+class PairEncoding
 {
-    std::vector<KerningPair> encoded;
-    encoded.reserve(pairs.size());
-    for (const KerningPair& pair : pairs) {
-        if (const auto right = EncodingFor(EncodingType::Unicode).Converted(encoding, pair.right))
-            encoded.push_back({*right, pair.distance});
+public:
+    PairEncoding(const GlyphSource& own, const RenderOptions& options)
+        : encoding_(options.encoding), isMapped_(!options.map.empty())
+    {
+        for (const PlannedGlyph& planned : own.Planned()) {
+            if (isMapped_ && planned.faceCode <= LastKernedCode)
+                codes_.insert(static_cast<quint16>(planned.faceCode), planned.code);
+        }
     }
-    return encoded;
-}
+
+    [[nodiscard]] std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs) const
+    {
+        const Encoding& unicode = EncodingFor(EncodingType::Unicode);
+        std::vector<KerningPair> encoded;
+        encoded.reserve(pairs.size());
+        for (const KerningPair& pair : pairs) {
+            if (isMapped_) {
+                for (auto code = codes_.constFind(pair.right);
+                     code != codes_.constEnd() && code.key() == pair.right; ++code)
+                    encoded.push_back({*code, pair.distance});
+            } else if (const auto right = unicode.Converted(encoding_, pair.right)) {
+                encoded.push_back({*right, pair.distance});
+            }
+        }
+        return encoded;
+    }
+
+private:
+    EncodingType encoding_;
+    bool isMapped_;
+    QMultiHash<quint16, quint16> codes_; // of the font, by those of the face
+};
 
 // Opens another member of the file. The file is let go of first: it may have been unpacked into
 // memory.
@@ -48,38 +80,67 @@ FontFileScalable::FontFileScalable(const QString& path, const RenderOptions& opt
     : FontFileFT(path), options_(options)
 {}
 
-void FontFileScalable::UseFace(const FreeTypeFace& face)
+void FontFileScalable::SetUp()
 {
-    face_ = face;
     face_.SetMonochrome(BitsPerPixel(options_.format) == 1);
     // Legacy characters are cut to the font's height, whatever that of the glyph.
     face_.SetLargestBitmap(CharInfo::MaxSize, IsLegacyFormat(options_.format)
                                                   ? std::numeric_limits<int>::max() / 2
                                                   : CharInfo::MaxSize);
-    face_.SetPixelSize(options_.height, options_.useStrikes);
+    face_.SetEffects(options_.effects);
+    face_.SetHinting(options_.hinting);
+    face_.SetGamma(options_.gamma);
+    if (!face_.IsOpen())
+        return;
+    face_.MoveTo(options_.axes);
+    SelectCharmap(face_.Handle(), options_.charmapIndex);
+    SetFaceSize(face_, options_);
+}
+
+int FontFileScalable::EmSize()
+{
+    SetUp();
+    return face_.EmSize();
+}
+
+GlyphSource FontFileScalable::PlanOwn() const
+{
+    GlyphSource source(std::make_shared<FreeTypeFace>(face_), Shown(fileName()));
+    if (options_.map.empty())
+        source.Plan(options_.encoding, CharacterFilter());
+    else
+        source.Plan(options_.map, options_.encoding, CharacterFilter());
+    return source;
+}
+
+GlyphSource FontFileScalable::Source()
+{
+    SetUp();
+    GlyphSource source(std::make_shared<FreeTypeFace>(face_), Shown(fileName()));
+    source.PlanGiven(options_.map, options_.encoding, CharacterFilter());
+    return source;
 }
 
 std::unique_ptr<Font> FontFileScalable::Read()
 {
     auto font = std::make_unique<Font>(options_.format, options_.encoding);
-    face_.SetPixelSize(options_.height, options_.useStrikes);
-    face_.SetEffects(options_.effects);
-    RefuseUselessHeight();
+    SetUp();
+    GlyphSource own = PlanOwn();
+    RefuseUselessHeight(own);
     font->SetName(FontName());
     SetMetrics(*font);
     if (font->Metrics().height == 0)
         WarnOfMissingSize();
     if (face_.GlyphCount() == 0 || font->Metrics().height == 0)
         return font;
+    TellOfCodes(own, options_.map.empty() && !CharacterFilter());
     font->SetHasKerning(face_.HasKerning());
-    rendered_.clear();
-    RenderCharmap(*font);
-    WarnOfMisfits();
+    RenderAll(*font, std::move(own));
     return font;
 }
 
 // A height at which every character is left out only takes time.
-void FontFileScalable::RefuseUselessHeight() const
+void FontFileScalable::RefuseUselessHeight(const GlyphSource& own) const
 {
     constexpr double largestSide = 255.5; // with rounding
     constexpr int ordinaryEm = 4 * 255;
@@ -87,14 +148,14 @@ void FontFileScalable::RefuseUselessHeight() const
     if (em <= ordinaryEm || !face_.HasOutlines())
         return;
     double largestEm = 0;
-    face_.WalkCharmap([&](quint16 faceCode, FT_UInt glyphIndex) {
-        const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
-        const double extent = isWanted ? face_.GlyphExtent(glyphIndex) : 0;
+    for (const PlannedGlyph& planned : own.Planned()) {
+        const double extent = face_.GlyphExtent(planned.glyph);
         if (extent > 0)
             largestEm = std::max(largestEm, largestSide / extent);
-        return largestEm < em;
-    });
-    if (largestEm > 0 && largestEm < em)
+        if (largestEm >= em)
+            return;
+    }
+    if (largestEm > 0)
         throw CriticalException(
             Engine::tr("Font creation failed!"),
             Engine::tr("At a height of %1 pixels every character is larger than 255 pixels: the "
@@ -106,6 +167,8 @@ void FontFileScalable::RefuseUselessHeight() const
 QString FontFileScalable::FontName() const
 {
     QStringList effects;
+    if (!options_.axes.empty())
+        effects.append(TextOf(options_.axes));
     if ((options_.effects & BoldEffect) != 0)
         effects.append(u"Bold"_s);
     if ((options_.effects & ItalicEffect) != 0)
@@ -124,49 +187,31 @@ void FontFileScalable::SetMetrics(Font& font) const
     MeasureReferenceHeights(face_, font);
 }
 
-void FontFileScalable::RenderCharmap(Font& font)
+void FontFileScalable::RenderAll(Font& font, GlyphSource own)
 {
-    const Encoding& unicode = EncodingFor(EncodingType::Unicode);
+    const PairEncoding encoding(own, options_);
     std::optional<KerningIndex> kerning;
     if (font.HasKerning())
         kerning.emplace(face_);
-    Progress progress(Engine::tr("Rendering font..."), face_.GlyphCount());
     std::size_t pairCount = 0;
-    CodeSet visited; // a code that comes up again gives the same glyph again
-    int notVisited = CodeSet::Limit;
-    face_.WalkCharmap([&](quint16 faceCode, FT_UInt glyphIndex) {
-        if (visited.Test(faceCode))
-            return true;
-        visited.Set(faceCode, true);
-        --notVisited;
-        progress.LookedAt();
-        const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
-        const auto code = isWanted ? unicode.Converted(options_.encoding, faceCode) : std::nullopt;
-        if (code && AddCharacter(font, *code, glyphIndex)) {
-            if (kerning && pairCount < MaxKerningPairs) {
-                auto& pairs = font.FindChar(*code)->kerning;
-                pairs = Encoded(kerning->PairsOf(faceCode), options_.encoding);
-                pairCount += pairs.size();
-            }
-            progress.Advance();
-        }
-        return notVisited > 0;
+    FontAssembly assembly(font, own.Name());
+    assembly.AddOwn(std::move(own));
+    for (GlyphSource& other : others_)
+        assembly.Add(std::move(other));
+    others_.clear();
+    if (options_.fitsInk)
+        assembly.Fit();
+    assembly.Render([&](const PlannedGlyph& planned) {
+        if (!kerning || pairCount >= MaxKerningPairs || planned.faceCode > LastKernedCode)
+            return;
+        auto& pairs = font.FindChar(planned.code)->kerning;
+        pairs = encoding.Encoded(kerning->PairsOf(static_cast<quint16>(planned.faceCode)));
+        pairCount += pairs.size();
     });
     if (pairCount >= MaxKerningPairs)
         CurrentInterface().warning(
             Engine::tr("Kerning left out"),
             Engine::tr("The font has too many kerning pairs; some were left out."));
-}
-
-// Codes with the same glyph share its pixels.
-bool FontFileScalable::AddCharacter(Font& font, quint16 code, FT_UInt glyphIndex)
-{
-    if (const auto rendered = rendered_.constFind(glyphIndex); rendered != rendered_.constEnd())
-        return font.AddLike(code, *font.FindChar(*rendered)) == Font::AddResult::Added;
-    if (!face_.RenderIndex(glyphIndex, glyph_) || !AddGlyph(font, code, glyph_))
-        return false;
-    rendered_.insert(glyphIndex, code);
-    return true;
 }
 
 // A face of bitmaps only has no other size than theirs.

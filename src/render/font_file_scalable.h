@@ -1,8 +1,8 @@
 #pragma once
 
 #include "render/font_file_ft.h"
+#include "render/glyph_source.h"
 
-#include <QHash>
 #include <QStringList>
 
 namespace Glyphor {
@@ -14,36 +14,44 @@ public:
     // Empty where the face could be opened.
     [[nodiscard]] QString OpenFault() const { return face_.OpenFault(); }
 
-    // Of the face at the size it is rendered at, in pixels.
-    [[nodiscard]] int EmSize() const { return face_.EmSize(); }
+    // Of the face at the size it is rendered at, in pixels. Throws as Read() does.
+    [[nodiscard]] int EmSize();
+
+    // Takes characters of another source as well, sized and planned for a font of this format.
+    void AddSource(GlyphSource source) { others_.push_back(std::move(source)); }
+
+    // The face as a source for another font: what the map of the options names, of which the
+    // mappings that fill gaps give only what the filter has. Throws as Read() does.
+    [[nodiscard]] GlyphSource Source();
 
     // How many face indices the file takes: 0 up to one less than this.
     [[nodiscard]] virtual int FaceCount() const = 0;
 
     // The face's characters as a font; one without characters where the face could not be opened.
+    // Throws a CriticalException where the face does not have what the options ask for.
     std::unique_ptr<Font> Read() override;
 
 protected:
     FontFileScalable(const QString& path, const RenderOptions& options);
 
-    // Takes the face that is rendered and gives it the depth and the size.
-    void UseFace(const FreeTypeFace& face);
+    // Takes the face that is rendered.
+    void UseFace(const FreeTypeFace& face) { face_ = face; }
 
     [[nodiscard]] FreeTypeFace& Face() { return face_; }
     [[nodiscard]] const FreeTypeFace& Face() const { return face_; }
 
 private:
+    void SetUp();
     void SetMetrics(Font& font) const;
-    void RenderCharmap(Font& font);
-    void RefuseUselessHeight() const;
-    bool AddCharacter(Font& font, quint16 code, FT_UInt glyphIndex);
+    [[nodiscard]] GlyphSource PlanOwn() const;
+    void RenderAll(Font& font, GlyphSource own);
+    void RefuseUselessHeight(const GlyphSource& own) const;
     void WarnOfMissingSize() const;
     [[nodiscard]] QString FontName() const;
 
     FreeTypeFace face_;
     RenderOptions options_;
-    QHash<FT_UInt, quint16> rendered_; // glyphs, with the first code of each
-    RenderedGlyph glyph_;              // keeps its buffer from glyph to glyph
+    std::vector<GlyphSource> others_;
 };
 
 // A single face, a member of a collection by its index, or a named instance of a multi-master face,

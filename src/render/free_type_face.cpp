@@ -4,40 +4,19 @@
 #include "app/file_name.h"
 #include "app/file_system.h"
 
-#include <QHash>
-#include <QtEndian>
-
 #include FT_MULTIPLE_MASTERS_H
 #include FT_OUTLINE_H
-#include FT_SFNT_NAMES_H
 #include FT_SYNTHESIS_H
 #include FT_TRUETYPE_TABLES_H
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <memory>
-#include <span>
 
 namespace Glyphor {
 
 namespace {
-
-struct VariationsDeleter
-{
-    FT_Library library;
-    void operator()(FT_MM_Var* variations) const { FT_Done_MM_Var(library, variations); }
-};
-
-using Variations = std::unique_ptr<FT_MM_Var, VariationsDeleter>;
-
-// The axes and named instances of a multi-master face; null for any other.
-Variations VariationsOf(FT_Face face)
-{
-    FT_MM_Var* variations = nullptr;
-    if (face == nullptr || FT_Get_MM_Var(face, &variations) != 0)
-        return {nullptr, VariationsDeleter{nullptr}};
-    return {variations, VariationsDeleter{face->glyph->library}};
-}
 
 int ClampToInt(qint64 value)
 {
@@ -51,53 +30,13 @@ int WholePixels(FT_Pos value)
     return ClampToInt(value >> 6);
 }
 
-// Only the encoding tells how a name is read, not the platform.
-QString DecodeName(const FT_SfntName& name)
+// Only coverages of 8 bits: those of bitmaps that fonts carry are the designer's own.
+void ApplyCurve(const std::array<quint8, 256>& curve, RenderedGlyph& glyph)
 {
-    const QByteArrayView bytes(reinterpret_cast<const char*>(name.string), name.string_len);
-    QString text;
-    switch (name.encoding_id) {
-    case 1:
-        for (qsizetype i = 1; i < bytes.size(); i += 2)
-            text.append(QLatin1Char(bytes[i]));
-        break;
-    case 10:
-        for (qsizetype i = 0; i + 4 <= bytes.size(); i += 4)
-            text.append(QChar::fromUcs4(qFromBigEndian<char32_t>(bytes.data() + i)));
-        break;
-    default:
-        text = QString::fromLatin1(bytes);
-    }
-    return text;
-}
-
-// The first name of each number. Names that no menu could show count as unreadable.
-QHash<FT_UInt, QString> AllNames(FT_Face face)
-{
-    QHash<FT_UInt, QString> names;
-    constexpr FT_UInt longest = 1024;
-    const FT_UInt count = FT_Get_Sfnt_Name_Count(face);
-    for (FT_UInt index = 0; index < count; ++index) {
-        FT_SfntName name{};
-        if (FT_Get_Sfnt_Name(face, index, &name) == 0 && !names.contains(name.name_id))
-            names.insert(name.name_id, name.string_len <= longest ? DecodeName(name) : QString());
-    }
-    return names;
-}
-
-// The place of a named instance on the weight axis; 0 without such an axis.
-quint32 InstanceWeight(const FT_MM_Var& variations, FT_UInt instance)
-{
-    const std::span axes(variations.axis, variations.num_axis);
-    const auto weight = std::ranges::find_if(axes, [](const FT_Var_Axis& axis) {
-        const QLatin1StringView name(axis.name);
-        return name.compare(u"Weight", Qt::CaseInsensitive) == 0 ||
-               name.compare(u"wght", Qt::CaseInsensitive) == 0;
-    });
-    if (weight == axes.end())
-        return 0;
-    const FT_Fixed place = variations.namedstyle[instance].coords[weight - axes.begin()];
-    return static_cast<quint32>(place >> 16);
+    if (glyph.bitsPerPixel != 8)
+        return;
+    std::ranges::transform(glyph.pixels, glyph.pixels.begin(),
+                           [&curve](quint8 coverage) { return curve[coverage]; });
 }
 
 int BitsOf(const FT_Bitmap& bitmap)
@@ -212,30 +151,6 @@ int FreeTypeFace::GlyphHeight(quint16 code) const
     return LoadGlyph(code, FT_LOAD_DEFAULT) ? WholePixels(face_->glyph->metrics.height) : 0;
 }
 
-bool FreeTypeFace::IsMultiMaster() const
-{
-    return VariationsOf(Handle()) != nullptr;
-}
-
-int FreeTypeFace::NamedInstanceCount() const
-{
-    const Variations variations = VariationsOf(Handle());
-    return variations ? static_cast<int>(variations->num_namedstyles) : 0;
-}
-
-std::vector<NamedInstance> FreeTypeFace::NamedInstances() const
-{
-    const Variations variations = VariationsOf(Handle());
-    if (!variations)
-        return {};
-    const QHash<FT_UInt, QString> names = AllNames(Handle());
-    std::vector<NamedInstance> instances;
-    for (FT_UInt index = 0; index < variations->num_namedstyles; ++index)
-        instances.push_back({names.value(variations->namedstyle[index].strid),
-                             {.weight = InstanceWeight(*variations, index)}});
-    return instances;
-}
-
 QStringList FreeTypeFace::NamedInstanceNames() const
 {
     QStringList names;
@@ -255,10 +170,8 @@ void FreeTypeFace::SetNamedInstance(int index)
 FaceStyle FreeTypeFace::Style() const
 {
     FaceStyle style;
-    if (const Variations variations = VariationsOf(Handle())) {
-        const FT_Long instance = (face_->face_index >> 16) - 1;
-        if (instance >= 0 && instance < FT_Long(variations->num_namedstyles))
-            style.weight = InstanceWeight(*variations, static_cast<FT_UInt>(instance));
+    if (IsMultiMaster()) {
+        style.weight = InstanceWeightOf(Handle(), (face_->face_index >> 16) - 1);
         return style;
     }
     if (const TT_OS2* const os2 = Os2Table(Handle())) {
@@ -284,24 +197,98 @@ QList<quint32> FreeTypeFace::UnicodeRanges() const
 
 void FreeTypeFace::SetPixelSize(int height, bool useStrikes)
 {
-    if (!IsOpen())
+    const qsizetype strike = useStrikes ? StrikeHeights().indexOf(height) : -1;
+    if (strike >= 0)
+        SetSize({FaceSize::Kind::Strike, FT_Long(strike)});
+    else
+        SetSize({FaceSize::Kind::Box, FT_Long(height) * 64});
+}
+
+void FreeTypeFace::SetSize(const FaceSize& size)
+{
+    size_ = size;
+    if (!IsOpen() || size.kind == FaceSize::Kind::None)
         return;
-    if (const qsizetype strike = useStrikes ? StrikeHeights().indexOf(height) : -1; strike >= 0) {
-        FT_Select_Size(Handle(), static_cast<FT_Int>(strike));
+    if (size.kind == FaceSize::Kind::Strike) {
+        FT_Select_Size(Handle(), static_cast<FT_Int>(size.value));
         return;
     }
     FT_Size_RequestRec request{};
-    request.type = FT_SIZE_REQUEST_TYPE_BBOX;
-    request.height = FT_Long(height) * 64;
+    request.type =
+        size.kind == FaceSize::Kind::Box ? FT_SIZE_REQUEST_TYPE_BBOX : FT_SIZE_REQUEST_TYPE_NOMINAL;
+    request.height = size.value;
     FT_Request_Size(Handle(), &request);
 }
 
-// Without a charmap the code is the index.
-FT_UInt FreeTypeFace::GlyphIndex(quint16 code) const
+void FreeTypeFace::MoveTo(const std::vector<AxisPosition>& positions)
+{
+    MoveAlongAxes(Handle(), positions);
+    isMoved_ = isMoved_ || !positions.empty();
+}
+
+void FreeTypeFace::SetGamma(double gamma)
+{
+    coverages_.reset();
+    if (gamma == 1)
+        return;
+    std::array<quint8, 256> curve{};
+    for (std::size_t coverage = 0; coverage < curve.size(); ++coverage)
+        curve[coverage] =
+            static_cast<quint8>(std::lround(255 * std::pow(double(coverage) / 255, 1 / gamma)));
+    coverages_ = std::make_shared<const std::array<quint8, 256>>(curve);
+}
+
+FT_UInt FreeTypeFace::GlyphIndex(char32_t code) const
 {
     if (!IsOpen())
         return 0;
     return face_->charmap != nullptr ? FT_Get_Char_Index(Handle(), code) : code;
+}
+
+QByteArray FreeTypeFace::GlyphName(FT_UInt index) const
+{
+    constexpr FT_UInt longest = 128;
+    std::array<char, longest> name{};
+    const bool hasName = IsOpen() && FT_HAS_GLYPH_NAMES(face_.get()) &&
+                         FT_Get_Glyph_Name(Handle(), index, name.data(), longest) == 0;
+    return hasName ? QByteArray(name.data()) : QByteArray();
+}
+
+FreeTypeFace FreeTypeFace::OpenAgain(FontLibrary& library) const
+{
+    FreeTypeFace face(path_, IsOpen() ? face_->face_index : 0, library);
+    if (!face.IsOpen() || !IsOpen())
+        return face;
+    const FT_Int charmap = face_->charmap != nullptr ? FT_Get_Charmap_Index(face_->charmap) : -1;
+    if (charmap >= 0 && charmap < face.face_->num_charmaps)
+        FT_Set_Charmap(face.Handle(), face.face_->charmaps[charmap]);
+    if (isMoved_)
+        CopyAxes(Handle(), face.Handle());
+    face.effects_ = effects_;
+    face.monochrome_ = monochrome_;
+    face.hinting_ = hinting_;
+    face.coverages_ = coverages_;
+    face.largestWidth_ = largestWidth_;
+    face.largestRows_ = largestRows_;
+    face.SetSize(size_);
+    return face;
+}
+
+FT_Int32 FreeTypeFace::LoadFlags() const
+{
+    const FT_Int32 flags = monochrome_ ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT;
+    switch (hinting_) {
+    case Hinting::Mono:
+        return flags | FT_LOAD_TARGET_MONO;
+    case Hinting::Light:
+        return flags | FT_LOAD_TARGET_LIGHT;
+    case Hinting::Auto:
+        return flags | FT_LOAD_FORCE_AUTOHINT;
+    case Hinting::None:
+        return flags | FT_LOAD_NO_HINTING;
+    default:
+        return flags;
+    }
 }
 
 bool FreeTypeFace::LoadGlyph(quint16 code, FT_Int32 loadFlags) const
@@ -312,8 +299,7 @@ bool FreeTypeFace::LoadGlyph(quint16 code, FT_Int32 loadFlags) const
 
 bool FreeTypeFace::RenderIndex(FT_UInt index, RenderedGlyph& glyph) const
 {
-    const FT_Int32 loadFlags = monochrome_ ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT;
-    if (index == 0 || FT_Load_Glyph(Handle(), index, loadFlags) != 0)
+    if (index == 0 || FT_Load_Glyph(Handle(), index, LoadFlags()) != 0)
         return false;
     if ((effects_ & BoldEffect) != 0)
         FT_GlyphSlot_Embolden(face_->glyph);
@@ -352,10 +338,17 @@ bool FreeTypeFace::ExceedsLargestBitmap(RenderedGlyph& glyph) const
     glyph = {};
     glyph.xPos = left;
     glyph.yPos = ClampToInt(qint64(Ascent()) - top);
-    glyph.cursorDistance = WholePixels(slot->advance.x);
+    glyph.cursorDistance = Advance();
     glyph.width = ClampToInt(width);
     glyph.rows = ClampToInt(rows);
     return true;
+}
+
+// FreeType rounds the advances of glyphs that it hints.
+int FreeTypeFace::Advance() const
+{
+    const FT_Pos rounding = hinting_ == Hinting::None ? 32 : 0;
+    return WholePixels(face_->glyph->advance.x + rounding);
 }
 
 void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
@@ -364,12 +357,14 @@ void FreeTypeFace::FillGlyph(RenderedGlyph& glyph) const
     const FT_Bitmap& bitmap = slot->bitmap;
     glyph.xPos = slot->bitmap_left;
     glyph.yPos = ClampToInt(qint64(Ascent()) - slot->bitmap_top);
-    glyph.cursorDistance = WholePixels(slot->advance.x);
+    glyph.cursorDistance = Advance();
     glyph.width = static_cast<qint32>(bitmap.width);
     glyph.rows = static_cast<qint32>(bitmap.rows);
     glyph.pitch = std::abs(bitmap.pitch);
     glyph.bitsPerPixel = BitsOf(bitmap);
     CopyRows(bitmap, glyph.pixels);
+    if (coverages_ != nullptr)
+        ApplyCurve(*coverages_, glyph);
     glyph.size = static_cast<qint32>(glyph.pixels.size());
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/font.h"
 #include "model/rendered_glyph.h"
+#include "render/face_variations.h"
 #include "render/free_type_library.h"
 #include "render/render_options.h"
 
@@ -9,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -31,6 +33,15 @@ struct NamedInstance
     FaceStyle style;
 };
 
+// What a face's size was set to.
+struct FaceSize
+{
+    enum class Kind { None, Strike, Box, Em };
+
+    Kind kind = Kind::None;
+    FT_Long value = 0; // the index of the strike, else 64ths of a pixel
+};
+
 // The rows of a bitmap from the top, whichever way FreeType stores them.
 void CopyRows(const FT_Bitmap& bitmap, std::vector<quint8>& pixels);
 
@@ -44,6 +55,9 @@ public:
     // Opens the face; on failure the handle stays empty and OpenFault() tells why.
     FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library);
     virtual ~FreeTypeFace() = default;
+
+    // The same face, set up alike, opened on another library, for another thread.
+    [[nodiscard]] FreeTypeFace OpenAgain(FontLibrary& library) const;
 
     // The baseline, in pixels from the top of the font.
     [[nodiscard]] virtual int Ascent() const { return SizeMetric(&FT_Size_Metrics::ascender); }
@@ -80,20 +94,30 @@ public:
     // The height of the glyph's box at the current size; 0 where it can't be loaded.
     [[nodiscard]] int GlyphHeight(quint16 code) const;
 
-    [[nodiscard]] bool IsMultiMaster() const;
+    [[nodiscard]] bool IsMultiMaster() const { return HasVariations(Handle()); }
     [[nodiscard]] QStringList NamedInstanceNames() const;
 
     // All of them, the first one with the index 1. Cheaper than asking one by one.
-    [[nodiscard]] std::vector<NamedInstance> NamedInstances() const;
+    [[nodiscard]] std::vector<NamedInstance> NamedInstances() const
+    {
+        return NamedInstancesOf(Handle());
+    }
 
     // How many named instances there are, whether or not their names can be read.
-    [[nodiscard]] int NamedInstanceCount() const;
+    [[nodiscard]] int NamedInstanceCount() const { return NamedInstanceCountOf(Handle()); }
 
     // 0 is the default instance, 1 the first named one; other indices do nothing.
     void SetNamedInstance(int index);
 
+    // Throws a CriticalException for a position that the face does not have.
+    void MoveTo(const std::vector<AxisPosition>& positions);
+
     void SetEffects(quint32 effects) { effects_ = effects; }
     void SetMonochrome(bool monochrome) { monochrome_ = monochrome; }
+    void SetHinting(Hinting hinting) { hinting_ = hinting; }
+
+    // Coverage c from 0 to 1 becomes c to the power of 1/gamma.
+    void SetGamma(double gamma);
 
     // Outlines that need a larger bitmap, in pixels, are not rendered: they give the metrics of
     // that bitmap, and no pixels.
@@ -102,6 +126,9 @@ public:
     // Selects an embedded strike of just this height where strikes may be used, or scales the face
     // so that its bounding box has the height.
     void SetPixelSize(int height, bool useStrikes = true);
+
+    // Scales the em, or the box of the face, to so many 64ths of a pixel.
+    void SetSize(const FaceSize& size);
 
     bool LoadGlyph(quint16 code, FT_Int32 loadFlags) const;
 
@@ -124,11 +151,21 @@ public:
     // The pairs of one character, found by asking for every character of the charmap.
     [[nodiscard]] std::vector<KerningPair> KerningPairs(quint16 left) const;
 
+    // 0 where the face has no such character; without a charmap the code is the index.
+    [[nodiscard]] FT_UInt GlyphIndex(char32_t code) const;
+
+    // Empty where the face has no names.
+    [[nodiscard]] QByteArray GlyphName(FT_UInt index) const;
+
     // Calls visit(code, glyph) for the characters of the charmap, in its order, until it returns
     // false. The code is the low 16 bits of the charmap's, so one can come up more than once; the
     // glyph is that of these 16 bits.
     template <typename Visit>
     void WalkCharmap(Visit visit) const;
+
+    // The same with the whole code of each.
+    template <typename Visit>
+    void WalkAllCodes(Visit visit) const;
 
     // The four words of the OS/2 table; nothing where the face has none.
     [[nodiscard]] QList<quint32> UnicodeRanges() const;
@@ -138,7 +175,8 @@ public:
 private:
     static constexpr int AnySize = std::numeric_limits<int>::max();
 
-    [[nodiscard]] FT_UInt GlyphIndex(quint16 code) const;
+    [[nodiscard]] FT_Int32 LoadFlags() const;
+    [[nodiscard]] int Advance() const;
     [[nodiscard]] int SizeMetric(FT_Pos FT_Size_Metrics::*metric) const;
     [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;
     void FillGlyph(RenderedGlyph& glyph) const;
@@ -147,13 +185,17 @@ private:
     QString path_;
     quint32 effects_ = 0;
     bool monochrome_ = false;
+    Hinting hinting_ = Hinting::Default;
+    std::shared_ptr<const std::array<quint8, 256>> coverages_; // null where they stay
+    FaceSize size_;
+    bool isMoved_ = false; // along its axes
     int largestWidth_ = AnySize;
     int largestRows_ = AnySize;
     FT_Error openError_ = 0;
 };
 
 template <typename Visit>
-void FreeTypeFace::WalkCharmap(Visit visit) const
+void FreeTypeFace::WalkAllCodes(Visit visit) const
 {
     // Damaged tables claim billions of codes behind the last one there is.
     constexpr FT_ULong lastCharacter = 0x10FFFF;
@@ -162,10 +204,18 @@ void FreeTypeFace::WalkCharmap(Visit visit) const
         return;
     for (FT_ULong code = FT_Get_First_Char(Handle(), &glyph); glyph != 0 && code <= lastCharacter;
          code = FT_Get_Next_Char(Handle(), code, &glyph)) {
-        const auto code16 = static_cast<quint16>(code);
-        if (!visit(code16, code16 == code ? glyph : FT_Get_Char_Index(Handle(), code16)))
+        if (!visit(static_cast<char32_t>(code), glyph))
             return;
     }
+}
+
+template <typename Visit>
+void FreeTypeFace::WalkCharmap(Visit visit) const
+{
+    WalkAllCodes([&](char32_t code, FT_UInt glyph) {
+        const auto code16 = static_cast<quint16>(code);
+        return visit(code16, code16 == code ? glyph : FT_Get_Char_Index(Handle(), code16));
+    });
 }
 
 } // namespace Glyphor

@@ -83,7 +83,7 @@ QWidget* FontGenerationDialog::MakeEntries()
 void FontGenerationDialog::LoadEntries()
 {
     const FontGenerationDialogData record = Settings::Instance().fontGenerationDialog.load();
-    size_->SetValue(args_.size.value > 0 ? args_.size : FontSize{record.size, record.inPoints});
+    size_->SetValue(args_.size.IsGiven() ? args_.size : FontSize{record.size, record.inPoints});
     FontFormat format = args_.format.value_or(FontFormat(record.format));
     if (args_.encoding == EncodingType::ShiftJis && !args_.format && !IsLegacyFormat(format))
         format = FontFormat::Legacy; // the others have no such encoding

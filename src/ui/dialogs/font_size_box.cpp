@@ -28,7 +28,10 @@ FontSizeBox::FontSizeBox(QWidget* parent)
 
 FontSize FontSizeBox::Value() const
 {
-    return {value_->value(), unit_->currentIndex() == 1};
+    FontSize size;
+    size.value = value_->value();
+    size.inPoints = unit_->currentIndex() == 1;
+    return size;
 }
 
 void FontSizeBox::SetValue(const FontSize& size)
@@ -42,8 +45,8 @@ void RenderAt(const FontSize& size, ActionOpenFontArgs& args)
 {
     const QScreen* const screen = QGuiApplication::primaryScreen();
     args.size = size;
-    args.render.height =
-        size.PixelHeight(screen != nullptr ? int(screen->logicalDotsPerInchX()) : 0);
+    args.dotsPerInch = screen != nullptr ? int(screen->logicalDotsPerInchX()) : 0;
+    args.render.SetHeight(size, args.dotsPerInch);
     args.render.useStrikes = Settings::Instance().useIncludedBitmaps.value();
 }
 

@@ -122,7 +122,7 @@ bool Document::AskFont(ActionOpenFontArgs& args)
 
 bool Document::CompleteArgs(ActionOpenFontArgs& args)
 {
-    const bool isComplete = !IsScalable(FileTypeOf(args.path)) || args.size.value > 0;
+    const bool isComplete = !IsScalable(FileTypeOf(args.path)) || args.size.IsGiven();
     RenderAt(args.size, args);
     return isComplete || AskGeneration(args);
 }
