@@ -47,7 +47,7 @@ Reason ReasonOf(char32_t character, EncodingType encoding)
     if (character > LastCode)
         return {u"above U+FFFF"_s,
                 Engine::tr("%1 is above U+FFFF, where fonts have no characters: use one of U+E000 "
-                           "to U+F8FF in its place")};
+                           "to U+F8FF in its place, where -map and -source can put it")};
     if (!CodeIn(encoding, character))
         return {u"not in Shift JIS"_s, Engine::tr("%1 is not in Shift JIS")};
     return {NotInFont, Engine::tr("%1 is not in the font")};

@@ -52,26 +52,32 @@ private Q_SLOTS:
 
     void Heights_data()
     {
-        const Test::Rows<QString, int, bool> row; // height 0 where it is refused
-        row("pixels", u"24px"_s, 24, false);
-        row("points", u"12Pt"_s, 12, true);
-        row("no unit", u"16"_s, 16, false);
-        for (const auto* const bad : {"+5px", " 5px", "%1px", "0px", "px", "-5px", "1.5px", "24em",
-                                      "65536px", "4294967320px", "twelve"})
-            row(bad, QString::fromUtf8(bad), 0, false);
+        const Test::Rows<QString, FontSize> row; // height 0 where it is refused
+        row("pixels", u"24px"_s, {24});
+        row("points", u"12Pt"_s, {12, true});
+        row("no unit", u"16"_s, {16});
+        row("capitals", u"CAP:14px"_s, {14, false, HeightUnit::Capital});
+        row("lowercase", u"x:8px"_s, {8, false, HeightUnit::LowercaseX});
+        row("line", u"line:20pt"_s, {20, true, HeightUnit::Line});
+        row("em", u"em:16px"_s, {16, false, HeightUnit::Em});
+        row("fraction", u"em:16.25px"_s, {16, false, HeightUnit::Em, 16});
+        for (const auto* const bad : {"cap:", "cap:1.5px", "em:0px", "em:.px", "em:1e3px",
+                                      "em:70000px", "box:3px", "+5px", " 5px", "%1px", "0px", "px",
+                                      "-5px", "1.5px", "24em", "65536px", "4294967320px", "twelve"})
+            row(bad, QString::fromUtf8(bad), {});
     }
 
     void Heights()
     {
-        const auto [text, height, inPoints] = Test::Row<QString, int, bool>();
+        const auto [text, expected] = Test::Row<QString, FontSize>();
         Test::RecordingInterface interface;
-        if (height == 0) {
+        if (!expected.IsGiven()) {
             QVERIFY_THROWS_EXCEPTION(CriticalException, (void)ParseHeight(text));
             return;
         }
         const FontSize size = ParseHeight(text);
-        QCOMPARE(size.value, height);
-        QCOMPARE(size.inPoints, inPoints);
+        QVERIFY(size == expected);
+        QVERIFY(text == u"16"_s || TextOf(size) == text.toLower());
         QCOMPARE(interface.warnings.contains(u"Invalid measuring format, assuming px."_s),
                  text == u"16"_s);
     }

@@ -9,6 +9,8 @@
     hostile.ttf     a few bytes that map 4 billion codes to one glyph, which kerns with itself
     damaged.ttf     outlines that are huge at any height
     packed.woff     unpacks to a thousand times its size
+    symbol.ttf      codes of its own from 0xF020, in a charmap of symbols
+    roman.ttf       a charmap of Mac Roman alone, and no names of glyphs
     bitmap.bdf      letters, a blank that moves the cursor, one that does not
 """
 
@@ -21,6 +23,7 @@ from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.ttGlyphPen import TTGlyphPen
 from fontTools.ttLib import TTCollection, newTable
 from fontTools.ttLib.tables.DefaultTable import DefaultTable
+from fontTools.ttLib.tables._c_m_a_p import CmapSubtable
 from fontTools.ttLib.tables._k_e_r_n import KernTable_format_0
 from fontTools.ttLib.tables.TupleVariation import TupleVariation
 
@@ -207,6 +210,18 @@ def packed(folder):
         file.write(header + table + data)
 
 
+def charmaps(folder):
+    """Fonts without a charmap of Unicode."""
+    for name, platform, encoding, code in (("symbol", 3, 0, 0xF041), ("roman", 1, 0, 0x41)):
+        builder = build("Test " + name.title(), "Regular", LETTERS, {0x41: "A"})
+        table = CmapSubtable.newSubtable(4 if platform == 3 else 0)
+        table.platformID, table.platEncID, table.language = platform, encoding, 0
+        table.cmap = {code: "A", code + 1: "V"}
+        builder.font["cmap"].tables = [table]
+        builder.setupPost(keepGlyphNames=False)
+        builder.save(os.path.join(folder, name + ".ttf"))
+
+
 def bdf_text(properties, characters):
     lines = ["STARTFONT 2.1", "FONT -test-Bitmap-Bold-R-Normal--12-120-75-75-C-80-ISO10646-1",
              "SIZE 12 75 75", "FONTBOUNDINGBOX 8 12 0 -3", f"STARTPROPERTIES {len(properties)}"]
@@ -236,7 +251,8 @@ def bitmap(folder):
 def main():
     folder = sys.argv[1]
     os.makedirs(folder, exist_ok=True)
-    for make in (outlines, variable, collection, strike, hostile, damaged, packed, bitmap):
+    for make in (outlines, variable, collection, strike, hostile, damaged, packed, charmaps,
+                 bitmap):
         make(folder)
 
 

@@ -46,7 +46,7 @@ private Q_SLOTS:
             u"Glyphor: warning: U+4E2D is not in the font (-chars)\n"_s);
         row("above", u"-hide @font.opt -chars A😀 -save a.c"_s, 2,
             u"Glyphor: warning: U+1F600 is above U+FFFF, where fonts have no characters: use one "
-            "of U+E000 to U+F8FF in its place (-chars)\n"_s);
+            "of U+E000 to U+F8FF in its place, where -map and -source can put it (-chars)\n"_s);
         row("range", u"-hide @font.opt -e 0x41-0x42 -e 0-0x1F -save a.c"_s, 2,
             u"Glyphor: warning: 1 of the 2 characters 0x0041-0x0042 are not in the font: 0x0042 "
             "(-e)\n"_s);

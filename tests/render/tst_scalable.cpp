@@ -29,7 +29,7 @@ RenderOptions At(int height, FontFormat format = FontFormat::AA4)
 class DirectFace
 {
 public:
-    DirectFace(const QString& path, int height)
+    DirectFace(const QString& path, int height, FT_Int32 target = 0) : target_(target)
     {
         FT_Init_FreeType(&library_);
         FT_New_Face(library_, QFile::encodeName(path).constData(), 0, &face_);
@@ -43,7 +43,7 @@ public:
     FT_GlyphSlot Render(quint16 code, bool monochrome)
     {
         if (FT_Load_Glyph(face_, FT_Get_Char_Index(face_, code),
-                          monochrome ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT) != 0 ||
+                          target_ | (monochrome ? FT_LOAD_MONOCHROME : FT_LOAD_DEFAULT)) != 0 ||
             FT_Render_Glyph(face_->glyph,
                             monochrome ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) != 0)
             return nullptr;
@@ -53,6 +53,7 @@ public:
     FT_Face Face() { return face_; }
 
 private:
+    FT_Int32 target_;
     FT_Library library_ = nullptr;
     FT_Face face_ = nullptr;
 };
@@ -66,23 +67,34 @@ class TestScalable : public QObject
 private Q_SLOTS:
     void GlyphsAreFreeTypes_data()
     {
-        QTest::addColumn<int>("format");
-        QTest::newRow("1 bit") << int(FontFormat::Standard);
-        QTest::newRow("2 bits") << int(FontFormat::AA2);
-        QTest::newRow("4 bits") << int(FontFormat::AA4);
+        const Test::Rows<FontFormat, Hinting, FT_Int32> row;
+        for (const auto& [format, bits] : {std::pair(FontFormat::Standard, "1"),
+                                           {FontFormat::AA2, "2"},
+                                           {FontFormat::AA4, "4"}}) {
+            for (const auto& [hinting, target] : {std::pair(Hinting::Default, 0),
+                                                  {Hinting::Mono, FT_LOAD_TARGET_MONO},
+                                                  {Hinting::Light, FT_LOAD_TARGET_LIGHT},
+                                                  {Hinting::Auto, FT_LOAD_FORCE_AUTOHINT},
+                                                  {Hinting::None, FT_LOAD_NO_HINTING}})
+                row(QTest::addRow("%s bits, hinting %d", bits, int(hinting)), format, hinting,
+                    target);
+        }
     }
 
     void GlyphsAreFreeTypes()
     {
-        QFETCH(const int, format);
+        const auto [format, hinting, target] = Test::Row<FontFormat, Hinting, FT_Int32>();
         const QString path = QString::fromUtf8(SYSTEM_FONTS "/DejaVuSans.ttf");
-        const bool monochrome = BitsPerPixel(FontFormat(format)) == 1;
+        const bool monochrome = BitsPerPixel(format) == 1;
+        RenderOptions options = At(21, format);
+        options.hinting = hinting;
         CodeSet filter;
         filter.SetRange(0x20, 0x17F, true);
-        FontFileTTF file(path, At(21, FontFormat(format)));
+        FontFileTTF file(path, options);
         file.SetCharacterFilter(filter);
         const auto font = file.Read();
-        DirectFace direct(path, 21);
+        DirectFace direct(path, 21, target);
+        const int rounding = hinting == Hinting::None ? 32 : 0; // of advances
         const int ascent = int(direct.Face()->size->metrics.ascender >> 6);
         for (int code = 0x20; code <= 0x17F; ++code) {
             const Character* const character = font->FindChar(quint16(code));
@@ -93,16 +105,16 @@ private Q_SLOTS:
                 continue;
             }
             const FT_Bitmap& bitmap = slot->bitmap;
-            QCOMPARE(Test::Numbers(character->info),
-                     (QList<int>{int(bitmap.width), int(bitmap.rows), slot->bitmap_left,
-                                 ascent - slot->bitmap_top, int(slot->advance.x >> 6)}));
+            QCOMPARE(
+                Test::Numbers(character->info),
+                (QList<int>{int(bitmap.width), int(bitmap.rows), slot->bitmap_left,
+                            ascent - slot->bitmap_top, int((slot->advance.x + rounding) >> 6)}));
             for (int y = 0; y < int(bitmap.rows); ++y) {
                 for (int x = 0; x < int(bitmap.width); ++x) {
                     const uchar* const row = bitmap.buffer + y * bitmap.pitch;
-                    const int expected = monochrome ? row[x / 8] >> (7 - x % 8) & 1
-                                         : FontFormat(format) == FontFormat::AA2
-                                             ? (3 * row[x] + 127) / 255
-                                             : row[x] >> 4;
+                    const int expected = monochrome                  ? row[x / 8] >> (7 - x % 8) & 1
+                                         : format == FontFormat::AA2 ? (3 * row[x] + 127) / 255
+                                                                     : row[x] >> 4;
                     QCOMPARE(character->bitmap->GetPixelIndex(x, y), expected);
                 }
             }

@@ -41,10 +41,12 @@ public:
         performed.append(logText);
         return action != nullptr;
     }
+    void Lacking(const QString& text) override { lacking.append(text); }
     void PartlyDone(const QString& text) override { shortfalls.append(text); }
     void ActionChanged(const std::shared_ptr<Action>&) override { ++changes; }
 
     QStringList warnings;
+    QStringList lacking;
     QStringList shortfalls;
     QStringList performed;
     int changes = 0;

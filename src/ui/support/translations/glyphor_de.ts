@@ -860,10 +860,6 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>Alle Zeilen der Schrift sind gelöscht; sie kann nicht gespeichert werden.</translation>
     </message>
     <message>
-        <source>%1 is above U+FFFF, where fonts have no characters: use one of U+E000 to U+F8FF in its place</source>
-        <translation>%1 liegt über U+FFFF, wo Schriften keine Zeichen haben: Nehmen Sie stattdessen eines von U+E000 bis U+F8FF</translation>
-    </message>
-    <message>
         <source>%1 is not in Shift JIS</source>
         <translation>%1 gibt es in Shift JIS nicht</translation>
     </message>
@@ -1002,6 +998,150 @@ Erwartete Größe: %2 Byte.</translation>
     <message>
         <source>Characters that the font does not have</source>
         <translation>Zeichen, die der Schrift fehlen</translation>
+    </message>
+    <message>
+        <source>The file %1 can&apos;t be a source of characters: -source takes TTF, TTC and BDF files.</source>
+        <translation>Die Datei %1 kann keine Zeichen beisteuern: -source nimmt TTF-, TTC- und BDF-Dateien.</translation>
+    </message>
+    <message>
+        <source>The source %1 needs a height, behind its mapping or with -height.</source>
+        <translation>Die Quelle %1 braucht eine Höhe, hinter ihrer Zuordnung oder mit -height.</translation>
+    </message>
+    <message>
+        <source>The gamma %1 is not usable: -gamma takes a number from 0.1 to 10 (e.g. 1.4).</source>
+        <translation>Das Gamma %1 ist nicht verwendbar: -gamma nimmt eine Zahl von 0.1 bis 10 (z. B. 1.4).</translation>
+    </message>
+    <message>
+        <source>The font height %1 is not usable: em: takes a number from 1/64 to %2, followed by px or pt (e.g. em:16.5px).</source>
+        <translation>Die Schrifthöhe %1 ist nicht verwendbar: em: nimmt eine Zahl von 1/64 bis %2, gefolgt von px oder pt (z. B. em:16.5px).</translation>
+    </message>
+    <message>
+        <source>The mapping %1 is not usable: mappings are codes or ranges, decimal or hexadecimal, with = and the code where they go (e.g. 0x20-0x7E, 0xF0000-0xF00FF=0xE100 or 0xF02D1=0xE001:heart).</source>
+        <translation>Die Zuordnung %1 ist nicht verwendbar: Zuordnungen sind Codes oder Bereiche, dezimal oder hexadezimal, mit = und dem Code, auf den sie kommen (z. B. 0x20-0x7E, 0xF0000-0xF00FF=0xE100 oder 0xF02D1=0xE001:heart).</translation>
+    </message>
+    <message>
+        <source>The mapping %1 has more codes than a font.</source>
+        <translation>Die Zuordnung %1 hat mehr Codes als eine Schrift.</translation>
+    </message>
+    <message>
+        <source>The mapping %1 goes beyond 0xFFFF, where fonts have no characters: say where they go, e.g. %2=%3.</source>
+        <translation>Die Zuordnung %1 reicht über 0xFFFF hinaus, wo Schriften keine Zeichen haben: Geben Sie an, wohin sie kommen, z. B. %2=%3.</translation>
+    </message>
+    <message>
+        <source>The mapping %1 is not usable: a name belongs to a single code, and has letters of ASCII, digits and underscores.</source>
+        <translation>Die Zuordnung %1 ist nicht verwendbar: Ein Name gehört zu einem einzelnen Code und besteht aus ASCII-Buchstaben, Ziffern und Unterstrichen.</translation>
+    </message>
+    <message>
+        <source>symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>one of the font&apos;s own</source>
+        <translation>eine eigene der Schrift</translation>
+    </message>
+    <message>
+        <source>platform %1, encoding %2</source>
+        <translation>Plattform %1, Kodierung %2</translation>
+    </message>
+    <message>
+        <source>%1: it has none, so nothing tells which glyph is which character.</source>
+        <translation>%1: Er hat gar keine, sodass nichts sagt, welche Glyphe welches Zeichen ist.</translation>
+    </message>
+    <message>
+        <source>%1: it has %2. -charmap chooses one by its index.</source>
+        <translation>%1: Er hat %2. -charmap wählt eine nach ihrem Index.</translation>
+    </message>
+    <message>
+        <source>The face has no usable charmap with the index %1</source>
+        <translation>Der Schnitt hat keine verwendbare Zeichentabelle mit dem Index %1</translation>
+    </message>
+    <message>
+        <source>The face has no charmap of Unicode</source>
+        <translation>Der Schnitt hat keine Zeichentabelle für Unicode</translation>
+    </message>
+    <message>
+        <source>%1 from %2 to %3</source>
+        <translation>%1 von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>The face has no position %1 on its axes, which are: %2.</source>
+        <translation>Der Schnitt hat keine Position %1 auf seinen Achsen. Diese sind: %2.</translation>
+    </message>
+    <message>
+        <source>The face has no axes: it is not variable, and -axes can&apos;t be used.</source>
+        <translation>Der Schnitt hat keine Achsen: Er ist nicht variabel, und -axes ist nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>The axes %1 are not usable: -axes takes tags of four letters with their values (e.g. wght=550,wdth=87).</source>
+        <translation>Die Achsen %1 sind nicht verwendbar: -axes nimmt Kürzel aus vier Buchstaben mit ihren Werten (z. B. wght=550,wdth=87).</translation>
+    </message>
+    <message>
+        <source>The axes %1 name %2 twice.</source>
+        <translation>Die Achsen %1 nennen %2 zweimal.</translation>
+    </message>
+    <message>
+        <source>The ink of all characters needs a line of %1 rows; a font has 255 at most.</source>
+        <translation>Die Pixel aller Zeichen brauchen eine Zeile von %1 Pixeln Höhe; eine Schrift hat höchstens 255.</translation>
+    </message>
+    <message>
+        <source>Both %1 and %2 give the character 0x%3. A ? in front of a mapping has it fill gaps only.</source>
+        <translation>Sowohl %1 als auch %2 geben das Zeichen 0x%3. Mit einem ? vor der Zuordnung füllt sie nur Lücken.</translation>
+    </message>
+    <message>
+        <source>Characters above U+FFFF, which were left out: %1. -map brings them in, e.g. -map 0x%2-0x%3=0x%4.</source>
+        <translation>Zeichen über U+FFFF, die weggelassen wurden: %1. -map nimmt sie auf, z. B. -map 0x%2-0x%3=0x%4.</translation>
+    </message>
+    <message>
+        <source>Characters cut</source>
+        <translation>Abgeschnittene Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters cut: %1 (%2). They need up to %3 rows above the font&apos;s line and %4 below it; -fit makes the line high enough.</source>
+        <translation>Abgeschnittene Zeichen: %1 (%2). Sie brauchen bis zu %3 Pixelzeilen über der Zeile der Schrift und %4 darunter; -fit macht die Zeile hoch genug.</translation>
+    </message>
+    <message>
+        <source>Characters leave the line</source>
+        <translation>Zeichen verlassen die Zeile</translation>
+    </message>
+    <message>
+        <source>Characters of %1 that leave the font&apos;s line: %2 (%3), by up to %4 rows above it and %5 below it; -fit makes the line high enough.</source>
+        <translation>Zeichen aus %1, die die Zeile der Schrift verlassen: %2 (%3), um bis zu %4 Pixelzeilen darüber und %5 darunter; -fit macht die Zeile hoch genug.</translation>
+    </message>
+    <message>
+        <source>Characters moved</source>
+        <translation>Verschobene Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters that stand left of their origin: %1 (%2). The cells of legacy fonts can&apos;t show them there.</source>
+        <translation>Zeichen, die links von ihrem Ursprung stehen: %1 (%2). Die Zellen von Legacy-Schriften können sie dort nicht zeigen.</translation>
+    </message>
+    <message>
+        <source>%1 is not in %2</source>
+        <translation>%1 fehlt in %2</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 characters %3 to %4 are not in %5: %6</source>
+        <translation>%1 der %2 Zeichen %3 bis %4 fehlen in %5: %6</translation>
+    </message>
+    <message>
+        <source>Measuring font...</source>
+        <translation>Schrift wird vermessen...</translation>
+    </message>
+    <message>
+        <source>A height of %1 needs the letter %2, which the face does not have. Give another height, e.g. em:16px.</source>
+        <translation>Eine Höhe von %1 braucht den Buchstaben %2, den der Schnitt nicht hat. Geben Sie eine andere Höhe an, z. B. em:16px.</translation>
+    </message>
+    <message>
+        <source>No size of the face gives the height %1.</source>
+        <translation>Keine Größe des Schnitts ergibt die Höhe %1.</translation>
+    </message>
+    <message>
+        <source>The nearest that can be had: %1 px.</source>
+        <translation>Die nächsten möglichen: %1 px.</translation>
+    </message>
+    <message>
+        <source>%1 is above U+FFFF, where fonts have no characters: use one of U+E000 to U+F8FF in its place, where -map and -source can put it</source>
+        <translation>%1 liegt über U+FFFF, wo Schriften keine Zeichen haben: Nehmen Sie stattdessen eines von U+E000 bis U+F8FF, wohin -map und -source es legen können</translation>
     </message>
 </context>
 <context>
