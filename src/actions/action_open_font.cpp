@@ -135,7 +135,7 @@ void AddSources(const ActionOpenFontArgs& args, Font& font)
     RenderOptions options = args.render;
     options.format = font.Metrics().format;
     options.encoding = font.Metrics().encoding;
-    FontAssembly assembly(font, Shown(args.path));
+    FontAssembly assembly(font, Shown(args.path), options.threads);
     for (GlyphSource& source : OpenSources(args, options))
         assembly.Add(std::move(source));
     assembly.Render([](const PlannedGlyph&) {});

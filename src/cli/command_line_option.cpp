@@ -171,6 +171,8 @@ std::vector<CommandLineOption> MakeOptions()
                {.multiple = true}),
         Option(Charmap, u"charmap"_s, u"cm"_s, {Number(u"<index>"_s)},
                u"Index of the charmap that tells the codes of a TTF or TTC file."_s),
+        Option(Jobs, u"jobs"_s, u"j"_s, {Number(u"<count>"_s)},
+               u"How many threads render large fonts; as many as there are cores if not given."_s),
     };
 }
 

@@ -57,7 +57,8 @@ enum class OptionId : int {
     Fit = 41,
     Source = 42,
     Map = 43,
-    Charmap = 44
+    Charmap = 44,
+    Jobs = 49
 };
 
 enum class ParameterKind { Number = 0, Text = 1, Range = 2 };

@@ -75,6 +75,15 @@ double ParseGamma(const QString& text)
     return gamma;
 }
 
+int CheckedThreads(int count)
+{
+    constexpr int most = 256;
+    if (count < 1 || count > most)
+        throw CriticalException(
+            Engine::tr("The number %1 is not usable: -jobs takes 1 to 256 threads.").arg(count));
+    return count;
+}
+
 FontSource SourceOf(const OptionOccurrence& occurrence)
 {
     FontSource source{occurrence.Get<QString>(0), ParseCharacterMap(occurrence.Get<QString>(1)),
@@ -123,6 +132,9 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         break;
     case OptionId::Charmap:
         options.open.render.charmapIndex = occurrence.Get<int>(0);
+        break;
+    case OptionId::Jobs:
+        options.open.render.threads = CheckedThreads(occurrence.Get<int>(0));
         break;
     case OptionId::Source:
         options.open.sources.push_back(SourceOf(occurrence));

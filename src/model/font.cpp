@@ -106,15 +106,29 @@ Character& Font::AddChar(quint16 code)
 
 Font::AddResult Font::AddRendered(quint16 code, const RenderedGlyph& glyph)
 {
-    if (existing_.Test(code))
-        return AddResult::Exists;
+    return existing_.Test(code) ? AddResult::Exists : AddMade(code, MakeRendered(glyph));
+}
+
+std::unique_ptr<Character> Font::MakeRendered(const RenderedGlyph& glyph) const
+{
     const auto placement = PlaceGlyph(glyph, metrics_);
     if (!placement)
-        return AddResult::DoesNotFit;
+        return nullptr;
+    auto character = std::make_unique<Character>(metrics_);
+    character->info.Set(*placement);
+    character->bitmap->RenderData(glyph, *placement);
+    return character;
+}
 
-    Character& character = Create(code);
-    character.info.Set(*placement);
-    character.bitmap->RenderData(glyph, *placement);
+Font::AddResult Font::AddMade(quint16 code, std::unique_ptr<Character> character)
+{
+    if (existing_.Test(code))
+        return AddResult::Exists;
+    if (character == nullptr)
+        return AddResult::DoesNotFit;
+    Place(code) = std::move(character);
+    existing_.Set(code, true);
+    enabled_.Set(code, true);
     return AddResult::Added;
 }
 

@@ -72,6 +72,11 @@ public:
     // Adds and enables a rendered character, unless the code exists or a field can't hold it.
     AddResult AddRendered(quint16 code, const RenderedGlyph& glyph);
 
+    // The same in two steps, of which the first may run on any thread while the metrics stay; it
+    // gives null where a field can't hold the glyph.
+    [[nodiscard]] std::unique_ptr<Character> MakeRendered(const RenderedGlyph& glyph) const;
+    AddResult AddMade(quint16 code, std::unique_ptr<Character> character);
+
     // Gives the code an enabled character with its packed bytes, all planes one behind the other,
     // in the place of one that exists. The metrics must fit and the bytes have the size they ask
     // for.

@@ -180,23 +180,28 @@ void MoveAlongAxes(FT_Face face, const std::vector<AxisPosition>& positions)
         throw CriticalException(
             Engine::tr("Font creation failed!"),
             Engine::tr("The face has no axes: it is not variable, and -axes can't be used."));
-    std::vector<FT_Fixed> places(axes.size());
-    FT_Get_Var_Design_Coordinates(face, FT_UInt(places.size()), places.data());
+    std::vector<FT_Fixed> places = PlacesOnAxes(face);
     for (const AxisPosition& position : positions) {
         const auto axis = FindAxis(axes, position);
         places[std::size_t(axis - axes.begin())] =
             static_cast<FT_Fixed>(std::lround(position.value * FixedOne));
     }
-    FT_Set_Var_Design_Coordinates(face, FT_UInt(places.size()), places.data());
+    SetPlacesOnAxes(face, places);
 }
 
-void CopyAxes(FT_Face from, FT_Face to)
+std::vector<FT_Fixed> PlacesOnAxes(FT_Face face)
 {
-    std::vector<FT_Fixed> places(AxesOf(from).size());
-    if (places.empty() ||
-        FT_Get_Var_Design_Coordinates(from, FT_UInt(places.size()), places.data()) != 0)
-        return;
-    FT_Set_Var_Design_Coordinates(to, FT_UInt(places.size()), places.data());
+    std::vector<FT_Fixed> places(AxesOf(face).size());
+    if (!places.empty())
+        FT_Get_Var_Design_Coordinates(face, FT_UInt(places.size()), places.data());
+    return places;
+}
+
+void SetPlacesOnAxes(FT_Face face, const std::vector<FT_Fixed>& places)
+{
+    std::vector<FT_Fixed> copy = places;
+    if (!copy.empty())
+        FT_Set_Var_Design_Coordinates(face, FT_UInt(copy.size()), copy.data());
 }
 
 QString TextOf(const std::vector<AxisPosition>& positions)

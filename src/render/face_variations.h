@@ -38,8 +38,9 @@ struct NamedInstance;
 // for a value beyond its ends.
 void MoveAlongAxes(FT_Face face, const std::vector<AxisPosition>& positions);
 
-// Has one face stand where the other one does.
-void CopyAxes(FT_Face from, FT_Face to);
+// Where the face stands on each of its axes; and the way back there for one with the same axes.
+[[nodiscard]] std::vector<FT_Fixed> PlacesOnAxes(FT_Face face);
+void SetPlacesOnAxes(FT_Face face, const std::vector<FT_Fixed>& places);
 
 // "wght=550, wdth=87"
 [[nodiscard]] QString TextOf(const std::vector<AxisPosition>& positions);

@@ -9,7 +9,9 @@
 
 namespace Glyphor {
 
-FontAssembly::FontAssembly(Font& font, const QString& name) : font_(font), name_(name) {}
+FontAssembly::FontAssembly(Font& font, const QString& name, int threads)
+    : font_(font), name_(name), threads_(threads)
+{}
 
 void FontAssembly::AddOwn(GlyphSource source)
 {
@@ -26,7 +28,7 @@ void FontAssembly::Fit()
 {
     InkOverflow overflow;
     for (const Part& part : parts_)
-        overflow.Add(part.source.Measure(font_.Metrics()));
+        overflow.Add(part.source.Measure(font_.Metrics(), threads_));
     const int height = font_.Metrics().height + overflow.above + overflow.below;
     if (height > CharInfo::MaxSize)
         throw CriticalException(
@@ -55,7 +57,7 @@ void FontAssembly::RenderPart(const Part& part,
         collector.NameSource(source.Name());
     CodeSet own; // a code that comes up twice is no second claim, unless a map says so
     source.Render(
-        collector,
+        collector, threads_,
         [&](const PlannedGlyph& planned) {
             if (font_.FindChar(planned.code) == nullptr)
                 return true;

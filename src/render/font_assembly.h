@@ -11,7 +11,8 @@ class FontAssembly
 {
 public:
     // The font has its metrics, and may have characters, which are those of the named file.
-    FontAssembly(Font& font, const QString& name);
+    // Many glyphs are rendered by so many threads, with 0 by as many as there are cores.
+    FontAssembly(Font& font, const QString& name, int threads);
 
     // The first source of a font that is rendered has the font's own baseline, any other is put on
     // it. What leaves the line is told of the others.
@@ -38,6 +39,7 @@ private:
 
     Font& font_;
     QString name_;
+    int threads_;
     std::vector<Part> parts_;
     std::map<quint16, QString> given_; // by sources other than the first
 };

@@ -88,7 +88,7 @@ void FontFileBDF::RenderMapped(Font& font)
     GlyphSource source(SourceFace(), Shown(fileName()));
     source.Plan(map_, EncodingType::Unicode, std::nullopt);
     TellOfCodes(source, false);
-    FontAssembly assembly(font, source.Name());
+    FontAssembly assembly(font, source.Name(), 1);
     assembly.AddOwn(std::move(source));
     assembly.Render([&font](const PlannedGlyph& planned) {
         const quint8 width = font.FindChar(planned.code)->info.width;

@@ -194,7 +194,7 @@ void FontFileScalable::RenderAll(Font& font, GlyphSource own)
     if (font.HasKerning())
         kerning.emplace(face_);
     std::size_t pairCount = 0;
-    FontAssembly assembly(font, own.Name());
+    FontAssembly assembly(font, own.Name(), options_.threads);
     assembly.AddOwn(std::move(own));
     for (GlyphSource& other : others_)
         assembly.Add(std::move(other));

@@ -79,9 +79,14 @@ void CopyRows(const FT_Bitmap& bitmap, std::vector<quint8>& pixels)
 FreeTypeFace::FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library)
     : path_(path)
 {
-    library.AllowFile(SizeOfFile(path));
+    Open(faceIndex, library);
+}
+
+void FreeTypeFace::Open(FT_Long faceIndex, FontLibrary& library)
+{
+    library.AllowFile(SizeOfFile(path_));
     FT_Face face = nullptr;
-    openError_ = FT_New_Face(library.Get(), BytesOf(path).constData(), faceIndex, &face);
+    openError_ = FT_New_Face(library.Get(), BytesOf(path_).constData(), faceIndex, &face);
     if (openError_ == 0)
         face_.reset(face, FT_Done_Face);
 }
@@ -254,24 +259,27 @@ QByteArray FreeTypeFace::GlyphName(FT_UInt index) const
     return hasName ? QByteArray(name.data()) : QByteArray();
 }
 
-FreeTypeFace FreeTypeFace::OpenAgain(FontLibrary& library) const
+// The settings are kept without the handle, which belongs to one thread.
+std::function<FreeTypeFace(FontLibrary&)> FreeTypeFace::Opener() const
 {
-    FreeTypeFace face(path_, IsOpen() ? face_->face_index : 0, library);
-    if (!face.IsOpen() || !IsOpen())
+    FreeTypeFace settings = *this;
+    settings.face_.reset();
+    const FT_Long index = IsOpen() ? face_->face_index : 0;
+    const FT_Int charmap =
+        IsOpen() && face_->charmap != nullptr ? FT_Get_Charmap_Index(face_->charmap) : -1;
+    const std::vector<FT_Fixed> places =
+        isMoved_ ? PlacesOnAxes(Handle()) : std::vector<FT_Fixed>();
+    return [=](FontLibrary& library) {
+        FreeTypeFace face = settings;
+        face.Open(index, library);
+        if (!face.IsOpen())
+            return face;
+        if (charmap >= 0 && charmap < face.face_->num_charmaps)
+            FT_Set_Charmap(face.Handle(), face.face_->charmaps[charmap]);
+        SetPlacesOnAxes(face.Handle(), places);
+        face.SetSize(face.size_);
         return face;
-    const FT_Int charmap = face_->charmap != nullptr ? FT_Get_Charmap_Index(face_->charmap) : -1;
-    if (charmap >= 0 && charmap < face.face_->num_charmaps)
-        FT_Set_Charmap(face.Handle(), face.face_->charmaps[charmap]);
-    if (isMoved_)
-        CopyAxes(Handle(), face.Handle());
-    face.effects_ = effects_;
-    face.monochrome_ = monochrome_;
-    face.hinting_ = hinting_;
-    face.coverages_ = coverages_;
-    face.largestWidth_ = largestWidth_;
-    face.largestRows_ = largestRows_;
-    face.SetSize(size_);
-    return face;
+    };
 }
 
 FT_Int32 FreeTypeFace::LoadFlags() const

@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include <array>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -56,8 +57,8 @@ public:
     FreeTypeFace(const QString& path, FT_Long faceIndex, FontLibrary& library);
     virtual ~FreeTypeFace() = default;
 
-    // The same face, set up alike, opened on another library, for another thread.
-    [[nodiscard]] FreeTypeFace OpenAgain(FontLibrary& library) const;
+    // Opens the same face, set up alike, on another library. Any thread may call what is returned.
+    [[nodiscard]] std::function<FreeTypeFace(FontLibrary&)> Opener() const;
 
     // The baseline, in pixels from the top of the font.
     [[nodiscard]] virtual int Ascent() const { return SizeMetric(&FT_Size_Metrics::ascender); }
@@ -175,6 +176,7 @@ public:
 private:
     static constexpr int AnySize = std::numeric_limits<int>::max();
 
+    void Open(FT_Long faceIndex, FontLibrary& library);
     [[nodiscard]] FT_Int32 LoadFlags() const;
     [[nodiscard]] int Advance() const;
     [[nodiscard]] int SizeMetric(FT_Pos FT_Size_Metrics::*metric) const;

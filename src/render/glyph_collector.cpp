@@ -27,18 +27,44 @@ bool IsNothing(const RenderedGlyph& glyph)
     return (glyph.width == 0 || glyph.rows == 0) && glyph.cursorDistance <= 0;
 }
 
-bool GlyphCollector::Add(quint16 code, const RenderedGlyph& glyph)
+GlyphCollector::Prepared GlyphCollector::Prepare(const RenderedGlyph& glyph) const
 {
     if (IsNothing(glyph))
+        return {};
+    Prepared prepared{false, font_.MakeRendered(glyph)};
+    const FontMetrics& metrics = font_.Metrics();
+    const bool isCell = IsLegacyFormat(metrics.format);
+    if (isCell || !source_.isEmpty())
+        prepared.overflow = OverflowOf(glyph, metrics);
+    if (isCell && glyph.xPos < 0) {
+        const InkBox ink = InkOf(glyph, metrics.bitsPerPixel);
+        prepared.isLeftOfOrigin =
+            !ink.IsEmpty() && (glyph.cursorDistance <= 0 || glyph.xPos + ink.right <= 0);
+    }
+    return prepared;
+}
+
+bool GlyphCollector::Add(quint16 code, Prepared glyph)
+{
+    if (glyph.isNothing)
         return false;
-    const Font::AddResult result = font_.AddRendered(code, glyph);
+    const Font::AddResult result = font_.AddMade(code, std::move(glyph.character));
     if (result == Font::AddResult::DoesNotFit) {
         misfits_.push_back(code);
         font_.LeaveOut(code);
     }
-    if (result == Font::AddResult::Added)
-        LookBeyondLine(code, glyph);
-    return result == Font::AddResult::Added;
+    if (result != Font::AddResult::Added)
+        return false;
+    if (glyph.overflow.IsAny()) {
+        overflow_.rows.Add(glyph.overflow);
+        overflow_.codes.push_back(code);
+        overflowing_.Set(code, true);
+    }
+    if (glyph.isLeftOfOrigin) {
+        marks_.push_back(code);
+        leftOfOrigin_.Set(code, true);
+    }
+    return true;
 }
 
 bool GlyphCollector::AddLike(quint16 code, quint16 same)
@@ -50,25 +76,6 @@ bool GlyphCollector::AddLike(quint16 code, quint16 same)
     if (leftOfOrigin_.Test(same))
         marks_.push_back(code);
     return true;
-}
-
-void GlyphCollector::LookBeyondLine(quint16 code, const RenderedGlyph& glyph)
-{
-    const bool isCell = IsLegacyFormat(font_.Metrics().format);
-    if (!isCell && source_.isEmpty())
-        return;
-    if (const InkOverflow rows = OverflowOf(glyph, font_.Metrics()); rows.IsAny()) {
-        overflow_.rows.Add(rows);
-        overflow_.codes.push_back(code);
-        overflowing_.Set(code, true);
-    }
-    if (!isCell || glyph.xPos >= 0)
-        return;
-    const InkBox ink = InkOf(glyph, font_.Metrics().bitsPerPixel);
-    if (!ink.IsEmpty() && (glyph.cursorDistance <= 0 || glyph.xPos + ink.right <= 0)) {
-        marks_.push_back(code);
-        leftOfOrigin_.Set(code, true);
-    }
 }
 
 void GlyphCollector::Warn() const

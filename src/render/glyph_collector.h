@@ -39,9 +39,22 @@ public:
     // What leaves the line is told of cells, which cut it, and of sources that are named.
     void NameSource(const QString& name) { source_ = name; }
 
+    // A glyph that is ready to become a character.
+    struct Prepared
+    {
+        bool isNothing = true;
+        std::unique_ptr<Character> character; // null where none can hold the glyph
+        InkOverflow overflow = {};
+        bool isLeftOfOrigin = false;
+    };
+
+    // Safe to call from any thread while the metrics of the font stay.
+    [[nodiscard]] Prepared Prepare(const RenderedGlyph& glyph) const;
+
     // Glyphs that are nothing are no characters, and those that no character can hold are
     // remembered for the warning. True if the font has a new one.
-    bool Add(quint16 code, const RenderedGlyph& glyph);
+    bool Add(quint16 code, Prepared glyph);
+    bool Add(quint16 code, const RenderedGlyph& glyph) { return Add(code, Prepare(glyph)); }
 
     // Adds a character with the metrics and pixels of another one that was added here.
     bool AddLike(quint16 code, quint16 same);
@@ -56,7 +69,6 @@ private:
         std::vector<quint16> codes;
     };
 
-    void LookBeyondLine(quint16 code, const RenderedGlyph& glyph);
     void WarnOfMisfits() const;
     void WarnOfOverflow() const;
     void WarnOfMarks() const;

@@ -4,9 +4,11 @@
 #include "app/progress.h"
 #include "model/code_text.h"
 #include "model/encoding.h"
+#include "render/glyph_jobs.h"
 
 #include <QHash>
 
+#include <unordered_map>
 #include <unordered_set>
 
 namespace Glyphor {
@@ -39,6 +41,44 @@ QString LackingText(const CodeMapping& mapping, const std::vector<char32_t>& lac
              UnicodeNotation(mapping.first), UnicodeNotation(mapping.last), source,
              first.join(u", "_s));
 }
+
+// Codes with the same glyph share its pixels.
+class GlyphSharing
+{
+public:
+    explicit GlyphSharing(GlyphCollector& collector) : collector_(collector) {}
+
+    void Prepare(FT_UInt glyph, GlyphCollector::Prepared prepared)
+    {
+        prepared_.insert_or_assign(glyph, std::move(prepared));
+    }
+
+    bool Add(const PlannedGlyph& planned)
+    {
+        if (const auto same = firstCodes_.constFind(planned.glyph); same != firstCodes_.constEnd())
+            return collector_.AddLike(planned.code, *same);
+        const auto found = prepared_.find(planned.glyph);
+        const bool canBeAdded = found->second.character != nullptr;
+        // What fits no character stays, and is told of each code.
+        const bool isAdded = collector_.Add(
+            planned.code, canBeAdded ? std::move(found->second) : CopyOfUseless(found->second));
+        if (isAdded) {
+            firstCodes_.insert(planned.glyph, planned.code);
+            prepared_.erase(found);
+        }
+        return isAdded;
+    }
+
+private:
+    static GlyphCollector::Prepared CopyOfUseless(const GlyphCollector::Prepared& prepared)
+    {
+        return {prepared.isNothing, nullptr};
+    }
+
+    GlyphCollector& collector_;
+    QHash<FT_UInt, quint16> firstCodes_; // that a glyph became a character of
+    std::unordered_map<FT_UInt, GlyphCollector::Prepared> prepared_; // that became none yet
+};
 
 } // namespace
 
@@ -105,52 +145,75 @@ void GlyphSource::StandOn(int baseline)
     shift_ = baseline - face_->Ascent();
 }
 
-bool GlyphSource::RenderGlyph(FT_UInt index, RenderedGlyph& glyph) const
+bool GlyphSource::RenderGlyph(const FreeTypeFace& face, FT_UInt index, RenderedGlyph& glyph) const
 {
-    if (!face_->RenderIndex(index, glyph))
+    if (!face.RenderIndex(index, glyph))
         return false;
     glyph.yPos += shift_;
     return true;
 }
 
-InkOverflow GlyphSource::Measure(const FontMetrics& font) const
+std::vector<FT_UInt> GlyphSource::Glyphs() const
 {
-    InkOverflow overflow;
-    RenderedGlyph glyph;
-    std::unordered_set<FT_UInt> measured;
-    Progress progress(Engine::tr("Measuring font..."), static_cast<int>(planned_.size()));
+    std::vector<FT_UInt> glyphs;
+    std::unordered_set<FT_UInt> known;
     for (const PlannedGlyph& planned : planned_) {
-        progress.Advance();
-        if (measured.insert(planned.glyph).second && RenderGlyph(planned.glyph, glyph) &&
-            !IsNothing(glyph) && glyph.rows <= CharInfo::MaxSize)
-            overflow.Add(OverflowOf(glyph, font));
+        if (known.insert(planned.glyph).second)
+            glyphs.push_back(planned.glyph);
     }
+    return glyphs;
+}
+
+InkOverflow GlyphSource::Measure(const FontMetrics& font, int threads) const
+{
+    const std::vector<FT_UInt> glyphs = Glyphs();
+    Progress progress(Engine::tr("Measuring font..."), static_cast<int>(glyphs.size()));
+    InkOverflow overflow;
+    GlyphJobs<InkOverflow> jobs(
+        *face_, glyphs, threads, [&](const FreeTypeFace& face, FT_UInt index) {
+            RenderedGlyph glyph;
+            const bool isCharacter = RenderGlyph(face, index, glyph) && !IsNothing(glyph) &&
+                                     glyph.rows <= CharInfo::MaxSize;
+            return isCharacter ? OverflowOf(glyph, font) : InkOverflow();
+        });
+    jobs.Run([&](std::size_t, const InkOverflow& rows) {
+        progress.Advance();
+        overflow.Add(rows);
+    });
     return overflow;
 }
 
-// Codes with the same glyph share its pixels.
-void GlyphSource::Render(GlyphCollector& collector,
+void GlyphSource::Render(GlyphCollector& collector, int threads,
                          const std::function<bool(const PlannedGlyph&)>& isWanted,
                          const std::function<void(const PlannedGlyph&)>& onAdded) const
 {
-    QHash<FT_UInt, quint16> rendered; // glyphs, with the first code of each
-    RenderedGlyph glyph;              // keeps its buffer from glyph to glyph
+    const std::vector<FT_UInt> glyphs = Glyphs();
     Progress progress(Engine::tr("Rendering font..."), face_->GlyphCount());
-    for (const PlannedGlyph& planned : planned_) {
+    GlyphSharing sharing(collector);
+    auto planned = planned_.begin();
+    const auto add = [&] {
         progress.LookedAt();
-        if (!isWanted(planned))
-            continue;
-        if (const auto same = rendered.constFind(planned.glyph); same != rendered.constEnd()) {
-            if (!collector.AddLike(planned.code, *same))
-                continue;
-        } else {
-            if (!RenderGlyph(planned.glyph, glyph) || !collector.Add(planned.code, glyph))
-                continue;
-            rendered.insert(planned.glyph, planned.code);
+        if (isWanted(*planned) && sharing.Add(*planned)) {
+            onAdded(*planned);
+            progress.Advance();
         }
-        onAdded(planned);
-        progress.Advance();
-    }
+        ++planned;
+    };
+    GlyphJobs<GlyphCollector::Prepared> jobs(
+        *face_, glyphs, threads, [&](const FreeTypeFace& face, FT_UInt index) {
+            thread_local RenderedGlyph glyph; // keeps its buffer
+            return RenderGlyph(face, index, glyph) ? collector.Prepare(glyph)
+                                                   : GlyphCollector::Prepared();
+        });
+    // Up to the next new glyph, characters share those that there are.
+    jobs.Run([&](std::size_t index, GlyphCollector::Prepared& prepared) {
+        while (planned->glyph != glyphs[index])
+            add();
+        sharing.Prepare(glyphs[index], std::move(prepared));
+        add();
+    });
+    while (planned != planned_.end())
+        add();
 }
 
 } // namespace Glyphor

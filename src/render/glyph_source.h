@@ -62,17 +62,21 @@ public:
     void StandOn(int baseline);
 
     // How far ink leaves the line of a font.
-    [[nodiscard]] InkOverflow Measure(const FontMetrics& font) const;
+    [[nodiscard]] InkOverflow Measure(const FontMetrics& font, int threads) const;
 
-    // Renders the glyphs in their order. `isWanted` is asked before each, `onAdded` told of each
-    // that became a character.
-    void Render(GlyphCollector& collector, const std::function<bool(const PlannedGlyph&)>& isWanted,
+    // Renders the glyphs, and adds them in their order. `isWanted` is asked before each, `onAdded`
+    // told of each that became a character.
+    void Render(GlyphCollector& collector, int threads,
+                const std::function<bool(const PlannedGlyph&)>& isWanted,
                 const std::function<void(const PlannedGlyph&)>& onAdded) const;
 
 private:
     void PlanMapping(const CodeMapping& mapping, EncodingType encoding,
                      const std::optional<CodeSet>& filter);
-    bool RenderGlyph(FT_UInt index, RenderedGlyph& glyph) const;
+    bool RenderGlyph(const FreeTypeFace& face, FT_UInt index, RenderedGlyph& glyph) const;
+
+    // Each that is planned, once.
+    [[nodiscard]] std::vector<FT_UInt> Glyphs() const;
 
     std::shared_ptr<FreeTypeFace> face_;
     QString name_;

@@ -70,6 +70,7 @@ struct RenderOptions
     std::vector<AxisPosition> axes = {}; // those that are not named stay where the face has them
     int charmapIndex = -1;               // -1 for the one that speaks Unicode
     CharacterMap map = {};               // every code of the face to itself where empty
+    int threads = 0;                     // 0 for as many as there are cores; the result is the same
 
     bool operator==(const RenderOptions&) const = default;
 

@@ -1,4 +1,5 @@
 #include "render/font_file_scalable.h"
+#include "render/glyph_jobs.h"
 #include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
@@ -260,6 +261,52 @@ private Q_SLOTS:
         QVERIFY(font->FindChar('A')->info.width > plain->FindChar('A')->info.width);
         QCOMPARE(font->FindChar('A')->info.height > plain->FindChar('A')->info.height,
                  (effects & BoldEffect) != 0);
+    }
+
+    // However many threads render, and however they are scheduled.
+    void Threads_data()
+    {
+        const Test::Rows<FontFormat, Hinting> row;
+        row("grey", FontFormat::AA4, Hinting::Default);
+        row("cells", FontFormat::Legacy, Hinting::Auto);
+        row("framed", FontFormat::Framed, Hinting::Mono);
+    }
+
+    void Threads()
+    {
+        const auto [format, hinting] = Test::Row<FontFormat, Hinting>();
+        RenderOptions options = At(40, format);
+        options.hinting = hinting;
+        options.fitsInk = true;
+        QList<QByteArray> fonts;
+        QList<QStringList> warnings;
+        for (const int threads : {1, 2, 7}) {
+            Test::RecordingInterface interface;
+            options.threads = threads;
+            FontFileTTF file(QString::fromUtf8(SYSTEM_FONTS "/DejaVuSans.ttf"), options);
+            fonts.append(Test::Snapshot(*file.Read()));
+            warnings.append(interface.warnings);
+        }
+        QVERIFY(fonts[0] == fonts[1] && fonts[0] == fonts[2]);
+        QCOMPARE(warnings[1], warnings[0]);
+        QCOMPARE(warnings[2], warnings[0]);
+    }
+
+    // A failure on any thread is one of the rendering.
+    void FailuresOfThreads()
+    {
+        FreeTypeFace face(QString::fromUtf8(SYSTEM_FONTS "/DejaVuSans.ttf"), 0, FreeTypeLibrary());
+        const std::vector<FT_UInt> glyphs(5000, 1);
+        std::atomic<int> calls = 0;
+        GlyphJobs<int> jobs(face, glyphs, 4, [&](const FreeTypeFace&, FT_UInt) {
+            std::this_thread::sleep_for(std::chrono::microseconds(50));
+            return ++calls < 4000 ? 0 : throw std::bad_alloc();
+        });
+        std::size_t taken = 0;
+        QVERIFY_THROWS_EXCEPTION(std::bad_alloc, jobs.Run([&](std::size_t index, int) {
+            QCOMPARE(index, taken++); // in their order
+        }));
+        QVERIFY(taken > 3000 && taken < 5000);
     }
 
     void RowsFromTheTop()

@@ -140,7 +140,7 @@ private Q_SLOTS:
 
         GlyphSource bitmaps(FontFileBDF(Test::FontPath("bitmap.bdf")).SourceFace(), u"b"_s);
         bitmaps.PlanGiven(ParseCharacterMap(u"0x67,0x1F600=0xE000"_s), EncodingType::Unicode, {});
-        FontAssembly assembly(*font, u"a"_s);
+        FontAssembly assembly(*font, u"a"_s, 1);
         assembly.Add(std::move(bitmaps));
         assembly.Render([](const PlannedGlyph&) {});
         QCOMPARE(int(font->FindChar('g')->info.yPos), baseline - 6);

@@ -1143,6 +1143,10 @@ Erwartete Größe: %2 Byte.</translation>
         <source>%1 is above U+FFFF, where fonts have no characters: use one of U+E000 to U+F8FF in its place, where -map and -source can put it</source>
         <translation>%1 liegt über U+FFFF, wo Schriften keine Zeichen haben: Nehmen Sie stattdessen eines von U+E000 bis U+F8FF, wohin -map und -source es legen können</translation>
     </message>
+    <message>
+        <source>The number %1 is not usable: -jobs takes 1 to 256 threads.</source>
+        <translation>Die Zahl %1 ist nicht verwendbar: -jobs nimmt 1 bis 256 Threads.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
