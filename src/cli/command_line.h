@@ -4,6 +4,7 @@
 #include "cli/command_line_parser.h"
 #include "cli/run_messages.h"
 #include "cli/run_options.h"
+#include "cli/run_proof.h"
 #include "cli/run_record.h"
 
 #include <iosfwd>
@@ -65,6 +66,9 @@ private:
     void TellMissing(const Font& font);
     void ShowMissing() const;
     void Finish(Session& session);
+    void RunProofOption(const OptionOccurrence& occurrence, const Session& session);
+    void Compare(const Session& session, const QString& path);
+    void WriteProof(const Session& session);
     int AskKeyword(const QString& reason, const QString& subject,
                    const ParameterKeywordTable& keywords);
 
@@ -72,6 +76,7 @@ private:
     RunMessages messages_;
     RunOptions options_;
     RunRecord record_;
+    RunProof proof_;
     const Action* requested_ = nullptr; // by the option that is being executed
 };
 

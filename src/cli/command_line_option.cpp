@@ -148,6 +148,14 @@ std::vector<CommandLineOption> MakeOptions()
                u"Writes the files that the output depends on into a file for Make or Ninja."_s),
         Option(WarningsAreErrors, u"werror"_s, u"we"_s, {},
                u"Takes warnings for errors: a run that would warn writes nothing."_s),
+        Option(Proof, u"proof"_s, u"pr"_s, {FilePath()},
+               u"Writes pictures of the font into a PNG or PDF file: all its characters and sample "
+               "texts, in its own pixels."_s),
+        Option(ProofText, u"prooftext"_s, u"pt"_s, {FilePath()},
+               u"The text to show in the proof, instead of the built-in ones."_s),
+        Option(Compare, u"compare"_s, u"co"_s, {FilePath()},
+               u"Tells in which characters and metrics the font differs from another font file; "
+               "the proof shows them."_s),
     };
 }
 

@@ -50,7 +50,10 @@ enum class OptionId : int {
     Kerning = 33,
     Report = 34,
     DependencyFile = 35,
-    WarningsAreErrors = 36
+    WarningsAreErrors = 36,
+    Proof = 60,
+    ProofText = 61,
+    Compare = 62
 };
 
 enum class ParameterKind { Number = 0, Text = 1, Range = 2 };

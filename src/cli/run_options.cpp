@@ -8,6 +8,7 @@
 #include "files/file_types.h"
 #include "model/charset.h"
 #include "model/code_text.h"
+#include "proof/proof_file.h"
 #include "texts/text_file.h"
 
 #include <algorithm>
@@ -112,6 +113,15 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::DependencyFile:
         options.dependencyFilePath = occurrence.Get<QString>(0);
         break;
+    case OptionId::Proof:
+        options.proofPath = occurrence.Get<QString>(0);
+        if (!IsProofName(options.proofPath))
+            ThrowUnsupportedFormat();
+        break;
+    case OptionId::Compare:
+        if (!FileTypeOf(occurrence.Get<QString>(0)))
+            ThrowUnsupportedFormat();
+        break;
     default:
         break;
     }
@@ -127,7 +137,10 @@ void CheckOutputs(const std::vector<OptionOccurrence>& occurrences, const RunOpt
     if (options.onlyChecks && writesFont)
         throw CriticalException(
             Engine::tr("-check writes no font: it can't be given with -save or -kerning."));
-    if (!options.dependencyFilePath.isEmpty() && !writesFont && options.reportPath.isEmpty())
+    if (isGiven(OptionId::ProofText) && options.proofPath.isEmpty())
+        throw CriticalException(Engine::tr("-prooftext is for a proof: give -proof."));
+    if (!options.dependencyFilePath.isEmpty() && !writesFont && options.reportPath.isEmpty() &&
+        options.proofPath.isEmpty())
         throw CriticalException(
             Engine::tr("-depfile needs a file that depends on others: give -save, -kerning or "
                        "-report."));
