@@ -231,11 +231,10 @@ void CommandLine::Execute(const OptionOccurrence& occurrence, Session& session)
         CurrentInterface().handleRequest(row->request);
         return;
     }
-    const Font* const font = session.CurrentFont();
     const bool isWritten =
         occurrence.Id() == OptionId::Save || occurrence.Id() == OptionId::Kerning;
-    if (isWritten && font != nullptr)
-        LookBeforeWriting(*font);
+    if (isWritten && session.CurrentFont() != nullptr)
+        LookBeforeWriting(session);
     Perform(row->make(occurrence, options_, session));
 }
 
@@ -248,7 +247,10 @@ void CommandLine::RunProofOption(const OptionOccurrence& occurrence, const Sessi
     case OptionId::Compare:
         return Compare(session, occurrence.Get<QString>(0));
     case OptionId::Proof:
-        return WriteProof(session);
+        WriteProof(session);
+        if (options_.warningsAreErrors && !record_.Missing().empty())
+            throw CriticalException(Engine::tr("The font lacks characters that were asked for."));
+        return;
     default:
         return;
     }
@@ -295,11 +297,14 @@ void CommandLine::Perform(const std::shared_ptr<Action>& action)
 }
 
 // Whatever would be warned of after the first file is written is known here.
-void CommandLine::LookBeforeWriting(const Font& font)
+void CommandLine::LookBeforeWriting(const Session& session)
 {
+    const Font& font = *session.CurrentFont();
     TellMissing(font);
     if (!options_.warningsAreErrors)
         return;
+    if (!record_.Missing().empty() && !options_.proofPath.isEmpty())
+        WriteProof(session);
     if (!record_.Missing().empty())
         throw CriticalException(
             Engine::tr("The font lacks characters that were asked for, so it was not saved."));

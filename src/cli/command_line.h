@@ -62,7 +62,7 @@ private:
     void Execute(const OptionOccurrence& occurrence, Session& session);
     void WarnOfUnusedOptions(const std::vector<OptionOccurrence>& occurrences, const QString& path);
     void Perform(const std::shared_ptr<Action>& action);
-    void LookBeforeWriting(const Font& font);
+    void LookBeforeWriting(const Session& session);
     void TellMissing(const Font& font);
     void ShowMissing() const;
     void Finish(Session& session);
