@@ -1003,6 +1003,46 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Characters that the font does not have</source>
         <translation>Zeichen, die der Schrift fehlen</translation>
     </message>
+    <message>
+        <source>The font lacks characters that were asked for.</source>
+        <translation>Der Schrift fehlen Zeichen, die verlangt wurden.</translation>
+    </message>
+    <message>
+        <source>The font differs from %1, which is an error with -werror.</source>
+        <translation>Die Schrift unterscheidet sich von %1, was mit -werror ein Fehler ist.</translation>
+    </message>
+    <message>
+        <source>-prooftext is for a proof: give -proof.</source>
+        <translation>-prooftext ist für eine Schriftprobe: Geben Sie -proof an.</translation>
+    </message>
+    <message>
+        <source>PDF files need the library libhpdf, which is not installed.</source>
+        <translation>PDF-Dateien brauchen die Bibliothek libhpdf, die nicht installiert ist.</translation>
+    </message>
+    <message>
+        <source>libhpdf could not make the PDF file: error %1.</source>
+        <translation>libhpdf konnte die PDF-Datei nicht erzeugen: Fehler %1.</translation>
+    </message>
+    <message>
+        <source>PNG pictures</source>
+        <translation>PNG-Bilder</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>Writing proof...</source>
+        <translation>Schriftprobe wird geschrieben...</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The file %1 is too long for a proof, which takes texts up to %2 bytes.</source>
+        <translation>Die Datei %1 ist zu lang für eine Schriftprobe, die Texte bis %2 Bytes zeigt.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1205,6 +1245,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Characters that the font does not have: %1</source>
         <translation>Zeichen, die der Schrift fehlen: %1</translation>
+    </message>
+    <message>
+        <source>Export proof</source>
+        <translation>Schriftprobe exportieren</translation>
     </message>
 </context>
 <context>
@@ -2432,6 +2476,14 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Export &amp;proof...</source>
+        <translation>Schrift&amp;probe exportieren...</translation>
+    </message>
+    <message>
+        <source>Write pictures of the font into a PNG or PDF file</source>
+        <translation>Bilder der Schrift in eine PNG- oder PDF-Datei schreiben</translation>
     </message>
 </context>
 <context>
