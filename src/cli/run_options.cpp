@@ -57,6 +57,18 @@ QString CheckedName(const QString& name)
     return name;
 }
 
+void ReadProofOption(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    if (occurrence.Id() == OptionId::Proof) {
+        options.proofPath = occurrence.Get<QString>(0);
+        if (!IsProofName(options.proofPath))
+            ThrowUnsupportedFormat();
+    } else if (occurrence.Id() == OptionId::Compare) {
+        if (!FileTypeOf(occurrence.Get<QString>(0)))
+            ThrowUnsupportedFormat();
+    }
+}
+
 void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
 {
     switch (occurrence.Id()) {
@@ -113,17 +125,8 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::DependencyFile:
         options.dependencyFilePath = occurrence.Get<QString>(0);
         break;
-    case OptionId::Proof:
-        options.proofPath = occurrence.Get<QString>(0);
-        if (!IsProofName(options.proofPath))
-            ThrowUnsupportedFormat();
-        break;
-    case OptionId::Compare:
-        if (!FileTypeOf(occurrence.Get<QString>(0)))
-            ThrowUnsupportedFormat();
-        break;
     default:
-        break;
+        ReadProofOption(occurrence, options);
     }
 }
 

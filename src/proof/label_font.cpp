@@ -10,12 +10,12 @@ namespace {
 
 constexpr char FirstLabel = ' ';
 constexpr char LabelBox = '\x7F';
-constexpr int LabelsPerBand = 12;
-constexpr int LabelBands = 8;
+constexpr std::size_t LabelsPerBand = 12;
+constexpr std::size_t LabelBands = 8;
 
 // The characters from the blank to the box, side by side.
 // clang-format off
-constexpr std::array<const char*, std::size_t(LabelBands * LabelFont::Height)> LabelRows = {
+constexpr std::array<const char*, LabelBands * std::size_t(LabelFont::Height)> LabelRows = {
     "..... ..X.. .X.X. .X.X. ..X.. XX..X .XX.. ..X.. ...X. .X... ..... .....",
     "..... ..X.. .X.X. .X.X. .XXXX XX..X X..X. ..X.. ..X.. ..X.. ..X.. ..X..",
     "..... ..X.. .X.X. XXXXX X.X.. ...X. X.X.. ..... .X... ...X. X.X.X ..X..",
@@ -88,9 +88,10 @@ constexpr std::array<const char*, std::size_t(LabelBands * LabelFont::Height)> L
 unsigned LabelFont::RowOf(char character, int row)
 {
     const bool isKnown = character >= FirstLabel && character < LabelBox;
-    const int index = (isKnown ? character : LabelBox) - FirstLabel;
-    const char* const pixels = LabelRows[std::size_t(index / LabelsPerBand * Height + row)] +
-                               std::ptrdiff_t(index % LabelsPerBand) * (Width + 1);
+    const auto index = std::size_t((isKnown ? character : LabelBox) - FirstLabel);
+    const char* const pixels =
+        LabelRows[index / LabelsPerBand * std::size_t(Height) + std::size_t(row)] +
+        index % LabelsPerBand * std::size_t(Advance);
     unsigned bits = 0;
     for (int column = 0; column < Width; ++column)
         bits = bits << 1 | unsigned(pixels[column] == 'X');

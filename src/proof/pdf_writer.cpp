@@ -7,6 +7,7 @@
 
 #include <QLibrary>
 
+#include <algorithm>
 #include <array>
 #include <hpdf.h>
 
@@ -126,8 +127,12 @@ void PdfWriter::AddPage(const Canvas& canvas)
                                          HPDF_UINT(picture.size()));
     if (page == nullptr || image == nullptr)
         return; // the document knows
-    constexpr auto width = HPDF_REAL(SheetWidth - 2 * SheetMargin);
-    const HPDF_REAL height = width * HPDF_REAL(canvas.Height()) / HPDF_REAL(canvas.Width());
+    constexpr auto roomWidth = HPDF_REAL(SheetWidth - 2 * SheetMargin);
+    constexpr auto roomHeight = HPDF_REAL(SheetHeight - 2 * SheetMargin);
+    const HPDF_REAL scale =
+        std::min(roomWidth / HPDF_REAL(canvas.Width()), roomHeight / HPDF_REAL(canvas.Height()));
+    const HPDF_REAL width = scale * HPDF_REAL(canvas.Width());
+    const HPDF_REAL height = scale * HPDF_REAL(canvas.Height());
     library_->setWidth(page, SheetWidth);
     library_->setHeight(page, SheetHeight);
     library_->drawImage(page, image, SheetMargin, SheetHeight - SheetMargin - height, width,

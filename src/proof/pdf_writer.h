@@ -19,7 +19,8 @@ public:
     PdfWriter(const PdfWriter&) = delete;
     PdfWriter& operator=(const PdfWriter&) = delete;
 
-    // How high a picture of this width may be; it fills the page between its margins.
+    // How high a picture of this width may be to fill the page between its margins; a higher one
+    // becomes smaller.
     [[nodiscard]] static int PageHeight(int width);
 
     void AddPage(const Canvas& canvas);
