@@ -25,6 +25,7 @@
 #include <unistd.h>
 #endif
 
+#include <algorithm>
 #include <iostream>
 #include <new>
 #include <string>
@@ -191,6 +192,7 @@ void CommandLine::Run(const Arguments& arguments, Session& session)
     options_ = ReadRunOptions(occurrences, &CurrentInterface() != this,
                               [this](const Place& place) { messages_.SetPlace(place); });
     record_ = RunRecord(arguments.files, occurrences);
+    proof_ = {};
     for (const OptionOccurrence& occurrence : occurrences) {
         Execute(occurrence, session);
         if (occurrence.Id() == OptionId::Open)
@@ -203,7 +205,11 @@ void CommandLine::Run(const Arguments& arguments, Session& session)
 void CommandLine::WarnOfUnusedOptions(const std::vector<OptionOccurrence>& occurrences,
                                       const QString& path)
 {
-    if (IsScalable(FileTypeOf(path)))
+    const auto isRendered = [](const OptionOccurrence& occurrence) {
+        return occurrence.Id() == OptionId::Compare &&
+               IsScalable(FileTypeOf(occurrence.Get<QString>(0)));
+    };
+    if (IsScalable(FileTypeOf(path)) || std::ranges::any_of(occurrences, isRendered))
         return;
     for (const OptionOccurrence& occurrence : occurrences) {
         messages_.SetPlace(occurrence.place);
@@ -220,17 +226,61 @@ void CommandLine::Execute(const OptionOccurrence& occurrence, Session& session)
     }
     const OptionAction* const row = ActionOf(occurrence.Id());
     if (row == nullptr)
-        return;
+        return RunProofOption(occurrence, session);
     if (row->make == nullptr) {
         CurrentInterface().handleRequest(row->request);
         return;
     }
-    const Font* const font = session.CurrentFont();
     const bool isWritten =
         occurrence.Id() == OptionId::Save || occurrence.Id() == OptionId::Kerning;
-    if (isWritten && font != nullptr)
-        LookBeforeWriting(*font);
+    if (isWritten && session.CurrentFont() != nullptr)
+        LookBeforeWriting(session);
     Perform(row->make(occurrence, options_, session));
+}
+
+void CommandLine::RunProofOption(const OptionOccurrence& occurrence, const Session& session)
+{
+    switch (occurrence.Id()) {
+    case OptionId::ProofText:
+        proof_.ReadText(occurrence.Get<QString>(0));
+        return record_.AddInput("proof text", occurrence.Get<QString>(0));
+    case OptionId::Compare:
+        return Compare(session, occurrence.Get<QString>(0));
+    case OptionId::Proof:
+        WriteProof(session);
+        if (options_.warningsAreErrors && !record_.Missing().empty())
+            throw CriticalException(Engine::tr("The font lacks characters that were asked for."));
+        return;
+    default:
+        return;
+    }
+}
+
+// Differences are what was asked for: they are no fault unless warnings are, and the proof shows
+// them then as well.
+void CommandLine::Compare(const Session& session, const QString& path)
+{
+    const QString text = proof_.Compare(session, path, options_);
+    record_.AddInput("compared font", path);
+    messages_.Answer(text);
+    if (!proof_.FoundDifferences() || !options_.warningsAreErrors)
+        return;
+    if (!options_.proofPath.isEmpty())
+        WriteProof(session);
+    throw CriticalException(
+        Engine::tr("The font differs from %1, which is an error with -werror.").arg(Shown(path)));
+}
+
+void CommandLine::WriteProof(const Session& session)
+{
+    TellMissing(*session.CurrentFont());
+    const QStringList written =
+        proof_.Write(session, record_.SavedFont(), record_.Missing(), options_.proofPath);
+    for (const QString& path : written) {
+        record_.AddOutput("proof", path);
+        if (&CurrentInterface() == this)
+            messages_.Information(u"Saved proof: "_s + Shown(path));
+    }
 }
 
 void CommandLine::Perform(const std::shared_ptr<Action>& action)
@@ -247,11 +297,14 @@ void CommandLine::Perform(const std::shared_ptr<Action>& action)
 }
 
 // Whatever would be warned of after the first file is written is known here.
-void CommandLine::LookBeforeWriting(const Font& font)
+void CommandLine::LookBeforeWriting(const Session& session)
 {
+    const Font& font = *session.CurrentFont();
     TellMissing(font);
     if (!options_.warningsAreErrors)
         return;
+    if (!record_.Missing().empty() && !options_.proofPath.isEmpty())
+        WriteProof(session);
     if (!record_.Missing().empty())
         throw CriticalException(
             Engine::tr("The font lacks characters that were asked for, so it was not saved."));

@@ -4,6 +4,7 @@
 #include "cli/command_line_parser.h"
 #include "cli/run_messages.h"
 #include "cli/run_options.h"
+#include "cli/run_proof.h"
 #include "cli/run_record.h"
 
 #include <iosfwd>
@@ -63,10 +64,13 @@ private:
     void Execute(const OptionOccurrence& occurrence, Session& session);
     void WarnOfUnusedOptions(const std::vector<OptionOccurrence>& occurrences, const QString& path);
     void Perform(const std::shared_ptr<Action>& action);
-    void LookBeforeWriting(const Font& font);
+    void LookBeforeWriting(const Session& session);
     void TellMissing(const Font& font);
     void ShowMissing() const;
     void Finish(Session& session);
+    void RunProofOption(const OptionOccurrence& occurrence, const Session& session);
+    void Compare(const Session& session, const QString& path);
+    void WriteProof(const Session& session);
     int AskKeyword(const QString& reason, const QString& subject,
                    const ParameterKeywordTable& keywords);
 
@@ -74,6 +78,7 @@ private:
     RunMessages messages_;
     RunOptions options_;
     RunRecord record_;
+    RunProof proof_;
     const Action* requested_ = nullptr; // by the option that is being executed
 };
 

@@ -173,6 +173,14 @@ std::vector<CommandLineOption> MakeOptions()
                u"Index of the charmap that tells the codes of a TTF or TTC file."_s),
         Option(Jobs, u"jobs"_s, u"j"_s, {Number(u"<count>"_s)},
                u"How many threads render large fonts; as many as there are cores if not given."_s),
+        Option(Proof, u"proof"_s, u"pr"_s, {FilePath()},
+               u"Writes pictures of the font into a PNG or PDF file: all its characters and sample "
+               "texts, in its own pixels."_s),
+        Option(ProofText, u"prooftext"_s, u"pt"_s, {FilePath()},
+               u"The text to show in the proof, instead of the built-in ones."_s),
+        Option(Compare, u"compare"_s, u"co"_s, {FilePath()},
+               u"Tells in which characters and metrics the font differs from another font file; "
+               "the proof shows them."_s),
     };
 }
 

@@ -58,7 +58,10 @@ enum class OptionId : int {
     Source = 42,
     Map = 43,
     Charmap = 44,
-    Jobs = 49
+    Jobs = 49,
+    Proof = 60,
+    ProofText = 61,
+    Compare = 62
 };
 
 enum class ParameterKind { Number = 0, Text = 1, Range = 2 };

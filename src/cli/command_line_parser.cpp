@@ -266,11 +266,14 @@ void ReorderOccurrences(std::vector<OptionOccurrence>& occurrences)
 {
     MoveToFront(occurrences, OptionId::Open);
     MoveToFront(occurrences, OptionId::Create);
+    MoveToFront(occurrences, OptionId::ProofText);
     std::stable_partition(occurrences.begin(), occurrences.end(), [](const auto& occurrence) {
         return SelectsCharacters(occurrence.Id());
     });
+    MoveToBack(occurrences, OptionId::Compare); // with the file that is to be replaced, if any
     MoveToBack(occurrences, OptionId::Save);
     MoveToBack(occurrences, OptionId::Kerning);
+    MoveToBack(occurrences, OptionId::Proof);
     MoveToBack(occurrences, OptionId::Exit);
 }
 

@@ -8,6 +8,7 @@
 #include "files/file_types.h"
 #include "model/charset.h"
 #include "model/code_text.h"
+#include "proof/proof_file.h"
 #include "render/face_variations.h"
 #include "texts/text_file.h"
 
@@ -93,6 +94,18 @@ FontSource SourceOf(const OptionOccurrence& occurrence)
     return source;
 }
 
+void ReadProofOption(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    if (occurrence.Id() == OptionId::Proof) {
+        options.proofPath = occurrence.Get<QString>(0);
+        if (!IsProofName(options.proofPath))
+            ThrowUnsupportedFormat();
+    } else if (occurrence.Id() == OptionId::Compare) {
+        if (!FileTypeOf(occurrence.Get<QString>(0)))
+            ThrowUnsupportedFormat();
+    }
+}
+
 void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
 {
     switch (occurrence.Id()) {
@@ -174,7 +187,7 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         options.dependencyFilePath = occurrence.Get<QString>(0);
         break;
     default:
-        break;
+        ReadProofOption(occurrence, options);
     }
 }
 
@@ -188,7 +201,10 @@ void CheckOutputs(const std::vector<OptionOccurrence>& occurrences, const RunOpt
     if (options.onlyChecks && writesFont)
         throw CriticalException(
             Engine::tr("-check writes no font: it can't be given with -save or -kerning."));
-    if (!options.dependencyFilePath.isEmpty() && !writesFont && options.reportPath.isEmpty())
+    if (isGiven(OptionId::ProofText) && options.proofPath.isEmpty())
+        throw CriticalException(Engine::tr("-prooftext is for a proof: give -proof."));
+    if (!options.dependencyFilePath.isEmpty() && !writesFont && options.reportPath.isEmpty() &&
+        options.proofPath.isEmpty())
         throw CriticalException(
             Engine::tr("-depfile needs a file that depends on others: give -save, -kerning or "
                        "-report."));

@@ -20,6 +20,7 @@ struct RunOptions
     bool warningsAreErrors = false;
     QString reportPath;         // empty for none
     QString dependencyFilePath; // likewise
+    QString proofPath;          // likewise
 };
 
 // Reads and checks these options; a missing height may be asked for where somebody can. Throws a

@@ -17,10 +17,12 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <string_view>
 
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -101,6 +103,14 @@ void RunRecord::Add(const Action& action)
         const bool isKerning = save->Type() == ActionType::SaveKerning;
         outputs_.push_back({isKerning ? "kerning" : "font", save->Args().path});
     }
+}
+
+QString RunRecord::SavedFont() const
+{
+    const auto saved = std::ranges::find_if(outputs_, [](const UsedFile& output) {
+        return output.kind == "font"sv && !IsBinaryKerningName(output.path);
+    });
+    return saved == outputs_.end() ? QString() : saved->path;
 }
 
 void RunRecord::SetMissing(std::vector<DemandGap> missing)

@@ -22,6 +22,13 @@ public:
     // An action that was performed.
     void Add(const Action& action);
 
+    // Files that were read or written without one.
+    void AddInput(const char* kind, const QString& path) { inputs_.push_back({kind, path}); }
+    void AddOutput(const char* kind, const QString& path) { outputs_.push_back({kind, path}); }
+
+    // The font file that was written; empty for none.
+    [[nodiscard]] QString SavedFont() const;
+
     void SetMissing(std::vector<DemandGap> missing);
     [[nodiscard]] const std::vector<DemandGap>& Missing() const { return missing_; }
 

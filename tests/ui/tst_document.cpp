@@ -213,6 +213,31 @@ private Q_SLOTS:
         QCOMPARE(CurrentFont().Name(), u"Big32"_s);
     }
 
+    // Of the font as it is edited; the kind is the chosen one.
+    void ExportsProofs()
+    {
+        QVERIFY(!window_->Menus().Command(WindowCommand::ExportProof)->isEnabled());
+        OpenSample();
+        const DialogAnswer<QFileDialog> answer([&](QFileDialog& dialog) {
+            QCOMPARE(dialog.nameFilters(),
+                     QStringList({u"PNG pictures (*.png)"_s, u"PDF files (*.pdf)"_s}));
+            dialog.setDirectory(folder_.path());
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        Trigger(WindowCommand::ExportProof);
+        const QByteArray proof = Test::ReadAll(Path("sample.png"));
+        QVERIFY(proof.startsWith("\x89PNG"));
+        QVERIFY(!window_->isWindowModified());
+        Trigger(ActionType::FontInsertRowTop);
+        const DialogAnswer<QFileDialog> again([&](QFileDialog& dialog) {
+            dialog.setDirectory(folder_.path());
+            dialog.selectFile(u"edited.png"_s);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        Trigger(WindowCommand::ExportProof);
+        QVERIFY(Test::ReadAll(Path("edited.png")) != proof);
+    }
+
     void PatternsTellWhatIsMissing()
     {
         OpenSample();

@@ -12,6 +12,7 @@
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "files/c_file_text.h"
+#include "proof/proof_file.h"
 #include "render/font_file_scalable.h"
 #include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
@@ -286,6 +287,15 @@ void Document::SaveKerning()
 {
     AskAndSave(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter(),
                ActionType::SaveKerning);
+}
+
+void Document::ExportProof()
+{
+    const QString path =
+        AskSavePath(tr("Export proof"), ProposedName(u".png"_s), ProofFileFilter());
+    if (path.isEmpty())
+        return;
+    Guarded([&] { WriteProof(ProofOf(*session_.CurrentFont(), session_.Path()), path); });
 }
 
 void Document::OpenPattern()

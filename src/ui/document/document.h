@@ -30,6 +30,7 @@ public:
     void OpenPattern();
     void SavePattern();
     void SaveKerning();
+    void ExportProof();
 
     // Opens a font, asking for what its kind needs. False where that failed or was given up.
     bool OpenFile(const QString& path);

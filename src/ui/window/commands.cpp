@@ -95,6 +95,8 @@ void Commands::RunWindowCommand(quint32 id)
         return ShowCommandLineOptions(&window_);
     case WindowCommand::UserManual:
         return ShowManual();
+    case WindowCommand::ExportProof:
+        return parts_.document.ExportProof();
     }
 }
 
@@ -169,6 +171,7 @@ void Commands::EnablePossible()
     enable(ActionType::SaveKerning, hasFont && font->HasKerning());
     enable(WindowCommand::AllCharacters, hasFont);
     enable(WindowCommand::GoToCharacter, hasFont);
+    enable(WindowCommand::ExportProof, hasFont);
     EnableEdits();
 }
 

@@ -72,6 +72,10 @@ public:
         Separator,
         Entry(QT_TR_NOOP("E&xit"), "Alt+F4", QT_TR_NOOP("Exit the program"),
               ActionType::ExitProgram, StartsEnabled),
+        Separator,
+        Entry(QT_TR_NOOP("Export &proof..."), nullptr,
+              QT_TR_NOOP("Write pictures of the font into a PNG or PDF file"),
+              WindowCommand::ExportProof),
     };
 
     static constexpr MenuRow InsertRows[] = {

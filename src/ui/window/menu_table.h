@@ -20,7 +20,8 @@ enum class WindowCommand : quint32 {
     Preferences = 62,
     About = 63,
     CommandLineOptions = 64,
-    UserManual = 65
+    UserManual = 65,
+    ExportProof = 80
 };
 
 // The number that commands have in the menus and their actions.

@@ -1144,8 +1144,48 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>%1 liegt über U+FFFF, wo Schriften keine Zeichen haben: Nehmen Sie stattdessen eines von U+E000 bis U+F8FF, wohin -map und -source es legen können</translation>
     </message>
     <message>
+        <source>The font lacks characters that were asked for.</source>
+        <translation>Der Schrift fehlen Zeichen, die verlangt wurden.</translation>
+    </message>
+    <message>
+        <source>The font differs from %1, which is an error with -werror.</source>
+        <translation>Die Schrift unterscheidet sich von %1, was mit -werror ein Fehler ist.</translation>
+    </message>
+    <message>
+        <source>-prooftext is for a proof: give -proof.</source>
+        <translation>-prooftext ist für eine Schriftprobe: Geben Sie -proof an.</translation>
+    </message>
+    <message>
+        <source>PDF files need the library libhpdf, which is not installed.</source>
+        <translation>PDF-Dateien brauchen die Bibliothek libhpdf, die nicht installiert ist.</translation>
+    </message>
+    <message>
+        <source>libhpdf could not make the PDF file: error %1.</source>
+        <translation>libhpdf konnte die PDF-Datei nicht erzeugen: Fehler %1.</translation>
+    </message>
+    <message>
+        <source>PNG pictures</source>
+        <translation>PNG-Bilder</translation>
+    </message>
+    <message>
+        <source>PDF files</source>
+        <translation>PDF-Dateien</translation>
+    </message>
+    <message>
+        <source>Writing proof...</source>
+        <translation>Schriftprobe wird geschrieben...</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The file %1 is too long for a proof, which takes texts up to %2 bytes.</source>
+        <translation>Die Datei %1 ist zu lang für eine Schriftprobe, die Texte bis %2 Bytes zeigt.</translation>
+    </message>
+    <message>
         <source>The number %1 is not usable: -jobs takes 1 to 256 threads.</source>
-        <translation>Die Zahl %1 ist nicht verwendbar: -jobs nimmt 1 bis 256 Threads.</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1349,6 +1389,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Characters that the font does not have: %1</source>
         <translation>Zeichen, die der Schrift fehlen: %1</translation>
+    </message>
+    <message>
+        <source>Export proof</source>
+        <translation>Schriftprobe exportieren</translation>
     </message>
 </context>
 <context>
@@ -2576,6 +2620,14 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Export &amp;proof...</source>
+        <translation>Schrift&amp;probe exportieren...</translation>
+    </message>
+    <message>
+        <source>Write pictures of the font into a PNG or PDF file</source>
+        <translation>Bilder der Schrift in eine PNG- oder PDF-Datei schreiben</translation>
     </message>
 </context>
 <context>
