@@ -50,7 +50,8 @@ enum class OptionId : int {
     Kerning = 33,
     Report = 34,
     DependencyFile = 35,
-    WarningsAreErrors = 36
+    WarningsAreErrors = 36,
+    Features = 40
 };
 
 enum class ParameterKind { Number = 0, Text = 1, Range = 2 };

@@ -5,6 +5,7 @@
 #include "app/engine_texts.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "cli/feature_list.h"
 #include "files/file_types.h"
 #include "model/charset.h"
 #include "model/code_text.h"
@@ -78,6 +79,9 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Face:
         options.open.render.faceIndex = occurrence.Get<int>(0);
         break;
+    case OptionId::Features:
+        options.open.render.features = ParseFeatures(occurrence);
+        break;
     case OptionId::EditFont:
         CheckCount(occurrence, 1);
         break;
@@ -97,17 +101,21 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         if (!IsWritten(FileTypeOf(occurrence.Get<QString>(0))) &&
             !IsBinaryKerningName(occurrence.Get<QString>(0)))
             ThrowUnsupportedFormat();
+        if (IsBinaryKerningName(occurrence.Get<QString>(0)))
+            options.open.render.findsLayoutKerning = true;
         break;
     case OptionId::Kerning:
         if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
             ThrowUnsupportedFormat();
         options.writesKerning = true;
+        options.open.render.findsLayoutKerning = true;
         break;
     case OptionId::WarningsAreErrors:
         options.warningsAreErrors = true;
         break;
     case OptionId::Report:
         options.reportPath = occurrence.Get<QString>(0);
+        options.open.render.findsLayoutKerning = true;
         break;
     case OptionId::DependencyFile:
         options.dependencyFilePath = occurrence.Get<QString>(0);
@@ -170,6 +178,7 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool
                           const std::function<void(const Place&)>& onOption)
 {
     RunOptions options;
+    options.open.render.findsLayoutKerning = canAsk; // a window shows it
     bool needsHeight = false;
     bool hasFace = false;
     bool createsByName = false;
@@ -289,7 +298,7 @@ void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path)
 {
     using enum OptionId;
     const OptionId id = occurrence.Id();
-    if (id == Height || id == Bold || id == Italic || id == Face)
+    if (id == Height || id == Bold || id == Italic || id == Face || id == Features)
         CurrentInterface().warning(Engine::tr("Option without effect"),
                                    Engine::tr("-%1 was not used: the file %2 is not rendered.")
                                        .arg(occurrence.option->longName, Shown(path)));

@@ -6,6 +6,8 @@
 #include "app/user_interface.h"
 #include "files/file_types.h"
 #include "model/encoding.h"
+#include "render/font_kerning.h"
+#include "render/glyph_substitution.h"
 #include "render/kerning_index.h"
 
 #include <limits>
@@ -18,18 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Pairs of a font speak of the font's own codes; characters that it can't encode have no pairs.
-std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs, EncodingType encoding)
-{
-    std::vector<KerningPair> encoded;
-    encoded.reserve(pairs.size());
-    for (const KerningPair& pair : pairs) {
-        if (const auto right = EncodingFor(EncodingType::Unicode).Converted(encoding, pair.right))
-            encoded.push_back({*right, pair.distance});
-    }
-    return encoded;
-}
-
 // Opens another member of the file. The file is let go of first: it may have been unpacked into
 // memory.
 void Reopen(FreeTypeFace& face, int index)
@@ -38,9 +28,6 @@ void Reopen(FreeTypeFace& face, int index)
     face = FreeTypeFace();
     face = FreeTypeFace(path, index, FreeTypeLibrary());
 }
-
-// No font needs as many pairs, but a damaged one can claim one for every two characters.
-constexpr std::size_t MaxKerningPairs = 1'000'000;
 
 } // namespace
 
@@ -130,6 +117,10 @@ void FontFileScalable::RenderCharmap(Font& font)
     std::optional<KerningIndex> kerning;
     if (font.HasKerning())
         kerning.emplace(face_);
+    std::optional<GlyphSubstitution> substitution;
+    if (!options_.features.empty())
+        substitution.emplace(face_, options_.features);
+    std::vector<ShownGlyph> shown;
     Progress progress(Engine::tr("Rendering font..."), face_.GlyphCount());
     std::size_t pairCount = 0;
     CodeSet visited; // a code that comes up again gives the same glyph again
@@ -142,20 +133,25 @@ void FontFileScalable::RenderCharmap(Font& font)
         progress.LookedAt();
         const bool isWanted = !CharacterFilter() || CharacterFilter()->Test(faceCode);
         const auto code = isWanted ? unicode.Converted(options_.encoding, faceCode) : std::nullopt;
+        if (code && substitution)
+            glyphIndex = substitution->Replacement(glyphIndex);
         if (code && AddCharacter(font, *code, glyphIndex)) {
             if (kerning && pairCount < MaxKerningPairs) {
                 auto& pairs = font.FindChar(*code)->kerning;
-                pairs = Encoded(kerning->PairsOf(faceCode), options_.encoding);
+                pairs = EncodedPairs(kerning->PairsOf(faceCode), options_.encoding);
                 pairCount += pairs.size();
             }
+            shown.push_back({faceCode, glyphIndex});
             progress.Advance();
         }
         return notVisited > 0;
     });
+    if (substitution)
+        substitution->WarnOfUnused();
     if (pairCount >= MaxKerningPairs)
-        CurrentInterface().warning(
-            Engine::tr("Kerning left out"),
-            Engine::tr("The font has too many kerning pairs; some were left out."));
+        WarnOfTooManyPairs();
+    if (options_.findsLayoutKerning && MayHaveLayoutKerning(face_))
+        AddLayoutKerning(font, face_, shown);
 }
 
 // Codes with the same glyph share its pixels.

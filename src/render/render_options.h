@@ -1,6 +1,9 @@
 #pragma once
 
 #include "model/font_format.h"
+#include "render/font_feature.h"
+
+#include <vector>
 
 namespace Glyphor {
 
@@ -16,6 +19,12 @@ struct RenderOptions
     quint32 effects = 0; // bits of FaceEffect
     int faceIndex = 0;
     bool useStrikes = true; // bitmaps of just this height, where the file carries them
+
+    // Kerning of GPOS tables. It takes a library to be loaded, so runs that don't look at kerning
+    // go without.
+    bool findsLayoutKerning = true;
+
+    std::vector<FontFeature> features = {};
 
     bool operator==(const RenderOptions&) const = default;
 };
