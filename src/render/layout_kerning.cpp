@@ -35,9 +35,6 @@ constexpr std::size_t PairsOfBuffer = 2048;
 // A pair takes about as long as a look into so many subtables.
 constexpr qint64 CostOfPair = 8;
 
-// Some fifteen seconds, which no font needs.
-constexpr qint64 MaxWork = 500'000'000;
-
 hb_bool_t GlyphOfCode(hb_font_t*, void*, hb_codepoint_t code, hb_codepoint_t* glyph, void*)
 {
     if (code != Separator && code < PlainCodes)
@@ -154,7 +151,8 @@ LayoutKerning::KindsOf(std::span<const ShownGlyph> characters) const
     return list;
 }
 
-bool LayoutKerning::FindPairs(std::span<const ShownGlyph> characters, const Take& take)
+bool LayoutKerning::FindPairs(std::span<const ShownGlyph> characters, const Take& take,
+                              qint64 maxWork)
 {
     const std::vector<Kind> kinds = KindsOf(characters);
     std::vector<std::size_t> all(kinds.size());
@@ -169,7 +167,7 @@ bool LayoutKerning::FindPairs(std::span<const ShownGlyph> characters, const Take
     for (const Kind& left : kinds) {
         const std::vector<std::size_t>& rights = left.isTouched ? all : touched;
         work += qint64(rights.size() + features_.size()) * (CostOfPair + subtables_);
-        if (work > MaxWork)
+        if (work > maxWork)
             return false;
         found.clear();
         AskAll(left, rights, kinds, progress, found);

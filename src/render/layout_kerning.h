@@ -29,11 +29,15 @@ public:
     // False where no feature of the face kerns.
     [[nodiscard]] bool HasKerning() const;
 
+    // Some fifteen seconds, which no font needs.
+    static constexpr qint64 MaxWork = 500'000'000;
+
     // Calls take(index, pairs) for each character that has pairs, until it returns false. Pairs are
     // in the order of the characters, which come up once each. Reports its progress. False where
     // pairs are left out, since a damaged font would take forever.
     using Take = std::function<bool(std::size_t index, const std::vector<KerningPair>& pairs)>;
-    bool FindPairs(std::span<const ShownGlyph> characters, const Take& take);
+    bool FindPairs(std::span<const ShownGlyph> characters, const Take& take,
+                   qint64 maxWork = MaxWork);
 
 private:
     // Glyphs that kern alike.

@@ -1003,6 +1003,38 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Characters that the font does not have</source>
         <translation>Zeichen, die der Schrift fehlen</translation>
     </message>
+    <message>
+        <source>The features %1 are not usable: the option is %2, with tags of four letters or digits (e.g. tnum,zero,ss01) and numbers from 1 to %3.</source>
+        <translation>Die Merkmale %1 sind nicht verwendbar: Die Option ist %2, mit Kennungen aus vier Buchstaben oder Ziffern (z. B. tnum,zero,ss01) und Zahlen von 1 bis %3.</translation>
+    </message>
+    <message>
+        <source>The font has no kerning here: HarfBuzz, which reads it, could not be loaded.</source>
+        <translation>Die Schrift hat hier keine Unterschneidung: HarfBuzz, das sie liest, konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>Features of a font need HarfBuzz, which could not be loaded.</source>
+        <translation>Merkmale einer Schrift brauchen HarfBuzz, das nicht geladen werden konnte.</translation>
+    </message>
+    <message>
+        <source>The font has no feature %1: it has none.</source>
+        <translation>Die Schrift hat kein Merkmal %1: Sie hat keine.</translation>
+    </message>
+    <message>
+        <source>The font has no feature %1: it has %2.</source>
+        <translation>Die Schrift hat kein Merkmal %1: Sie hat %2.</translation>
+    </message>
+    <message>
+        <source>Feature without effect</source>
+        <translation>Merkmal ohne Wirkung</translation>
+    </message>
+    <message>
+        <source>The feature %1 replaces none of the characters with one other.</source>
+        <translation>Das Merkmal %1 ersetzt keines der Zeichen durch ein anderes.</translation>
+    </message>
+    <message>
+        <source>Finding kerning pairs...</source>
+        <translation>Unterschneidungspaare werden gesucht …</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
