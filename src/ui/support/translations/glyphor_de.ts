@@ -1009,7 +1009,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>The font has no kerning here: HarfBuzz, which reads it, could not be loaded.</source>
-        <translation>Die Schrift hat hier keine Unterschneidung: HarfBuzz, das sie liest, konnte nicht geladen werden.</translation>
+        <translation>Die Schrift hat hier kein Kerning: HarfBuzz, das es liest, konnte nicht geladen werden.</translation>
     </message>
     <message>
         <source>Features of a font need HarfBuzz, which could not be loaded.</source>
@@ -1033,7 +1033,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>Finding kerning pairs...</source>
-        <translation>Unterschneidungspaare werden gesucht …</translation>
+        <translation>Kerning-Paare werden gesucht...</translation>
     </message>
 </context>
 <context>
