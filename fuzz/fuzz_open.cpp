@@ -37,7 +37,7 @@ const QString& InputPath()
     return path;
 }
 
-void Open(const QString& path)
+void Open(const QString& path, std::size_t size)
 {
     if (path.endsWith(QStringLiteral(".txt"))) {
         (void)PatternFile(path).Read();
@@ -48,11 +48,13 @@ void Open(const QString& path)
     args.path = path;
     args.render.height = 16;
     args.selection.emplace().SetRange(0, 0x2FF, true);
+    if (size % 4 == 0)
+        args.render.features = {{QStringLiteral("zero")}, {QStringLiteral("salt"), 2}};
     const auto font = ReadFont(args);
-    qsizetype size = 0;
+    qsizetype written = 0;
     const CFileOptions options;
-    FontFileC(QStringLiteral("font.c"), options).Compose(*font, [&size](QByteArrayView piece) {
-        size += piece.size();
+    FontFileC(QStringLiteral("font.c"), options).Compose(*font, [&written](QByteArrayView piece) {
+        written += piece.size();
     });
 }
 
@@ -68,7 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     file.write(reinterpret_cast<const char*>(data), static_cast<qint64>(size));
     file.close();
     try {
-        Open(InputPath());
+        Open(InputPath(), size);
     } catch (const CriticalException&) { // refused, as it should be
     }
     return 0;

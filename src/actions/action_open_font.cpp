@@ -77,6 +77,7 @@ RenderOptions OptionsOf(const FontSource& source, const RenderOptions& own, int 
     options.faceIndex = 0;
     options.charmapIndex = -1;
     options.axes.clear();
+    options.features.clear();
     options.map = source.map;
     if (source.size)
         options.SetHeight(*source.size, dotsPerInch);

@@ -76,6 +76,10 @@ std::vector<CommandLineOption> MakeOptions()
         Option(Face, u"face"_s, u"fi"_s, {Number(u"<index>"_s)},
                u"Face index to be used (optional, only used for TTC fonts and multi-master TTF "
                "fonts)."_s),
+        Option(
+            Features, u"features"_s, u"fea"_s, {Text(u"<tag>[=<number>][,...]"_s)},
+            u"Shows characters with the glyphs of features of the font, e.g. tnum,zero,ss01. Only "
+            "used for TTF and TTC."_s),
         Option(Encoding, u"encoding"_s, u"enc"_s, {Text(u"<encoding>"_s, &EncodingKeywords())},
                u"Destination encoding of the font."_s),
         Option(Enable, u"enable"_s, u"e"_s, {Range()},

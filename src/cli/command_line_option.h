@@ -54,6 +54,7 @@ enum class OptionId : int {
     Hinting = 37,
     Gamma = 38,
     Axes = 39,
+    Features = 40,
     Fit = 41,
     Source = 42,
     Map = 43,

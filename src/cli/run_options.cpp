@@ -5,6 +5,7 @@
 #include "app/engine_texts.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "cli/feature_list.h"
 #include "files/file_types.h"
 #include "model/charset.h"
 #include "model/code_text.h"
@@ -100,6 +101,7 @@ void ReadProofOption(const OptionOccurrence& occurrence, RunOptions& options)
         options.proofPath = occurrence.Get<QString>(0);
         if (!IsProofName(options.proofPath))
             ThrowUnsupportedFormat();
+        options.open.render.findsLayoutKerning = true;
     } else if (occurrence.Id() == OptionId::Compare) {
         if (!FileTypeOf(occurrence.Get<QString>(0)))
             ThrowUnsupportedFormat();
@@ -152,6 +154,9 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Source:
         options.open.sources.push_back(SourceOf(occurrence));
         break;
+    case OptionId::Features:
+        options.open.render.features = ParseFeatures(occurrence);
+        break;
     case OptionId::EditFont:
         CheckCount(occurrence, 1);
         break;
@@ -171,17 +176,21 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         if (!IsWritten(FileTypeOf(occurrence.Get<QString>(0))) &&
             !IsBinaryKerningName(occurrence.Get<QString>(0)))
             ThrowUnsupportedFormat();
+        if (IsBinaryKerningName(occurrence.Get<QString>(0)))
+            options.open.render.findsLayoutKerning = true;
         break;
     case OptionId::Kerning:
         if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
             ThrowUnsupportedFormat();
         options.writesKerning = true;
+        options.open.render.findsLayoutKerning = true;
         break;
     case OptionId::WarningsAreErrors:
         options.warningsAreErrors = true;
         break;
     case OptionId::Report:
         options.reportPath = occurrence.Get<QString>(0);
+        options.open.render.findsLayoutKerning = true;
         break;
     case OptionId::DependencyFile:
         options.dependencyFilePath = occurrence.Get<QString>(0);
@@ -303,6 +312,7 @@ RunOptions ReadRunOptions(const std::vector<OptionOccurrence>& occurrences, bool
                           const std::function<void(const Place&)>& onOption)
 {
     RunOptions options;
+    options.open.render.findsLayoutKerning = canAsk; // a window shows it
     bool needsHeight = false;
     bool hasFace = false;
     bool createsByName = false;
@@ -434,8 +444,8 @@ void WarnOfUnusedOption(const OptionOccurrence& occurrence, const QString& path,
     using enum OptionId;
     const OptionId id = occurrence.Id();
     const bool isBdf = FileTypeOf(path) == FileType::Bdf;
-    constexpr std::array rendering = {Height,  Bold,  Italic, Face,    Fit,
-                                      Hinting, Gamma, Axes,   Charmap, Map};
+    constexpr std::array rendering = {Height, Bold, Italic,  Face, Fit,     Hinting,
+                                      Gamma,  Axes, Charmap, Map,  Features};
     const bool hasEffect = (id == Map && isBdf) || (usesSources && UsedBySources(id));
     if (!hasEffect && std::ranges::find(rendering, id) != rendering.end())
         CurrentInterface().warning(Engine::tr("Option without effect"),

@@ -5,13 +5,12 @@
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "files/file_types.h"
-#include "model/encoding.h"
 #include "render/face_charmaps.h"
 #include "render/font_assembly.h"
+#include "render/font_kerning.h"
+#include "render/glyph_substitution.h"
 #include "render/kerning_index.h"
 #include "render/size_search.h"
-
-#include <QMultiHash>
 
 #include <limits>
 #include <optional>
@@ -23,45 +22,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Pairs are found by codes of 16 bits.
-constexpr char32_t LastKernedCode = 0xFFFF;
-
-// Pairs of a font speak of the font's own codes; characters that it can't encode have no pairs.
-class PairEncoding
-{
-public:
-    PairEncoding(const GlyphSource& own, const RenderOptions& options)
-        : encoding_(options.encoding), isMapped_(!options.map.empty())
-    {
-        for (const PlannedGlyph& planned : own.Planned()) {
-            if (isMapped_ && planned.faceCode <= LastKernedCode)
-                codes_.insert(static_cast<quint16>(planned.faceCode), planned.code);
-        }
-    }
-
-    [[nodiscard]] std::vector<KerningPair> Encoded(const std::vector<KerningPair>& pairs) const
-    {
-        const Encoding& unicode = EncodingFor(EncodingType::Unicode);
-        std::vector<KerningPair> encoded;
-        encoded.reserve(pairs.size());
-        for (const KerningPair& pair : pairs) {
-            if (isMapped_) {
-                for (auto code = codes_.constFind(pair.right);
-                     code != codes_.constEnd() && code.key() == pair.right; ++code)
-                    encoded.push_back({*code, pair.distance});
-            } else if (const auto right = unicode.Converted(encoding_, pair.right)) {
-                encoded.push_back({*right, pair.distance});
-            }
-        }
-        return encoded;
-    }
-
-private:
-    EncodingType encoding_;
-    bool isMapped_;
-    QMultiHash<quint16, quint16> codes_; // of the font, by those of the face
-};
-
 // Opens another member of the file. The file is let go of first: it may have been unpacked into
 // memory.
 void Reopen(FreeTypeFace& face, int index)
@@ -70,9 +30,6 @@ void Reopen(FreeTypeFace& face, int index)
     face = FreeTypeFace();
     face = FreeTypeFace(path, index, FreeTypeLibrary());
 }
-
-// No font needs as many pairs, but a damaged one can claim one for every two characters.
-constexpr std::size_t MaxKerningPairs = 1'000'000;
 
 } // namespace
 
@@ -110,6 +67,11 @@ GlyphSource FontFileScalable::PlanOwn() const
         source.Plan(options_.encoding, CharacterFilter());
     else
         source.Plan(options_.map, options_.encoding, CharacterFilter());
+    if (!options_.features.empty()) {
+        GlyphSubstitution substitution(face_, options_.features);
+        source.ReplaceGlyphs([&](FT_UInt glyph) { return substitution.Replacement(glyph); });
+        substitution.WarnOfUnused();
+    }
     return source;
 }
 
@@ -189,11 +151,10 @@ void FontFileScalable::SetMetrics(Font& font) const
 
 void FontFileScalable::RenderAll(Font& font, GlyphSource own)
 {
-    const PairEncoding encoding(own, options_);
+    const CodesInFont codes(own, options_);
     std::optional<KerningIndex> kerning;
     if (font.HasKerning())
         kerning.emplace(face_);
-    std::size_t pairCount = 0;
     FontAssembly assembly(font, own.Name(), options_.threads);
     assembly.AddOwn(std::move(own));
     for (GlyphSource& other : others_)
@@ -201,17 +162,26 @@ void FontFileScalable::RenderAll(Font& font, GlyphSource own)
     others_.clear();
     if (options_.fitsInk)
         assembly.Fit();
+    std::size_t pairCount = 0;
+    std::vector<ShownGlyph> shown; // each code once
+    CodeSet isShown;
     assembly.Render([&](const PlannedGlyph& planned) {
-        if (!kerning || pairCount >= MaxKerningPairs || planned.faceCode > LastKernedCode)
+        if (planned.faceCode > CodesInFont::LastFaceCode)
             return;
-        auto& pairs = font.FindChar(planned.code)->kerning;
-        pairs = encoding.Encoded(kerning->PairsOf(static_cast<quint16>(planned.faceCode)));
-        pairCount += pairs.size();
+        const auto faceCode = static_cast<quint16>(planned.faceCode);
+        if (kerning && pairCount < MaxKerningPairs) {
+            auto& pairs = font.FindChar(planned.code)->kerning;
+            pairs = codes.Encoded(kerning->PairsOf(faceCode));
+            pairCount += pairs.size();
+        }
+        if (!isShown.Test(faceCode))
+            shown.push_back({faceCode, planned.glyph});
+        isShown.Set(faceCode, true);
     });
     if (pairCount >= MaxKerningPairs)
-        CurrentInterface().warning(
-            Engine::tr("Kerning left out"),
-            Engine::tr("The font has too many kerning pairs; some were left out."));
+        WarnOfTooManyPairs();
+    if (options_.findsLayoutKerning && MayHaveLayoutKerning(face_))
+        AddLayoutKerning(font, face_, shown, codes);
 }
 
 // A face of bitmaps only has no other size than theirs.

@@ -27,6 +27,7 @@ FontLibrary::FontLibrary()
         return;
     FT_Add_Default_Modules(library_);
     FT_Set_Default_Properties(library_);
+    idle_ = used_;
 }
 
 FontLibrary::~FontLibrary()
@@ -40,7 +41,9 @@ void FontLibrary::AllowFile(qint64 fileSize)
 {
     constexpr qint64 base = 64 * 1024 * 1024;
     constexpr qint64 perByte = 16;
-    limit_ = std::max(limit_, used_ + base + perByte * fileSize);
+    constexpr qint64 leftovers = 1024 * 1024; // of faces that were closed
+    const qint64 needed = used_ + base + perByte * fileSize;
+    limit_ = used_ <= idle_ + leftovers ? needed : std::max(limit_, needed);
 }
 
 void* FontLibrary::Allocate(FT_Memory memory, long size)

@@ -32,6 +32,7 @@ private:
     FT_MemoryRec_ memory_{};
     FT_Library library_ = nullptr;
     qint64 used_ = 0;
+    qint64 idle_ = 0; // used without a face
     qint64 limit_ = 0;
 };
 

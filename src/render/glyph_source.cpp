@@ -140,6 +140,12 @@ void GlyphSource::PlanMapping(const CodeMapping& mapping, EncodingType encoding,
         lacking_.append(LackingText(mapping, lacking, name_));
 }
 
+void GlyphSource::ReplaceGlyphs(const std::function<FT_UInt(FT_UInt)>& replacement)
+{
+    for (PlannedGlyph& planned : planned_)
+        planned.glyph = replacement(planned.glyph);
+}
+
 void GlyphSource::StandOn(int baseline)
 {
     shift_ = baseline - face_->Ascent();

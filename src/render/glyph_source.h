@@ -40,6 +40,9 @@ public:
     void PlanGiven(const CharacterMap& map, EncodingType encoding,
                    const std::optional<CodeSet>& filter);
 
+    // Has other glyphs show the characters.
+    void ReplaceGlyphs(const std::function<FT_UInt(FT_UInt)>& replacement);
+
     [[nodiscard]] const std::vector<PlannedGlyph>& Planned() const { return planned_; }
     [[nodiscard]] const QString& Name() const { return name_; }
     [[nodiscard]] const FreeTypeFace& Face() const { return *face_; }

@@ -1,9 +1,8 @@
 #include "render/kerning_index.h"
 
-#include FT_TRUETYPE_TABLES_H
-#include FT_TRUETYPE_TAGS_H
+#include "render/sfnt_table.h"
 
-#include <QtEndian>
+#include FT_TRUETYPE_TAGS_H
 
 #include <algorithm>
 #include <numeric>
@@ -13,22 +12,6 @@
 namespace Glyphor {
 
 namespace {
-
-std::vector<quint8> LoadTable(FT_Face face, FT_ULong tag)
-{
-    FT_ULong length = 0;
-    if (FT_Load_Sfnt_Table(face, tag, 0, nullptr, &length) != 0)
-        return {};
-    std::vector<quint8> table(length);
-    if (FT_Load_Sfnt_Table(face, tag, 0, table.data(), &length) != 0)
-        return {};
-    return table;
-}
-
-quint16 Number(std::span<const quint8> bytes, std::size_t offset)
-{
-    return qFromBigEndian<quint16>(bytes.data() + offset);
-}
 
 // For every glyph up to the largest, and one more, how many entries have a smaller one.
 template <typename Entry, typename GlyphOf>
@@ -58,7 +41,7 @@ KerningIndex::KerningIndex(const FreeTypeFace& face) : face_(face)
 {
     if (!face_.HasKerning() || !FT_IS_SFNT(face_.Handle()))
         return;
-    const std::vector<quint8> table = LoadTable(face_.Handle(), TTAG_kern);
+    const std::vector<quint8> table = SfntTable(face_.Handle(), TTAG_kern);
     if (table.empty())
         return;
     ReadKernTable(table);

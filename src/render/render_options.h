@@ -2,6 +2,7 @@
 
 #include "model/font_format.h"
 #include "render/character_map.h"
+#include "render/font_feature.h"
 
 #include <QByteArray>
 
@@ -69,8 +70,12 @@ struct RenderOptions
     double gamma = 1;                    // above 1 makes the edges of strokes darker
     std::vector<AxisPosition> axes = {}; // those that are not named stay where the face has them
     int charmapIndex = -1;               // -1 for the one that speaks Unicode
-    CharacterMap map = {};               // every code of the face to itself where empty
-    int threads = 0;                     // 0 for as many as there are cores; the result is the same
+    std::vector<FontFeature> features = {};
+    CharacterMap map = {}; // every code of the face to itself where empty
+    // Kerning of GPOS tables. It takes a library to be loaded, so runs that don't look at kerning
+    // go without.
+    bool findsLayoutKerning = true;
+    int threads = 0; // 0 for as many as there are cores; the result is the same
 
     bool operator==(const RenderOptions&) const = default;
 

@@ -3,6 +3,7 @@
 #include "actions/session.h"
 #include "app/critical_exception.h"
 #include "cli/command_line.h"
+#include "cli/feature_list.h"
 #include "cli/option_actions.h"
 #include "support/rows.h"
 #include "support/test_main.h"
@@ -48,6 +49,46 @@ private Q_SLOTS:
             const char* const last[] = {"-hide", "x", argument};
             QCOMPARE(CommandLine::isCommandLineMode(3, last), isCommandLine);
         }
+    }
+
+    void Features_data()
+    {
+        const Test::Rows<QString, std::vector<FontFeature>> row; // none where it is refused
+        row("one", u"zero"_s, {{u"zero"_s}});
+        row("several", u"tnum,ss01=2,zero=1"_s, {{u"tnum"_s}, {u"ss01"_s, 2}, {u"zero"_s}});
+        for (const auto* const bad :
+             {",", "zero,", "zer", "zeros", "z ro", "zero=", "zero=0", "zero=-1", "zero=x",
+              "zero=65536", "zero=99999999999", "=1", "zero;tnum", "z\xC3\xA4ro"})
+            row(bad, QString::fromUtf8(bad), {});
+    }
+
+    void Features()
+    {
+        const auto [text, features] = Test::Row<QString, std::vector<FontFeature>>();
+        const OptionOccurrence use{&OptionOf(OptionId::Features), {text}};
+        try {
+            QCOMPARE(ParseFeatures(use), features);
+        } catch (const CriticalException& error) {
+            QVERIFY(features.empty());
+            QVERIFY(error.Text().contains(OptionOf(OptionId::Features).Form()));
+        }
+    }
+
+    void KerningIsFoundWhereItIsLookedAt_data()
+    {
+        const Test::Rows<QString, bool, bool> row; // options, whether there is a window, kerning
+        row("font alone", u"-save a.c"_s, false, false);
+        row("kerning", u"-save a.c -kerning k.c"_s, false, true);
+        row("binary kerning", u"-save a.kern"_s, false, true);
+        row("report", u"-report r.json"_s, false, true);
+        row("window", u"-bold"_s, true, true);
+    }
+
+    void KerningIsFoundWhereItIsLookedAt()
+    {
+        const auto [options, hasWindow, expected] = Test::Row<QString, bool, bool>();
+        const auto uses = CommandLineParser().parse(Test::Words(u"a.ttf -height 9px "_s + options));
+        QCOMPARE(ReadRunOptions(uses, hasWindow).open.render.findsLayoutKerning, expected);
     }
 
     void Heights_data()
@@ -113,7 +154,8 @@ private Q_SLOTS:
         };
         const auto open = std::dynamic_pointer_cast<ActionOpenFont>(make(OptionId::Open));
         QCOMPARE(open->Args().path, u"a.ttf"_s);
-        QCOMPARE(open->Args().render, (RenderOptions{.height = 9, .effects = BoldEffect}));
+        QCOMPARE(open->Args().render,
+                 (RenderOptions{.height = 9, .effects = BoldEffect, .findsLayoutKerning = false}));
         QVERIFY(open->Args().selection->Test('A'));
         const auto merge = std::dynamic_pointer_cast<ActionMergeFont>(make(OptionId::Merge));
         QCOMPARE(merge->Args().source.path, u"b.sif"_s);

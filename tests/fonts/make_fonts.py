@@ -11,6 +11,11 @@
     packed.woff     unpacks to a thousand times its size
     symbol.ttf      codes of its own from 0xF020, in a charmap of symbols
     roman.ttf       a charmap of Mac Roman alone, and no names of glyphs
+    layout.ttf      a GPOS table with all that kerning is made of, a GSUB table with features
+    contexts.ttf    kerning that depends on what stands around a pair
+    moving.ttf      kerning that grows along the weight axis
+    loose.ttf       a GPOS table that is cut off, and a GSUB table of noise
+    everything.ttf  a small GPOS table that claims to kern every glyph with every other
     bitmap.bdf      letters, a blank that moves the cursor, one that does not
 """
 
@@ -19,6 +24,7 @@ import struct
 import sys
 import zlib
 
+from fontTools.feaLib.builder import addOpenTypeFeaturesFromString
 from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.ttGlyphPen import TTGlyphPen
 from fontTools.ttLib import TTCollection, newTable
@@ -181,18 +187,22 @@ def hostile(folder):
     font.save(os.path.join(folder, "hostile.ttf"))
 
 
-def damaged(folder):
-    """Its head table claims a box of 20 units, so any height makes its outlines huge."""
-    font = build("Test Damaged", "Regular", LETTERS, {0x41: "A", 0x61: "a", 0x56: "V"}).font
-    path = os.path.join(folder, "damaged.ttf")
+def change_table(font, path, table, offset, numbers, *values):
+    """Saves the font with other numbers in one of its tables."""
     font.save(path)
     with open(path, "rb") as file:
         contents = bytearray(file.read())
-    head = contents.index(b"head")
-    start = struct.unpack_from(">I", contents, head + 8)[0]
-    struct.pack_into(">hhhh", contents, start + 36, 0, 0, 20, 20)
+    entry = contents.index(table)
+    start = struct.unpack_from(">I", contents, entry + 8)[0]
+    struct.pack_into(numbers, contents, start + offset, *values)
     with open(path, "wb") as file:
         file.write(contents)
+
+
+def damaged(folder):
+    """Its head table claims a box of 20 units, so any height makes its outlines huge."""
+    font = build("Test Damaged", "Regular", LETTERS, {0x41: "A", 0x61: "a", 0x56: "V"}).font
+    change_table(font, os.path.join(folder, "damaged.ttf"), b"head", 36, ">hhhh", 0, 0, 20, 20)
 
 
 def packed(folder):
@@ -220,6 +230,126 @@ def charmaps(folder):
         builder.font["cmap"].tables = [table]
         builder.setupPost(keepGlyphNames=False)
         builder.save(os.path.join(folder, name + ".ttf"))
+
+
+LAYOUT_LETTERS = {
+    **LETTERS,
+    "T": (600, 50, 0, 550, 700), "o": (500, 50, 0, 450, 500), "comma": (300, 50, -100, 200, 150),
+    "acute": (300, 50, 500, 250, 700), "Alpha": (600, 50, 0, 550, 700),
+    "Tau": (600, 50, 0, 550, 700), "alef": (300, 50, 0, 250, 700), "bet": (500, 50, 0, 450, 600),
+    "hyphen": (400, 50, 200, 350, 300), "E": (550, 50, 0, 500, 700),
+    "zero": (560, 50, 0, 500, 700), "one": (400, 50, 0, 350, 700),
+    "zero.slash": (560, 50, 0, 510, 700), "zero.slash.tab": (600, 50, 0, 550, 700),
+    "zero.tab": (600, 50, 0, 540, 700), "one.tab": (600, 50, 0, 350, 700),
+    "a.round": (520, 50, 0, 460, 500), "a.tall": (540, 50, 0, 480, 600),
+    "a.small": (300, 50, 0, 280, 300), "A_V": (1100, 50, 0, 1050, 700),
+}
+LAYOUT_CMAP = {0x41: "A", 0x61: "a", 0x56: "V", 0x54: "T", 0x6F: "o", 0x2C: "comma", 0x301: "acute",
+               0x391: "Alpha", 0x3A4: "Tau", 0x5D0: "alef", 0x5D1: "bet", 0x2D: "hyphen",
+               0x45: "E", 0xC6: "E", 0x415: "E", 0x30: "zero", 0x31: "one"}
+LAYOUT_SYSTEMS = """
+languagesystem DFLT dflt; languagesystem latn dflt; languagesystem latn TRK;
+languagesystem grek dflt; languagesystem hebr dflt;
+table GDEF { GlyphClassDef [A a V T o comma Alpha Tau E zero one], , [acute], ; } GDEF;
+"""
+LAYOUT_FEATURES = LAYOUT_SYSTEMS + """
+feature zero { sub zero by zero.slash; } zero;
+feature tnum { sub zero by zero.tab; sub one by one.tab; sub zero.slash by zero.slash.tab; } tnum;
+feature salt { sub a from [a.round a.tall]; } salt;
+feature liga { sub A V by A_V; } liga;
+feature c2sc { script latn; language TRK exclude_dflt; sub a by a.small; } c2sc;
+lookup SINGLE { pos A V -100; pos V A -120; pos A acute -300; pos one.tab one.tab -200; } SINGLE;
+lookup SECOND { pos A <0 0 -50 0> T <40 0 60 0>; pos T A <-30 0 -90 0>; } SECOND;
+lookup CLASSES { lookupflag IgnoreMarks; pos [T V] [a o] -80; pos [T V] [comma] -140; } CLASSES;
+lookup PLACES { pos comma <40 0 0 0>; } PLACES;
+lookup GREEK { pos Alpha Tau -110; pos hyphen Tau -70; pos Tau hyphen -60; } GREEK;
+lookup LATIN { pos hyphen T -60; pos T hyphen -55; pos hyphen hyphen 64; } LATIN;
+lookup HEBREW { pos alef bet <-90 0 -90 0>; pos bet hyphen <-45 0 -45 0>; } HEBREW;
+feature kern {
+    lookup SINGLE; lookup SECOND; lookup CLASSES; lookup PLACES;
+    script latn; lookup SINGLE; lookup SECOND; lookup CLASSES; lookup PLACES; lookup LATIN;
+    language TRK; pos A A -333;
+    script grek; lookup GREEK;
+    script hebr; lookup HEBREW;
+} kern;
+feature cpsp { pos A <5 0 10 0>; } cpsp;
+"""
+
+
+def with_features(name, features, axes=None):
+    font = build(name, "Regular", LAYOUT_LETTERS, LAYOUT_CMAP)
+    if axes is not None:
+        font.setupFvar(axes=axes, instances=[{"location": {"wght": 900}, "stylename": "Heavy"}])
+        font.setupGvar({})
+    addOpenTypeFeaturesFromString(font.font, features)
+    return font.font
+
+
+def pair_classes(font):
+    for lookup in font["GPOS"].table.LookupList.Lookup:
+        for subtable in lookup.SubTable:
+            if getattr(subtable, "LookupType", 0) == 2 and subtable.Format == 2:
+                yield subtable
+
+
+def layout(folder):
+    font = with_features("Test Layout", LAYOUT_FEATURES)
+    for subtable in pair_classes(font):  # glyphs that are in no class kern as well
+        subtable.Class1Record[0].Class2Record[0].Value1.XAdvance = -50
+    font.save(os.path.join(folder, "layout.ttf"))
+
+
+def contexts(folder):
+    font = with_features("Test Contexts", LAYOUT_SYSTEMS + """
+lookup NEAR { pos T -130; } NEAR;
+lookup FAR { pos T -70; } FAR;
+feature kern {
+    pos T' lookup NEAR o;
+    pos A T' lookup FAR;
+    pos T' lookup FAR [acute V] A;
+    pos A V -100;
+} kern;
+""")
+    font.save(os.path.join(folder, "contexts.ttf"))
+
+
+def moving(folder):
+    font = with_features("Test Moving", LAYOUT_SYSTEMS + """
+feature kern { pos A V (wght=400:-60 wght=900:-260); pos V A -100; } kern;
+""", axes=[("wght", 400, 400, 900, "Weight")])
+    font.save(os.path.join(folder, "moving.ttf"))
+
+
+def loose(folder):
+    font = with_features("Test Loose", LAYOUT_FEATURES)
+    data = font.getTableData("GPOS")
+    font["GPOS"] = DefaultTable("GPOS")
+    font["GPOS"].data = data[:len(data) * 2 // 3]
+    font["GSUB"] = DefaultTable("GSUB")
+    font["GSUB"].data = bytes(range(1, 251)) * 4
+    font.save(os.path.join(folder, "loose.ttf"))
+
+
+def everything(folder):
+    """It claims 65,535 glyphs as well."""
+    count = 0xFFFF
+    scripts = struct.pack(">H4sHHHHHHH", 1, b"DFLT", 8, 4, 0, 0, 0xFFFF, 1, 0)
+    features = struct.pack(">H4sHHHH", 1, b"kern", 8, 0, 1, 0)
+    coverage = struct.pack(">HHHHH", 2, 1, 0, count - 1, 0)
+    classes = struct.pack(">HHHHH", 2, 1, 0, count - 1, 1)
+    start = 16 + 2 * 2 * 2
+    subtables = 2000
+    pairs = struct.pack(">HHHHHHHH", 2, start, 4, 0, start + 10, start + 20, 2, 2)
+    pairs += struct.pack(">hhhh", 0, 0, 0, 0) + coverage + classes + classes
+    lookups = struct.pack(">HHHHH", 1, 4, 2, 0, subtables)
+    lookups += struct.pack(">H", 6 + 2 * subtables) * subtables + pairs
+    place = 10
+    header = [1, 0, place, place + len(scripts), place + len(scripts) + len(features)]
+    data = struct.pack(">HHHHH", *header) + scripts + features + lookups
+    font = build("Test Everything", "Regular", {"A": LETTERS["A"]}, {0x41: "A"}).font
+    font["GPOS"] = DefaultTable("GPOS")
+    font["GPOS"].data = data
+    change_table(font, os.path.join(folder, "everything.ttf"), b"maxp", 4, ">H", count)
 
 
 def bdf_text(properties, characters):
@@ -251,8 +381,8 @@ def bitmap(folder):
 def main():
     folder = sys.argv[1]
     os.makedirs(folder, exist_ok=True)
-    for make in (outlines, variable, collection, strike, hostile, damaged, packed, charmaps,
-                 bitmap):
+    for make in (outlines, variable, collection, strike, hostile, damaged, packed, charmaps, layout,
+                 contexts, moving, loose, everything, bitmap):
         make(folder)
 
 

@@ -115,6 +115,29 @@ private Q_SLOTS:
         QVERIFY(Run(u"-listcharsets"_s).output.contains(u"ascii "_s));
         Run(u"-hide @font.opt -chars A -save a.sif"_s);
         QVERIFY(Run(u"-hide a.sif -h 9px -bold"_s).output.contains(u"-bold was not used"_s));
+        QVERIFY(Run(u"-hide a.sif -features zero"_s).output.contains(u"-features was not used"_s));
+    }
+
+    void WithoutHarfBuzz()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LD_PRELOAD"_s, QString::fromUtf8(TEST_FAULTS));
+        environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
+        environment.insert(u"FAULTS_NO_LIBRARY"_s, u"harfbuzz"_s);
+        const auto run = [&](const QString& options) {
+            const QString line =
+                u"-hide %1 -height 20px -strict "_s.arg(Test::FontPath("layout.ttf")) + options;
+            return Test::RunProgram(folder_.path(), QString::fromUtf8(GLYPHOR_PROGRAM), Words(line),
+                                    {}, {}, environment);
+        };
+        QCOMPARE(run(u"-save plain.c"_s).status, 0);
+        const auto kerning = run(u"-save plain.c -kerning kerning.c"_s);
+        QCOMPARE(kerning.status, 2);
+        QVERIFY(kerning.errors.contains(u"HarfBuzz, which reads it, could not be loaded."_s));
+        const auto features = run(u"-save other.c -features zero"_s);
+        QCOMPARE(features.status, 1);
+        QVERIFY(features.errors.contains(u"HarfBuzz, which could not be loaded."_s));
+        QVERIFY(!QFile::exists(Path(u"other.c"_s)));
     }
 
     void EndlessAnswers()

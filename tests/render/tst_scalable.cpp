@@ -375,6 +375,17 @@ private Q_SLOTS:
         QCOMPARE(font->Metrics().height, Render("collection.ttc", At(10))->Metrics().height);
     }
 
+    // A large font gives no room to a small one behind it.
+    void MemoryOfOneFile()
+    {
+        FontLibrary library;
+        library.AllowFile(1'000'000'000);
+        QVERIFY(
+            FreeTypeFace(QString::fromUtf8(SYSTEM_FONTS "/DejaVuSans.ttf"), 0, library).IsOpen());
+        library.AllowFile(1'000'000'000);
+        QVERIFY(!FreeTypeFace(Test::FontPath("packed.woff"), 0, library).IsOpen());
+    }
+
     void NoFace()
     {
         FontFileTTF file(u"none.ttf"_s, At(10));

@@ -3,12 +3,14 @@
 //
 //     FAULTS_SIGNAL="N S"     signal S in front of the call with the number N, counted from 1
 //     FAULTS_NO_TMPFILE=1     the file system knows no files without a name
+//     FAULTS_NO_LIBRARY=name  libraries with this in their names can't be loaded
 
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -78,6 +80,14 @@ __attribute__((visibility("default"))) ssize_t write(int file, const void* bytes
     if (file > lastStandardStream)
         Count();
     return Original<ssize_t(int, const void*, size_t)>("write")(file, bytes, size);
+}
+
+__attribute__((visibility("default"))) void* dlopen(const char* path, int flags)
+{
+    const char* const missing = std::getenv("FAULTS_NO_LIBRARY");
+    if (missing != nullptr && path != nullptr && std::strstr(path, missing) != nullptr)
+        return nullptr;
+    return Original<void*(const char*, int)>("dlopen")(path, flags);
 }
 
 __attribute__((visibility("default"))) int fchmod(int file, mode_t mode)

@@ -105,6 +105,7 @@ void GenerationPreview::SetSample(const QString& sample)
 void GenerationPreview::ShowFor(const ActionOpenFontArgs& args, MissingCharacters missing)
 {
     args_ = args;
+    args_.render.findsLayoutKerning = false;
     missing_ = missing;
     isStale_ = true;
     timer_.start();

@@ -1184,8 +1184,40 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>Die Datei %1 ist zu lang für eine Schriftprobe, die Texte bis %2 Bytes zeigt.</translation>
     </message>
     <message>
+        <source>The features %1 are not usable: the option is %2, with tags of four letters or digits (e.g. tnum,zero,ss01) and numbers from 1 to %3.</source>
+        <translation>Die Merkmale %1 sind nicht verwendbar: Die Option ist %2, mit Kürzeln aus vier Buchstaben oder Ziffern (z. B. tnum,zero,ss01) und Zahlen von 1 bis %3.</translation>
+    </message>
+    <message>
+        <source>The font has no kerning here: HarfBuzz, which reads it, could not be loaded.</source>
+        <translation>Die Schrift hat hier kein Kerning: HarfBuzz, das es liest, konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>Features of a font need HarfBuzz, which could not be loaded.</source>
+        <translation>Merkmale einer Schrift brauchen HarfBuzz, das nicht geladen werden konnte.</translation>
+    </message>
+    <message>
+        <source>The font has no feature %1: it has none.</source>
+        <translation>Die Schrift hat kein Merkmal %1: Sie hat keine.</translation>
+    </message>
+    <message>
+        <source>The font has no feature %1: it has %2.</source>
+        <translation>Die Schrift hat kein Merkmal %1: Sie hat %2.</translation>
+    </message>
+    <message>
+        <source>Feature without effect</source>
+        <translation>Merkmal ohne Wirkung</translation>
+    </message>
+    <message>
+        <source>The feature %1 replaces none of the characters with one other.</source>
+        <translation>Das Merkmal %1 ersetzt keines der Zeichen durch ein anderes.</translation>
+    </message>
+    <message>
+        <source>Finding kerning pairs...</source>
+        <translation>Kerning-Paare werden gesucht...</translation>
+    </message>
+    <message>
         <source>The number %1 is not usable: -jobs takes 1 to 256 threads.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zahl %1 ist nicht verwendbar: -jobs nimmt 1 bis 256 Threads.</translation>
     </message>
 </context>
 <context>
