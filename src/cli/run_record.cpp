@@ -95,6 +95,8 @@ void RunRecord::Add(const Action& action)
 {
     if (const auto* const open = dynamic_cast<const ActionOpenFont*>(&action)) {
         inputs_.push_back({"font", open->Args().path});
+        for (const FontSource& source : open->Args().sources)
+            inputs_.push_back({"source", source.path});
         if (IsScalable(FileTypeOf(open->Args().path)))
             rendered_ = open->Args();
     } else if (const auto* const merge = dynamic_cast<const ActionMergeFont*>(&action)) {
