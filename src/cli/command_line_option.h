@@ -57,10 +57,15 @@ enum class OptionId : int {
     Fit = 41,
     Source = 42,
     Map = 43,
-    Charmap = 44
+    Charmap = 44,
+    Align = 45,
+    Header = 46,
+    Image = 47,
+    Threshold = 48
 };
 
-enum class ParameterKind { Number = 0, Text = 1, Range = 2 };
+// A signed number may begin with "-".
+enum class ParameterKind { Number = 0, Text = 1, Range = 2, SignedNumber = 3 };
 
 // The words that a text parameter takes. Hidden ones are accepted but not listed.
 class ParameterKeywordTable
@@ -154,6 +159,7 @@ struct OptionOccurrence
 [[nodiscard]] const ParameterKeywordTable& FormatKeywords();
 [[nodiscard]] const ParameterKeywordTable& EncodingKeywords();
 [[nodiscard]] const ParameterKeywordTable& MergeKeywords();
+[[nodiscard]] const ParameterKeywordTable& AlignKeywords();
 [[nodiscard]] const ParameterKeywordTable& HintingKeywords();
 [[nodiscard]] const ParameterKeywordTable& FontEditKeywords();
 [[nodiscard]] const ParameterKeywordTable& CharEditKeywords();

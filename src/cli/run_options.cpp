@@ -5,6 +5,8 @@
 #include "app/engine_texts.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "cli/image_option.h"
+#include "files/character_header.h"
 #include "files/file_types.h"
 #include "model/charset.h"
 #include "model/code_text.h"
@@ -50,10 +52,7 @@ void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
 // It becomes a part of identifiers.
 QString CheckedName(const QString& name)
 {
-    const bool isUsable = !name.isEmpty() && std::ranges::all_of(name, [](QChar character) {
-        return character == u'_' || (character < u'\x80' && character.isLetterOrNumber());
-    });
-    if (!isUsable)
+    if (!IsCharacterName(name))
         throw CriticalException(
             Engine::tr("The name %1 is not usable: -name takes letters of ASCII, digits and "
                        "underscores, as in the identifiers of C.")
@@ -155,6 +154,20 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::WarningsAreErrors:
         options.warningsAreErrors = true;
         break;
+    case OptionId::Align:
+        options.alignment = static_cast<MergeAlignment>(occurrence.Get<int>(0));
+        break;
+    case OptionId::Header:
+        options.headerPath = occurrence.Get<QString>(0);
+        if (!IsCHeaderName(options.headerPath))
+            ThrowNoHeaderName(options.headerPath);
+        break;
+    case OptionId::Image:
+        options.open.images.push_back(ImageOf(occurrence));
+        break;
+    case OptionId::Threshold:
+        options.open.threshold = ThresholdOf(occurrence);
+        break;
     case OptionId::Report:
         options.reportPath = occurrence.Get<QString>(0);
         break;
@@ -176,10 +189,27 @@ void CheckOutputs(const std::vector<OptionOccurrence>& occurrences, const RunOpt
     if (options.onlyChecks && writesFont)
         throw CriticalException(
             Engine::tr("-check writes no font: it can't be given with -save or -kerning."));
-    if (!options.dependencyFilePath.isEmpty() && !writesFont && options.reportPath.isEmpty())
+    const bool writesHeader = !options.headerPath.isEmpty();
+    if (options.onlyChecks && writesHeader)
+        throw CriticalException(
+            Engine::tr("-check writes nothing of the font: it can't be given with -header."));
+    for (const OptionOccurrence& other : occurrences) {
+        const bool isFontFile = other.Id() == OptionId::Save || other.Id() == OptionId::Kerning;
+        if (writesHeader && isFontFile && other.Get<QString>(0) == options.headerPath)
+            throw CriticalException(Engine::tr("-header and -%1 can't write the same file %2.")
+                                        .arg(other.option->longName, Shown(options.headerPath)));
+    }
+    const bool writesOther = writesHeader || !options.reportPath.isEmpty();
+    if (!options.dependencyFilePath.isEmpty() && !writesFont && !writesOther)
         throw CriticalException(
             Engine::tr("-depfile needs a file that depends on others: give -save, -kerning or "
                        "-report."));
+    if (options.alignment && !isGiven(OptionId::Merge))
+        CurrentInterface().warning(Engine::tr("Option without effect"),
+                                   Engine::tr("-align was not used: no font is merged."));
+    if (options.open.threshold != 0 && options.open.images.empty())
+        CurrentInterface().warning(Engine::tr("Option without effect"),
+                                   Engine::tr("-threshold was not used: there is no -image."));
 }
 
 bool OpensScalableFont(const OptionOccurrence& occurrence)

@@ -199,6 +199,9 @@ void FontFileScalable::RenderAll(Font& font, GlyphSource own)
     for (GlyphSource& other : others_)
         assembly.Add(std::move(other));
     others_.clear();
+    for (PictureGlyph& picture : pictures_)
+        assembly.Add(std::move(picture));
+    pictures_.clear();
     if (options_.fitsInk)
         assembly.Fit();
     assembly.Render([&](const PlannedGlyph& planned) {
