@@ -83,18 +83,12 @@ FontSource SourceOf(const OptionOccurrence& occurrence)
     return source;
 }
 
-void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
+void ReadRendering(const OptionOccurrence& occurrence, RunOptions& options)
 {
     switch (occurrence.Id()) {
     case OptionId::Height:
         options.open.size = ParseHeight(occurrence.Get<QString>(0));
         options.open.render.SetHeight(options.open.size, NoScreen);
-        break;
-    case OptionId::Format:
-        options.open.format = static_cast<FontFormat>(occurrence.Get<int>(0));
-        break;
-    case OptionId::Encoding:
-        options.open.encoding = static_cast<EncodingType>(occurrence.Get<int>(0));
         break;
     case OptionId::Bold:
         options.open.render.effects |= BoldEffect;
@@ -123,6 +117,51 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Charmap:
         options.open.render.charmapIndex = occurrence.Get<int>(0);
         break;
+    default:
+        break;
+    }
+}
+
+void ReadOutput(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    switch (occurrence.Id()) {
+    case OptionId::Save:
+        if (!IsWritten(FileTypeOf(occurrence.Get<QString>(0))) &&
+            !IsBinaryKerningName(occurrence.Get<QString>(0)))
+            ThrowUnsupportedFormat();
+        break;
+    case OptionId::Kerning:
+        if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
+            ThrowUnsupportedFormat();
+        options.writesKerning = true;
+        break;
+    case OptionId::Header:
+        options.headerPath = occurrence.Get<QString>(0);
+        if (!IsCHeaderName(options.headerPath))
+            ThrowNoHeaderName(options.headerPath);
+        break;
+    case OptionId::Report:
+        options.reportPath = occurrence.Get<QString>(0);
+        break;
+    case OptionId::DependencyFile:
+        options.dependencyFilePath = occurrence.Get<QString>(0);
+        break;
+    default:
+        break;
+    }
+}
+
+void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    ReadRendering(occurrence, options);
+    ReadOutput(occurrence, options);
+    switch (occurrence.Id()) {
+    case OptionId::Format:
+        options.open.format = static_cast<FontFormat>(occurrence.Get<int>(0));
+        break;
+    case OptionId::Encoding:
+        options.open.encoding = static_cast<EncodingType>(occurrence.Get<int>(0));
+        break;
     case OptionId::Source:
         options.open.sources.push_back(SourceOf(occurrence));
         break;
@@ -141,38 +180,17 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Name:
         options.open.name = CheckedName(occurrence.Get<QString>(0));
         break;
-    case OptionId::Save:
-        if (!IsWritten(FileTypeOf(occurrence.Get<QString>(0))) &&
-            !IsBinaryKerningName(occurrence.Get<QString>(0)))
-            ThrowUnsupportedFormat();
-        break;
-    case OptionId::Kerning:
-        if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
-            ThrowUnsupportedFormat();
-        options.writesKerning = true;
-        break;
     case OptionId::WarningsAreErrors:
         options.warningsAreErrors = true;
         break;
     case OptionId::Align:
         options.alignment = static_cast<MergeAlignment>(occurrence.Get<int>(0));
         break;
-    case OptionId::Header:
-        options.headerPath = occurrence.Get<QString>(0);
-        if (!IsCHeaderName(options.headerPath))
-            ThrowNoHeaderName(options.headerPath);
-        break;
     case OptionId::Image:
         options.open.images.push_back(ImageOf(occurrence));
         break;
     case OptionId::Threshold:
         options.open.threshold = ThresholdOf(occurrence);
-        break;
-    case OptionId::Report:
-        options.reportPath = occurrence.Get<QString>(0);
-        break;
-    case OptionId::DependencyFile:
-        options.dependencyFilePath = occurrence.Get<QString>(0);
         break;
     default:
         break;

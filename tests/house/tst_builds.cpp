@@ -233,17 +233,20 @@ private Q_SLOTS:
 
     void NamesWhatItMade()
     {
+        // What a map and sources say is said of the opened font alone.
+        QVERIFY(Run(u"-hide @font.opt -chars V -save m.sif"_s).status == 0);
         const Test::ProgramResult result = Run(
-            u"-hide -strict @font.opt -source FONT 0x41=0xE000:Up -image icon.png 0xE001 -chars A "
-            "-name Ui -editchar MOVEU all -header c.h -depfile c.d -report c.json"_s);
+            u"-hide -strict @font.opt -source FONT 0x1F600=0xE000:Up -image icon.png 0xE001 "
+            "-chars A -merge m.sif REPLACE -name Ui -editchar MOVEU all -header c.h -depfile c.d "
+            "-report c.json"_s);
         QVERIFY2(!result.errors.contains(u"error"_s), qPrintable(result.errors));
         const QByteArray header = Test::ReadAll(Path(u"c.h"_s));
-        QVERIFY(header.contains("#define UI_UP         0xE000 /* U+0041"));
+        QVERIFY(header.contains("#define UI_UP         0xE000 /* U+1F600 a */"));
         QVERIFY(header.contains("#define UI_ICON       0xE001 /* icon.png */"));
         const QByteArray font = Font().toUtf8();
         QVERIFY(Test::ReadAll(Path(u"c.d"_s))
                     .startsWith("c.h c.json: \\\n  font.opt \\\n  " + font + " \\\n  " + font +
-                                " \\\n  icon.png\n"));
+                                " \\\n  icon.png \\\n  m.sif\n"));
         const QJsonObject report =
             QJsonDocument::fromJson(Test::ReadAll(Path(u"c.json"_s))).object();
         QCOMPARE(report[u"outputs"_s][0][u"kind"_s], u"header"_s);
