@@ -7,6 +7,8 @@
 #include "app/shown_text.h"
 #include "model/char_info.h"
 
+#include <QtEndian>
+
 #include <png.h>
 
 #include <algorithm>
@@ -21,6 +23,24 @@ constexpr qint64 LargestFile = 0x1000000;
 [[noreturn]] void RefusePicture(const QString& path, const QString& text)
 {
     throw CriticalException(Engine::tr("Font creation failed!"), text, {path, 0, {}});
+}
+
+// True where a chunk says that it is longer than what is left of the file: libpng takes the memory
+// before it looks.
+bool IsCutOff(QByteArrayView png)
+{
+    constexpr qsizetype signature = 8;
+    constexpr qsizetype frame = 12; // length, type and checksum
+    if (png.size() < signature ||
+        png_sig_cmp(reinterpret_cast<png_const_bytep>(png.data()), 0, signature) != 0)
+        return false;
+    for (qsizetype at = signature; png.size() - at >= frame;) {
+        const qsizetype length = qFromBigEndian<quint32>(png.data() + at);
+        if (length > png.size() - at - frame)
+            return true;
+        at += frame + length;
+    }
+    return false;
 }
 
 // A picture of libpng's simplified interface, freed in any case.
@@ -73,6 +93,10 @@ quint8 CoverageOf(quint8 brightness, quint8 opacity, int threshold)
 
 RenderedGlyph GlyphOfPng(QByteArrayView png, const QString& path, int threshold)
 {
+    if (IsCutOff(png))
+        RefusePicture(path,
+                      Engine::tr("The file %1 is no PNG file that can be read: it is cut off.")
+                          .arg(Shown(path)));
     PngImage image(png, path);
     constexpr png_uint_32 largest = CharInfo::MaxSize;
     if (image.Width() > largest || image.Height() > largest)

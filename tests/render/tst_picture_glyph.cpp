@@ -126,6 +126,9 @@ private Q_SLOTS:
         row("no PNG", "GIF89a..........", none);
         row("truncated", good.File().chopped(20), none);
         row("header alone", good.File().left(33), none);
+        const QByteArray length = BigEndian(0x7FFFFFFF); // for which no memory is taken
+        row("chunk beyond the file", good.File().left(33) + length + "zTXt and no more of it",
+            none + u"it is cut off."_s);
         row("pixels missing", good.Around(good.Header(), good.Pixels().left(6)), none);
         row("palette missing", Png{2, 1, 8, Palette, good.rows, false, {}}.File(), none);
         row("no width", sized(0, 1), none);

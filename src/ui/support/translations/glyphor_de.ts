@@ -1103,6 +1103,10 @@ Erwartete Größe: %2 Byte.</translation>
         <source>The file %1 is larger than any picture of 255 x 255 pixels.</source>
         <translation>Die Datei %1 ist größer als jedes Bild mit 255 x 255 Pixeln.</translation>
     </message>
+    <message>
+        <source>The file %1 is no PNG file that can be read: it is cut off.</source>
+        <translation>Die Datei %1 ist keine lesbare PNG-Datei: Sie ist abgeschnitten.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
