@@ -1,12 +1,13 @@
 # glyphor_add_font(TARGET SOURCE file NAME name [HEIGHT 24px] [FORMAT format] [ENCODING encoding]
-#     [FACE index] [BOLD] [ITALIC] [KERNING] [WARNINGS_OK]
+#     [FACE index] [BOLD] [ITALIC] [KERNING] [HEADER] [WARNINGS_OK]
 #     [ENABLE range...] [DISABLE range...] [CHARSETS name...] [CHARS text...] [TEXTS file...]
 #     [PATTERNS file...] [OPTIONS argument...])
 #
 # Converts a font when TARGET is built, and compiles the C file as one of its sources. The font is called
-# GUI_Font and then NAME. KERNING adds NAME_Kerning.c. A failure or a warning stops the build and leaves
-# the old files; WARNINGS_OK lets warnings pass. OPTIONS go to Glyphor as they are, which runs in the
-# folder of the CMakeLists.txt.
+# GUI_Font and then NAME. KERNING adds NAME_Kerning.c, HEADER makes NAME_Characters.h, with names for
+# pictures and mapped characters, for the sources of TARGET. A failure or a warning stops the build and
+# leaves the old files; WARNINGS_OK lets warnings pass. OPTIONS go to Glyphor as they are, which runs in
+# the folder of the CMakeLists.txt.
 
 # Policies are those of the place where a function is defined.
 cmake_policy(VERSION 3.20)
@@ -85,7 +86,7 @@ endmacro()
 
 function(glyphor_add_font target)
     cmake_parse_arguments(PARSE_ARGV 1 FONT
-        "BOLD;ITALIC;KERNING;WARNINGS_OK"
+        "BOLD;ITALIC;KERNING;HEADER;WARNINGS_OK"
         "SOURCE;NAME;HEIGHT;FORMAT;ENCODING;FACE"
         "ENABLE;DISABLE;CHARSETS;CHARS;TEXTS;PATTERNS;OPTIONS")
     _glyphor_check_font(${target})
@@ -106,6 +107,11 @@ function(glyphor_add_font target)
     if(FONT_KERNING)
         list(APPEND files ${FONT_NAME}_Kerning.c)
         list(APPEND arguments -kerning "${made}/${FONT_NAME}_Kerning.c")
+    endif()
+    if(FONT_HEADER)
+        list(APPEND files ${FONT_NAME}_Characters.h)
+        list(APPEND arguments -header "${made}/${FONT_NAME}_Characters.h")
+        target_include_directories(${target} PRIVATE "${folder}")
     endif()
     _glyphor_add_arguments()
 

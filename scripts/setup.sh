@@ -5,7 +5,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-l10n-tools libqt6svg6 libgl-dev
     libfreetype-dev libfontconfig-dev libharfbuzz-dev libpng-dev libhpdf-dev qt6-translations-l10n)
 fuzz_packages=(gcc make clang libclang-rt-dev python3 python3-fonttools fonts-dejavu-core fonts-inter
-    fonts-inter-variable)
+    fonts-inter-variable fonts-materialdesignicons-webfont)
 
 # install PACKAGE...: installs the Debian packages that are missing, and says nothing otherwise.
 install() {

@@ -3,8 +3,16 @@
 #include "actions/font_files.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "model/code_text.h"
+#include "model/row_shift.h"
+#include "render/glyph_collector.h"
+
+#include <cstdlib>
+#include <vector>
 
 namespace Glyphor {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,6 +28,7 @@ std::unique_ptr<Character> CopyInto(const Font& font, const Character& character
     copy->info.Set(character.info.Metrics());
     copy->bitmap->ShareData(*character.bitmap);
     copy->kerning = character.kerning;
+    copy->label = character.label;
     return copy;
 }
 
@@ -44,16 +53,26 @@ void CheckFonts(const Font& font, const Font& other)
 }
 
 // Characters of a standard font stand on its baseline and may leave its line.
-void WarnOfOtherMetrics(const FontMetrics& own, const FontMetrics& other)
+QString OtherMetricsText(const FontMetrics& own, const FontMetrics& other)
 {
-    if (own.height == other.height && own.baseline == other.baseline)
+    return Engine::tr("The current font is %1 pixels high with its baseline at %2, the other one "
+                      "%3 with its baseline at %4: their characters do not stand on one line.")
+        .arg(QString::number(own.height), QString::number(own.baseline),
+             QString::number(other.height), QString::number(other.baseline));
+}
+
+void TellOfMoved(bool isCell, const InkOverflow& rows, const std::vector<quint16>& codes)
+{
+    if (codes.empty())
         return;
-    CurrentInterface().warning(
-        Engine::tr("Font merging"),
-        Engine::tr("The current font is %1 pixels high with its baseline at %2, the other one %3 "
-                   "with its baseline at %4: their characters do not stand on one line.")
-            .arg(QString::number(own.height), QString::number(own.baseline),
-                 QString::number(other.height), QString::number(other.baseline)));
+    const QString text =
+        isCell ? Engine::tr("Characters cut on the baseline of the current font: %1 (%2). They "
+                            "lose up to %3 rows of ink at the top and %4 at the bottom.")
+               : Engine::tr("Characters that leave the current font's line on its baseline: %1 "
+                            "(%2), by up to %3 rows above it and %4 below it.");
+    CurrentInterface().warning(Engine::tr("Font merging"),
+                               text.arg(QString::number(codes.size()), FirstCodes(codes),
+                                        QString::number(rows.above), QString::number(rows.below)));
 }
 
 } // namespace
@@ -66,7 +85,7 @@ bool ActionMergeFont::Execute()
         RefuseMerge(Engine::tr("There is no font to merge with."));
     const std::unique_ptr<Font> other = ReadFont(Args().source);
     CheckFonts(*font, *other);
-    WarnOfOtherMetrics(font->Metrics(), other->Metrics());
+    const int shift = ShiftFor(font->Metrics(), other->Metrics());
 
     CodeSet incoming = other->SavedCodes();
     CodeSet duplicates = incoming;
@@ -79,12 +98,59 @@ bool ActionMergeFont::Execute()
         if (mode == MergeMode::Keep)
             incoming -= duplicates;
     }
-    for (const quint16 code : incoming)
-        characters_[code] = CopyInto(*font, *other->FindChar(code));
+    CopyCharacters(*other, incoming, shift);
     enabled_ = font->EnabledCodes();
     enabled_ |= incoming;
     hasKerning_ = font->HasKerning() || other->HasKerning();
     return true;
+}
+
+// By how many rows the other font's characters go down.
+int ActionMergeFont::ShiftFor(const FontMetrics& own, const FontMetrics& other) const
+{
+    const int shift = own.baseline - other.baseline;
+    if (Args().alignment == MergeAlignment::Baseline)
+        return shift;
+    if (own.height == other.height && shift == 0)
+        return 0;
+    const QString title = Engine::tr("Font merging");
+    const QString text = OtherMetricsText(own, other);
+    if (shift == 0 || Args().alignment) {
+        CurrentInterface().warning(title, text);
+        return 0;
+    }
+    const Answer answer = CurrentInterface().Ask(
+        title,
+        text + u'\n' + Engine::tr("Put the other font's characters on the current baseline?"));
+    if (answer == Answer::Nobody)
+        CurrentInterface().warning(
+            title, text + u' ' +
+                       Engine::tr("The baselines are %1 pixels apart; -align baseline puts the "
+                                  "merged characters on that of the current font.")
+                           .arg(std::abs(shift)));
+    return answer == Answer::Yes ? shift : 0;
+}
+
+void ActionMergeFont::CopyCharacters(const Font& other, const CodeSet& codes, int shift)
+{
+    const Font& font = *CurrentFont();
+    InkOverflow most;
+    std::vector<quint16> beyond;
+    for (const quint16 code : codes) {
+        auto copy = CopyInto(font, *other.FindChar(code));
+        const bool isAligned = shift != 0 || Args().alignment == MergeAlignment::Baseline;
+        const auto rows = isAligned ? ShiftRows(*copy, shift) : InkOverflow();
+        if (!rows)
+            RefuseMerge(Engine::tr("On the baseline of the current font the character 0x%1 would "
+                                   "need an offset below -128 or more than 255 rows.")
+                            .arg(Hex4Text(code)));
+        if (rows->IsAny()) {
+            beyond.push_back(code);
+            most.Add(*rows);
+        }
+        characters_[code] = std::move(copy);
+    }
+    TellOfMoved(IsLegacyFormat(font.Metrics().format), most, beyond);
 }
 
 void ActionMergeFont::Swap()

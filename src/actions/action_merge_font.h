@@ -11,10 +11,14 @@
 
 namespace Glyphor {
 
+// What the other font's characters stand on: the rows that they have, or the baseline of the font.
+enum class MergeAlignment { Rows, Baseline };
+
 struct ActionMergeFontArgs
 {
     ActionOpenFontArgs source;
-    std::optional<MergeMode> mode; // asked for where it is needed and not told
+    std::optional<MergeMode> mode;                // asked for where it is needed and not told
+    std::optional<MergeAlignment> alignment = {}; // likewise; where nobody answers, by rows
 };
 
 // Adds the enabled characters of another font to the font of the session, whose own metrics stay.
@@ -34,6 +38,8 @@ public:
     }
 
 private:
+    [[nodiscard]] int ShiftFor(const FontMetrics& own, const FontMetrics& other) const;
+    void CopyCharacters(const Font& other, const CodeSet& codes, int shift);
     void Swap();
 
     // The state that the next step puts into the font, by code; null for no character.

@@ -7,6 +7,8 @@
 #include "app/progress.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
+#include "model/code_text.h"
+#include "model/encoding.h"
 #include "render/font_assembly.h"
 #include "render/font_file_bdf.h"
 #include "render/font_file_scalable.h"
@@ -119,6 +121,35 @@ std::vector<GlyphSource> OpenSources(const ActionOpenFontArgs& args, const Rende
     return sources;
 }
 
+PictureGlyph OpenImage(const FontImage& image, int threshold, EncodingType encoding)
+{
+    CheckReadableFile(image.path);
+    const auto code = EncodingFor(EncodingType::Unicode).Converted(encoding, image.code);
+    if (!code)
+        throw CriticalException(CreationFailed(),
+                                Engine::tr("The encoding of the font has no %1, which the picture "
+                                           "%2 is to be.")
+                                    .arg(UnicodeNotation(image.code), Shown(image.path)),
+                                {image.path, 0, {}});
+    PictureGlyph picture{image, *code, ReadPicture(image.path, threshold)};
+    picture.glyph.yPos -= image.rows;
+    if (!HasInk(picture.glyph))
+        CurrentInterface().warning(
+            Engine::tr("Picture without ink"),
+            Engine::tr("The picture %1 has no ink, so its character is empty: dark pixels are ink, "
+                       "white and transparent ones are none.")
+                .arg(Shown(image.path)));
+    return picture;
+}
+
+std::vector<PictureGlyph> OpenImages(const ActionOpenFontArgs& args, EncodingType encoding)
+{
+    std::vector<PictureGlyph> pictures;
+    for (const FontImage& image : args.images)
+        pictures.push_back(OpenImage(image, args.threshold, encoding));
+    return pictures;
+}
+
 std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
 {
     const RenderOptions options = OptionsOf(args);
@@ -127,10 +158,12 @@ std::unique_ptr<Font> Render(const ActionOpenFontArgs& args)
     file->SetCharacterFilter(args.selection);
     for (GlyphSource& source : OpenSources(args, options))
         file->AddSource(std::move(source));
+    for (PictureGlyph& picture : OpenImages(args, options.encoding))
+        file->AddPicture(std::move(picture));
     return file->Read();
 }
 
-// Characters of the sources for a font that was read from a file of its own format.
+// Characters of the sources and images for a font that was read from a file of its own format.
 void AddSources(const ActionOpenFontArgs& args, Font& font)
 {
     RenderOptions options = args.render;
@@ -139,6 +172,8 @@ void AddSources(const ActionOpenFontArgs& args, Font& font)
     FontAssembly assembly(font, Shown(args.path), options.threads);
     for (GlyphSource& source : OpenSources(args, options))
         assembly.Add(std::move(source));
+    for (PictureGlyph& picture : OpenImages(args, options.encoding))
+        assembly.Add(std::move(picture));
     assembly.Render([](const PlannedGlyph&) {});
 }
 
@@ -179,7 +214,7 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
         enabled &= *args.selection;
         font->SetEnabledCodes(enabled);
     }
-    if (!args.sources.empty())
+    if (!args.sources.empty() || !args.images.empty())
         AddSources(args, *font);
     return font;
 }

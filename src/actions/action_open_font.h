@@ -3,6 +3,7 @@
 #include "actions/action.h"
 #include "model/code_set.h"
 #include "model/font.h"
+#include "render/picture_glyph.h"
 #include "render/render_options.h"
 
 #include <optional>
@@ -34,6 +35,8 @@ struct ActionOpenFontArgs
     int dotsPerInch = 0; // of the screen that points are for; 0 without one
 
     std::vector<FontSource> sources;
+    std::vector<FontImage> images;
+    int threshold = 0; // of the images; 0 for none
 
     // Instead of the name that the font has.
     std::optional<QString> name;

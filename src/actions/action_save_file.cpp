@@ -10,6 +10,7 @@
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "files/c_survey.h"
+#include "files/character_header.h"
 #include "files/kerning_file.h"
 
 #include <QScopeGuard>
@@ -19,7 +20,7 @@ namespace Glyphor {
 bool ActionSaveFile::Execute()
 {
     Font* const font = CurrentSession().CurrentFont();
-    const auto type = FileTypeOf(Args().path);
+    const auto type = IsHeader() ? std::nullopt : FileTypeOf(Args().path);
     const char* const refusal = type ? RowOf(*type).legacyRefusal : nullptr;
     if (refusal != nullptr && font != nullptr && IsLegacyFormat(font->Metrics().format))
         ThrowActionError(Engine::tr("Invalid file format!"), Engine::tr(refusal));
@@ -27,7 +28,7 @@ bool ActionSaveFile::Execute()
         ThrowActionError(Engine::tr("Font is empty!"),
                          Engine::tr("The font has no enabled characters that could be saved."));
     // No reader takes a font without rows.
-    if (!IsKerning() && font->Metrics().height == 0)
+    if (!IsKerning() && !IsHeader() && font->Metrics().height == 0)
         ThrowActionError(Engine::tr("Font has no rows!"),
                          Engine::tr("All rows of the font were deleted, so it can't be saved."));
     if (!Args().name)
@@ -46,6 +47,10 @@ bool ActionSaveFile::Write(const Font& font) const
     const QStringList actionLog = CurrentSession().Stack().LogLines();
     if (IsKerning()) {
         SaveKerning(font, actionLog);
+        return true;
+    }
+    if (IsHeader()) {
+        SaveHeader(font, actionLog);
         return true;
     }
     if (!MayReplace())
@@ -86,7 +91,7 @@ bool ActionSaveFile::MayReplace() const
 
 bool ActionSaveFile::IsKerning() const
 {
-    return Type() == ActionType::SaveKerning || IsBinaryKerningName(Args().path);
+    return Type() == ActionType::SaveKerning || (!IsHeader() && IsBinaryKerningName(Args().path));
 }
 
 void ActionSaveFile::SaveKerning(const Font& font, const QStringList& actionLog) const
@@ -107,6 +112,18 @@ void ActionSaveFile::SaveKerning(const Font& font, const QStringList& actionLog)
     file->Write(pairs, font);
 }
 
+void ActionSaveFile::SaveHeader(const Font& font, const QStringList& actionLog) const
+{
+    if (!IsCHeaderName(Args().path))
+        ThrowNoHeaderName(Args().path);
+    if (!HasNamedChars(font))
+        CurrentInterface().warning(
+            Engine::tr("No names"),
+            Engine::tr("No character of the font has a name: the header names those that -map and "
+                       "-source put elsewhere or name, and those of -image."));
+    CharacterHeader(Args().path, CFileOptionsOfSettings(actionLog)).Write(font);
+}
+
 // The font is safe by now, whatever becomes of its log.
 void ActionSaveFile::WriteLogFile(const QStringList& actionLog) const
 {
@@ -122,14 +139,15 @@ void ActionSaveFile::WriteLogFile(const QStringList& actionLog) const
 
 void ActionSaveFile::RedoOnce()
 {
-    if (!IsKerning())
+    if (!IsKerning() && !IsHeader())
         CurrentSession().SetSaved(Args().path);
 }
 
 LogEntry ActionSaveFile::Log() const
 {
-    return LogEntry(IsKerning() ? QT_TRANSLATE_NOOP("Engine", "Saved kerning file: %1")
-                                : QT_TRANSLATE_NOOP("Engine", "Saved font file: %1"),
+    return LogEntry(IsKerning()  ? QT_TRANSLATE_NOOP("Engine", "Saved kerning file: %1")
+                    : IsHeader() ? QT_TRANSLATE_NOOP("Engine", "Saved header file: %1")
+                                 : QT_TRANSLATE_NOOP("Engine", "Saved font file: %1"),
                     {LoggedPath(Args().path)});
 }
 

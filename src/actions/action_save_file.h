@@ -16,11 +16,11 @@ struct ActionSaveFileArgs
 };
 
 // Writes the enabled characters to a file whose kind its name tells, and the log file beside it
-// where the settings ask for one; or writes their kerning pairs.
+// where the settings ask for one; or writes their kerning pairs, or a header with their names.
 class ActionSaveFile final : public ActionWithArgs<ActionSaveFileArgs>
 {
 public:
-    // The type is SaveFont, SaveFontAs, or SaveKerning for a kerning file as C.
+    // The type is SaveFont, SaveFontAs, SaveKerning for a kerning file as C, or SaveHeader.
     ActionSaveFile(Session& session, ActionType type) : ActionWithArgs(session, type) {}
 
     bool Execute() override;
@@ -33,8 +33,10 @@ private:
     // False where the user does not want it.
     [[nodiscard]] bool Write(const Font& font) const;
     [[nodiscard]] bool IsKerning() const;
+    [[nodiscard]] bool IsHeader() const { return Type() == ActionType::SaveHeader; }
     [[nodiscard]] bool MayReplace() const;
     void SaveKerning(const Font& font, const QStringList& actionLog) const;
+    void SaveHeader(const Font& font, const QStringList& actionLog) const;
     void WriteLogFile(const QStringList& actionLog) const;
 };
 

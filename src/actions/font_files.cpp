@@ -10,9 +10,31 @@ namespace Glyphor {
 
 namespace {
 
-[[noreturn]] void FailToOpen(const QString& text)
+[[noreturn]] void FailToOpen(const QString& path, const QString& text)
 {
-    throw CriticalException(Engine::tr("Error opening file!"), text);
+    throw CriticalException(Engine::tr("Error opening file!"), text, {path, 0, {}});
+}
+
+void CheckExists(const QString& path)
+{
+    if (KindOf(path) == FileKind::None)
+        FailToOpen(path, Engine::tr("Given file does not exist!"));
+}
+
+void CheckContents(const QString& path)
+{
+    const FileKind kind = KindOf(path);
+    if (kind == FileKind::Directory)
+        FailToOpen(path, Engine::tr("The file %1 is a directory.").arg(Shown(path)));
+    if (kind == FileKind::Other)
+        FailToOpen(path, Engine::tr("The file %1 is not an ordinary file.").arg(Shown(path)));
+    if (SizeOfFile(path) == 0)
+        FailToOpen(path, Engine::tr("The file %1 is empty.").arg(Shown(path)));
+    File file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        FailToOpen(
+            path,
+            Engine::tr("The file %1 could not be read: %2").arg(Shown(path), file.errorString()));
 }
 
 } // namespace
@@ -26,24 +48,19 @@ CFileOptions CFileOptionsOfSettings(const QStringList& actionLog)
     return options;
 }
 
+void CheckReadableFile(const QString& path)
+{
+    CheckExists(path);
+    CheckContents(path);
+}
+
 FileType CheckInputFile(const QString& path)
 {
-    const FileKind kind = KindOf(path);
-    if (kind == FileKind::None)
-        FailToOpen(Engine::tr("Given file does not exist!"));
+    CheckExists(path);
     const auto type = FileTypeOf(path);
     if (!type)
         ThrowUnsupportedFormat();
-    if (kind == FileKind::Directory)
-        FailToOpen(Engine::tr("The file %1 is a directory.").arg(Shown(path)));
-    if (kind == FileKind::Other)
-        FailToOpen(Engine::tr("The file %1 is not an ordinary file.").arg(Shown(path)));
-    if (SizeOfFile(path) == 0)
-        FailToOpen(Engine::tr("The file %1 is empty.").arg(Shown(path)));
-    File file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        FailToOpen(
-            Engine::tr("The file %1 could not be read: %2").arg(Shown(path), file.errorString()));
+    CheckContents(path);
     return *type;
 }
 

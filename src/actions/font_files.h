@@ -9,8 +9,10 @@
 
 namespace Glyphor {
 
-// Throws a CriticalException unless there is a file with something in it that may be read, and
-// whose name tells a known kind.
+// Throws a CriticalException unless there is a file with something in it that may be read.
+void CheckReadableFile(const QString& path);
+
+// The same, and unless its name tells a known kind.
 FileType CheckInputFile(const QString& path);
 
 // What the settings say about generated C files; the log is told where they want it told.

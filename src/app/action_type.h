@@ -2,8 +2,8 @@
 
 namespace Glyphor {
 
-// What an action does; also the number of its menu command. Kinds from ExitProgram on have no
-// action object: the front end handles them itself.
+// What an action does; also the number of its menu command. Kinds from ExitProgram to ListCharsets
+// have no action object: the front end handles them itself.
 enum class ActionType : int {
     None = 0,
     CreateFont = 1,
@@ -63,7 +63,8 @@ enum class ActionType : int {
     ListFonts = 60,
     PrintUsage = 64,
     PrintVersion = 67,
-    ListCharsets = 68
+    ListCharsets = 68,
+    SaveHeader = 69
 };
 
 } // namespace Glyphor

@@ -12,6 +12,7 @@
 #include "app/version.h"
 #include "cli/installed_fonts.h"
 #include "cli/option_actions.h"
+#include "files/character_header.h"
 #include "files/file_types.h"
 #include "files/kerning_file.h"
 #include "model/charset.h"
@@ -231,8 +232,9 @@ void CommandLine::Execute(const OptionOccurrence& occurrence, Session& session)
         CurrentInterface().handleRequest(row->request);
         return;
     }
-    const bool isWritten =
-        occurrence.Id() == OptionId::Save || occurrence.Id() == OptionId::Kerning;
+    const bool isWritten = occurrence.Id() == OptionId::Save ||
+                           occurrence.Id() == OptionId::Kerning ||
+                           occurrence.Id() == OptionId::Header;
     if (isWritten && session.CurrentFont() != nullptr)
         LookBeforeWriting(session);
     Perform(row->make(occurrence, options_, session));
@@ -310,6 +312,9 @@ void CommandLine::LookBeforeWriting(const Session& session)
             Engine::tr("The font lacks characters that were asked for, so it was not saved."));
     if (options_.writesKerning && EnabledKerning(font).empty())
         throw CriticalException(Engine::tr("The font has no kerning, so it was not saved."));
+    if (!options_.headerPath.isEmpty() && !HasNamedChars(font))
+        throw CriticalException(
+            Engine::tr("The font has no characters with names, so it was not saved."));
 }
 
 // Once, with the font as it is written.
@@ -435,8 +440,9 @@ bool CommandLine::actionPerformed(const std::shared_ptr<Action>& action, const Q
     if (const auto* const open = dynamic_cast<const ActionOpenFont*>(action.get()))
         messages_.Information(u"Opened font file: "_s + Shown(open->Args().path));
     else if (const auto* const save = dynamic_cast<const ActionSaveFile*>(action.get()))
-        messages_.Information((save->Type() == ActionType::SaveKerning ? u"Saved kerning file: "_s
-                                                                       : u"Saved font file: "_s) +
+        messages_.Information((save->Type() == ActionType::SaveKerning  ? u"Saved kerning file: "_s
+                               : save->Type() == ActionType::SaveHeader ? u"Saved header file: "_s
+                                                                        : u"Saved font file: "_s) +
                               Shown(save->Args().path));
     else if (options_.verbose && !logText.isEmpty())
         messages_.Information(logText);

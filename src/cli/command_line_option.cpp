@@ -1,5 +1,6 @@
 #include "cli/command_line_option.h"
 
+#include "actions/action_merge_font.h"
 #include "actions/edit_table.h"
 #include "app/user_interface.h"
 #include "model/font_format.h"
@@ -37,6 +38,11 @@ CommandLineParameter FilePath()
 CommandLineParameter Number(const QString& placeholder, bool required = true)
 {
     return {ParameterKind::Number, placeholder, nullptr, required};
+}
+
+CommandLineParameter Offset(const QString& placeholder)
+{
+    return {ParameterKind::SignedNumber, placeholder, nullptr, false};
 }
 
 CommandLineParameter Range()
@@ -185,6 +191,18 @@ std::vector<CommandLineOption> MakeOptions()
         Option(Compare, u"compare"_s, u"co"_s, {FilePath()},
                u"Tells in which characters and metrics the font differs from another font file; "
                "the proof shows them."_s),
+        Option(Align, u"align"_s, u"al"_s, {Text(u"<line>"_s, &AlignKeywords())},
+               u"What the characters of a merged font are put on, where the fonts differ."_s),
+        Option(Header, u"header"_s, u"hd"_s, {FilePath()},
+               u"Writes names for the characters of -map, -source and -image into a C header."_s),
+        Option(Image, u"image"_s, u"im"_s,
+               {FilePath(), Text(u"<code>[:<name>]"_s), Offset(u"<rows>"_s)},
+               u"Takes a PNG file into the font as a character, dark is ink; so many rows above "
+               "the baseline."_s,
+               {.multiple = true}),
+        Option(Threshold, u"threshold"_s, u"th"_s, {Number(u"<coverage>"_s)},
+               u"Makes pixels of -image full ink from this darkness on (1 to 255), and all others "
+               "empty."_s),
     };
 }
 
@@ -267,6 +285,14 @@ const ParameterKeywordTable& MergeKeywords()
         {u"KEEP"_s, u"Retains duplicate characters in opened font."_s, keep},
         {u"ReplaceOld"_s, {}, replace, true},
         {u"KeepOld"_s, {}, keep, true},
+    });
+    return table;
+}
+
+const ParameterKeywordTable& AlignKeywords()
+{
+    static const ParameterKeywordTable table({
+        {u"baseline"_s, u"On the baseline of the opened font."_s, int(MergeAlignment::Baseline)},
     });
     return table;
 }

@@ -59,13 +59,18 @@ enum class OptionId : int {
     Source = 42,
     Map = 43,
     Charmap = 44,
+    Align = 45,
+    Header = 46,
+    Image = 47,
+    Threshold = 48,
     Jobs = 49,
     Proof = 60,
     ProofText = 61,
     Compare = 62
 };
 
-enum class ParameterKind { Number = 0, Text = 1, Range = 2 };
+// A signed number may begin with "-".
+enum class ParameterKind { Number = 0, Text = 1, Range = 2, SignedNumber = 3 };
 
 // The words that a text parameter takes. Hidden ones are accepted but not listed.
 class ParameterKeywordTable
@@ -159,6 +164,7 @@ struct OptionOccurrence
 [[nodiscard]] const ParameterKeywordTable& FormatKeywords();
 [[nodiscard]] const ParameterKeywordTable& EncodingKeywords();
 [[nodiscard]] const ParameterKeywordTable& MergeKeywords();
+[[nodiscard]] const ParameterKeywordTable& AlignKeywords();
 [[nodiscard]] const ParameterKeywordTable& HintingKeywords();
 [[nodiscard]] const ParameterKeywordTable& FontEditKeywords();
 [[nodiscard]] const ParameterKeywordTable& CharEditKeywords();

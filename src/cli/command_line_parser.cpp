@@ -45,6 +45,11 @@ int ParseInt(const QString& text)
     return static_cast<int>(number);
 }
 
+bool IsNegativeNumber(QStringView text)
+{
+    return text.size() > 1 && text[0] == u'-' && text[1] >= u'0' && text[1] <= u'9';
+}
+
 quint16 ParseCode(const QString& text)
 {
     const quint64 number = ParseNumber(text);
@@ -78,6 +83,8 @@ ParameterValue ParseValue(const CommandLineParameter& parameter, const QString& 
     switch (parameter.kind) {
     case ParameterKind::Number:
         return ParseInt(text);
+    case ParameterKind::SignedNumber:
+        return text.startsWith(u'-') ? -ParseInt(text.mid(1)) : ParseInt(text);
     case ParameterKind::Range:
         return ParseRange(text, parameter.placeholder);
     default:
@@ -182,7 +189,9 @@ private:
             return {};
         }
         const QString& argument = arguments_[next_].text;
-        if (argument.startsWith(u'-')) {
+        const bool isNegative =
+            parameter.kind == ParameterKind::SignedNumber && IsNegativeNumber(argument);
+        if (argument.startsWith(u'-') && !isNegative) {
             const bool isOption =
                 FindOption(argument) != nullptr || legacyParser_.CanBegin(argument);
             if (parameter.required || !isOption)
@@ -273,6 +282,7 @@ void ReorderOccurrences(std::vector<OptionOccurrence>& occurrences)
     MoveToBack(occurrences, OptionId::Compare); // with the file that is to be replaced, if any
     MoveToBack(occurrences, OptionId::Save);
     MoveToBack(occurrences, OptionId::Kerning);
+    MoveToBack(occurrences, OptionId::Header);
     MoveToBack(occurrences, OptionId::Proof);
     MoveToBack(occurrences, OptionId::Exit);
 }

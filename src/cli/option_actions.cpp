@@ -52,7 +52,7 @@ std::shared_ptr<Action> MakeCreate(const OptionOccurrence& occurrence, const Run
 }
 
 // The options that say how a font is opened speak of the other font where its file asks for them.
-// The character selection is that of the opened font alone.
+// What characters it has, and from where, is said of the opened font alone.
 std::shared_ptr<Action> MakeMerge(const OptionOccurrence& occurrence, const RunOptions& options,
                                   Session& session)
 {
@@ -62,6 +62,10 @@ std::shared_ptr<Action> MakeMerge(const OptionOccurrence& occurrence, const RunO
     source.path = occurrence.Get<QString>(0);
     source.selection.reset();
     source.name.reset();
+    source.render.map.clear();
+    source.sources.clear();
+    source.images.clear();
+    action->Args().alignment = options.alignment;
     if (std::holds_alternative<int>(occurrence.values[1]))
         action->Args().mode = static_cast<MergeMode>(occurrence.Get<int>(1));
     const auto type = FileTypeOf(source.path);
@@ -83,6 +87,14 @@ std::shared_ptr<Action> MakeKerning(const OptionOccurrence& occurrence, const Ru
 {
     auto action = std::make_shared<ActionSaveFile>(session, ActionType::SaveKerning);
     action->Args() = {occurrence.Get<QString>(0), true};
+    return action;
+}
+
+std::shared_ptr<Action> MakeHeader(const OptionOccurrence& occurrence, const RunOptions&,
+                                   Session& session)
+{
+    auto action = std::make_shared<ActionSaveFile>(session, ActionType::SaveHeader);
+    action->Args().path = occurrence.Get<QString>(0);
     return action;
 }
 
@@ -119,6 +131,7 @@ constexpr std::array OptionActions = {
     OptionAction{OptionId::Merge, ActionType::MergeFont, MakeMerge},
     OptionAction{OptionId::Save, ActionType::SaveFont, MakeSave},
     OptionAction{OptionId::Kerning, ActionType::SaveKerning, MakeKerning},
+    OptionAction{OptionId::Header, ActionType::SaveHeader, MakeHeader},
     OptionAction{OptionId::ListFonts, ActionType::ListFonts},
     OptionAction{OptionId::Exit, ActionType::ExitProgram},
     OptionAction{OptionId::Help, ActionType::PrintUsage},

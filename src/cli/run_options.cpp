@@ -6,6 +6,8 @@
 #include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "cli/feature_list.h"
+#include "cli/image_option.h"
+#include "files/character_header.h"
 #include "files/file_types.h"
 #include "model/charset.h"
 #include "model/code_text.h"
@@ -52,10 +54,7 @@ void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
 // It becomes a part of identifiers.
 QString CheckedName(const QString& name)
 {
-    const bool isUsable = !name.isEmpty() && std::ranges::all_of(name, [](QChar character) {
-        return character == u'_' || (character < u'\x80' && character.isLetterOrNumber());
-    });
-    if (!isUsable)
+    if (!IsCharacterName(name))
         throw CriticalException(
             Engine::tr("The name %1 is not usable: -name takes letters of ASCII, digits and "
                        "underscores, as in the identifiers of C.")
@@ -108,18 +107,12 @@ void ReadProofOption(const OptionOccurrence& occurrence, RunOptions& options)
     }
 }
 
-void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
+void ReadRendering(const OptionOccurrence& occurrence, RunOptions& options)
 {
     switch (occurrence.Id()) {
     case OptionId::Height:
         options.open.size = ParseHeight(occurrence.Get<QString>(0));
         options.open.render.SetHeight(options.open.size, NoScreen);
-        break;
-    case OptionId::Format:
-        options.open.format = static_cast<FontFormat>(occurrence.Get<int>(0));
-        break;
-    case OptionId::Encoding:
-        options.open.encoding = static_cast<EncodingType>(occurrence.Get<int>(0));
         break;
     case OptionId::Bold:
         options.open.render.effects |= BoldEffect;
@@ -142,6 +135,9 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Axes:
         options.open.render.axes = ParseAxes(occurrence.Get<QString>(0));
         break;
+    case OptionId::Features:
+        options.open.render.features = ParseFeatures(occurrence);
+        break;
     case OptionId::Map:
         options.open.render.map = ParseCharacterMap(occurrence.Get<QString>(0));
         break;
@@ -151,11 +147,57 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Jobs:
         options.open.render.threads = CheckedThreads(occurrence.Get<int>(0));
         break;
+    default:
+        break;
+    }
+}
+
+void ReadOutput(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    switch (occurrence.Id()) {
+    case OptionId::Save:
+        if (!IsWritten(FileTypeOf(occurrence.Get<QString>(0))) &&
+            !IsBinaryKerningName(occurrence.Get<QString>(0)))
+            ThrowUnsupportedFormat();
+        if (IsBinaryKerningName(occurrence.Get<QString>(0)))
+            options.open.render.findsLayoutKerning = true;
+        break;
+    case OptionId::Kerning:
+        if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
+            ThrowUnsupportedFormat();
+        options.writesKerning = true;
+        options.open.render.findsLayoutKerning = true;
+        break;
+    case OptionId::Header:
+        options.headerPath = occurrence.Get<QString>(0);
+        if (!IsCHeaderName(options.headerPath))
+            ThrowNoHeaderName(options.headerPath);
+        break;
+    case OptionId::Report:
+        options.reportPath = occurrence.Get<QString>(0);
+        options.open.render.findsLayoutKerning = true;
+        break;
+    case OptionId::DependencyFile:
+        options.dependencyFilePath = occurrence.Get<QString>(0);
+        break;
+    default:
+        ReadProofOption(occurrence, options);
+    }
+}
+
+void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
+{
+    ReadRendering(occurrence, options);
+    ReadOutput(occurrence, options);
+    switch (occurrence.Id()) {
+    case OptionId::Format:
+        options.open.format = static_cast<FontFormat>(occurrence.Get<int>(0));
+        break;
+    case OptionId::Encoding:
+        options.open.encoding = static_cast<EncodingType>(occurrence.Get<int>(0));
+        break;
     case OptionId::Source:
         options.open.sources.push_back(SourceOf(occurrence));
-        break;
-    case OptionId::Features:
-        options.open.render.features = ParseFeatures(occurrence);
         break;
     case OptionId::EditFont:
         CheckCount(occurrence, 1);
@@ -172,31 +214,20 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
     case OptionId::Name:
         options.open.name = CheckedName(occurrence.Get<QString>(0));
         break;
-    case OptionId::Save:
-        if (!IsWritten(FileTypeOf(occurrence.Get<QString>(0))) &&
-            !IsBinaryKerningName(occurrence.Get<QString>(0)))
-            ThrowUnsupportedFormat();
-        if (IsBinaryKerningName(occurrence.Get<QString>(0)))
-            options.open.render.findsLayoutKerning = true;
-        break;
-    case OptionId::Kerning:
-        if (FileTypeOf(occurrence.Get<QString>(0)) != FileType::C)
-            ThrowUnsupportedFormat();
-        options.writesKerning = true;
-        options.open.render.findsLayoutKerning = true;
-        break;
     case OptionId::WarningsAreErrors:
         options.warningsAreErrors = true;
         break;
-    case OptionId::Report:
-        options.reportPath = occurrence.Get<QString>(0);
-        options.open.render.findsLayoutKerning = true;
+    case OptionId::Align:
+        options.alignment = static_cast<MergeAlignment>(occurrence.Get<int>(0));
         break;
-    case OptionId::DependencyFile:
-        options.dependencyFilePath = occurrence.Get<QString>(0);
+    case OptionId::Image:
+        options.open.images.push_back(ImageOf(occurrence));
+        break;
+    case OptionId::Threshold:
+        options.open.threshold = ThresholdOf(occurrence);
         break;
     default:
-        ReadProofOption(occurrence, options);
+        break;
     }
 }
 
@@ -212,11 +243,28 @@ void CheckOutputs(const std::vector<OptionOccurrence>& occurrences, const RunOpt
             Engine::tr("-check writes no font: it can't be given with -save or -kerning."));
     if (isGiven(OptionId::ProofText) && options.proofPath.isEmpty())
         throw CriticalException(Engine::tr("-prooftext is for a proof: give -proof."));
-    if (!options.dependencyFilePath.isEmpty() && !writesFont && options.reportPath.isEmpty() &&
-        options.proofPath.isEmpty())
+    const bool writesHeader = !options.headerPath.isEmpty();
+    if (options.onlyChecks && writesHeader)
+        throw CriticalException(
+            Engine::tr("-check writes nothing of the font: it can't be given with -header."));
+    for (const OptionOccurrence& other : occurrences) {
+        const bool isFontFile = other.Id() == OptionId::Save || other.Id() == OptionId::Kerning;
+        if (writesHeader && isFontFile && other.Get<QString>(0) == options.headerPath)
+            throw CriticalException(Engine::tr("-header and -%1 can't write the same file %2.")
+                                        .arg(other.option->longName, Shown(options.headerPath)));
+    }
+    const bool writesOther =
+        writesHeader || !options.reportPath.isEmpty() || !options.proofPath.isEmpty();
+    if (!options.dependencyFilePath.isEmpty() && !writesFont && !writesOther)
         throw CriticalException(
             Engine::tr("-depfile needs a file that depends on others: give -save, -kerning or "
                        "-report."));
+    if (options.alignment && !isGiven(OptionId::Merge))
+        CurrentInterface().warning(Engine::tr("Option without effect"),
+                                   Engine::tr("-align was not used: no font is merged."));
+    if (options.open.threshold != 0 && options.open.images.empty())
+        CurrentInterface().warning(Engine::tr("Option without effect"),
+                                   Engine::tr("-threshold was not used: there is no -image."));
 }
 
 bool OpensScalableFont(const OptionOccurrence& occurrence)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actions/action_merge_font.h"
 #include "actions/action_open_font.h"
 #include "actions/demand.h"
 #include "cli/command_line_option.h"
@@ -18,7 +19,9 @@ struct RunOptions
     bool onlyChecks = false;
     bool writesKerning = false;
     bool warningsAreErrors = false;
-    QString reportPath;         // empty for none
+    std::optional<MergeAlignment> alignment;
+    QString headerPath;         // empty for none
+    QString reportPath;         // likewise
     QString dependencyFilePath; // likewise
     QString proofPath;          // likewise
 };

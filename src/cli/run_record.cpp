@@ -95,15 +95,20 @@ void RunRecord::Add(const Action& action)
 {
     if (const auto* const open = dynamic_cast<const ActionOpenFont*>(&action)) {
         inputs_.push_back({"font", open->Args().path});
-        for (const FontSource& source : open->Args().sources)
-            inputs_.push_back({"source", source.path});
         if (IsScalable(FileTypeOf(open->Args().path)))
             rendered_ = open->Args();
+        for (const FontSource& source : open->Args().sources)
+            inputs_.push_back({"source", source.path});
+        for (const FontImage& image : open->Args().images)
+            inputs_.push_back({"image", image.path});
     } else if (const auto* const merge = dynamic_cast<const ActionMergeFont*>(&action)) {
         inputs_.push_back({"merged font", merge->Args().source.path});
     } else if (const auto* const save = dynamic_cast<const ActionSaveFile*>(&action)) {
-        const bool isKerning = save->Type() == ActionType::SaveKerning;
-        outputs_.push_back({isKerning ? "kerning" : "font", save->Args().path});
+        const ActionType type = save->Type();
+        outputs_.push_back({type == ActionType::SaveKerning  ? "kerning"
+                            : type == ActionType::SaveHeader ? "header"
+                                                             : "font",
+                            save->Args().path});
     }
 }
 

@@ -24,22 +24,6 @@ QString Centred(const QString& text)
     return u'*' + (left + text).leftJustified(inside) + u'*';
 }
 
-// Names and paths come from files and users; none may end the comment, open another one, break its
-// line or turn its direction of writing.
-QString InComment(const QString& line)
-{
-    QString text = ShownBytes(line);
-    constexpr std::array disturbing = {QChar::Other_Control, QChar::Other_Format,
-                                       QChar::Separator_Line, QChar::Separator_Paragraph};
-    for (QChar& character : text) {
-        if (std::ranges::find(disturbing, character.category()) != disturbing.end())
-            character = u' ';
-    }
-    text.replace(u"*/"_s, u"* /"_s);
-    text.replace(u"/*"_s, u"/ *"_s);
-    return text;
-}
-
 bool IsHeaderName(const QString& fileName)
 {
     return std::ranges::any_of(
@@ -63,6 +47,20 @@ QByteArray CSymbol(const QByteArray& name)
 {
     const bool beginsWithDigit = !name.isEmpty() && name[0] >= '0' && name[0] <= '9';
     return beginsWithDigit ? '_' + name : name;
+}
+
+QString InComment(const QString& line)
+{
+    QString text = ShownBytes(line);
+    constexpr std::array disturbing = {QChar::Other_Control, QChar::Other_Format,
+                                       QChar::Separator_Line, QChar::Separator_Paragraph};
+    for (QChar& character : text) {
+        if (std::ranges::find(disturbing, character.category()) != disturbing.end())
+            character = u' ';
+    }
+    text.replace(u"*/"_s, u"* /"_s);
+    text.replace(u"/*"_s, u"/ *"_s);
+    return text;
 }
 
 CFileText::CFileText(const CFileOptions& options, const QString& filePath, const QString& fontName,

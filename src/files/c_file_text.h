@@ -25,6 +25,10 @@ struct CFileOptions
 // A symbol that C takes: "_" in front of one that would begin with a digit.
 [[nodiscard]] QByteArray CSymbol(const QByteArray& name);
 
+// A line for a comment. Names and paths come from files and users; none may end the comment, open
+// another one, break its line or turn its direction of writing.
+[[nodiscard]] QString InComment(const QString& line);
+
 // The text of a generated C file while it is composed, with the pieces that all such files share.
 // It goes into the sink in pieces: the text of a large font is several times the font's size.
 class CFileText

@@ -21,6 +21,15 @@ struct KerningPair
     bool operator==(const KerningPair&) const = default;
 };
 
+// What firmware calls a character that was taken from somewhere, and what that was.
+struct CharacterLabel
+{
+    QString name;   // empty for none
+    QString origin; // of the font's file: "U+F02D1 heart"; or of a picture: "heart.png"
+
+    bool operator==(const CharacterLabel&) const = default;
+};
+
 // One character of a font.
 struct Character
 {
@@ -29,6 +38,7 @@ struct Character
     CharInfo info;
     std::unique_ptr<CharBitmap> bitmap;
     std::vector<KerningPair> kerning;
+    std::shared_ptr<const CharacterLabel> label; // of most characters null; in no file of a font
 };
 
 // The maximal runs of consecutive codes of a set, in ascending order.

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <optional>
 
 namespace Glyphor {
@@ -35,6 +36,20 @@ struct InkBox
 
 // What is left of the glyph at that depth; empty where nothing is.
 [[nodiscard]] InkBox InkOf(const RenderedGlyph& glyph, int bitsPerPixel);
+
+// The rows that ink reaches beyond a line.
+struct InkOverflow
+{
+    int above = 0;
+    int below = 0;
+
+    [[nodiscard]] bool IsAny() const { return above > 0 || below > 0; }
+    void Add(const InkOverflow& other)
+    {
+        above = std::max(above, other.above);
+        below = std::max(below, other.below);
+    }
+};
 
 // The packed pixel rows of the placed glyph, quantised to the font's depth.
 [[nodiscard]] QByteArray ConvertGlyph(const RenderedGlyph& glyph, const GlyphPlacement& placement,

@@ -77,10 +77,7 @@ void CheckTarget(const CodeMapping& mapping, char32_t target, const QString& tex
 
 QString NameIn(const QString& name, const CodeMapping& mapping, const QString& text)
 {
-    const bool isUsable = !name.isEmpty() && std::ranges::all_of(name, [](QChar character) {
-        return character == u'_' || (character < u'\x80' && character.isLetterOrNumber());
-    });
-    if (!isUsable || mapping.first != mapping.last)
+    if (!IsCharacterName(name) || mapping.first != mapping.last)
         throw CriticalException(
             Engine::tr("The mapping %1 is not usable: a name belongs to a single code, and has "
                        "letters of ASCII, digits and underscores.")
@@ -113,6 +110,13 @@ CodeMapping MappingIn(const QString& text)
 }
 
 } // namespace
+
+bool IsCharacterName(const QString& name)
+{
+    return !name.isEmpty() && std::ranges::all_of(name, [](QChar character) {
+        return character == u'_' || (character < u'\x80' && character.isLetterOrNumber());
+    });
+}
 
 CharacterMap ParseCharacterMap(const QString& text)
 {

@@ -30,6 +30,9 @@ using CharacterMap = std::vector<CodeMapping>;
 // only fill gaps; "all" is 0-0xFFFF. Throws a CriticalException for anything else.
 [[nodiscard]] CharacterMap ParseCharacterMap(const QString& text);
 
+// Letters of ASCII, digits and underscores, at least one of them.
+[[nodiscard]] bool IsCharacterName(const QString& name);
+
 // The text that gives the map again.
 [[nodiscard]] QString TextOf(const CharacterMap& map);
 

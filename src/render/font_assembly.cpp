@@ -2,8 +2,11 @@
 
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
+#include "app/shown_text.h"
 #include "app/user_interface.h"
 #include "model/code_text.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -24,11 +27,19 @@ void FontAssembly::Add(GlyphSource source)
     parts_.push_back({std::move(source), false});
 }
 
+void FontAssembly::Add(PictureGlyph picture)
+{
+    picture.glyph.yPos += font_.Metrics().baseline;
+    pictures_.push_back(std::move(picture));
+}
+
 void FontAssembly::Fit()
 {
     InkOverflow overflow;
     for (const Part& part : parts_)
         overflow.Add(part.source.Measure(font_.Metrics(), threads_));
+    for (const PictureGlyph& picture : pictures_)
+        overflow.Add(OverflowOf(picture.glyph, font_.Metrics()));
     const int height = font_.Metrics().height + overflow.above + overflow.below;
     if (height > CharInfo::MaxSize)
         throw CriticalException(
@@ -40,12 +51,16 @@ void FontAssembly::Fit()
         std::min(CharInfo::MaxSize, font_.Metrics().baseline + overflow.above)));
     for (Part& part : parts_)
         part.source.MoveDown(overflow.above);
+    for (PictureGlyph& picture : pictures_)
+        picture.glyph.yPos += overflow.above;
 }
 
 void FontAssembly::Render(const std::function<void(const PlannedGlyph&)>& onOwn)
 {
     for (const Part& part : parts_)
         RenderPart(part, onOwn);
+    for (const PictureGlyph& picture : pictures_)
+        RenderPicture(picture);
 }
 
 void FontAssembly::RenderPart(const Part& part,
@@ -68,6 +83,8 @@ void FontAssembly::RenderPart(const Part& part,
         },
         [&](const PlannedGlyph& planned) {
             own.Set(planned.code, true);
+            if (planned.isLabelled)
+                SetLabel(planned, source.Face());
             if (part.isOwn)
                 onOwn(planned);
             else
@@ -76,14 +93,51 @@ void FontAssembly::RenderPart(const Part& part,
     collector.Warn();
 }
 
+void FontAssembly::RenderPicture(const PictureGlyph& picture)
+{
+    const QString path = Shown(picture.image.path);
+    if (font_.FindChar(picture.code) != nullptr)
+        throw CriticalException(Engine::tr("Font creation failed!"),
+                                Engine::tr("Both %1 and %2 give the character 0x%3.")
+                                    .arg(GiverOf(picture.code), path, Hex4Text(picture.code)),
+                                {picture.image.path, 0, {}});
+    GlyphCollector collector(font_);
+    collector.NameSource(path);
+    if (collector.Add(picture.code, picture.glyph)) {
+        given_.emplace(picture.code, path);
+        const QFileInfo file(picture.image.path);
+        const QString name =
+            picture.image.name.isEmpty() ? file.completeBaseName() : picture.image.name;
+        font_.FindChar(picture.code)->label =
+            std::make_shared<const CharacterLabel>(CharacterLabel{name, file.fileName()});
+    }
+    collector.Warn();
+}
+
+// Names of glyphs come from the file, in any bytes.
+void FontAssembly::SetLabel(const PlannedGlyph& glyph, const FreeTypeFace& face)
+{
+    const QString glyphName = QString::fromLatin1(face.GlyphName(glyph.glyph));
+    QString origin = UnicodeNotation(glyph.faceCode);
+    if (!glyphName.isEmpty())
+        origin += u' ' + glyphName;
+    font_.FindChar(glyph.code)->label = std::make_shared<const CharacterLabel>(
+        CharacterLabel{glyph.name.isEmpty() ? glyphName : glyph.name, origin});
+}
+
+QString FontAssembly::GiverOf(quint16 code) const
+{
+    const auto given = given_.find(code);
+    return given != given_.end() ? given->second : name_;
+}
+
 void FontAssembly::RefuseSecond(const PlannedGlyph& glyph, const QString& second) const
 {
-    const auto given = given_.find(glyph.code);
     throw CriticalException(
         Engine::tr("Font creation failed!"),
         Engine::tr("Both %1 and %2 give the character 0x%3. A ? in front of a mapping has it fill "
                    "gaps only.")
-            .arg(given != given_.end() ? given->second : name_, second, Hex4Text(glyph.code)));
+            .arg(GiverOf(glyph.code), second, Hex4Text(glyph.code)));
 }
 
 void TellOfCodes(const GlyphSource& source, bool tellsBeyond)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "render/glyph_source.h"
+#include "render/picture_glyph.h"
 
 #include <map>
 
@@ -18,6 +19,7 @@ public:
     // it. What leaves the line is told of the others.
     void AddOwn(GlyphSource source);
     void Add(GlyphSource source);
+    void Add(PictureGlyph picture);
 
     // Makes the line so high that all ink lies in it. Throws a CriticalException where that is
     // higher than a font can be.
@@ -35,12 +37,16 @@ private:
     };
 
     void RenderPart(const Part& part, const std::function<void(const PlannedGlyph&)>& onOwn);
+    void RenderPicture(const PictureGlyph& picture);
+    void SetLabel(const PlannedGlyph& glyph, const FreeTypeFace& face);
+    [[nodiscard]] QString GiverOf(quint16 code) const;
     [[noreturn]] void RefuseSecond(const PlannedGlyph& glyph, const QString& second) const;
 
     Font& font_;
     QString name_;
     int threads_;
     std::vector<Part> parts_;
+    std::vector<PictureGlyph> pictures_;
     std::map<quint16, QString> given_; // by sources other than the first
 };
 

@@ -160,6 +160,9 @@ void FontFileScalable::RenderAll(Font& font, GlyphSource own)
     for (GlyphSource& other : others_)
         assembly.Add(std::move(other));
     others_.clear();
+    for (PictureGlyph& picture : pictures_)
+        assembly.Add(std::move(picture));
+    pictures_.clear();
     if (options_.fitsInk)
         assembly.Fit();
     std::size_t pairCount = 0;

@@ -2,6 +2,7 @@
 
 #include "render/font_file_ft.h"
 #include "render/glyph_source.h"
+#include "render/picture_glyph.h"
 
 #include <QStringList>
 
@@ -19,6 +20,7 @@ public:
 
     // Takes characters of another source as well, sized and planned for a font of this format.
     void AddSource(GlyphSource source) { others_.push_back(std::move(source)); }
+    void AddPicture(PictureGlyph picture) { pictures_.push_back(std::move(picture)); }
 
     // The face as a source for another font: what the map of the options names, of which the
     // mappings that fill gaps give only what the filter has. Throws as Read() does.
@@ -52,6 +54,7 @@ private:
     FreeTypeFace face_;
     RenderOptions options_;
     std::vector<GlyphSource> others_;
+    std::vector<PictureGlyph> pictures_;
 };
 
 // A single face, a member of a collection by its index, or a named instance of a multi-master face,

@@ -9,20 +9,6 @@
 
 namespace Glyphor {
 
-// The rows that ink reaches beyond a line.
-struct InkOverflow
-{
-    int above = 0;
-    int below = 0;
-
-    [[nodiscard]] bool IsAny() const { return above > 0 || below > 0; }
-    void Add(const InkOverflow& other)
-    {
-        above = std::max(above, other.above);
-        below = std::max(below, other.below);
-    }
-};
-
 // Of the glyph in a line of the font.
 [[nodiscard]] InkOverflow OverflowOf(const RenderedGlyph& glyph, const FontMetrics& font);
 

@@ -24,6 +24,17 @@ bool IsIn(const std::optional<CodeSet>& filter, quint16 code)
     return !filter || filter->Test(code);
 }
 
+// What has a name or another code than in the face, or stands where nothing but the font says what
+// it is.
+bool IsLabelled(const CodeMapping& mapping, char32_t faceCode)
+{
+    constexpr char32_t firstPrivate = 0xE000;
+    constexpr char32_t lastPrivate = 0xF8FF;
+    const char32_t target = mapping.TargetOf(faceCode);
+    return !mapping.name.isEmpty() || target != faceCode ||
+           (target >= firstPrivate && target <= lastPrivate);
+}
+
 QString LackingText(const CodeMapping& mapping, const std::vector<char32_t>& lacking,
                     const QString& source)
 {
@@ -133,7 +144,8 @@ void GlyphSource::PlanMapping(const CodeMapping& mapping, EncodingType encoding,
         if (glyph == 0)
             lacking.push_back(faceCode);
         else
-            planned_.push_back({faceCode, *code, glyph, true, mapping.onlyMissing});
+            planned_.push_back({faceCode, *code, glyph, true, mapping.onlyMissing,
+                                IsLabelled(mapping, faceCode), mapping.name});
     }
     const bool isAll = mapping.first == 0 && mapping.last == LastFontCode;
     if (!lacking.empty() && !mapping.onlyMissing && !isAll)

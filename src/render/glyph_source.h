@@ -20,6 +20,8 @@ struct PlannedGlyph
     FT_UInt glyph;
     bool isMapped = false;
     bool onlyMissing = false; // left out where the font has the character
+    bool isLabelled = false;  // firmware can't write it as text
+    QString name = {};        // that its mapping gives
 };
 
 // The characters that a face, which is set up and sized, gives to a font.

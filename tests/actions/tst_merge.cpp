@@ -23,9 +23,11 @@ public:
         return answer;
     }
     std::optional<FormatChoice> askFontFormat(EncodingType) override { return choice; }
+    Answer Ask(const QString&, const QString&) override { return question; }
 
     std::optional<MergeMode> answer;
     std::optional<FormatChoice> choice;
+    Answer question = Answer::Nobody;
     int questions = 0;
 };
 
@@ -186,6 +188,120 @@ private Q_SLOTS:
             session.Stack().Undo();
             QCOMPARE(session.CurrentFont()->HasKerning(), own);
         }
+    }
+
+    void Aligns_data()
+    {
+        // The baselines, the answer where nothing is told (-1: told), the offset of a character
+        // with rows 1 and 2 inked of 3, and how the warning begins.
+        const Test::Rows<FontFormat, int, int, int, int, QString> row;
+        const QString differ = u"The current font is 20 pixels high with its baseline at "_s;
+        const QString leave = u"Characters that leave the current font's line on its baseline: 1 "
+                              "(0x0043), by up to "_s;
+        const FontFormat standard = FontFormat::AA4;
+        row("down", standard, 15, 10, -1, 5, {});
+        row("up", standard, 5, 6, -1, -1, {});
+        row("above the line", standard, 5, 8, -1, -3, leave + u"2 rows above it and 0 below it."_s);
+        row("below the line", standard, 30, 12, -1, 18,
+            leave + u"0 rows above it and 1 below it."_s);
+        row("padded", standard, 140, 10, -1, 127, leave + u"0 rows above it and 2 below it."_s);
+        row("frames", FontFormat::Framed, 15, 10, -1, 5, {});
+        row("no answer", standard, 15, 10, int(Answer::Nobody), 0, differ);
+        row("not wanted", standard, 15, 10, int(Answer::No), 0, {});
+        row("wanted", standard, 15, 10, int(Answer::Yes), 5, {});
+    }
+
+    void Aligns()
+    {
+        const auto [format, own, theirs, answer, offset, warning] =
+            Test::Row<FontFormat, int, int, int, int, QString>();
+        MergeInterface interface;
+        interface.question = answer < 0 ? Answer::Nobody : Answer(answer);
+        const auto withBaseline = [format = format](const QByteArray& codes, int baseline) {
+            auto font = MakeFilled(codes, 1, format);
+            font->SetHeight(20);
+            font->SetBaseline(quint8(baseline));
+            return font;
+        };
+        auto other = withBaseline("C", theirs);
+        Character& character = *other->FindChar('C');
+        character.info.yPos = 0;
+        character.info.height = 3;
+        character.bitmap->AssignData({});
+        character.bitmap->SetPixelIndex(0, 1, 1);
+        character.bitmap->SetPixelIndex(0, 2, 1);
+        WriteFont(std::move(other), Path("other.sif"));
+        Test::UndoSession session(withBaseline("A", own));
+        const auto action = std::make_shared<ActionMergeFont>(session);
+        action->Args().source = Source(Path("other.sif"));
+        if (answer < 0)
+            action->Args().alignment = MergeAlignment::Baseline;
+        QVERIFY(action->Run());
+        const Character& merged = *session.CurrentFont()->FindChar('C');
+        QCOMPARE(merged.info.yPos, offset);
+        const int padding = merged.info.height - 3;
+        QCOMPARE(padding, std::max(0, own - theirs - 127));
+        for (int y = 0; y < merged.info.height; ++y)
+            QCOMPARE(merged.bitmap->GetPixelIndex(0, y), y > padding ? 1 : 0);
+        QCOMPARE(interface.warnings.isEmpty(), warning.isEmpty());
+        if (!warning.isEmpty())
+            QVERIFY2(interface.warnings.first().startsWith(warning),
+                     qPrintable(interface.warnings.first()));
+        QCOMPARE(interface.warnings.join(u' ').contains(u"-align baseline"_s),
+                 answer == int(Answer::Nobody));
+    }
+
+    void AlignsCells_data()
+    {
+        // The current baseline (that of the other is 2), and the rows with ink, which were 0 and 2.
+        const Test::Rows<int, QByteArray, QString> row;
+        const QString cut = u"Characters cut on the baseline of the current font: 1 (0x0043). They "
+                            "lose up to "_s;
+        row("same", 2, "X_X_", {});
+        row("down", 3, "_X_X", {});
+        row("down, cut", 4, "__X_", cut + u"0 rows of ink at the top and 1 at the bottom."_s);
+        row("up, cut", 1, "_X__", cut + u"1 rows of ink at the top and 0 at the bottom."_s);
+        row("out", 9, "____", cut + u"0 rows of ink at the top and 3 at the bottom."_s);
+    }
+
+    void AlignsCells()
+    {
+        const auto [own, rows, warning] = Test::Row<int, QByteArray, QString>();
+        MergeInterface interface;
+        auto other = MakeFilled("C", 0, FontFormat::Legacy);
+        other->SetBaseline(2);
+        other->FindChar('C')->bitmap->AssignData({});
+        other->FindChar('C')->bitmap->SetPixelIndex(0, 0, 1);
+        other->FindChar('C')->bitmap->SetPixelIndex(0, 2, 1);
+        WriteFont(std::move(other), Path("other.c"));
+        auto font = MakeFilled("A", 0, FontFormat::Legacy);
+        font->SetBaseline(quint8(own));
+        Test::UndoSession session(std::move(font));
+        const auto action = std::make_shared<ActionMergeFont>(session);
+        action->Args().source.path = Path("other.c");
+        action->Args().alignment = MergeAlignment::Baseline;
+        QVERIFY(action->Run());
+        QByteArray seen;
+        for (int y = 0; y < 4; ++y)
+            seen +=
+                session.CurrentFont()->FindChar('C')->bitmap->GetPixelIndex(0, y) != 0 ? 'X' : '_';
+        QCOMPARE(seen, rows);
+        QCOMPARE(interface.warnings.join(u'\n'), warning);
+    }
+
+    void RefusesOffsets()
+    {
+        auto other = MakeFilled("C", 1);
+        other->SetBaseline(200);
+        other->FindChar('C')->info.yPos = 0;
+        WriteFont(std::move(other), Path("other.sif"));
+        Test::UndoSession session(MakeFilled("AB", 0));
+        const QByteArray before = Test::Snapshot(*session.CurrentFont());
+        const auto action = std::make_shared<ActionMergeFont>(session);
+        action->Args().source = Source(Path("other.sif"));
+        action->Args().alignment = MergeAlignment::Baseline;
+        QVERIFY(Test::FailureOf([&] { action->Run(); }).contains(u"the character 0x0043 "_s));
+        QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
     }
 
     void OpeningFiles()

@@ -31,6 +31,10 @@ private Q_SLOTS:
         Write("quote.opt", "-hide\n-save \"a.c\n");
         Write("loop.opt", "@loop.opt\n");
         Write("latin1.opt", "-save caf\xE9.c\n");
+        Write("cut.png", Icon("24").left(200));
+        Write("icon.png", Icon("16"));
+        Write("large.png", Icon("512"));
+        Write("no/chars.h", "");
     }
 
     void StrictRuns_data()
@@ -80,6 +84,46 @@ private Q_SLOTS:
         row("unknown setting", u"-hide @font.opt -set Zoom=3 -save a.c"_s, 1, bad);
         row("no target", u"-hide @font.opt -depfile a.d"_s, 1, bad);
         row("check and save", u"-hide @font.opt -check -save a.c"_s, 1, bad);
+        const QString rest = u" -chars A -save a.c"_s;
+        const auto image = [&](const char* name, const QString& words, const QString& errors) {
+            row(name, u"-hide @font.opt -image "_s + words + rest, 1, errors);
+        };
+        row("image", u"-hide @font.opt -image icon.png 0xE000 -1"_s + rest, 0, QString());
+        image("no image", u"none.png 0xE000"_s, u"none.png: error: Given file does not exist!\n"_s);
+        image("image folder", u"no 0xE000"_s, u"no: error: The file no is a directory.\n"_s);
+        image("image without bytes", u"empty.ttf 0xE000"_s, u"empty.ttf: error: The file"_s);
+        image("image of text", u"de.po 0xE000"_s, u"de.po: error: The file de.po is no PNG"_s);
+        image("cut image", u"cut.png 0xE000"_s, u"cut.png: error: The file cut.png is no PNG"_s);
+        image("large image", u"large.png 0xE000"_s,
+              u"large.png: error: The picture large.png has 512 x 512 pixels;"_s);
+        image("second image", u"icon.png 1 -image icon.png 1"_s,
+              u"icon.png: error: Both icon.png and icon.png give the character 0x0001.\n"_s);
+        image("image in the font", u"icon.png 0x41"_s,
+              u"icon.png: error: Both "_s + Font() + u" and icon.png give the character 0x0041."_s);
+        image("code above", u"icon.png 0x10000"_s, bad + u"The code 0x10000 is not usable:"_s);
+        image("codes", u"icon.png 1-2"_s, bad + u"The code 1-2 is not usable:"_s);
+        image("mapping", u"icon.png 1=2"_s, bad + u"The code 1=2 is not usable:"_s);
+        image("name of an image", u"icon.png 1:a-b"_s, bad + u"The name in 1:a-b is not usable:"_s);
+        image("rows", u"icon.png 1 -256"_s, bad + u"The rows of -image have to be"_s);
+        row("encoding of images",
+            u"-hide FONT -height 9px -format LEG -encoding SJIS -image icon.png 0xE000"_s + rest, 1,
+            u"icon.png: error: The encoding of the font has no U+E000,"_s);
+        image("threshold", u"icon.png 1 -threshold 256"_s, bad + u"The threshold 256 is not"_s);
+        row("threshold alone", u"-hide @font.opt -threshold 9"_s + rest, 2,
+            u"Glyphor: warning: -threshold was not used:"_s);
+        row("nothing to align", u"-hide @font.opt -align baseline"_s + rest, 2,
+            u"Glyphor: warning: -align was not used:"_s);
+        row("header without names", u"-hide @font.opt -header a.h"_s + rest, 2,
+            u"a.h: warning: No character of the font has a name:"_s);
+        row("strict header", u"-werror -hide @font.opt -header a.h"_s + rest, 1, QString());
+        row("kind of header", u"-hide @font.opt -header a.c"_s + rest, 1,
+            bad + u"-header writes a C header: the name a.c"_s);
+        row("header in place of the font", u"-hide @font.opt -header b.h -chars A -save b.h"_s, 1,
+            bad + u"-header and -save can't write the same file b.h."_s);
+        row("unwritable header",
+            u"-hide @font.opt -image icon.png 1 -header none/a.h -chars A -save b.c"_s, 1,
+            u"none/a.h: error: The file none/a.h could not be written"_s);
+        row("check and header", u"-hide @font.opt -check -header a.h"_s, 1, bad);
     }
 
     void StrictRuns()
@@ -210,7 +254,35 @@ private Q_SLOTS:
             QVERIFY2(manual.contains(u"<tr><td><code>%1</code></td>"_s.arg(key)), qPrintable(key));
     }
 
+    void NamesWhatItMade()
+    {
+        // What a map and sources say is said of the opened font alone.
+        QVERIFY(Run(u"-hide @font.opt -chars V -save m.sif"_s).status == 0);
+        const Test::ProgramResult result = Run(
+            u"-hide -strict @font.opt -source FONT 0x1F600=0xE000:Up -image icon.png 0xE001 "
+            "-chars A -merge m.sif REPLACE -name Ui -editchar MOVEU all -header c.h -depfile c.d "
+            "-report c.json"_s);
+        QVERIFY2(!result.errors.contains(u"error"_s), qPrintable(result.errors));
+        const QByteArray header = Test::ReadAll(Path(u"c.h"_s));
+        QVERIFY(header.contains("#define UI_UP         0xE000 /* U+1F600 a */"));
+        QVERIFY(header.contains("#define UI_ICON       0xE001 /* icon.png */"));
+        const QByteArray font = Font().toUtf8();
+        QVERIFY(Test::ReadAll(Path(u"c.d"_s))
+                    .startsWith("c.h c.json: \\\n  font.opt \\\n  " + font + " \\\n  " + font +
+                                " \\\n  icon.png \\\n  m.sif\n"));
+        const QJsonObject report =
+            QJsonDocument::fromJson(Test::ReadAll(Path(u"c.json"_s))).object();
+        QCOMPARE(report[u"outputs"_s][0][u"kind"_s], u"header"_s);
+        QCOMPARE(report[u"inputs"_s][2][u"kind"_s], u"source"_s);
+        QCOMPARE(report[u"inputs"_s][3][u"kind"_s], u"image"_s);
+    }
+
 private:
+    [[nodiscard]] static QByteArray Icon(const char* size)
+    {
+        return Test::ReadAll(QStringLiteral(PROJECT_SOURCES "/packaging/icons/") +
+                             QString::fromUtf8(size) + u".png"_s);
+    }
     [[nodiscard]] static QString Font() { return Test::FontPath("outlines.ttf"); }
     [[nodiscard]] QString Path(const QString& name) const { return folder_.filePath(name); }
 

@@ -191,6 +191,7 @@ private Q_SLOTS:
             row(u"main.c"_s, {u"firmware"_s});
             row(u"de.po"_s, {title, u"firmware"_s});
             row(u"pl.po"_s, {small, title, u"firmware"_s});
+            row(u"thermometer.png"_s, {title, u"firmware"_s});
             if (!UsesCMake(tool)) {
                 row(u"DejaVuSans.ttf"_s, {small, title, u"firmware"_s});
                 continue;
@@ -321,6 +322,7 @@ private Q_SLOTS:
     {
         QCOMPARE(Test::OutputOf(u"gcc"_s, {u"-std=c99"_s, u"-Wall"_s, u"-Wextra"_s,
                                            u"-Wconversion"_s, u"-pedantic"_s, u"-fsyntax-only"_s,
+                                           u"-I"_s + FontFolder(tools_.first()),
                                            QString::fromUtf8(Example) + u"main.c"_s,
                                            QString::fromUtf8(Example) + u"draw.c"_s}),
                  QByteArray());

@@ -1,5 +1,6 @@
 /* Draws texts into a picture, as firmware would onto its display: firmware PICTURE.pgm */
 #include "draw.h"
+#include "Title24_Characters.h"
 
 #include <stdio.h>
 
@@ -35,7 +36,7 @@ int main(int argc, char** argv)
         fprintf(stderr, "usage: %s PICTURE.pgm\n", argv[0]);
         return 1;
     }
-    DrawText(title, 4, 4, "Außen: −5 °C");
+    DrawText(title, 4, 4, TITLE24_THERMOMETER_UTF8 " Außen: −5 °C");
     DrawText(title, 4, 4 + title->LineDistance, "Wewnątrz: 21 °C");
     DrawText(small, 4, 8 + 2 * title->LineDistance, "Speicher voll / Pamięć pełna");
     return WritePicture(argv[1]);

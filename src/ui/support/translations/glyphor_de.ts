@@ -1216,6 +1216,110 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>Kerning-Paare werden gesucht...</translation>
     </message>
     <message>
+        <source>Characters cut on the baseline of the current font: %1 (%2). They lose up to %3 rows of ink at the top and %4 at the bottom.</source>
+        <translation>Auf der Grundlinie der aktuellen Schrift abgeschnittene Zeichen: %1 (%2). Sie verlieren oben bis zu %3 und unten bis zu %4 Zeilen mit gesetzten Pixeln.</translation>
+    </message>
+    <message>
+        <source>Characters that leave the current font&apos;s line on its baseline: %1 (%2), by up to %3 rows above it and %4 below it.</source>
+        <translation>Zeichen, die auf der Grundlinie der aktuellen Schrift deren Zeile verlassen: %1 (%2), oben um bis zu %3 und unten um bis zu %4 Pixelzeilen.</translation>
+    </message>
+    <message>
+        <source>Put the other font&apos;s characters on the current baseline?</source>
+        <translation>Die Zeichen der anderen Schrift auf die aktuelle Grundlinie stellen?</translation>
+    </message>
+    <message>
+        <source>The baselines are %1 pixels apart; -align baseline puts the merged characters on that of the current font.</source>
+        <translation>Die Grundlinien liegen %1 Pixel auseinander; -align baseline stellt die hinzugefügten Zeichen auf die der aktuellen Schrift.</translation>
+    </message>
+    <message>
+        <source>On the baseline of the current font the character 0x%1 would need an offset below -128 or more than 255 rows.</source>
+        <translation>Auf der Grundlinie der aktuellen Schrift bräuchte das Zeichen 0x%1 einen Versatz unter -128 oder mehr als 255 Zeilen.</translation>
+    </message>
+    <message>
+        <source>The encoding of the font has no %1, which the picture %2 is to be.</source>
+        <translation>Die Kodierung der Schrift hat kein %1, zu dem das Bild %2 werden soll.</translation>
+    </message>
+    <message>
+        <source>Picture without ink</source>
+        <translation>Leeres Bild</translation>
+    </message>
+    <message>
+        <source>The picture %1 has no ink, so its character is empty: dark pixels are ink, white and transparent ones are none.</source>
+        <translation>Im Bild %1 ist kein Pixel gesetzt, sein Zeichen ist also leer: Dunkle Pixel sind gesetzt, weiße und durchsichtige nicht.</translation>
+    </message>
+    <message>
+        <source>No names</source>
+        <translation>Keine Namen</translation>
+    </message>
+    <message>
+        <source>No character of the font has a name: the header names those that -map and -source put elsewhere or name, and those of -image.</source>
+        <translation>Kein Zeichen der Schrift hat einen Namen: Die Header-Datei nennt die, denen -map und -source einen anderen Platz oder einen Namen geben, und die von -image.</translation>
+    </message>
+    <message>
+        <source>Saved header file: %1</source>
+        <translation>Header-Datei gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>The font has no characters with names, so it was not saved.</source>
+        <translation>Die Schrift hat keine Zeichen mit Namen, deshalb wurde sie nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The code %1 is not usable: -image takes one up to 0xFFFF, decimal or hexadecimal, and a name behind a colon (e.g. 0xE001:heart).</source>
+        <translation>Der Code %1 ist nicht verwendbar: -image nimmt einen bis 0xFFFF, dezimal oder hexadezimal, und hinter einem Doppelpunkt einen Namen (z. B. 0xE001:heart).</translation>
+    </message>
+    <message>
+        <source>The name in %1 is not usable: names have letters of ASCII, digits and underscores.</source>
+        <translation>Der Name in %1 ist nicht verwendbar: Namen bestehen aus Buchstaben von ASCII, Ziffern und Unterstrichen.</translation>
+    </message>
+    <message>
+        <source>The rows of -image have to be from -%1 to %1.</source>
+        <translation>Die Zeilen von -image müssen von -%1 bis %1 reichen.</translation>
+    </message>
+    <message>
+        <source>The threshold %1 is not usable: -threshold takes 1 to 255.</source>
+        <translation>Der Schwellenwert %1 ist nicht verwendbar: -threshold nimmt 1 bis 255.</translation>
+    </message>
+    <message>
+        <source>-check writes nothing of the font: it can&apos;t be given with -header.</source>
+        <translation>-check schreibt nichts von der Schrift: Es kann nicht zusammen mit -header angegeben werden.</translation>
+    </message>
+    <message>
+        <source>-header and -%1 can&apos;t write the same file %2.</source>
+        <translation>-header und -%1 können nicht dieselbe Datei %2 schreiben.</translation>
+    </message>
+    <message>
+        <source>-align was not used: no font is merged.</source>
+        <translation>-align wurde nicht verwendet: Es wird keine Schrift hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>-threshold was not used: there is no -image.</source>
+        <translation>-threshold wurde nicht verwendet: Es gibt kein -image.</translation>
+    </message>
+    <message>
+        <source>-header writes a C header: the name %1 does not end in .h.</source>
+        <translation>-header schreibt eine C-Header-Datei: Der Name %1 endet nicht auf .h.</translation>
+    </message>
+    <message>
+        <source>Both %1 and %2 give the character 0x%3.</source>
+        <translation>Sowohl %1 als auch %2 geben das Zeichen 0x%3.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no PNG file that can be read: %2.</source>
+        <translation>Die Datei %1 ist keine lesbare PNG-Datei: %2.</translation>
+    </message>
+    <message>
+        <source>The picture %1 has %2 x %3 pixels; a character has 255 x 255 at most.</source>
+        <translation>Das Bild %1 hat %2 x %3 Pixel; ein Zeichen hat höchstens 255 x 255.</translation>
+    </message>
+    <message>
+        <source>The file %1 is larger than any picture of 255 x 255 pixels.</source>
+        <translation>Die Datei %1 ist größer als jedes Bild mit 255 x 255 Pixeln.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no PNG file that can be read: it is cut off.</source>
+        <translation>Die Datei %1 ist keine lesbare PNG-Datei: Sie ist abgeschnitten.</translation>
+    </message>
+    <message>
         <source>The number %1 is not usable: -jobs takes 1 to 256 threads.</source>
         <translation>Die Zahl %1 ist nicht verwendbar: -jobs nimmt 1 bis 256 Threads.</translation>
     </message>
