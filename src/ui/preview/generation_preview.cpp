@@ -36,7 +36,9 @@ public:
         sinceTurn_.start();
     }
 
-    void warning(const QString&, const QString& text) override { warnings.append(text); }
+    void warning(const QString&, const QString& text) override { notes.append(text); }
+    void Lacking(const QString& text) override { notes.append(text); }
+    void Hint(const QString& text) override { notes.append(text); }
 
     bool ProgressChanged(const QString&, int, int) override
     {
@@ -48,7 +50,7 @@ public:
         return !isStopped_();
     }
 
-    QStringList warnings;
+    QStringList notes;
 
 private:
     InterfaceScope scope_;
@@ -61,13 +63,19 @@ private:
 GenerationPreview::GenerationPreview(QWidget* parent)
     : QWidget(parent),
       strip_(new TextStrip),
+      lightStrip_(new TextStrip),
       field_(new QLineEdit),
       sizes_(PlainLabel()),
       notes_(PlainLabel())
 {
-    QScrollArea* const area = ScrollAreaOf(*strip_);
+    QWidget* const strips = Column({strip_, lightStrip_}, nullptr);
+    strips->layout()->setSpacing(0);
+    QScrollArea* const area = ScrollAreaOf(*strips);
     area->setMinimumSize(300, 130);
-    strip_->SetZoom(2);
+    for (TextStrip* const strip : {strip_, lightStrip_})
+        strip->SetZoom(2);
+    lightStrip_->SetColours(Qt::white, Qt::black);
+    lightStrip_->setAccessibleName(tr("Sample, light on dark"));
     notes_->setWordWrap(true);
     sizes_->setWordWrap(true);
     auto* const layout = new QVBoxLayout(this);
@@ -81,6 +89,7 @@ GenerationPreview::GenerationPreview(QWidget* parent)
     connect(&timer_, &QTimer::timeout, this, &GenerationPreview::RenderFont);
     connect(field_, &QLineEdit::textChanged, this, [this](const QString& text) {
         strip_->SetText(text);
+        lightStrip_->SetText(text);
         if (!args_.path.isEmpty())
             ShowFor(args_, missing_);
     });
@@ -88,7 +97,7 @@ GenerationPreview::GenerationPreview(QWidget* parent)
 
 GenerationPreview::~GenerationPreview()
 {
-    strip_->ShowFont(nullptr);
+    ShowFont(nullptr);
 }
 
 QString GenerationPreview::Sample() const
@@ -127,6 +136,7 @@ void GenerationPreview::Stop()
 void GenerationPreview::ShowFont(std::unique_ptr<Font> font)
 {
     strip_->ShowFont(font.get());
+    lightStrip_->ShowFont(font.get());
     font_ = std::move(font);
 }
 
@@ -178,7 +188,7 @@ void GenerationPreview::RenderAll()
                         .arg(QString::number(all->Metrics().height), QString::number(EmSize(args_)))
                         .arg(count)
                         .arg(FlashSize(*all)));
-    QStringList notes = interface.warnings;
+    QStringList notes = interface.notes;
     if (count == 0)
         notes.append(tr("The font has none of these characters."));
     else if (const QString missing = MissingFrom(*all); !missing.isEmpty())

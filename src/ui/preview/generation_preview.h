@@ -51,6 +51,7 @@ private:
     void ShowFont(std::unique_ptr<Font> font);
 
     TextStrip* strip_;
+    TextStrip* lightStrip_; // on dark, where gamma works the other way round
     QLineEdit* field_;
     QLabel* sizes_;
     QLabel* notes_;

@@ -1003,6 +1003,146 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Characters that the font does not have</source>
         <translation>Zeichen, die der Schrift fehlen</translation>
     </message>
+    <message>
+        <source>The file %1 can&apos;t be a source of characters: -source takes TTF, TTC and BDF files.</source>
+        <translation>Die Datei %1 kann keine Zeichen liefern: -source nimmt TTF-, TTC- und BDF-Dateien.</translation>
+    </message>
+    <message>
+        <source>The source %1 needs a height, behind its mapping or with -height.</source>
+        <translation>Die Quelle %1 braucht eine Höhe, hinter ihrer Zuordnung oder mit -height.</translation>
+    </message>
+    <message>
+        <source>The gamma %1 is not usable: -gamma takes a number from 0.1 to 10 (e.g. 1.4).</source>
+        <translation>Das Gamma %1 ist nicht brauchbar: -gamma nimmt eine Zahl von 0.1 bis 10 (z. B. 1.4).</translation>
+    </message>
+    <message>
+        <source>The font height %1 is not usable: em: takes a number from 1/64 to %2, followed by px or pt (e.g. em:16.5px).</source>
+        <translation>Die Schrifthöhe %1 ist nicht brauchbar: em: nimmt eine Zahl von 1/64 bis %2, gefolgt von px oder pt (z. B. em:16.5px).</translation>
+    </message>
+    <message>
+        <source>The mapping %1 is not usable: mappings are codes or ranges, decimal or hexadecimal, with = and the code where they go (e.g. 0x20-0x7E, 0xF0000-0xF00FF=0xE100 or 0xF02D1=0xE001:heart).</source>
+        <translation>Die Zuordnung %1 ist nicht brauchbar: Zuordnungen sind Codes oder Bereiche, dezimal oder hexadezimal, mit = und dem Code, an den sie kommen (z. B. 0x20-0x7E, 0xF0000-0xF00FF=0xE100 oder 0xF02D1=0xE001:heart).</translation>
+    </message>
+    <message>
+        <source>The mapping %1 has more codes than a font.</source>
+        <translation>Die Zuordnung %1 hat mehr Codes als eine Schrift.</translation>
+    </message>
+    <message>
+        <source>The mapping %1 goes beyond 0xFFFF, where fonts have no characters: say where they go, e.g. %2=%3.</source>
+        <translation>Die Zuordnung %1 geht über 0xFFFF hinaus, wo Schriften keine Zeichen haben: Es fehlt, wohin sie kommen, z. B. %2=%3.</translation>
+    </message>
+    <message>
+        <source>The mapping %1 is not usable: a name belongs to a single code, and has letters of ASCII, digits and underscores.</source>
+        <translation>Die Zuordnung %1 ist nicht brauchbar: Ein Name gehört zu einem einzelnen Code und hat ASCII-Buchstaben, Ziffern und Unterstriche.</translation>
+    </message>
+    <message>
+        <source>symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>one of the font&apos;s own</source>
+        <translation>eine eigene der Schrift</translation>
+    </message>
+    <message>
+        <source>platform %1, encoding %2</source>
+        <translation>Plattform %1, Kodierung %2</translation>
+    </message>
+    <message>
+        <source>%1: it has none, so nothing tells which glyph is which character.</source>
+        <translation>%1: Er hat keine, also sagt nichts, welche Glyphe welches Zeichen ist.</translation>
+    </message>
+    <message>
+        <source>%1: it has %2. -charmap chooses one by its index.</source>
+        <translation>%1: Er hat %2. -charmap wählt eine nach ihrem Index.</translation>
+    </message>
+    <message>
+        <source>The face has no usable charmap with the index %1</source>
+        <translation>Der Schnitt hat keine brauchbare Zeichentabelle mit dem Index %1</translation>
+    </message>
+    <message>
+        <source>The face has no charmap of Unicode</source>
+        <translation>Der Schnitt hat keine Zeichentabelle für Unicode</translation>
+    </message>
+    <message>
+        <source>%1 from %2 to %3</source>
+        <translation>%1 von %2 bis %3</translation>
+    </message>
+    <message>
+        <source>The face has no position %1 on its axes, which are: %2.</source>
+        <translation>Der Schnitt hat die Stelle %1 nicht auf seinen Achsen: %2.</translation>
+    </message>
+    <message>
+        <source>The face has no axes: it is not variable, and -axes can&apos;t be used.</source>
+        <translation>Der Schnitt hat keine Achsen: Er ist nicht variabel, und -axes ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The axes %1 are not usable: -axes takes tags of four letters with their values (e.g. wght=550,wdth=87).</source>
+        <translation>Die Achsen %1 sind nicht brauchbar: -axes nimmt Kürzel aus vier Buchstaben mit ihren Werten (z. B. wght=550,wdth=87).</translation>
+    </message>
+    <message>
+        <source>The axes %1 name %2 twice.</source>
+        <translation>Die Achsen %1 nennen %2 zweimal.</translation>
+    </message>
+    <message>
+        <source>The ink of all characters needs a line of %1 rows; a font has 255 at most.</source>
+        <translation>Alle Zeichen ganz zu zeigen braucht eine Zeile aus %1 Pixelreihen; eine Schrift hat höchstens 255.</translation>
+    </message>
+    <message>
+        <source>Both %1 and %2 give the character 0x%3. A ? in front of a mapping has it fill gaps only.</source>
+        <translation>Sowohl %1 als auch %2 liefert das Zeichen 0x%3. Mit einem ? vor einer Zuordnung füllt sie nur Lücken.</translation>
+    </message>
+    <message>
+        <source>Characters above U+FFFF, which were left out: %1. -map brings them in, e.g. -map 0x%2-0x%3=0x%4.</source>
+        <translation>Ausgelassene Zeichen oberhalb von U+FFFF: %1. -map bringt sie hinein, z. B. -map 0x%2-0x%3=0x%4.</translation>
+    </message>
+    <message>
+        <source>Characters cut</source>
+        <translation>Abgeschnittene Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters cut: %1 (%2). They need up to %3 rows above the font&apos;s line and %4 below it; -fit makes the line high enough.</source>
+        <translation>Abgeschnittene Zeichen: %1 (%2). Sie brauchen bis zu %3 Pixelreihen über der Zeile der Schrift und %4 darunter; -fit macht die Zeile hoch genug.</translation>
+    </message>
+    <message>
+        <source>Characters leave the line</source>
+        <translation>Zeichen verlassen die Zeile</translation>
+    </message>
+    <message>
+        <source>Characters of %1 that leave the font&apos;s line: %2 (%3), by up to %4 rows above it and %5 below it; -fit makes the line high enough.</source>
+        <translation>Zeichen aus %1, die die Zeile der Schrift verlassen: %2 (%3), um bis zu %4 Pixelreihen darüber und %5 darunter; -fit macht die Zeile hoch genug.</translation>
+    </message>
+    <message>
+        <source>Characters moved</source>
+        <translation>Verschobene Zeichen</translation>
+    </message>
+    <message>
+        <source>Characters that stand left of their origin: %1 (%2). The cells of legacy fonts can&apos;t show them there.</source>
+        <translation>Zeichen, die links von ihrem Ursprung stehen: %1 (%2). Die Zellen von Legacy-Schriften können sie dort nicht zeigen.</translation>
+    </message>
+    <message>
+        <source>%1 is not in %2</source>
+        <translation>%1 ist nicht in %2</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 characters %3 to %4 are not in %5: %6</source>
+        <translation>%1 der %2 Zeichen %3 bis %4 sind nicht in %5: %6</translation>
+    </message>
+    <message>
+        <source>Measuring font...</source>
+        <translation>Schrift wird vermessen...</translation>
+    </message>
+    <message>
+        <source>A height of %1 needs the letter %2, which the face does not have. Give another height, e.g. em:16px.</source>
+        <translation>Eine Höhe von %1 braucht den Buchstaben %2, den der Schnitt nicht hat. Bitte eine andere Höhe angeben, z. B. em:16px.</translation>
+    </message>
+    <message>
+        <source>No size of the face gives the height %1.</source>
+        <translation>Keine Größe des Schnitts ergibt die Höhe %1.</translation>
+    </message>
+    <message>
+        <source>The nearest that can be had: %1 px.</source>
+        <translation>Die nächsten möglichen: %1 px.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1412,6 +1552,30 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <source>The quick brown fox 0123456789</source>
         <translation>Zwölf Boxkämpfer jagen 0123456789</translation>
     </message>
+    <message>
+        <source>Cop&amp;y as command line</source>
+        <translation>Als Befehl&amp;szeile kopieren</translation>
+    </message>
+    <message>
+        <source>Copies a line for a shell that makes this font without a window.</source>
+        <translation>Kopiert eine Zeile für eine Shell, die diese Schrift ohne Fenster erzeugt.</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation type="unfinished">Schrift</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Mapping</source>
+        <translation>Zuordnung</translation>
+    </message>
+    <message>
+        <source>The line is in the clipboard.</source>
+        <translation>Die Zeile ist in der Zwischenablage.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::FontSizeBox</name>
@@ -1430,6 +1594,34 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Height</source>
         <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>of the box</source>
+        <translation>des Rahmens</translation>
+    </message>
+    <message>
+        <source>of capitals</source>
+        <translation>der Versalien</translation>
+    </message>
+    <message>
+        <source>of small letters</source>
+        <translation>der Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>of the line</source>
+        <translation>der Zeile</translation>
+    </message>
+    <message>
+        <source>of the em</source>
+        <translation>des Gevierts</translation>
+    </message>
+    <message>
+        <source>What has this height: the box around all characters, the letter H, the letter x, the line of the font, or the em of the face.</source>
+        <translation>Was diese Höhe hat: der Rahmen um alle Zeichen, der Buchstabe H, der Buchstabe x, die Zeile der Schrift oder das Geviert des Schnitts.</translation>
+    </message>
+    <message>
+        <source>What the height is the height of</source>
+        <translation>Wovon die Höhe ist</translation>
     </message>
 </context>
 <context>
@@ -1491,6 +1683,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Not in the font: %1</source>
         <translation>Nicht in der Schrift: %1</translation>
+    </message>
+    <message>
+        <source>Sample, light on dark</source>
+        <translation>Probe, hell auf dunkel</translation>
     </message>
 </context>
 <context>
@@ -1837,6 +2033,151 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Stop the work (Esc)</source>
         <translation>Die Arbeit abbrechen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::RenderingEntries</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep all ink within the line</source>
+        <translation>Zeile so hoch wie &amp;alle Zeichen</translation>
+    </message>
+    <message>
+        <source>As the font wants it</source>
+        <translation>Wie von der Schrift vorgesehen</translation>
+    </message>
+    <message>
+        <source>Stems of whole pixels</source>
+        <translation>Striche aus ganzen Pixeln</translation>
+    </message>
+    <message>
+        <source>Vertically alone</source>
+        <translation>Nur senkrecht</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>How outlines are fitted to the pixels.</source>
+        <translation>Wie Umrisse an die Pixel angepasst werden.</translation>
+    </message>
+    <message>
+        <source>Above 1 the edges of strokes are darker, below 1 lighter. For formats with 2 or 4 bits per pixel.</source>
+        <translation>Über 1 sind die Ränder der Striche dunkler, unter 1 heller. Für Formate mit 2 oder 4 Bit je Pixel.</translation>
+    </message>
+    <message>
+        <source>The font gets as high as its highest and lowest characters need.</source>
+        <translation>Die Schrift wird so hoch, wie ihre höchsten und tiefsten Zeichen es brauchen.</translation>
+    </message>
+    <message>
+        <source>Hi&amp;nting:</source>
+        <translation>Hi&amp;nting:</translation>
+    </message>
+    <message>
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gamma:</translation>
+    </message>
+    <message>
+        <source>  (%1 to %2)</source>
+        <translation>  (%1 bis %2)</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::SourceDialog</name>
+    <message>
+        <source>&amp;Own height:</source>
+        <translation>&amp;Eigene Höhe:</translation>
+    </message>
+    <message>
+        <source>Source of characters</source>
+        <translation>Quelle von Zeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message>
+        <source>Codes or ranges, with = and the code where they go; behind a ? those that only fill gaps.</source>
+        <translation>Codes oder Bereiche, mit = und dem Code, an den sie kommen; hinter einem ? die, die nur Lücken füllen.</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;Datei:</translation>
+    </message>
+    <message>
+        <source>&amp;Characters:</source>
+        <translation>&amp;Zeichen:</translation>
+    </message>
+    <message>
+        <source>Font files (%1)</source>
+        <translation>Schriftdateien (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::SourceEntries</name>
+    <message>
+        <source>every character to its own code</source>
+        <translation>jedes Zeichen an seinen eigenen Code</translation>
+    </message>
+    <message>
+        <source>Which characters of the file to take, and where they go: codes or ranges, decimal or hexadecimal, with = and the code where the first one goes (e.g. 0x20-0x7E, 0xF02D1=0xE001).</source>
+        <translation>Welche Zeichen der Datei genommen werden und wohin sie kommen: Codes oder Bereiche, dezimal oder hexadezimal, mit = und dem Code, an den das erste kommt (z. B. 0x20-0x7E, 0xF02D1=0xE001).</translation>
+    </message>
+    <message>
+        <source>The table of the face that tells its codes.</source>
+        <translation>Die Tabelle des Schnitts, die seine Codes nennt.</translation>
+    </message>
+    <message>
+        <source>&amp;Charmap:</source>
+        <translation>&amp;Zeichentabelle:</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping:</source>
+        <translation>Zuo&amp;rdnung:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation type="unfinished">Zeichen</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation type="unfinished">Höhe</translation>
+    </message>
+    <message>
+        <source>Characters of &amp;other files:</source>
+        <translation>Zeichen &amp;weiterer Dateien:</translation>
+    </message>
+    <message>
+        <source>A&amp;dd...</source>
+        <translation>H&amp;inzufügen...</translation>
+    </message>
+    <message>
+        <source>Edi&amp;t...</source>
+        <translation>&amp;Bearbeiten...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>as above</source>
+        <translation>wie oben</translation>
+    </message>
+    <message>
+        <source>The one of Unicode</source>
+        <translation>Die von Unicode</translation>
     </message>
 </context>
 <context>
