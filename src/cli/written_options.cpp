@@ -144,8 +144,8 @@ QStringList PreferenceWords()
     Settings& settings = Settings::Instance();
     QStringList words = {NameOf(OptionId::Defaults)};
     for (const Preference* const preference : std::initializer_list<const Preference*>{
-             &settings.useIncludedBitmaps, &settings.useSysLineEndings, &settings.lineEndings,
-             &settings.writePaths}) {
+             &settings.useIncludedBitmaps, &settings.logActions, &settings.writePaths,
+             &settings.useSysLineEndings, &settings.lineEndings}) {
         if (!preference->IsDefault())
             words += {NameOf(OptionId::Set),
                       preference->Key() + u'=' + preference->Current().toString()};
