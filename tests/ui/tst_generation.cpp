@@ -151,6 +151,27 @@ private Q_SLOTS:
         QCOMPARE(Ok(dialog)->isEnabled(), !note.contains(u"usable"_s));
     }
 
+    // The sample comes before the font, and needs nothing but its own characters.
+    void SampleShowsWhatIsMade()
+    {
+        ActionOpenFontArgs args = DejaVu();
+        RenderAt({16}, args);
+        args.render.fitsInk = true;
+        args.selection.emplace().Set('g', true);
+        args.sources = {{QStringLiteral(SYSTEM_FONTS "/DejaVuSansMono.ttf"),
+                         ParseCharacterMap(u"0x41=0xC0,0x4E00-0x9FFF=0x4E00"_s), FontSize{30}}};
+        GenerationPreview preview;
+        preview.SetSample(u"g\u00C0"_s);
+        QSignalSpy finished(&preview, &GenerationPreview::Finished);
+        preview.ShowFor(args, MissingCharacters::Ignored);
+        QVERIFY(finished.wait(10000));
+        const std::unique_ptr<Font> font = ReadFont(args);
+        QCOMPARE(preview.SampleFont()->Metrics().height, font->Metrics().height);
+        for (const quint16 code : {quint16('g'), quint16(0xC0)})
+            QCOMPARE(preview.SampleFont()->FindChar(code)->bitmap->DataAsList(),
+                     font->FindChar(code)->bitmap->DataAsList());
+    }
+
     void RenderingIsRemembered()
     {
         {

@@ -58,6 +58,24 @@ private:
     QElapsedTimer sinceTurn_;
 };
 
+// Sources give what their mappings name, whatever is selected; so here it is only what shows.
+CharacterMap PartOf(const CharacterMap& map, const CodeSet& shown)
+{
+    CharacterMap part;
+    for (const CodeMapping& mapping : map) {
+        if (mapping.onlyMissing) {
+            part.push_back(mapping);
+            continue;
+        }
+        for (const quint16 code : shown) {
+            const char32_t faceCode = mapping.first + (code - mapping.target);
+            if (code >= mapping.target && faceCode <= mapping.last)
+                part.push_back({faceCode, faceCode, code, false, mapping.name});
+        }
+    }
+    return part;
+}
+
 } // namespace
 
 GenerationPreview::GenerationPreview(QWidget* parent)
@@ -169,6 +187,8 @@ void GenerationPreview::RenderSample()
     CodeSet codes;
     for (const QChar character : field_->text())
         codes.Set(character.unicode(), true);
+    for (FontSource& source : args.sources)
+        source.map = PartOf(source.map, codes);
     if (args.selection)
         codes &= *args.selection;
     args.selection = codes;
@@ -181,7 +201,7 @@ void GenerationPreview::RenderSample()
 void GenerationPreview::RenderAll()
 {
     PreviewInterface interface([this] { return isStale_; });
-    const std::unique_ptr<Font> all = ReadFont(args_);
+    std::unique_ptr<Font> all = ReadFont(args_);
     int count = 0;
     all->ForEachEnabled([&count](quint16, const Character&) { ++count; });
     sizes_->setText(tr("Line height: %1 px, em size: %2 px, characters: %L3, flash: %L4 bytes")
@@ -194,6 +214,7 @@ void GenerationPreview::RenderAll()
     else if (const QString missing = MissingFrom(*all); !missing.isEmpty())
         notes.append(tr("Not in the font: %1").arg(missing));
     notes_->setText(notes.join(u'\n'));
+    ShowFont(std::move(all)); // its line may be higher than that of the sample
 }
 
 // The first ones of the selected characters that did not come out.

@@ -37,7 +37,8 @@ public:
     [[nodiscard]] QString Sample() const;
     void SetSample(const QString& sample);
 
-    // The font of the sample; null where there is none.
+    // The font that shows: first with the characters of the sample, then all of it. Null where
+    // there is none.
     [[nodiscard]] const Font* SampleFont() const { return font_.get(); }
 
 Q_SIGNALS:
