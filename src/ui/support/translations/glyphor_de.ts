@@ -1562,7 +1562,7 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished">Schrift</translation>
+        <translation>Schrift</translation>
     </message>
     <message>
         <source>Rendering</source>
@@ -2149,11 +2149,11 @@ Was soll mit ihnen geschehen?</translation>
     </message>
     <message>
         <source>Characters</source>
-        <translation type="unfinished">Zeichen</translation>
+        <translation>Zeichen</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished">Höhe</translation>
+        <translation>Höhe</translation>
     </message>
     <message>
         <source>Characters of &amp;other files:</source>
