@@ -7,6 +7,7 @@
 #include <QIODevice>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <tuple>
 
@@ -24,21 +25,32 @@ struct UnreadRecord
     bool operator==(const UnreadRecord&) const { return true; }
 };
 
+// A height with its unit and what it is the height of.
+struct SizeData
+{
+    qint32 value = 16;
+    bool inPoints = false;
+    qint32 unit = 0;
+    qint32 sixtyFourths = 0;
+
+    bool operator==(const SizeData&) const = default;
+};
+
 struct FontDialogData
 {
-    static constexpr quint32 Layout = 1;
+    static constexpr quint32 Layout = 2;
 
     QByteArray geometry;
     QString family;
     QString style;
-    qint32 size = 16;
-    bool inPoints = false;
+    SizeData size;
     QString script; // empty for all
     UnreadRecord unread = {};
 
     [[nodiscard]] auto Fields()
     {
-        return std::tie(geometry, family, style, size, inPoints, script);
+        return std::tie(geometry, family, style, size.value, size.inPoints, size.unit,
+                        size.sixtyFourths, script);
     }
     bool operator==(const FontDialogData&) const = default;
 };
@@ -48,11 +60,10 @@ enum class CharacterChoice : qint32 { All = 0, Blocks = 1, Pattern = 2, Text = 3
 
 struct FontGenerationDialogData
 {
-    static constexpr quint32 Layout = 1;
+    static constexpr quint32 Layout = 2;
 
     QByteArray geometry;
-    qint32 size = 16;
-    bool inPoints = false;
+    SizeData size;
     qint32 format = 3; // standard, 1bpp
     qint32 encoding = 0;
     bool bold = false;
@@ -62,12 +73,26 @@ struct FontGenerationDialogData
     QString patternPath;
     QString text;
     QString sample;
+    bool fitsInk = false;
+    qint32 hinting = 0;
+    double gamma = 1;
+
+    // Of one face of one file, and for no other.
+    QString path;
+    qint32 face = 0;
+    QString axes; // as on the command line, like the others
+    QString features;
+    qint32 charmap = -1;
+    QString map;
+    QStringList sources; // for each the path, the mapping, and a height or nothing
+
     UnreadRecord unread = {};
 
     [[nodiscard]] auto Fields()
     {
-        return std::tie(geometry, size, inPoints, format, encoding, bold, italic, characters,
-                        blocks, patternPath, text, sample);
+        return std::tie(geometry, size.value, size.inPoints, size.unit, size.sixtyFourths, format,
+                        encoding, bold, italic, characters, blocks, patternPath, text, sample,
+                        fitsInk, hinting, gamma, path, face, axes, features, charmap, map, sources);
     }
     bool operator==(const FontGenerationDialogData&) const = default;
 };

@@ -59,6 +59,7 @@ class Preference : public OptionBase
 {
 public:
     virtual void UseDefault() = 0;
+    [[nodiscard]] virtual bool IsDefault() const = 0;
 
     // False where the text is no value of the setting.
     virtual bool UseText(const QString& text) = 0;
@@ -100,6 +101,7 @@ public:
     }
 
     void UseDefault() override { variable_ = default_; }
+    [[nodiscard]] bool IsDefault() const override { return variable_ == default_; }
     bool UseText(const QString& text) override
     {
         return Use(ValueOfText(text, static_cast<const Value*>(nullptr)));

@@ -4,6 +4,8 @@
 #include "app/engine_texts.h"
 #include "app/shown_text.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace Glyphor {
@@ -39,9 +41,8 @@ std::optional<FontFeature> FeatureOf(const QString& text)
 
 } // namespace
 
-std::vector<FontFeature> ParseFeatures(const OptionOccurrence& occurrence)
+std::vector<FontFeature> ParseFeatures(const QString& list)
 {
-    const QString& list = occurrence.Get<QString>(0);
     std::vector<FontFeature> features;
     for (const QString& text : list.split(u',')) {
         const std::optional<FontFeature> feature = FeatureOf(text);
@@ -49,10 +50,21 @@ std::vector<FontFeature> ParseFeatures(const OptionOccurrence& occurrence)
             throw CriticalException(
                 Engine::tr("The features %1 are not usable: the option is %2, with tags of four "
                            "letters or digits (e.g. tnum,zero,ss01) and numbers from 1 to %3.")
-                    .arg(Shown(list), occurrence.option->Form(), QString::number(MaxAlternate)));
+                    .arg(Shown(list), OptionOf(OptionId::Features).Form(),
+                         QString::number(MaxAlternate)));
         features.push_back(*feature);
     }
     return features;
+}
+
+QString TextOf(const std::vector<FontFeature>& features)
+{
+    QStringList texts;
+    for (const FontFeature& feature : features)
+        texts.append(feature.alternate == 1
+                         ? feature.tag
+                         : QStringLiteral("%1=%2").arg(feature.tag).arg(feature.alternate));
+    return texts.join(u',');
 }
 
 } // namespace Glyphor

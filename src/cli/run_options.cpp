@@ -136,7 +136,7 @@ void ReadRendering(const OptionOccurrence& occurrence, RunOptions& options)
         options.open.render.axes = ParseAxes(occurrence.Get<QString>(0));
         break;
     case OptionId::Features:
-        options.open.render.features = ParseFeatures(occurrence);
+        options.open.render.features = ParseFeatures(occurrence.Get<QString>(0));
         break;
     case OptionId::Map:
         options.open.render.map = ParseCharacterMap(occurrence.Get<QString>(0));

@@ -5,6 +5,9 @@
 
 #include FT_TRUETYPE_IDS_H
 
+#include <algorithm>
+#include <span>
+
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
@@ -63,6 +66,14 @@ QStringList CharmapNames(FT_Face face)
     for (FT_Int index = 0; index < face->num_charmaps; ++index)
         names.append(u"%1: %2"_s.arg(QString::number(index), CharmapName(*face->charmaps[index])));
     return names;
+}
+
+bool HasOtherCharmaps(FT_Face face)
+{
+    const std::span charmaps(face->charmaps, std::size_t(std::max(0, face->num_charmaps)));
+    return !std::ranges::all_of(charmaps, [](const FT_CharMapRec* charmap) {
+        return charmap->encoding == FT_ENCODING_UNICODE;
+    });
 }
 
 void SelectCharmap(FT_Face face, int index)

@@ -15,4 +15,7 @@ void SelectCharmap(FT_Face face, int index);
 // Each charmap of the face with its index, "0: Mac Roman".
 [[nodiscard]] QStringList CharmapNames(FT_Face face);
 
+// Whether the face has charmaps that do not speak Unicode.
+[[nodiscard]] bool HasOtherCharmaps(FT_Face face);
+
 } // namespace Glyphor

@@ -131,10 +131,18 @@ std::vector<FaceAxis> AxesOf(FT_Face face)
 {
     std::vector<FaceAxis> axes;
     const Variations variations = VariationsOf(face);
-    for (FT_UInt index = 0; variations && index < variations->num_axis; ++index) {
+    if (!variations)
+        return axes;
+    std::vector<FT_Fixed> places(variations->num_axis);
+    const bool hasPlaces =
+        FT_Get_Var_Design_Coordinates(face, FT_UInt(places.size()), places.data()) == 0;
+    const QHash<FT_UInt, QString> names = AllNames(face);
+    for (FT_UInt index = 0; index < variations->num_axis; ++index) {
         const FT_Var_Axis& axis = variations->axis[index];
         axes.push_back({TagText(axis.tag), double(axis.minimum) / FixedOne,
-                        double(axis.def) / FixedOne, double(axis.maximum) / FixedOne});
+                        double(axis.def) / FixedOne, double(axis.maximum) / FixedOne,
+                        double(hasPlaces ? places[index] : axis.def) / FixedOne,
+                        names.value(axis.strid)});
     }
     return axes;
 }

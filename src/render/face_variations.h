@@ -18,6 +18,10 @@ struct FaceAxis
     double minimum = 0;
     double standard = 0;
     double maximum = 0;
+    double place = 0;  // where the face stands
+    QString name = {}; // empty where it can't be read
+
+    bool operator==(const FaceAxis&) const = default;
 };
 
 struct NamedInstance;

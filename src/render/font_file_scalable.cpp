@@ -54,6 +54,13 @@ void FontFileScalable::SetUp()
     SetFaceSize(face_, options_);
 }
 
+FaceTraits FontFileScalable::Traits() const
+{
+    if (!face_.IsOpen())
+        return {};
+    return {AxesOf(face_.Handle()), CharmapNames(face_.Handle()), HasOtherCharmaps(face_.Handle())};
+}
+
 int FontFileScalable::EmSize()
 {
     SetUp();
@@ -243,6 +250,13 @@ std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
     if (FileTypeOf(path) == FileType::TrueTypeCollection)
         return std::make_unique<FontFileTTC>(path, options);
     return std::make_unique<FontFileTTF>(path, options);
+}
+
+FaceTraits TraitsOf(const QString& path, int faceIndex)
+{
+    RenderOptions options;
+    options.faceIndex = faceIndex;
+    return MakeScalableFontFile(path, options)->Traits();
 }
 
 QStringList FaceNames(const QString& path)

@@ -8,12 +8,23 @@
 
 namespace Glyphor {
 
+// What there is to choose of a face.
+struct FaceTraits
+{
+    std::vector<FaceAxis> axes;
+    QStringList charmaps;          // "0: Mac Roman"
+    bool hasOtherCharmaps = false; // than those of Unicode
+};
+
 // A scalable font file, rendered at one size into a font of one format. Read only.
 class FontFileScalable : public FontFileFT
 {
 public:
     // Empty where the face could be opened.
     [[nodiscard]] QString OpenFault() const { return face_.OpenFault(); }
+
+    // Nothing where the face could not be opened.
+    [[nodiscard]] FaceTraits Traits() const;
 
     // Of the face at the size it is rendered at, in pixels. Throws as Read() does.
     [[nodiscard]] int EmSize();
@@ -88,6 +99,9 @@ private:
 // The file object of the kind that the name tells.
 [[nodiscard]] std::unique_ptr<FontFileScalable> MakeScalableFontFile(const QString& path,
                                                                      const RenderOptions& options);
+
+// Of a face or named instance of the file; nothing where it can't be opened.
+[[nodiscard]] FaceTraits TraitsOf(const QString& path, int faceIndex);
 
 // The faces or named instances of a file by name, in the order of their indices; empty where a name
 // can't be read. Nothing where the file can't be opened.

@@ -67,7 +67,7 @@ private Q_SLOTS:
         const auto [text, features] = Test::Row<QString, std::vector<FontFeature>>();
         const OptionOccurrence use{&OptionOf(OptionId::Features), {text}};
         try {
-            QCOMPARE(ParseFeatures(use), features);
+            QCOMPARE(ParseFeatures(use.Get<QString>(0)), features);
         } catch (const CriticalException& error) {
             QVERIFY(features.empty());
             QVERIFY(error.Text().contains(OptionOf(OptionId::Features).Form()));

@@ -6,6 +6,7 @@
 #include "render/font_database.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
+#include "ui/dialog_fixture.h"
 #include "ui/dialogs/code_dialogs.h"
 #include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
@@ -13,6 +14,7 @@
 #include "ui/dialogs/format_box.h"
 #include "ui/dialogs/merge_mode_dialog.h"
 #include "ui/dialogs/preferences_dialog.h"
+#include "ui/dialogs/source_entries.h"
 #include "ui/preview/generation_preview.h"
 #include "ui/support/application.h"
 #include "ui/window/info_panel.h"
@@ -20,6 +22,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -28,7 +31,6 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QSpinBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -36,28 +38,10 @@
 
 namespace Glyphor {
 
+using Test::Labelled;
+using Test::Ok;
+
 namespace {
-
-QPushButton* Ok(const QDialog& dialog)
-{
-    return dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-}
-
-// The widget of a kind whose label or own text has these words.
-template <typename Widget>
-Widget* Labelled(const QDialog& dialog, const QString& text)
-{
-    for (QLabel* const label : dialog.findChildren<QLabel*>()) {
-        if (label->text().remove(u'&') == text && label->buddy() != nullptr)
-            return qobject_cast<Widget*>(label->buddy());
-    }
-    for (Widget* const widget : dialog.findChildren<Widget*>()) {
-        if (widget->property("text").toString().remove(u'&') == text ||
-            widget->accessibleName() == text)
-            return widget;
-    }
-    return nullptr;
-}
 
 QStringList Texts(const QListWidget& list)
 {
@@ -168,8 +152,9 @@ private Q_SLOTS:
         const FontGenerationDialog generation(Outlines(), {}, nullptr);
         const FontDialog font(nullptr);
         const EnableRangeDialog range(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
+        const SourceDialog source({}, nullptr);
         for (const QDialog* const dialog :
-             std::initializer_list<const QDialog*>{&generation, &font, &range}) {
+             std::initializer_list<const QDialog*>{&generation, &font, &range, &source}) {
             QStringList keys;
             for (const QWidget* const widget : dialog->findChildren<QWidget*>()) {
                 const QString text = widget->property("text").toString();
@@ -322,7 +307,7 @@ private Q_SLOTS:
         {
             FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
             dialog.show();
-            auto* const size = dialog.findChild<QSpinBox*>();
+            auto* const size = Labelled<QDoubleSpinBox>(dialog, u"Height"_s);
             QVERIFY(size->hasFocus() || !dialog.isActiveWindow());
             size->setValue(23);
             dialog.findChild<FormatBox*>()->SetFormat(FontFormat::AA2);
@@ -428,7 +413,7 @@ private Q_SLOTS:
             styles->setCurrentItem(styles->topLevelItem(1));
             QCOMPARE(styles->currentItem()->text(1), u"700"_s);
             QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
-            dialog.findChild<QSpinBox*>()->setValue(30);
+            dialog.findChild<QDoubleSpinBox*>()->setValue(30);
             auto* const scripts = Labelled<QComboBox>(dialog, u"Script:"_s);
             scripts->setCurrentText(u"Hiragana"_s);
             QCOMPARE(families->count(), 0);

@@ -5,6 +5,7 @@
 #include "files/font_file_c.h"
 #include "support/test_main.h"
 #include "ui/dialogs/font_generation_dialog.h"
+#include "ui/dialogs/font_size_box.h"
 #include "ui/dialogs/format_box.h"
 #include "ui/window_fixture.h"
 
@@ -14,7 +15,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
-#include <QSpinBox>
 #include <QStatusBar>
 #include <QUrl>
 
@@ -261,7 +261,7 @@ private Q_SLOTS:
             QVERIFY(answer.wasAsked && session_->CurrentFont() == nullptr);
         }
         const DialogAnswer<FontGenerationDialog> answer([](auto& dialog) {
-            dialog.template findChild<QSpinBox*>()->setValue(20);
+            dialog.template findChild<FontSizeBox*>()->SetValue({20});
             dialog.accept();
         });
         QVERIFY(Open(path));

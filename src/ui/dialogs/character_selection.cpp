@@ -3,6 +3,8 @@
 #include "actions/pattern_file.h"
 #include "app/file_system.h"
 #include "app/shown_text.h"
+#include "cli/command_line_option.h"
+#include "cli/written_options.h"
 #include "ui/support/dialog_parts.h"
 
 #include <QButtonGroup>
@@ -147,6 +149,14 @@ std::optional<CodeSet> CharacterSelection::Codes() const
         return codes;
     }
     return std::nullopt;
+}
+
+std::optional<QStringList> CharacterSelection::Words() const
+{
+    if (Choice() == CharacterChoice::Pattern)
+        return QStringList{u'-' + OptionOf(OptionId::ReadPattern).longName,
+                           AbsolutePathOf(patternPath_->text())};
+    return Choice() == CharacterChoice::Text ? WordsOfText(*Codes()) : std::nullopt;
 }
 
 bool CharacterSelection::IsExact() const

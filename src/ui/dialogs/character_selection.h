@@ -31,6 +31,9 @@ public:
     // can't be read.
     [[nodiscard]] std::optional<CodeSet> Codes() const;
 
+    // What selects the same on the command line; nothing where ranges do.
+    [[nodiscard]] std::optional<QStringList> Words() const;
+
     // True where every single character was asked for.
     [[nodiscard]] bool IsExact() const;
 

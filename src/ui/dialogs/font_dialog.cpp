@@ -96,7 +96,7 @@ FontDialog::FontDialog(QWidget* parent)
     const FontDialogData stored = Settings::Instance().fontDialog.load();
     wantedFamily_ = stored.family;
     wantedStyle_ = stored.style;
-    size_->SetValue({stored.size, stored.inPoints});
+    size_->SetValue(SizeOf(stored.size));
     script_->setCurrentIndex(std::max(0, script_->findData(stored.script, Qt::UserRole + 1)));
     resize(720, 560);
     RestoreGeometry(*this, stored.geometry);
@@ -131,8 +131,7 @@ FontDialog::~FontDialog()
     if (result() == Accepted) {
         record.family = wantedFamily_;
         record.style = wantedStyle_;
-        record.size = size_->Value().value;
-        record.inPoints = size_->Value().inPoints;
+        record.size = DataOf(size_->Value());
         record.script = script_->currentData(Qt::UserRole + 1).toString();
     }
     Settings::Instance().fontDialog.save(record);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/action_open_font.h"
+#include "app/dialog_data.h"
 
 #include <QDialog>
 
@@ -15,6 +16,8 @@ class EncodingBox;
 class FontSizeBox;
 class FormatBox;
 class GenerationPreview;
+class RenderingEntries;
+class SourceEntries;
 
 // Asks how a scalable font is to be rendered, and shows what comes of it. The last entries are
 // remembered.
@@ -33,6 +36,9 @@ public:
     // can't be read.
     [[nodiscard]] ActionOpenFontArgs Args() const;
 
+    // A line for a shell that makes the same font without a window. Throws as Args() does.
+    [[nodiscard]] QString CommandLine() const;
+
     void done(int result) override;
 
     [[nodiscard]] GenerationPreview& Preview() const { return *preview_; }
@@ -40,7 +46,12 @@ public:
 private:
     void LoadEntries();
     void StoreEntries() const;
+    void LoadEntriesOfFile();
+    void StoreEntriesOfFile(FontGenerationDialogData& record) const;
     [[nodiscard]] QWidget* MakeEntries();
+    [[nodiscard]] QWidget* MakeFontPage();
+    void ShowFace();
+    void CopyCommandLine();
     void ConnectEntries();
     void ShowEffect();
 
@@ -52,8 +63,11 @@ private:
     QCheckBox* bold_;
     QCheckBox* italic_;
     CharacterSelection* selection_;
+    RenderingEntries* rendering_;
+    SourceEntries* sources_;
     GenerationPreview* preview_;
     QPushButton* ok_ = nullptr;
+    QPushButton* copy_ = nullptr;
 };
 
 } // namespace Glyphor

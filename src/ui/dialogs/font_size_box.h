@@ -1,15 +1,16 @@
 #pragma once
 
 #include "actions/action_open_font.h"
+#include "app/dialog_data.h"
 
 #include <QWidget>
 
 class QComboBox;
-class QSpinBox;
+class QDoubleSpinBox;
 
 namespace Glyphor {
 
-// The choice of a height and its unit.
+// The choice of a height, its unit, and what it is the height of.
 class FontSizeBox final : public QWidget
 {
     Q_OBJECT
@@ -24,9 +25,17 @@ Q_SIGNALS:
     void Changed();
 
 private:
-    QSpinBox* value_;
+    [[nodiscard]] HeightUnit Unit() const;
+    void OfferFractions();
+
+    QDoubleSpinBox* value_;
     QComboBox* unit_;
+    QComboBox* subject_;
 };
+
+// A height as dialogs remember it.
+[[nodiscard]] FontSize SizeOf(const SizeData& data);
+[[nodiscard]] SizeData DataOf(const FontSize& size);
 
 // Has the arguments render at this height, with points as large as on the screen, and as the
 // preferences say.

@@ -36,7 +36,9 @@ public:
         sinceTurn_.start();
     }
 
-    void warning(const QString&, const QString& text) override { warnings.append(text); }
+    void warning(const QString&, const QString& text) override { notes.append(text); }
+    void Lacking(const QString& text) override { notes.append(text); }
+    void Hint(const QString& text) override { notes.append(text); }
 
     bool ProgressChanged(const QString&, int, int) override
     {
@@ -48,7 +50,7 @@ public:
         return !isStopped_();
     }
 
-    QStringList warnings;
+    QStringList notes;
 
 private:
     InterfaceScope scope_;
@@ -56,18 +58,42 @@ private:
     QElapsedTimer sinceTurn_;
 };
 
+// Sources give what their mappings name, whatever is selected; so here it is only what shows.
+CharacterMap PartOf(const CharacterMap& map, const CodeSet& shown)
+{
+    CharacterMap part;
+    for (const CodeMapping& mapping : map) {
+        if (mapping.onlyMissing) {
+            part.push_back(mapping);
+            continue;
+        }
+        for (const quint16 code : shown) {
+            const char32_t faceCode = mapping.first + (code - mapping.target);
+            if (code >= mapping.target && faceCode <= mapping.last)
+                part.push_back({faceCode, faceCode, code, false, mapping.name});
+        }
+    }
+    return part;
+}
+
 } // namespace
 
 GenerationPreview::GenerationPreview(QWidget* parent)
     : QWidget(parent),
       strip_(new TextStrip),
+      lightStrip_(new TextStrip),
       field_(new QLineEdit),
       sizes_(PlainLabel()),
       notes_(PlainLabel())
 {
-    QScrollArea* const area = ScrollAreaOf(*strip_);
+    QWidget* const strips = Column({strip_, lightStrip_}, nullptr);
+    strips->layout()->setSpacing(0);
+    QScrollArea* const area = ScrollAreaOf(*strips);
     area->setMinimumSize(300, 130);
-    strip_->SetZoom(2);
+    for (TextStrip* const strip : {strip_, lightStrip_})
+        strip->SetZoom(2);
+    lightStrip_->SetColours(Qt::white, Qt::black);
+    lightStrip_->setAccessibleName(tr("Sample, light on dark"));
     notes_->setWordWrap(true);
     sizes_->setWordWrap(true);
     auto* const layout = new QVBoxLayout(this);
@@ -81,6 +107,7 @@ GenerationPreview::GenerationPreview(QWidget* parent)
     connect(&timer_, &QTimer::timeout, this, &GenerationPreview::RenderFont);
     connect(field_, &QLineEdit::textChanged, this, [this](const QString& text) {
         strip_->SetText(text);
+        lightStrip_->SetText(text);
         if (!args_.path.isEmpty())
             ShowFor(args_, missing_);
     });
@@ -88,7 +115,7 @@ GenerationPreview::GenerationPreview(QWidget* parent)
 
 GenerationPreview::~GenerationPreview()
 {
-    strip_->ShowFont(nullptr);
+    ShowFont(nullptr);
 }
 
 QString GenerationPreview::Sample() const
@@ -128,6 +155,7 @@ void GenerationPreview::Stop()
 void GenerationPreview::ShowFont(std::unique_ptr<Font> font)
 {
     strip_->ShowFont(font.get());
+    lightStrip_->ShowFont(font.get());
     font_ = std::move(font);
 }
 
@@ -160,6 +188,8 @@ void GenerationPreview::RenderSample()
     CodeSet codes;
     for (const QChar character : field_->text())
         codes.Set(character.unicode(), true);
+    for (FontSource& source : args.sources)
+        source.map = PartOf(source.map, codes);
     if (args.selection)
         codes &= *args.selection;
     args.selection = codes;
@@ -172,19 +202,20 @@ void GenerationPreview::RenderSample()
 void GenerationPreview::RenderAll()
 {
     PreviewInterface interface([this] { return isStale_; });
-    const std::unique_ptr<Font> all = ReadFont(args_);
+    std::unique_ptr<Font> all = ReadFont(args_);
     int count = 0;
     all->ForEachEnabled([&count](quint16, const Character&) { ++count; });
     sizes_->setText(tr("Line height: %1 px, em size: %2 px, characters: %L3, flash: %L4 bytes")
                         .arg(QString::number(all->Metrics().height), QString::number(EmSize(args_)))
                         .arg(count)
                         .arg(FlashSize(*all)));
-    QStringList notes = interface.warnings;
+    QStringList notes = interface.notes;
     if (count == 0)
         notes.append(tr("The font has none of these characters."));
     else if (const QString missing = MissingFrom(*all); !missing.isEmpty())
         notes.append(tr("Not in the font: %1").arg(missing));
     notes_->setText(notes.join(u'\n'));
+    ShowFont(std::move(all)); // its line may be higher than that of the sample
 }
 
 // The first ones of the selected characters that did not come out.

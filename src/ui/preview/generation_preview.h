@@ -37,7 +37,8 @@ public:
     [[nodiscard]] QString Sample() const;
     void SetSample(const QString& sample);
 
-    // The font of the sample; null where there is none.
+    // The font that shows: first with the characters of the sample, then all of it. Null where
+    // there is none.
     [[nodiscard]] const Font* SampleFont() const { return font_.get(); }
 
 Q_SIGNALS:
@@ -51,6 +52,7 @@ private:
     void ShowFont(std::unique_ptr<Font> font);
 
     TextStrip* strip_;
+    TextStrip* lightStrip_; // on dark, where gamma works the other way round
     QLineEdit* field_;
     QLabel* sizes_;
     QLabel* notes_;

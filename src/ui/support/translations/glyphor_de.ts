@@ -1001,7 +1001,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>The file %1 can&apos;t be a source of characters: -source takes TTF, TTC and BDF files.</source>
-        <translation>Die Datei %1 kann keine Zeichen beisteuern: -source nimmt TTF-, TTC- und BDF-Dateien.</translation>
+        <translation>Die Datei %1 kann keine Zeichen liefern: -source nimmt TTF-, TTC- und BDF-Dateien.</translation>
     </message>
     <message>
         <source>The source %1 needs a height, behind its mapping or with -height.</source>
@@ -1017,7 +1017,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>The mapping %1 is not usable: mappings are codes or ranges, decimal or hexadecimal, with = and the code where they go (e.g. 0x20-0x7E, 0xF0000-0xF00FF=0xE100 or 0xF02D1=0xE001:heart).</source>
-        <translation>Die Zuordnung %1 ist nicht verwendbar: Zuordnungen sind Codes oder Bereiche, dezimal oder hexadezimal, mit = und dem Code, auf den sie kommen (z. B. 0x20-0x7E, 0xF0000-0xF00FF=0xE100 oder 0xF02D1=0xE001:heart).</translation>
+        <translation>Das Gamma %1 ist nicht brauchbar: -gamma nimmt eine Zahl von 0.1 bis 10 (z. B. 1.4).</translation>
     </message>
     <message>
         <source>The mapping %1 has more codes than a font.</source>
@@ -1029,7 +1029,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>The mapping %1 is not usable: a name belongs to a single code, and has letters of ASCII, digits and underscores.</source>
-        <translation>Die Zuordnung %1 ist nicht verwendbar: Ein Name gehört zu einem einzelnen Code und besteht aus ASCII-Buchstaben, Ziffern und Unterstrichen.</translation>
+        <translation>Die Zuordnung %1 geht über 0xFFFF hinaus, wo Schriften keine Zeichen haben: Es fehlt, wohin sie kommen, z. B. %2=%3.</translation>
     </message>
     <message>
         <source>symbols</source>
@@ -1045,7 +1045,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>%1: it has none, so nothing tells which glyph is which character.</source>
-        <translation>%1: Er hat gar keine, sodass nichts sagt, welche Glyphe welches Zeichen ist.</translation>
+        <translation>%1: Er hat keine, also sagt nichts, welche Glyphe welches Zeichen ist.</translation>
     </message>
     <message>
         <source>%1: it has %2. -charmap chooses one by its index.</source>
@@ -1053,7 +1053,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>The face has no usable charmap with the index %1</source>
-        <translation>Der Schnitt hat keine verwendbare Zeichentabelle mit dem Index %1</translation>
+        <translation>Der Schnitt hat keine brauchbare Zeichentabelle mit dem Index %1</translation>
     </message>
     <message>
         <source>The face has no charmap of Unicode</source>
@@ -1073,7 +1073,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>The axes %1 are not usable: -axes takes tags of four letters with their values (e.g. wght=550,wdth=87).</source>
-        <translation>Die Achsen %1 sind nicht verwendbar: -axes nimmt Kürzel aus vier Buchstaben mit ihren Werten (z. B. wght=550,wdth=87).</translation>
+        <translation>Der Schnitt hat die Stelle %1 nicht auf seinen Achsen: %2.</translation>
     </message>
     <message>
         <source>The axes %1 name %2 twice.</source>
@@ -1089,7 +1089,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>Characters above U+FFFF, which were left out: %1. -map brings them in, e.g. -map 0x%2-0x%3=0x%4.</source>
-        <translation>Zeichen über U+FFFF, die weggelassen wurden: %1. -map nimmt sie auf, z. B. -map 0x%2-0x%3=0x%4.</translation>
+        <translation>Alle Zeichen ganz zu zeigen braucht eine Zeile aus %1 Pixelreihen; eine Schrift hat höchstens 255.</translation>
     </message>
     <message>
         <source>Characters cut</source>
@@ -1097,7 +1097,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>Characters cut: %1 (%2). They need up to %3 rows above the font&apos;s line and %4 below it; -fit makes the line high enough.</source>
-        <translation>Abgeschnittene Zeichen: %1 (%2). Sie brauchen bis zu %3 Pixelzeilen über der Zeile der Schrift und %4 darunter; -fit macht die Zeile hoch genug.</translation>
+        <translation>Abgeschnittene Zeichen: %1 (%2). Sie brauchen bis zu %3 Pixelreihen über der Zeile der Schrift und %4 darunter; -fit macht die Zeile hoch genug.</translation>
     </message>
     <message>
         <source>Characters leave the line</source>
@@ -1105,7 +1105,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>Characters of %1 that leave the font&apos;s line: %2 (%3), by up to %4 rows above it and %5 below it; -fit makes the line high enough.</source>
-        <translation>Zeichen aus %1, die die Zeile der Schrift verlassen: %2 (%3), um bis zu %4 Pixelzeilen darüber und %5 darunter; -fit macht die Zeile hoch genug.</translation>
+        <translation>Zeichen aus %1, die die Zeile der Schrift verlassen: %2 (%3), um bis zu %4 Pixelreihen darüber und %5 darunter; -fit macht die Zeile hoch genug.</translation>
     </message>
     <message>
         <source>Characters moved</source>
@@ -1121,7 +1121,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>%1 of the %2 characters %3 to %4 are not in %5: %6</source>
-        <translation>%1 der %2 Zeichen %3 bis %4 fehlen in %5: %6</translation>
+        <translation>%1 ist nicht in %2</translation>
     </message>
     <message>
         <source>Measuring font...</source>
@@ -1129,7 +1129,7 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>A height of %1 needs the letter %2, which the face does not have. Give another height, e.g. em:16px.</source>
-        <translation>Eine Höhe von %1 braucht den Buchstaben %2, den der Schnitt nicht hat. Geben Sie eine andere Höhe an, z. B. em:16px.</translation>
+        <translation>Eine Höhe von %1 braucht den Buchstaben %2, den der Schnitt nicht hat. Bitte eine andere Höhe angeben, z. B. em:16px.</translation>
     </message>
     <message>
         <source>No size of the face gives the height %1.</source>
@@ -1736,6 +1736,30 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <source>The quick brown fox 0123456789</source>
         <translation>Zwölf Boxkämpfer jagen 0123456789</translation>
     </message>
+    <message>
+        <source>Cop&amp;y as command line</source>
+        <translation>Als Befehl&amp;szeile kopieren</translation>
+    </message>
+    <message>
+        <source>Copies a line for a shell that makes this font without a window.</source>
+        <translation>Kopiert eine Zeile für eine Shell, die diese Schrift ohne Fenster erzeugt.</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Rendering</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Mapping</source>
+        <translation>Zuordnung</translation>
+    </message>
+    <message>
+        <source>The line is in the clipboard.</source>
+        <translation>Die Zeile ist in der Zwischenablage.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::FontSizeBox</name>
@@ -1754,6 +1778,34 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Height</source>
         <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>of the box</source>
+        <translation>des Rahmens</translation>
+    </message>
+    <message>
+        <source>of capitals</source>
+        <translation>der Versalien</translation>
+    </message>
+    <message>
+        <source>of small letters</source>
+        <translation>der Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>of the line</source>
+        <translation>der Zeile</translation>
+    </message>
+    <message>
+        <source>of the em</source>
+        <translation>des Gevierts</translation>
+    </message>
+    <message>
+        <source>What has this height: the box around all characters, the letter H, the letter x, the line of the font, or the em of the face.</source>
+        <translation>Was diese Höhe hat: der Rahmen um alle Zeichen, der Buchstabe H, der Buchstabe x, die Zeile der Schrift oder das Geviert des Schnitts.</translation>
+    </message>
+    <message>
+        <source>What the height is the height of</source>
+        <translation>Wovon die Höhe ist</translation>
     </message>
 </context>
 <context>
@@ -1815,6 +1867,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Not in the font: %1</source>
         <translation>Nicht in der Schrift: %1</translation>
+    </message>
+    <message>
+        <source>Sample, light on dark</source>
+        <translation>Probe, hell auf dunkel</translation>
     </message>
 </context>
 <context>
@@ -2161,6 +2217,159 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Stop the work (Esc)</source>
         <translation>Die Arbeit abbrechen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::RenderingEntries</name>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>&amp;Keep all ink within the line</source>
+        <translation>Zeile so hoch wie &amp;alle Zeichen</translation>
+    </message>
+    <message>
+        <source>As the font wants it</source>
+        <translation>Wie von der Schrift vorgesehen</translation>
+    </message>
+    <message>
+        <source>Stems of whole pixels</source>
+        <translation>Striche aus ganzen Pixeln</translation>
+    </message>
+    <message>
+        <source>Vertically alone</source>
+        <translation>Nur senkrecht</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>How outlines are fitted to the pixels.</source>
+        <translation>Wie Umrisse an die Pixel angepasst werden.</translation>
+    </message>
+    <message>
+        <source>Above 1 the edges of strokes are darker, below 1 lighter. For formats with 2 or 4 bits per pixel.</source>
+        <translation>Über 1 sind die Ränder der Striche dunkler, unter 1 heller. Für Formate mit 2 oder 4 Bit je Pixel.</translation>
+    </message>
+    <message>
+        <source>The font gets as high as its highest and lowest characters need.</source>
+        <translation>Die Schrift wird so hoch, wie ihre höchsten und tiefsten Zeichen es brauchen.</translation>
+    </message>
+    <message>
+        <source>Hi&amp;nting:</source>
+        <translation>Hi&amp;nting:</translation>
+    </message>
+    <message>
+        <source>&amp;Gamma:</source>
+        <translation>&amp;Gamma:</translation>
+    </message>
+    <message>
+        <source>  (%1 to %2)</source>
+        <translation>  (%1 bis %2)</translation>
+    </message>
+    <message>
+        <source>Tags of OpenType features that show other glyphs, such as tnum for figures of equal width.</source>
+        <translation>Kürzel von OpenType-Merkmalen, die andere Glyphen zeigen, etwa tnum für Ziffern gleicher Breite.</translation>
+    </message>
+    <message>
+        <source>OpenT&amp;ype features:</source>
+        <translation>OpenT&amp;ype-Merkmale:</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::SourceDialog</name>
+    <message>
+        <source>&amp;Own height:</source>
+        <translation>&amp;Eigene Höhe:</translation>
+    </message>
+    <message>
+        <source>Source of characters</source>
+        <translation>Quelle von Zeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>D&amp;urchsuchen...</translation>
+    </message>
+    <message>
+        <source>Codes or ranges, with = and the code where they go; behind a ? those that only fill gaps.</source>
+        <translation>Codes oder Bereiche, mit = und dem Code, an den sie kommen; hinter einem ? die, die nur Lücken füllen.</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;Datei:</translation>
+    </message>
+    <message>
+        <source>&amp;Characters:</source>
+        <translation>&amp;Zeichen:</translation>
+    </message>
+    <message>
+        <source>Font files (%1)</source>
+        <translation>Schriftdateien (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::SourceEntries</name>
+    <message>
+        <source>every character to its own code</source>
+        <translation>jedes Zeichen an seinen eigenen Code</translation>
+    </message>
+    <message>
+        <source>Which characters of the file to take, and where they go: codes or ranges, decimal or hexadecimal, with = and the code where the first one goes (e.g. 0x20-0x7E, 0xF02D1=0xE001).</source>
+        <translation>Welche Zeichen der Datei genommen werden und wohin sie kommen: Codes oder Bereiche, dezimal oder hexadezimal, mit = und dem Code, an den das erste kommt (z. B. 0x20-0x7E, 0xF02D1=0xE001).</translation>
+    </message>
+    <message>
+        <source>The table of the face that tells its codes.</source>
+        <translation>Die Tabelle des Schnitts, die seine Codes nennt.</translation>
+    </message>
+    <message>
+        <source>&amp;Charmap:</source>
+        <translation>&amp;Zeichentabelle:</translation>
+    </message>
+    <message>
+        <source>&amp;Mapping:</source>
+        <translation>Zuo&amp;rdnung:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Characters</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Characters of &amp;other files:</source>
+        <translation>Zeichen &amp;weiterer Dateien:</translation>
+    </message>
+    <message>
+        <source>A&amp;dd...</source>
+        <translation>H&amp;inzufügen...</translation>
+    </message>
+    <message>
+        <source>Edi&amp;t...</source>
+        <translation>&amp;Bearbeiten...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>as above</source>
+        <translation>wie oben</translation>
+    </message>
+    <message>
+        <source>The one of Unicode</source>
+        <translation>Die von Unicode</translation>
     </message>
 </context>
 <context>
