@@ -2278,7 +2278,7 @@ Was soll mit ihnen geschehen?</translation>
         <translation>Kürzel von OpenType-Merkmalen, die andere Glyphen zeigen, etwa tnum für Ziffern gleicher Breite.</translation>
     </message>
     <message>
-        <source>OpenT&amp;ype features:</source>
+        <source>&amp;OpenType features:</source>
         <translation>OpenT&amp;ype-Merkmale:</translation>
     </message>
 </context>
