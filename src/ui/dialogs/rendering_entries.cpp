@@ -64,7 +64,7 @@ RenderingEntries::RenderingEntries(QWidget* parent)
     features_->setPlaceholderText(QStringLiteral("tnum,zero"));
     features_->setToolTip(tr("Tags of OpenType features that show other glyphs, such as tnum for "
                              "figures of equal width."));
-    form_->addRow(tr("&OpenType features:"), features_);
+    form_->addRow(tr("Glyph &variants:"), features_);
     connect(hinting_, &QComboBox::currentIndexChanged, this, &RenderingEntries::Changed);
     connect(gamma_, &QDoubleSpinBox::valueChanged, this, &RenderingEntries::Changed);
     connect(fits_, &QCheckBox::toggled, this, &RenderingEntries::Changed);

@@ -2278,8 +2278,8 @@ Was soll mit ihnen geschehen?</translation>
         <translation>Kürzel von OpenType-Merkmalen, die andere Glyphen zeigen, etwa tnum für Ziffern gleicher Breite.</translation>
     </message>
     <message>
-        <source>&amp;OpenType features:</source>
-        <translation>OpenT&amp;ype-Merkmale:</translation>
+        <source>Glyph &amp;variants:</source>
+        <translation>Gl&amp;yphenvarianten:</translation>
     </message>
 </context>
 <context>
