@@ -77,6 +77,7 @@ public:
 
     [[nodiscard]] bool IsLoaded() const { return isLoaded_; }
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a name can't stand in them
 #define GLYPHOR_POINTER(function) decltype(&::function) function = nullptr
     GLYPHOR_HARFBUZZ_FUNCTIONS(GLYPHOR_POINTER);
 #undef GLYPHOR_POINTER

@@ -2,6 +2,7 @@
 
 #include "app/engine_texts.h"
 #include "app/progress.h"
+#include "model/code_range.h"
 
 #include <algorithm>
 #include <array>
@@ -65,6 +66,25 @@ int Rounded(hb_position_t position)
     return (position + 32) >> 6;
 }
 
+// Characters that shaping hides and passes over, such as the soft hyphen.
+bool IsPassedOver(quint16 code)
+{
+    constexpr std::array<CodeRange, 11> ranges = {{{0x00AD, 0x00AD},
+                                                   {0x034F, 0x034F},
+                                                   {0x061C, 0x061C},
+                                                   {0x17B4, 0x17B5},
+                                                   {0x180B, 0x180E},
+                                                   {0x200B, 0x200F},
+                                                   {0x202A, 0x202E},
+                                                   {0x2060, 0x206F},
+                                                   {0xFE00, 0xFE0F},
+                                                   {0xFEFF, 0xFEFF},
+                                                   {0xFFF0, 0xFFF8}}};
+    return std::ranges::any_of(ranges, [code](const CodeRange& range) {
+        return range.first <= code && code <= range.last;
+    });
+}
+
 } // namespace
 
 LayoutKerning::LayoutKerning(const FreeTypeFace& face, const HarfBuzz& harfBuzz)
@@ -126,7 +146,7 @@ LayoutKerning::KindsOf(std::span<const ShownGlyph> characters) const
     std::map<std::tuple<hb_script_t, bool, hb_codepoint_t>, Kind> kinds;
     for (quint32 index = 0; index < characters.size(); ++index) {
         const auto& [character, glyph] = characters[index];
-        if (glyph > MaxGlyph)
+        if (glyph > MaxGlyph || IsPassedOver(character))
             continue;
         hb_script_t script = harfBuzz_.hb_unicode_script(unicode, character);
         if (script == HB_SCRIPT_COMMON || script == HB_SCRIPT_INHERITED ||
