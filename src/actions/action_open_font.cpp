@@ -115,7 +115,11 @@ std::vector<GlyphSource> OpenSources(const ActionOpenFontArgs& args, const Rende
 {
     std::vector<GlyphSource> sources;
     for (const FontSource& source : args.sources) {
-        sources.push_back(OpenSource(source, args, options));
+        try {
+            sources.push_back(OpenSource(source, args, options));
+        } catch (const CriticalException& error) { // is about the source, not the opened file
+            throw CriticalException(error.Title(), error.Text(), {source.path, 0, {}});
+        }
         TellOfCodes(sources.back(), false);
     }
     return sources;

@@ -139,6 +139,19 @@ private:
         if (depth_ == 0 && bodyStart_ == 0)
             bodyStart_ = at_;
         ++depth_;
+        if (depth_ == 1)
+            SkipNumbers();
+    }
+
+    // Most of a file is pixels between braces, where nothing else is to be found.
+    void SkipNumbers()
+    {
+        const std::size_t close = text_.find('}', at_);
+        const std::string_view inner =
+            text_.substr(at_ + 1, close == std::string_view::npos ? close : close - at_ - 1);
+        const auto has = [inner](char mark) { return inner.find(mark) != std::string_view::npos; };
+        if (close != std::string_view::npos && !has('{') && !has('"') && !has('\'') && !has('#'))
+            at_ = close - 1;
     }
 
     void CloseBrace()

@@ -26,6 +26,7 @@ private Q_SLOTS:
         Write("de.po", "msgid \"a\"\nmsgstr \"A\"\n\nmsgid \"b\"\nmsgstr \"A€\"\n");
         Write("bad.po", "msgid \"a\"\nmsgstr \"A\n");
         Write("empty.ttf", "");
+        Write("letters.ttf", Test::ReadAll(Test::FontPath("variable.ttf")));
         Write("font.opt", "# the font\n'" + Font().toUtf8() + "' -height 24px\n-format AA4\n");
         Write("bad.opt", "@font.opt\n-bold\n-face one\n");
         Write("quote.opt", "-hide\n-save \"a.c\n");
@@ -65,6 +66,11 @@ private Q_SLOTS:
             u"Glyphor: warning: Invalid measuring format, assuming px. (-h)\n"_s);
         row("missing file", u"-hide none.ttf -h 9px -save a.c"_s, 1,
             u"none.ttf: error: Given file does not exist!\n"_s);
+        row("source without the letter",
+            u"-hide FONT -h cap:9px -source letters.ttf 0x41=0xE000 -save a.c"_s, 1,
+            u"letters.ttf: error: A height of cap:9px needs the letter H"_s);
+        row("empty source", u"-hide FONT -h 9px -source empty.ttf 0x41=0xE000 -save a.c"_s, 1,
+            u"empty.ttf: error: The file empty.ttf is empty.\n"_s);
         row("empty file", u"-hide empty.ttf -h 9px -save a.c"_s, 1,
             u"empty.ttf: error: The file empty.ttf is empty.\n"_s);
         row("damaged text", u"-hide @font.opt -text bad.po -save a.c"_s, 1, u"bad.po:2: error: "_s);
