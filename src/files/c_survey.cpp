@@ -350,9 +350,9 @@ QStringList BesideTheFont(std::string_view text)
     return names;
 }
 
-QStringList BesideTheFontOfFile(const QByteArray& contents)
+QStringList BesideTheFontOfFile(QByteArray contents)
 {
-    return BesideTheFont(CScanner(contents).Text());
+    return BesideTheFont(CScanner(std::move(contents)).Text());
 }
 
 QString Enumerated(const QStringList& names)

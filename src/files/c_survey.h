@@ -13,7 +13,7 @@ namespace Glyphor {
 [[nodiscard]] QStringList BesideTheFont(std::string_view text);
 
 // The same for the contents of a file, comments and all.
-[[nodiscard]] QStringList BesideTheFontOfFile(const QByteArray& contents);
+[[nodiscard]] QStringList BesideTheFontOfFile(QByteArray contents);
 
 // The first names, for a message.
 [[nodiscard]] QString Enumerated(const QStringList& names);

@@ -100,7 +100,8 @@ private Q_SLOTS:
         Test::RecordingInterface interface;
         QStringList codes;
         const QString failure = Test::FailureOf([&, own = map, other = otherMap] {
-            for (const quint16 code : Assembled(own, other)->ExistingCodes())
+            const auto font = Assembled(own, other);
+            for (const quint16 code : font->ExistingCodes())
                 codes.append(u"0x"_s + QString::number(code, 16));
         });
         if (failure.isEmpty())
