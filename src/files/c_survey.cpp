@@ -44,12 +44,15 @@ void ForEachIdentifier(std::string_view text, Visit visit)
 
 bool HasWord(std::string_view text, std::string_view word)
 {
-    bool isFound = false;
-    ForEachIdentifier(text, [&](std::string_view identifier) {
-        isFound = identifier == word;
-        return !isFound;
-    });
-    return isFound;
+    const auto isBeside = [text](std::size_t at) {
+        return at >= text.size() || !IsIdentifierCharacter(text[at]);
+    };
+    for (std::size_t at = text.find(word); at != std::string_view::npos;
+         at = text.find(word, at + 1)) {
+        if ((at == 0 || isBeside(at - 1)) && isBeside(at + word.size()))
+            return true;
+    }
+    return false;
 }
 
 // The identifier in front of the first bracket, parenthesis or initializer; what attributes have

@@ -6,8 +6,6 @@
 #include "model/encoding.h"
 #include "render/glyph_jobs.h"
 
-#include <QHash>
-
 #include <unordered_map>
 #include <unordered_set>
 
@@ -59,25 +57,35 @@ class GlyphSharing
 public:
     explicit GlyphSharing(GlyphCollector& collector) : collector_(collector) {}
 
-    void Prepare(FT_UInt glyph, GlyphCollector::Prepared prepared)
+    // A glyph comes with the first of its codes.
+    bool AddFirst(const PlannedGlyph& planned, GlyphCollector::Prepared prepared)
     {
-        prepared_.insert_or_assign(glyph, std::move(prepared));
+        const bool canBeAdded = prepared.character != nullptr;
+        // What fits no character is told of each code.
+        GlyphCollector::Prepared useless = CopyOfUseless(prepared);
+        if (collector_.Add(planned.code, std::move(prepared))) {
+            firstCodes_.emplace(planned.glyph, planned.code);
+            return true;
+        }
+        if (!canBeAdded)
+            waiting_.insert_or_assign(planned.glyph, std::move(useless));
+        return false;
+    }
+
+    // Keeps it for codes that come later.
+    void Keep(FT_UInt glyph, GlyphCollector::Prepared prepared)
+    {
+        waiting_.insert_or_assign(glyph, std::move(prepared));
     }
 
     bool Add(const PlannedGlyph& planned)
     {
-        if (const auto same = firstCodes_.constFind(planned.glyph); same != firstCodes_.constEnd())
-            return collector_.AddLike(planned.code, *same);
-        const auto found = prepared_.find(planned.glyph);
-        const bool canBeAdded = found->second.character != nullptr;
-        // What fits no character stays, and is told of each code.
-        const bool isAdded = collector_.Add(
-            planned.code, canBeAdded ? std::move(found->second) : CopyOfUseless(found->second));
-        if (isAdded) {
-            firstCodes_.insert(planned.glyph, planned.code);
-            prepared_.erase(found);
-        }
-        return isAdded;
+        if (const auto same = firstCodes_.find(planned.glyph); same != firstCodes_.end())
+            return collector_.AddLike(planned.code, same->second);
+        const auto found = waiting_.find(planned.glyph);
+        return found != waiting_.end() &&
+               AddFirst(planned, found->second.character != nullptr ? std::move(found->second)
+                                                                    : CopyOfUseless(found->second));
     }
 
 private:
@@ -87,8 +95,8 @@ private:
     }
 
     GlyphCollector& collector_;
-    QHash<FT_UInt, quint16> firstCodes_; // that a glyph became a character of
-    std::unordered_map<FT_UInt, GlyphCollector::Prepared> prepared_; // that became none yet
+    std::unordered_map<FT_UInt, quint16> firstCodes_; // that a glyph became a character of
+    std::unordered_map<FT_UInt, GlyphCollector::Prepared> waiting_; // that became none yet
 };
 
 } // namespace
@@ -209,13 +217,16 @@ void GlyphSource::Render(GlyphCollector& collector, int threads,
     Progress progress(Engine::tr("Rendering font..."), face_->GlyphCount());
     GlyphSharing sharing(collector);
     auto planned = planned_.begin();
-    const auto add = [&] {
-        progress.LookedAt();
-        if (isWanted(*planned) && sharing.Add(*planned)) {
+    const auto count = [&](bool isAdded) {
+        if (isAdded) {
             onAdded(*planned);
             progress.Advance();
         }
         ++planned;
+    };
+    const auto addShared = [&] {
+        progress.LookedAt();
+        count(isWanted(*planned) && sharing.Add(*planned));
     };
     GlyphJobs<GlyphCollector::Prepared> jobs(
         *face_, glyphs, threads, [&](const FreeTypeFace& face, FT_UInt index) {
@@ -226,12 +237,15 @@ void GlyphSource::Render(GlyphCollector& collector, int threads,
     // Up to the next new glyph, characters share those that there are.
     jobs.Run([&](std::size_t index, GlyphCollector::Prepared& prepared) {
         while (planned->glyph != glyphs[index])
-            add();
-        sharing.Prepare(glyphs[index], std::move(prepared));
-        add();
+            addShared();
+        progress.LookedAt();
+        const bool isFirst = isWanted(*planned);
+        if (!isFirst)
+            sharing.Keep(planned->glyph, std::move(prepared));
+        count(isFirst && sharing.AddFirst(*planned, std::move(prepared)));
     });
     while (planned != planned_.end())
-        add();
+        addShared();
 }
 
 } // namespace Glyphor
