@@ -239,10 +239,12 @@ void GlyphSource::Render(GlyphCollector& collector, int threads,
         while (planned->glyph != glyphs[index])
             addShared();
         progress.LookedAt();
-        const bool isFirst = isWanted(*planned);
-        if (!isFirst)
+        if (isWanted(*planned)) {
+            count(sharing.AddFirst(*planned, std::move(prepared)));
+        } else {
             sharing.Keep(planned->glyph, std::move(prepared));
-        count(isFirst && sharing.AddFirst(*planned, std::move(prepared)));
+            count(false);
+        }
     });
     while (planned != planned_.end())
         addShared();
