@@ -34,13 +34,6 @@ struct RunOptions
     const std::vector<OptionOccurrence>& occurrences, bool canAsk = false,
     const std::function<void(const Place&)>& onOption = [](const Place&) {});
 
-// "24px", "18pt", or a bare number of pixels, after a warning; behind "cap:", "x:", "line:" or
-// "em:" that of something else than the box.
-[[nodiscard]] FontSize ParseHeight(const QString& text);
-
-// The text that gives the height again.
-[[nodiscard]] QString TextOf(const FontSize& size);
-
 // The range in ascending order, after a warning where it was reversed.
 [[nodiscard]] CodeRange Ordered(CodeRange range);
 

@@ -4,7 +4,7 @@
 #include "app/settings.h"
 #include "cli/command_line_option.h"
 #include "cli/feature_list.h"
-#include "cli/run_options.h"
+#include "cli/font_height.h"
 #include "model/code_text.h"
 #include "render/face_variations.h"
 

@@ -4,6 +4,7 @@
 #include "app/critical_exception.h"
 #include "cli/command_line.h"
 #include "cli/feature_list.h"
+#include "cli/font_height.h"
 #include "cli/option_actions.h"
 #include "support/rows.h"
 #include "support/test_main.h"

@@ -3,7 +3,7 @@
 #include "app/critical_exception.h"
 #include "app/shown_text.h"
 #include "app/user_interface.h"
-#include "cli/run_options.h"
+#include "cli/font_height.h"
 #include "files/file_types.h"
 #include "ui/dialogs/font_size_box.h"
 #include "ui/support/dialog_parts.h"
