@@ -21,17 +21,6 @@ namespace {
     throw CriticalException(Engine::tr("Font merging not possible!"), reason);
 }
 
-// A character refers to the metrics of its font, so that it can't move to another one.
-std::unique_ptr<Character> CopyInto(const Font& font, const Character& character)
-{
-    auto copy = std::make_unique<Character>(font.Metrics());
-    copy->info.Set(character.info.Metrics());
-    copy->bitmap->ShareData(*character.bitmap);
-    copy->kerning = character.kerning;
-    copy->label = character.label;
-    return copy;
-}
-
 void CheckFonts(const Font& font, const Font& other)
 {
     const FontMetrics& own = font.Metrics();
@@ -99,8 +88,9 @@ bool ActionMergeFont::Execute()
             incoming -= duplicates;
     }
     CopyCharacters(*other, incoming, shift);
-    enabled_ = font->EnabledCodes();
-    enabled_ |= incoming;
+    CodeSet enabled = font->EnabledCodes();
+    enabled |= incoming;
+    swap_.SetEnabledCodes(enabled);
     hasKerning_ = font->HasKerning() || other->HasKerning();
     return true;
 }
@@ -137,7 +127,7 @@ void ActionMergeFont::CopyCharacters(const Font& other, const CodeSet& codes, in
     InkOverflow most;
     std::vector<quint16> beyond;
     for (const quint16 code : codes) {
-        auto copy = CopyInto(font, *other.FindChar(code));
+        auto copy = CopyOf(*other.FindChar(code), font.Metrics());
         const bool isAligned = shift != 0 || Args().alignment == MergeAlignment::Baseline;
         const auto rows = isAligned ? ShiftRows(*copy, shift) : InkOverflow();
         if (!rows)
@@ -148,7 +138,7 @@ void ActionMergeFont::CopyCharacters(const Font& other, const CodeSet& codes, in
             beyond.push_back(code);
             most.Add(*rows);
         }
-        characters_[code] = std::move(copy);
+        swap_.Put(code, std::move(copy));
     }
     TellOfMoved(IsLegacyFormat(font.Metrics().format), most, beyond);
 }
@@ -156,25 +146,10 @@ void ActionMergeFont::CopyCharacters(const Font& other, const CodeSet& codes, in
 void ActionMergeFont::Swap()
 {
     Font& font = *CurrentFont();
-    for (auto& [code, character] : characters_) {
-        std::unique_ptr<Character> previous = font.RemoveChar(code);
-        font.InsertChar(code, std::move(character));
-        character = std::move(previous);
-    }
-    const CodeSet previous = font.EnabledCodes();
-    font.SetEnabledCodes(enabled_);
-    enabled_ = previous;
+    swap_.SwapWith(font);
     const bool hadKerning = font.HasKerning();
     font.SetHasKerning(hasKerning_);
     hasKerning_ = hadKerning;
-}
-
-CodeSet ActionMergeFont::AffectedCodes() const
-{
-    CodeSet codes;
-    for (const auto& [code, character] : characters_)
-        codes.Set(code, true);
-    return codes;
 }
 
 } // namespace Glyphor

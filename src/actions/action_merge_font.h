@@ -2,11 +2,10 @@
 
 #include "actions/action.h"
 #include "actions/action_open_font.h"
+#include "actions/character_swap.h"
 #include "app/user_interface.h"
 #include "model/font.h"
 
-#include <map>
-#include <memory>
 #include <optional>
 
 namespace Glyphor {
@@ -31,7 +30,7 @@ public:
     bool Execute() override;
     void UndoOnce() override { Swap(); }
     void RedoOnce() override { Swap(); }
-    [[nodiscard]] CodeSet AffectedCodes() const override;
+    [[nodiscard]] CodeSet AffectedCodes() const override { return swap_.Codes(); }
     [[nodiscard]] LogEntry Log() const override
     {
         return LogEntry(MessageFor(), {LoggedPath(Args().source.path)});
@@ -42,9 +41,7 @@ private:
     void CopyCharacters(const Font& other, const CodeSet& codes, int shift);
     void Swap();
 
-    // The state that the next step puts into the font, by code; null for no character.
-    std::map<quint16, std::unique_ptr<Character>> characters_;
-    CodeSet enabled_;
+    CharacterSwap swap_;
     bool hasKerning_ = false; // of either font
 };
 

@@ -35,7 +35,7 @@ LogEntry EntryOf(const RangeAction& action, bool isEnabled)
 ActionChar::ActionChar(Session& session, ActionType type, quint16 code)
     : ActionWithArgs(session, type)
 {
-    Args() = {code, code};
+    Args() = {.first = code, .last = code};
 }
 
 template <typename Visit>
@@ -53,11 +53,38 @@ bool ActionChar::Execute()
     if (CurrentFont() == nullptr)
         return false;
     target_ = !CurrentFont()->IsEnabled(Args().first);
+    if (Type() == ActionType::Toggle)
+        return true;
+    const Edit& edit = *EditOf(Type());
+    if (edit.revert == nullptr)
+        PrepareSwap(edit);
     return true;
+}
+
+// Makes all steps one.
+void ActionChar::PrepareSwap(const Edit& edit)
+{
+    const bool hasValue = edit.applyValue != nullptr;
+    stepsOfSwap_ = hasValue ? 1 : Repeat();
+    SetRepeat(1);
+    const Font& font = *CurrentFont();
+    swap_ = std::make_unique<CharacterSwap>();
+    swap_->SetEnabledCodes(font.EnabledCodes());
+    ForEachChar([&](quint16 code, const Character& character) {
+        std::unique_ptr<Character> copy = CopyOf(character, font.Metrics());
+        for (int step = 0; step < stepsOfSwap_; ++step) {
+            if (!(hasValue ? edit.applyValue(*copy, Args().value) : edit.apply(*copy)))
+                ++refused_[code];
+        }
+        swap_->Put(code, std::move(copy));
+    });
+    swap_->DropEqual(font);
 }
 
 void ActionChar::RedoOnce()
 {
+    if (swap_ != nullptr)
+        return swap_->SwapWith(*CurrentFont());
     if (Type() == ActionType::Toggle) {
         CodeSet codes = CurrentFont()->EnabledCodes();
         ForEachChar([&codes](quint16 code, Character&) { codes.Set(code, !codes.Test(code)); });
@@ -77,6 +104,8 @@ void ActionChar::UndoOnce()
         RedoOnce();
         return;
     }
+    if (swap_ != nullptr)
+        return swap_->SwapWith(*CurrentFont());
     const Edit& edit = *EditOf(Type());
     bool isExact = CanBeUndone(edit, *CurrentFont());
     ForEachChar([&](quint16 code, Character& character) {
@@ -97,6 +126,10 @@ CodeSet ActionChar::AffectedCodes() const
 
 LogEntry ActionChar::Log() const
 {
+    const Edit* const edit = EditOf(Type());
+    if (edit != nullptr && edit->applyValue != nullptr)
+        return LogEntry(MessageFor(), {QString::number(Args().value)})
+            .About(RangePrefix(Args().first, Args().last));
     return EntryOf(*this, target_);
 }
 
@@ -109,14 +142,16 @@ int ActionChar::CharCount() const
 
 int ActionChar::LoggedSteps() const
 {
+    const int steps = Applied() * stepsOfSwap_;
     if (refused_.isEmpty() || refused_.size() < CharCount())
-        return Applied();
-    return Applied() - *std::ranges::min_element(refused_);
+        return steps;
+    return std::max(0, steps - *std::ranges::min_element(refused_));
 }
 
 QString ActionChar::Shortfall() const
 {
-    const auto [first, last] = Args();
+    const quint16 first = Args().first;
+    const quint16 last = Args().last;
     const QString range = first == last ? u"0x"_s + Hex4Text(first)
                                         : u"0x%1-0x%2"_s.arg(Hex4Text(first), Hex4Text(last));
     const int count = CharCount();
@@ -124,7 +159,11 @@ QString ActionChar::Shortfall() const
         return Engine::tr("%1: the font has no character there").arg(range);
     if (refused_.isEmpty())
         return {};
-    const QString steps = QString::number(Repeat());
+    if (EditOf(Type())->applyValue != nullptr)
+        return Engine::tr("%1: %2 does not fit, so it was left out on %3 of %4 characters")
+            .arg(range, QString::number(Args().value), QString::number(refused_.size()),
+                 QString::number(count));
+    const QString steps = QString::number(Repeat() * stepsOfSwap_);
     const QString leftOut = QString::number(*std::ranges::max_element(refused_));
     if (first == last)
         return Engine::tr("%1: %2 of %3 steps were left out").arg(range, leftOut, steps);

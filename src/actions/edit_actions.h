@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/action.h"
+#include "actions/character_swap.h"
 #include "model/code_set.h"
 #include "model/font.h"
 
@@ -12,14 +13,17 @@
 
 namespace Glyphor {
 
+struct Edit;
+
 struct ActionCharArgs
 {
     quint16 first = 0;
     quint16 last = 0;
+    int value = 0; // of edits that have one
 };
 
-// Edits the pixels or metrics of every character of a range: types 8 to 25, and 33, which toggles
-// each one's enabled bit. Codes without a character are skipped.
+// Edits the pixels or metrics of every character of a range by an edit of characters, or toggles
+// each one's enabled bit (33). Codes without a character are skipped.
 class ActionChar final : public ActionWithArgs<ActionCharArgs>
 {
 public:
@@ -41,6 +45,7 @@ public:
 
 private:
     [[nodiscard]] int CharCount() const;
+    void PrepareSwap(const Edit& edit);
 
     template <typename Visit>
     void ForEachChar(Visit visit) const;
@@ -48,6 +53,10 @@ private:
     // How many steps the character of a code refused. Undo leaves as many out on it, so it never
     // becomes larger than it was. A character that refuses a step refuses all that follow.
     QHash<quint16, int> refused_;
+
+    // Of edits that have no opposite: the characters as they will be, and what they took to that.
+    std::unique_ptr<CharacterSwap> swap_;
+    int stepsOfSwap_ = 1;
 
     bool target_ = false; // of the first character's toggle
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <type_traits>
+#include <utility>
 
 namespace Glyphor {
 
@@ -55,6 +56,18 @@ bool Less(Character& character)
     return true;
 }
 
+// A metric set to a value that it can hold.
+template <auto Metric>
+bool Set(Character& character, int value)
+{
+    auto& metric = character.info.*Metric;
+    using Field = std::remove_reference_t<decltype(metric)>;
+    if (!std::in_range<Field>(value))
+        return false;
+    metric = static_cast<Field>(value);
+    return true;
+}
+
 constexpr bool NotForLegacy = true;
 
 constexpr Edit OfCharacter(ActionType type, QLatin1StringView keyword, QLatin1StringView help,
@@ -70,6 +83,16 @@ constexpr Edit OfCharacter(ActionType type, QLatin1StringView keyword, QLatin1St
             .notForLegacy = notForLegacy,
             .apply = apply,
             .revert = revert};
+}
+
+constexpr Edit OfValue(ActionType type, const char* log, bool (*apply)(Character&, int))
+{
+    return {.type = type,
+            .target = EditTarget::Character,
+            .keyword = {},
+            .help = {},
+            .log = log,
+            .applyValue = apply};
 }
 
 // How many rows a font can gain, or lose: some of a legacy font stay.
@@ -200,6 +223,9 @@ constexpr std::array Edits = {
                 "Decrements the cursor distance for the given range <value> times."_L1,
                 QT_TRANSLATE_NOOP("Engine", "Decreased cursor distance."),
                 Less<&CharInfo::cursorDistance>, More<&CharInfo::cursorDistance>),
+    OfValue(ActionType::SetCursorDistance,
+            QT_TRANSLATE_NOOP("Engine", "Cursor distance set to %2."),
+            Set<&CharInfo::cursorDistance>),
     OfFont(
         ActionType::FontInsertRowTop, "INSTOP"_L1, "Inserts a row at the top of the font."_L1,
         QT_TRANSLATE_NOOP("Engine", "[Font]: Inserted a row at the top of the font."),

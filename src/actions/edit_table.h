@@ -28,8 +28,11 @@ struct Edit
     Undo undo = Undo::Exact;
     bool notForLegacy = false; // whose characters have the font's height, and no offsets
 
-    bool (*apply)(Character&) = nullptr; // of a character
-    bool (*revert)(Character&) = nullptr;
+    bool (*apply)(Character&) = nullptr;  // of a character
+    bool (*revert)(Character&) = nullptr; // null: undo puts back what was there
+
+    // In the place of both: once, with a value that counts no steps.
+    bool (*applyValue)(Character&, int value) = nullptr;
 
     // Of a font. `grown` gets, or tells, which characters got a row of their own; see
     // Font::InsertRowTop(). `room` is how many steps are possible.

@@ -117,7 +117,7 @@ std::shared_ptr<Action> MakeCharEdit(const OptionOccurrence& occurrence, const R
         return nullptr;
     auto action = std::make_shared<ActionChar>(session, type);
     const CodeRange range = Ordered(occurrence.Get<CodeRange>(1));
-    action->Args() = {range.first, range.last};
+    action->Args() = {.first = range.first, .last = range.last};
     action->SetRepeat(CountOf(occurrence, 2));
     return action;
 }

@@ -13,6 +13,8 @@ struct CharMetrics
     int yPos = 0;
     int cursorDistance = 0;
 
+    bool operator==(const CharMetrics&) const = default;
+
     // True where every value fits its field of a character.
     [[nodiscard]] constexpr bool FitFields() const
     {

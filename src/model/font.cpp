@@ -33,6 +33,24 @@ Character::Character(const FontMetrics& font) : info{font}
         bitmap = std::make_unique<CharBitmap>(info);
 }
 
+bool Character::operator==(const Character& other) const
+{
+    const bool isLabelSame = label == other.label ||
+                             (label != nullptr && other.label != nullptr && *label == *other.label);
+    return isLabelSame && info.Metrics() == other.info.Metrics() && kerning == other.kerning &&
+           bitmap->DataAsList() == other.bitmap->DataAsList();
+}
+
+std::unique_ptr<Character> CopyOf(const Character& character, const FontMetrics& font)
+{
+    auto copy = std::make_unique<Character>(font);
+    copy->info.Set(character.info.Metrics());
+    copy->bitmap->ShareData(*character.bitmap);
+    copy->kerning = character.kerning;
+    copy->label = character.label;
+    return copy;
+}
+
 Font::Font(FontFormat format, EncodingType encoding)
 {
     metrics_.format = format;

@@ -39,7 +39,15 @@ struct Character
     std::unique_ptr<CharBitmap> bitmap;
     std::vector<KerningPair> kerning;
     std::shared_ptr<const CharacterLabel> label; // of most characters null; in no file of a font
+
+    // Whether all of it is the same: metrics, pixels, kerning and label.
+    [[nodiscard]] bool operator==(const Character& other) const;
 };
+
+// A copy for the font of the metrics, which must have the same format. A character refers to the
+// metrics of its font, so that it can't move to another one.
+[[nodiscard]] std::unique_ptr<Character> CopyOf(const Character& character,
+                                                const FontMetrics& font);
 
 // The maximal runs of consecutive codes of a set, in ascending order.
 [[nodiscard]] std::vector<CodeRange> RunsOf(const CodeSet& codes);

@@ -1,3 +1,4 @@
+#include "actions/action_replace_chars.h"
 #include "actions/edit_actions.h"
 #include "support/rows.h"
 #include "support/sample_font.h"
@@ -105,7 +106,7 @@ private Q_SLOTS:
             run(std::make_shared<ActionFont>(session, type));
         } else {
             const auto action = std::make_shared<ActionChar>(session, type);
-            action->Args() = {range.first, range.last};
+            action->Args() = {.first = range.first, .last = range.last};
             run(action);
         }
         QCOMPARE(interface.shortfalls, text.isEmpty() ? QStringList() : QStringList(text));
@@ -119,6 +120,56 @@ private Q_SLOTS:
             std::make_shared<ActionChar>(session, ActionType::Toggle, quint16('A'))->Run();
         QCOMPARE(session.Stack().LogLines(),
                  (QStringList{u"[Char 0x0041]: Disabled."_s, u"[Char 0x0041]: Enabled."_s}));
+    }
+
+    void ValuesAreSet()
+    {
+        Test::UndoSession session(MakeFont(FontFormat::Framed));
+        Test::RecordingInterface interface;
+        const QByteArray before = Test::Snapshot(*session.CurrentFont());
+        for (const int value : {9, 256}) {
+            const auto action =
+                std::make_shared<ActionChar>(session, ActionType::SetCursorDistance);
+            action->Args() = {'A', 'B', value};
+            QVERIFY(action->Run());
+        }
+        QCOMPARE(int(session.CurrentFont()->FindChar('B')->info.cursorDistance), 9);
+        QCOMPARE(session.Stack().LogLines(),
+                 QStringList(u"[Range 0x0041-0x0042]: Cursor distance set to 9."_s));
+        QCOMPARE(interface.shortfalls,
+                 QStringList(u"0x0041-0x0042: 256 does not fit, so it was left out on 2 of 2 "
+                             "characters"_s));
+        session.Stack().Undo();
+        session.Stack().Undo();
+        QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
+        QVERIFY(!session.IsModified());
+    }
+
+    // Changes one character, makes one and removes one.
+    void ReplacingIsOneStep()
+    {
+        Test::UndoSession session(MakeFont(FontFormat::Framed));
+        Font& font = *session.CurrentFont();
+        font.SetEnabled('A', 'A', false);
+        const QByteArray before = Test::Snapshot(font);
+        const auto action =
+            std::make_shared<ActionReplaceChars>(session, "Changed %2.", QStringList(u"it"_s));
+        action->Change('A').bitmap->SetPixelIndex(0, 0, 1);
+        (void)action->Change('B'); // and leaves it
+        (void)action->Change('E');
+        action->Put('D', nullptr);
+        QVERIFY(action->Run());
+        QCOMPARE(session.Stack().LogLines(), QStringList(u"[Range 0x0041-0x0045]: Changed it."_s));
+        QCOMPARE(action->AffectedCodes().Count(), 3);
+        QVERIFY(!font.IsEnabled('A') && font.IsEnabled('E') && font.FindChar('D') == nullptr);
+        const QByteArray after = Test::Snapshot(font);
+        session.Stack().Undo();
+        QCOMPARE(Test::Snapshot(font), before);
+        session.Stack().Redo();
+        QCOMPARE(Test::Snapshot(font), after);
+        const auto nothing = std::make_shared<ActionReplaceChars>(session, "Changed.");
+        (void)nothing->Change('A');
+        QVERIFY(!nothing->Run());
     }
 
     void FontEdits_data()

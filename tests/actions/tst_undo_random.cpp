@@ -49,6 +49,13 @@ public:
             std::make_shared<ActionCharDelete>(session_, codes)->Run();
             break;
         }
+        case 5: {
+            const auto action =
+                std::make_shared<ActionChar>(session_, ActionType::SetCursorDistance);
+            action->Args() = {first, last, Number(0, 300)};
+            action->Run();
+            break;
+        }
         default:
             EditChars(first, last);
             break;

@@ -184,6 +184,8 @@ void Commands::EnableEdits()
     const bool isLegacy = hasFont && IsLegacyFormat(font->Metrics().format);
     const int maximum = hasFont ? (1 << font->Metrics().bitsPerPixel) - 1 : -1;
     for (const Edit& edit : EditTable()) {
+        if (edit.applyValue != nullptr)
+            continue; // no menu has it
         const bool hasTarget = edit.target == EditTarget::Character ? hasCharacter
                                : edit.target == EditTarget::Pixel   ? hasPixel
                                                                     : hasFont;

@@ -114,7 +114,7 @@ void EditCommands::RunSelectionEdit(const Edit& edit)
 {
     RunForEach(SelectedCharacters(), LogEntry(edit.log).Translated(), [&](const CodeRange& run) {
         auto action = std::make_shared<ActionChar>(session_, edit.type);
-        action->Args() = {run.first, run.last};
+        action->Args() = {.first = run.first, .last = run.last};
         return action;
     });
 }

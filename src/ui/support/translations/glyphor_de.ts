@@ -1323,6 +1323,14 @@ Erwartete Größe: %2 Byte.</translation>
         <source>The number %1 is not usable: -jobs takes 1 to 256 threads.</source>
         <translation>Die Zahl %1 ist nicht verwendbar: -jobs nimmt 1 bis 256 Threads.</translation>
     </message>
+    <message>
+        <source>%1: %2 does not fit, so it was left out on %3 of %4 characters</source>
+        <translation>%1: %2 passt nicht und wurde bei %3 von %4 Zeichen ausgelassen</translation>
+    </message>
+    <message>
+        <source>Cursor distance set to %2.</source>
+        <translation>Cursorabstand auf %2 gesetzt.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>

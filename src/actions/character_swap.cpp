@@ -1,0 +1,43 @@
+#include "actions/character_swap.h"
+
+namespace Glyphor {
+
+Character* CharacterSwap::Find(quint16 code) const
+{
+    const auto found = characters_.find(code);
+    return found != characters_.end() ? found->second.get() : nullptr;
+}
+
+CodeSet CharacterSwap::Codes() const
+{
+    CodeSet codes;
+    for (const auto& [code, character] : characters_)
+        codes.Set(code, true);
+    return codes;
+}
+
+void CharacterSwap::DropEqual(const Font& font)
+{
+    std::erase_if(characters_, [&font](const auto& entry) {
+        const Character* const own = font.FindChar(entry.first);
+        const Character* const other = entry.second.get();
+        if (own == nullptr || other == nullptr)
+            return own == other;
+        return *own == *other;
+    });
+}
+
+void CharacterSwap::SwapWith(Font& font)
+{
+    for (auto& [code, character] : characters_) {
+        std::unique_ptr<Character> previous = font.RemoveChar(code);
+        if (character != nullptr)
+            font.InsertChar(code, std::move(character));
+        character = std::move(previous);
+    }
+    const CodeSet previous = font.EnabledCodes();
+    font.SetEnabledCodes(enabled_);
+    enabled_ = previous;
+}
+
+} // namespace Glyphor
