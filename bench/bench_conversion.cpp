@@ -104,6 +104,7 @@ void Compare(const char* title, const Command& glyphor, const Command& bare, con
     Print("empty program", start);
     std::printf("  (Glyphor - empty) / bare FreeType, cpu: %.2f\n",
                 (ours.cpu - start.cpu) / freeType.cpu);
+    std::printf("  Glyphor / bare FreeType, wall: %.2f\n", ours.wall / freeType.wall);
     std::printf("  Glyphor / empty, wall: %.2f\n\n", ours.wall / start.wall);
 }
 

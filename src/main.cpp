@@ -70,7 +70,8 @@ int main(int argc, char** argv)
 
     const CoreApplication application(argc, argv);
     CommandLine& commandLine = CommandLine::Instance();
-    Session session;
+    // Its memory goes with the process: to free a large font first takes time.
+    static Session& session = *new Session;
     SetCurrentInterface(&commandLine);
     commandLine.RunGuarded(argc, argv, session);
     SetCurrentInterface(nullptr);

@@ -17,6 +17,14 @@
 
 namespace Glyphor {
 
+namespace {
+
+// Thrown where the user keeps what a file holds.
+class Declined : public std::exception
+{};
+
+} // namespace
+
 bool ActionSaveFile::Execute()
 {
     Font* const font = CurrentSession().CurrentFont();
@@ -53,22 +61,44 @@ bool ActionSaveFile::Write(const Font& font) const
         SaveHeader(font, actionLog);
         return true;
     }
-    if (!MayReplace())
+    const auto file = MakeOutputFile(Args().path, actionLog);
+    std::future<QStringList> others = LookBesideTheFont();
+    file->SetApproval([&] {
+        if (others.valid() && !MayReplace(others.get()))
+            throw Declined();
+    });
+    try {
+        file->Write(font);
+    } catch (const Declined&) {
         return false;
-    MakeOutputFile(Args().path, actionLog)->Write(font);
+    }
     WriteLogFile(actionLog);
     return true;
 }
 
-// False where the user does not want a file replaced that holds more than a font.
-bool ActionSaveFile::MayReplace() const
+// What else the file holds that is to be replaced. A large one is looked through on another thread
+// while the new one is written.
+std::future<QStringList> ActionSaveFile::LookBesideTheFont() const
 {
     if (FileTypeOf(Args().path) != FileType::C || KindOf(Args().path) != FileKind::Ordinary)
-        return true;
-    File file(Args().path);
-    if (!file.open(QIODevice::ReadOnly))
-        return true; // writing will tell
-    const QStringList others = BesideTheFontOfFile(file.readAll());
+        return {};
+    auto file = std::make_shared<File>(Args().path);
+    if (!file->open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return {}; // writing will tell
+    constexpr qint64 worthAThread = 1'000'000;
+    const bool isOnThread = Args().threads != 1 && file->size() > worthAThread;
+    return std::async(isOnThread ? std::launch::async : std::launch::deferred, [file] {
+        const QStringList others = BesideTheFontOfFile(*file);
+        if (others.isEmpty())
+            file->ForgetContents();
+        file->close();
+        return others;
+    });
+}
+
+// False where the user does not want a file replaced that holds more than a font.
+bool ActionSaveFile::MayReplace(const QStringList& others) const
+{
     if (others.isEmpty())
         return true;
     const QString loss = Engine::tr("Beside the font: %1").arg(Enumerated(others));

@@ -2,6 +2,7 @@
 
 #include "actions/action.h"
 
+#include <future>
 #include <optional>
 
 namespace Glyphor {
@@ -13,6 +14,7 @@ struct ActionSaveFileArgs
     QString path;
     bool writesEmptyKerning = false;  // with a warning, where there are no pairs
     std::optional<QString> name = {}; // that the font gets with it
+    int threads = 0;                  // as many as cores
 };
 
 // Writes the enabled characters to a file whose kind its name tells, and the log file beside it
@@ -34,7 +36,8 @@ private:
     [[nodiscard]] bool Write(const Font& font) const;
     [[nodiscard]] bool IsKerning() const;
     [[nodiscard]] bool IsHeader() const { return Type() == ActionType::SaveHeader; }
-    [[nodiscard]] bool MayReplace() const;
+    [[nodiscard]] std::future<QStringList> LookBesideTheFont() const;
+    [[nodiscard]] bool MayReplace(const QStringList& others) const;
     void SaveKerning(const Font& font, const QStringList& actionLog) const;
     void SaveHeader(const Font& font, const QStringList& actionLog) const;
     void WriteLogFile(const QStringList& actionLog) const;

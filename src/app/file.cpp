@@ -83,6 +83,13 @@ void File::WriteDirectly(const std::function<void(const Sink&)>& compose)
     close();
 }
 
+void File::ForgetContents() const
+{
+#ifdef Q_OS_LINUX
+    ::posix_fadvise(handle(), 0, 0, POSIX_FADV_DONTNEED);
+#endif
+}
+
 void File::Replace(const std::function<void(const Sink&)>& compose)
 {
     const FileKind kind = KindOf(fileName());

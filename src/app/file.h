@@ -26,6 +26,10 @@ public:
     // any font.
     [[nodiscard]] QByteArray Contents();
 
+    // Tells the system that the open file won't be read again soon, as it is about to be replaced:
+    // that is faster where none of it is in memory.
+    void ForgetContents() const;
+
     // Puts the contents in the file's place, as a whole or not at all: on any error the old file
     // stays and a CriticalException names the file and the reason. Follows symbolic links, keeps
     // permissions and, where it may, the owner; warns where hard links keep the old contents.

@@ -254,8 +254,22 @@ bool Replacement::Write(QByteArrayView bytes)
         if (count <= 0)
             return Fail();
         bytes = bytes.sliced(count);
+        written_ += count;
     }
+    BeginToStore();
     return true;
+}
+
+// Large files are on their way to the disk while the rest is made, so that Commit() waits less.
+void Replacement::BeginToStore()
+{
+#ifdef Q_OS_LINUX
+    constexpr qint64 portion = 0x400000;
+    if (written_ - stored_ < portion)
+        return;
+    ::sync_file_range(file_, stored_, written_ - stored_, SYNC_FILE_RANGE_WRITE);
+    stored_ = written_;
+#endif
 }
 
 // Where the owner can't be kept, the group may be.

@@ -46,6 +46,7 @@ private:
     bool OpenUnnamed();
     bool OpenNamed();
     bool ClaimName(const std::function<bool(const QByteArray&)>& create);
+    void BeginToStore();
     void KeepOwner();
     bool GiveName();
     [[nodiscard]] QByteArray TemporaryName(int slot) const;
@@ -55,7 +56,9 @@ private:
     std::optional<struct stat> old_;
     QByteArray temporary_; // empty where the new file has no name yet
     int file_ = -1;
-    int error_ = 0; // of errno
+    qint64 written_ = 0;
+    qint64 stored_ = 0; // of that, what the disk has to take already
+    int error_ = 0;     // of errno
 };
 
 #else

@@ -74,11 +74,12 @@ std::shared_ptr<Action> MakeMerge(const OptionOccurrence& occurrence, const RunO
     return action;
 }
 
-std::shared_ptr<Action> MakeSave(const OptionOccurrence& occurrence, const RunOptions&,
+std::shared_ptr<Action> MakeSave(const OptionOccurrence& occurrence, const RunOptions& options,
                                  Session& session)
 {
     auto action = std::make_shared<ActionSaveFile>(session, ActionType::SaveFont);
     action->Args().path = occurrence.Get<QString>(0);
+    action->Args().threads = options.open.render.threads;
     return action;
 }
 

@@ -18,26 +18,12 @@ void Blank(char* first, const char* last)
         first, const_cast<char*>(last), [](char character) { return !IsLineEnd(character); }, ' ');
 }
 
-// The end of the comment that begins at `start`, or `start` where none does.
-char* CommentEnd(char* start, char* end)
-{
-    if (end - start < 2)
-        return start;
-    if (start[1] == '/')
-        return std::find_if(start, end, IsLineEnd);
-    if (start[1] != '*')
-        return start;
-    constexpr std::string_view mark = "*/";
-    char* const close = std::search(start + 2, end, mark.begin(), mark.end());
-    return close == end ? end : close + mark.size();
-}
-
 void BlankComments(QByteArray& text)
 {
     char* const end = text.data() + text.size();
     char* at = text.data();
     while ((at = static_cast<char*>(std::memchr(at, '/', static_cast<std::size_t>(end - at))))) {
-        char* const commentEnd = CommentEnd(at, end);
+        char* const commentEnd = at + CommentSize({at, static_cast<std::size_t>(end - at)});
         Blank(at, commentEnd);
         at = std::max(at + 1, commentEnd);
     }
@@ -72,6 +58,17 @@ bool ParseInteger(std::string_view text, int& value)
 }
 
 } // namespace
+
+std::size_t CommentSize(std::string_view text)
+{
+    if (text.starts_with("//"))
+        return static_cast<std::size_t>(std::ranges::find_if(text, IsLineEnd) - text.begin());
+    if (!text.starts_with("/*"))
+        return 0;
+    constexpr std::string_view mark = "*/";
+    const std::size_t close = text.find(mark, 2);
+    return close == std::string_view::npos ? text.size() : close + mark.size();
+}
 
 std::string_view Trimmed(std::string_view text)
 {

@@ -78,6 +78,10 @@ private:
     return character == ' ' || character == '\n' || character == '\r';
 }
 
+// The length of the comment that the text begins with; 0 where it begins with none. The line end
+// behind it is no part of it.
+[[nodiscard]] std::size_t CommentSize(std::string_view text);
+
 // Without the white space at both ends.
 [[nodiscard]] std::string_view Trimmed(std::string_view text);
 

@@ -2,6 +2,9 @@
 
 #include "app/shown_text.h"
 #include "files/c_scanner.h"
+#include "files/c_skimmer.h"
+
+#include <QIODevice>
 
 #include <algorithm>
 #include <array>
@@ -27,9 +30,9 @@ struct Item
     bool isOfFont = false;
 };
 
-// Calls visit(identifier) for every identifier, until it returns false.
+// Calls visit(word) for every identifier and number, until it returns false.
 template <typename Visit>
-void ForEachIdentifier(std::string_view text, Visit visit)
+void ForEachWord(std::string_view text, Visit visit)
 {
     std::size_t at = 0;
     while (at < text.size()) {
@@ -219,7 +222,7 @@ private:
     {
         std::array<std::string_view, 3> words;
         std::size_t count = 0;
-        ForEachIdentifier(line, [&](std::string_view word) {
+        ForEachWord(line, [&](std::string_view word) {
             words[count++] = word;
             return count < words.size();
         });
@@ -269,6 +272,7 @@ class FontParts
 public:
     explicit FontParts(std::vector<Item>& items) : items_(items)
     {
+        definitions_.reserve(items.size());
         for (std::size_t index = 0; index < items.size(); ++index) {
             if (!items[index].body.empty())
                 definitions_.emplace(items[index].name, index);
@@ -307,7 +311,9 @@ private:
             open.pop_back();
             if (std::exchange(item.isOfFont, true))
                 continue; // every block refers to the table
-            ForEachIdentifier(item.body, [&](std::string_view word) {
+            ForEachWord(item.body, [&](std::string_view word) {
+                if (word.front() >= '0' && word.front() <= '9')
+                    return true;
                 const auto found = definitions_.find(word);
                 if (found == definitions_.end() || items_[found->second].isOfFont)
                     return true;
@@ -353,9 +359,18 @@ QStringList BesideTheFont(std::string_view text)
     return names;
 }
 
-QStringList BesideTheFontOfFile(QByteArray contents)
+QStringList BesideTheFontOfFile(QIODevice& file)
 {
-    return BesideTheFont(CScanner(std::move(contents)).Text());
+    QByteArray piece(0x40000, Qt::Uninitialized); // stays in the processor's cache
+    CSkimmer skimmer;
+    qint64 size = 0;
+    while ((size = file.read(piece.data(), piece.size())) > 0)
+        skimmer.Add(QByteArrayView(piece).first(size));
+    const std::optional<QByteArray> rest = skimmer.Finish();
+    if (rest && BesideTheFont(CScanner(*rest).Text()).isEmpty())
+        return {};
+    file.seek(0);
+    return BesideTheFont(CScanner(file.readAll()).Text());
 }
 
 QString Enumerated(const QStringList& names)

@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+class QIODevice;
+
 namespace Glyphor {
 
 // The names of what a C text holds beside its first font, in their order: further fonts,
@@ -12,8 +14,8 @@ namespace Glyphor {
 // Empty for a text without a font. The text must be free of comments.
 [[nodiscard]] QStringList BesideTheFont(std::string_view text);
 
-// The same for the contents of a file, comments and all.
-[[nodiscard]] QStringList BesideTheFontOfFile(QByteArray contents);
+// The same for an open file, comments and all.
+[[nodiscard]] QStringList BesideTheFontOfFile(QIODevice& file);
 
 // The first names, for a message.
 [[nodiscard]] QString Enumerated(const QStringList& names);

@@ -3,6 +3,7 @@
 #include "app/file.h"
 #include "model/font.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -33,13 +34,24 @@ public:
     // the file can't be written.
     virtual void Write(const Font& font);
 
+    // Called when the contents are ready, before they take the place of the old ones; what it throws
+    // keeps those. C files alone ask.
+    void SetApproval(std::function<void()> approval) { approval_ = std::move(approval); }
+
     // Where set, rendering leaves out the characters that are not in it.
     void SetCharacterFilter(const std::optional<CodeSet>& filter) { filter_ = filter; }
 
 protected:
     [[nodiscard]] const std::optional<CodeSet>& CharacterFilter() const { return filter_; }
 
+    void AskForApproval() const
+    {
+        if (approval_)
+            approval_();
+    }
+
 private:
+    std::function<void()> approval_;
     std::optional<CodeSet> filter_;
 };
 

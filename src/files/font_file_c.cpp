@@ -216,7 +216,10 @@ FlashParts FlashPartsOf(const Font& font)
 
 void FontFileC::Write(const Font& font)
 {
-    Replace([&](const Sink& sink) { Compose(font, sink); });
+    Replace([&](const Sink& sink) {
+        Compose(font, sink);
+        AskForApproval();
+    });
 }
 
 } // namespace Glyphor

@@ -1,13 +1,29 @@
+#include "files/c_scanner.h"
+#include "files/c_skimmer.h"
 #include "files/c_survey.h"
 #include "files/font_file_c.h"
 #include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 
+#include <QBuffer>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <random>
+
 namespace Glyphor {
+
+namespace {
+
+QStringList Beside(QByteArray text)
+{
+    QBuffer file(&text);
+    file.open(QIODevice::ReadOnly);
+    return BesideTheFontOfFile(file);
+}
+
+} // namespace
 
 class TestCSurvey : public QObject
 {
@@ -30,7 +46,7 @@ private Q_SLOTS:
             for (const QByteArray& lineEnding : {"\r\n"_ba, "\r"_ba, "\n"_ba}) {
                 for (const QString& name : {u"font.c"_s, u"font.h"_s}) {
                     const QByteArray text = Text(FontFormat(format), name, lineEnding);
-                    QCOMPARE(BesideTheFontOfFile(text), QStringList());
+                    QCOMPARE(Beside(text), QStringList());
                 }
             }
         }
@@ -74,18 +90,62 @@ private Q_SLOTS:
         const auto [code, names] = Test::Row<QByteArray, QStringList>();
         for (const FontFormat format : {FontFormat::Legacy, FontFormat::Framed}) {
             const QByteArray text = Text(format);
-            QCOMPARE(BesideTheFontOfFile(code + '\n' + text), names);
-            QCOMPARE(BesideTheFontOfFile(text + code), names);
-            QCOMPARE(BesideTheFontOfFile(text + QByteArray(code).replace('\n', "\r\n")).size(),
-                     names.size());
+            QCOMPARE(Beside(code + '\n' + text), names);
+            QCOMPARE(Beside(text + code), names);
+            QCOMPARE(Beside(text + QByteArray(code).replace('\n', "\r\n")).size(), names.size());
         }
-        QCOMPARE(BesideTheFontOfFile(code), QStringList());
+        QCOMPARE(Beside(code), QStringList());
+    }
+
+    // What is skipped makes no difference, wherever something is added and pieces end.
+    void SkippingHidesNothing()
+    {
+        std::mt19937 numbers(14);
+        const QByteArrayList additions = {// as they may break in anywhere
+                                          "int a;",
+                                          "};",
+                                          "{",
+                                          "}",
+                                          "/*",
+                                          "*/",
+                                          "//",
+                                          "\"",
+                                          "'",
+                                          "#define A 1\n",
+                                          " = {1};\n",
+                                          "\\\n",
+                                          "x[1]",
+                                          "Plain",
+                                          ", ",
+                                          "\n",
+                                          "\n};\nint b[] = {\n"};
+        for (int round = 0; round < 2000; ++round) {
+            QByteArray text = Text(round % 2 == 0 ? FontFormat::Framed : FontFormat::LegacyAA4);
+            for (int count = 0; count < 1 + round % 2; ++count)
+                text.insert(qsizetype(numbers()) % text.size(),
+                            additions[qsizetype(numbers()) % additions.size()]);
+            const QStringList names = BesideTheFont(CScanner(text).Text());
+            QCOMPARE(Beside(text), names);
+
+            CSkimmer skimmer;
+            const qsizetype size = 1 + round % 70;
+            for (qsizetype at = 0; at < text.size(); at += size)
+                skimmer.Add(QByteArrayView(text).sliced(at, std::min(size, text.size() - at)));
+            const auto rest = skimmer.Finish();
+            const bool isAlone = rest && BesideTheFont(CScanner(*rest).Text()).isEmpty();
+            QVERIFY(!isAlone || names.isEmpty());
+        }
+        CSkimmer skimmer;
+        const QByteArray text = Text(FontFormat::AA4);
+        skimmer.Add(text);
+        const auto rest = skimmer.Finish();
+        QVERIFY(rest && !rest->contains("unsigned char") && !rest->contains("// Code"));
     }
 
     void FurtherFonts()
     {
         const QByteArray second = Text(FontFormat::AA2).replace("Plain_1", "Other");
-        const QStringList names = BesideTheFontOfFile(Text(FontFormat::Standard) + second);
+        const QStringList names = Beside(Text(FontFormat::Standard) + second);
         for (const char* const part : {"", "_CharInfo", "_Prop1"})
             QVERIFY(names.contains(u"GUI_Font8_Tests_Other"_s + QString::fromUtf8(part)));
         QVERIFY(names.contains(u"acGUI_Font8_Tests_Other_0041"_s));
