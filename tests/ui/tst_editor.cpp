@@ -144,6 +144,56 @@ private Q_SLOTS:
         QCOMPARE(CurrentCell(), QPoint(1, 2));
     }
 
+    // The pencil draws over the frame of its own ink; only Ctrl and the arrow keys cross one.
+    void FramesAreNoBarrier()
+    {
+        UndoStack history;
+        Session session(history);
+        Show(FontFormat::Framed);
+        session.ReplaceFont(std::move(font_), {});
+        const CharBitmap& bitmap = *view_->CurrentCharacter()->bitmap;
+        for (int x = 0; x < 5; ++x)
+            for (int y = 0; y < 2; ++y)
+                session.CurrentFont()->FindChar('B')->bitmap->SetPixelIndex(x, y, 0);
+        view_->SetCharacter(view_->CurrentCharacter(), 'B');
+        PencilTool pencil(session, history, *view_);
+        const std::unique_ptr<QSpinBox> box(&pencil.IndexBox());
+        pencil.ShowFont(session.CurrentFont());
+        pencil.Command().setChecked(true);
+        QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(2, 1));
+        view_->SetCharacter(view_->CurrentCharacter(), 'B');
+        QCOMPARE(view_->CellItem(3, 1)->CellState(), CharPixelItem::Frame);
+        QVERIFY(view_->SelectItem(view_->CellItem(4, 1)));
+        view_->setFocus();
+        QTest::keyClick(view_->viewport(), Qt::Key_Left);
+        QCOMPARE(CurrentCell(), QPoint(4, 1));
+        QTest::keyClick(view_->viewport(), Qt::Key_Left, Qt::ControlModifier);
+        QCOMPARE(CurrentCell(), QPoint(2, 1));
+        QTest::keyClick(view_->viewport(), Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(CurrentCell(), QPoint(2, 1));
+        QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(3, 1));
+        QCOMPARE(bitmap.GetPixelIndex(3, 0), 1);
+        QCOMPARE(bitmap.GetPixelIndex(2, 0), 1);
+    }
+
+    // With a dark line and a light one there is contrast to any grey.
+    void SelectedPixelStandsOut()
+    {
+        Show(FontFormat::AA4);
+        const auto brightness = [this](QPoint place) {
+            return qGray(view_->viewport()->grab().toImage().pixel(place));
+        };
+        for (int index = 0; index < 16; ++index) {
+            font_->FindChar('B')->bitmap->SetPixelIndex(2, 1, index);
+            view_->SetCharacter(view_->CurrentCharacter(), 'B');
+            QVERIFY(view_->SelectItem(view_->CellItem(2, 2)));
+            const QRect cell = view_->mapFromScene(view_->CellItem(2, 2)->rect()).boundingRect();
+            QVERIFY(brightness({cell.left(), cell.center().y()}) > 200);
+            QVERIFY(brightness({cell.left() + 1, cell.center().y()}) < 50);
+        }
+        view_->ClearPixel();
+    }
+
     // Space takes the row of the grid for that of the bitmap.
     void Space()
     {

@@ -18,6 +18,16 @@ namespace {
 constexpr int ResizeDelay = 20; // milliseconds
 constexpr int MaxZoom = 64;
 
+// Stands out from any grey, on which an inverted one may not.
+void DrawOutline(QPainter& painter, const QRectF& rect)
+{
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [colour, width] : {std::pair(Qt::black, 3), std::pair(Qt::white, 1)}) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(rect);
+    }
+}
+
 } // namespace
 
 CharBitmapView::CharBitmapView(QWidget* parent) : QGraphicsView(parent)
@@ -80,6 +90,7 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
         current_ = same;
         current_->setSelected(true);
         scene_.setFocusItem(current_);
+        UpdateMark();
     }
     TellPixel();
 }
@@ -152,12 +163,12 @@ bool CharBitmapView::SelectItem(CharPixelItem* item)
         return false;
     if (current_ != nullptr && current_ != item) {
         current_->setSelected(false);
-        current_->update();
+        UpdateMark();
     }
     current_ = item;
     item->setSelected(true);
     item->setFocus();
-    item->update();
+    UpdateMark();
     ensureVisible(item, 0, 0);
     TellPixel();
     return true;
@@ -175,11 +186,19 @@ QPoint CharBitmapView::SelectedPixel() const
     return current_ != nullptr ? current_->PixelPosition() : QPoint(-1, -1);
 }
 
+// Of the selected cell, with the outline around it.
+void CharBitmapView::UpdateMark()
+{
+    scene_.update(current_->rect().adjusted(-3, -3, 3, 3));
+}
+
 // Takes mark and focus from the cell, before it is one of something else.
 void CharBitmapView::ForgetPixel()
 {
-    if (current_ != nullptr)
+    if (current_ != nullptr) {
         current_->setSelected(false);
+        UpdateMark();
+    }
     scene_.setFocusItem(nullptr);
     current_ = nullptr;
 }
@@ -205,6 +224,8 @@ void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
     const qreal advance = guides_.x() * cellSize_;
     if (guides_.x() >= 0 && guides_.x() <= ShownColumns())
         painter->drawLine(QPointF(advance, 0), QPointF(advance, scene_.height()));
+    if (current_ != nullptr)
+        DrawOutline(*painter, current_->rect());
 }
 
 void CharBitmapView::resizeEvent(QResizeEvent* event)

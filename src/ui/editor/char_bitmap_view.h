@@ -83,6 +83,7 @@ private:
     Q_SLOT void OnTimerResize();
     void UpdateItems();
     void PlaceItems();
+    void UpdateMark();
     void ForgetPixel();
     void TellPixel();
     [[nodiscard]] QString Description(const CharPixelItem& item) const;

@@ -101,10 +101,10 @@ void PencilTool::PaintTo(const QMouseEvent& mouse)
 void PencilTool::PaintCell(QPoint cell, bool inverts)
 {
     const CharPixelItem* const item = editor_.CellItem(cell.x(), cell.y());
-    if (item == nullptr || item->CellState() != CharPixelItem::Pixel ||
+    if (item == nullptr || item->CellState() == CharPixelItem::Outside ||
         !painted_.insert(item).second)
         return;
-    PaintPixel(item->PixelPosition(), inverts);
+    PaintPixel(item->BitmapPosition(), inverts);
     editor_.ShowStatus(*item);
 }
 
