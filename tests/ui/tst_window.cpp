@@ -287,10 +287,7 @@ private Q_SLOTS:
         };
         stroke(0, 3);
         QCOMPARE(history_->count(), 0); // it selects
-        for (QAction* const tool : window_->findChildren<QAction*>()) {
-            if (tool->text() == u"Pencil"_s)
-                tool->trigger();
-        }
+        Trigger(EditorTool::Pencil);
         stroke(0, 3);
         QCOMPARE(history_->count(), 1);
         for (int x = 0; x < 4; ++x)

@@ -58,7 +58,8 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
 {
     const QPoint selected =
         current_ != nullptr ? QPoint(current_->Column(), current_->Row()) : QPoint(-1, -1);
-    const bool isOther = character != character_;
+    // An edit may give the code another one.
+    const bool isOther = code != code_ || (character == nullptr) != (character_ == nullptr);
     if (isOther)
         Q_EMIT CharacterLeft();
     character_ = character;
@@ -288,14 +289,41 @@ void CharBitmapView::keyPressEvent(QKeyEvent* event)
         event->ignore();
 }
 
+void CharBitmapView::ShowDraft(const Character& draft, const std::vector<QPoint>& pixels)
+{
+    const FramePlane frame(draft);
+    const auto update = [&](QPoint cell) {
+        if (CharPixelItem* const item = CellItem(cell.x(), cell.y()))
+            item->UpdateFrom(draft, frame);
+    };
+    for (const QPoint pixel : pixels) {
+        const QPoint cell = pixel + QPoint(0, Top());
+        update(cell);
+        if (draft.info.font.format != FontFormat::Framed)
+            continue;
+        for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
+            update(cell + step);
+    }
+}
+
 // Empty for a cell that is no pixel.
 QString CharBitmapView::Description(const CharPixelItem& item) const
 {
     const QPoint place = item.PixelPosition();
     if (character_ == nullptr || place.x() < 0)
         return {};
-    const int index = character_->bitmap->GetPixelIndex(place.x(), place.y());
-    return tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index);
+    return Description(*character_, place);
+}
+
+QString CharBitmapView::Description(const Character& character, QPoint pixel) const
+{
+    const int index = character.bitmap->GetPixelIndex(pixel.x(), pixel.y());
+    return tr("Index of pixel [%1, %2]: %3").arg(pixel.x()).arg(pixel.y()).arg(index);
+}
+
+void CharBitmapView::ShowStatus(const Character& character, QPoint pixel)
+{
+    Q_EMIT StatusChanged(Description(character, pixel));
 }
 
 void CharBitmapView::ShowStatus(const CharPixelItem& item)

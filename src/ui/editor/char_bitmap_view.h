@@ -44,6 +44,10 @@ public:
 
     // Tells the place and the index of a cell that is a pixel.
     void ShowStatus(const CharPixelItem& item);
+    void ShowStatus(const Character& character, QPoint pixel);
+
+    // Shows pixels of a bitmap that the character may get, until it is set the next time.
+    void ShowDraft(const Character& draft, const std::vector<QPoint>& pixels);
 
     // The y of the first row of the character's bitmap.
     [[nodiscard]] int Top() const;
@@ -87,6 +91,7 @@ private:
     void ForgetPixel();
     void TellPixel();
     [[nodiscard]] QString Description(const CharPixelItem& item) const;
+    [[nodiscard]] QString Description(const Character& character, QPoint pixel) const;
     [[nodiscard]] QPoint GuidePlace() const;
     [[nodiscard]] qreal FittingSize() const;
     [[nodiscard]] int ShownColumns() const;

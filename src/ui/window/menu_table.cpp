@@ -34,6 +34,17 @@ constexpr MenuRow Toggle(const char* text, const char* statusTip, Command comman
     return row;
 }
 
+// One of several, of which the first is chosen at the start.
+constexpr MenuRow Choice(const char* text, const char* shortcut, const char* statusTip,
+                         EditorTool tool)
+{
+    MenuRow row = Entry(text, shortcut, statusTip, tool);
+    row.checkable = 1;
+    row.checked = tool == EditorTool::Select ? 1 : 0;
+    row.exclusive = 1;
+    return row;
+}
+
 template <std::size_t Count>
 constexpr MenuRow Submenu(const char* text, const MenuRow (&rows)[Count],
                           SubmenuId id = SubmenuId::None)
@@ -194,6 +205,34 @@ public:
               ActionType::SetPixelIndex15),
     };
 
+    static constexpr MenuRow DrawingRows[] = {
+        Choice(QT_TR_NOOP("&Select"), "S", QT_TR_NOOP("Select pixels by clicking"),
+               EditorTool::Select),
+        Choice(QT_TR_NOOP("&Pencil"), "P",
+               QT_TR_NOOP("Paint pixels by clicking and dragging (Ctrl inverts them)"),
+               EditorTool::Pencil),
+        Choice(QT_TR_NOOP("&Eraser"), "X",
+               QT_TR_NOOP("Set pixels to index 0 by clicking and dragging (as the right button "
+                          "does with every tool)"),
+               EditorTool::Eraser),
+        Choice(QT_TR_NOOP("&Line"), "L",
+               QT_TR_NOOP("Draw a line by dragging (Shift keeps it level, upright or diagonal)"),
+               EditorTool::Line),
+        Choice(QT_TR_NOOP("&Rectangle"), "U",
+               QT_TR_NOOP("Draw the outline of a rectangle by dragging (Shift makes it a square)"),
+               EditorTool::Rectangle),
+        Choice(QT_TR_NOOP("Filled re&ctangle"), "Shift+U",
+               QT_TR_NOOP("Fill a rectangle by dragging (Shift makes it a square)"),
+               EditorTool::FilledRectangle),
+        Choice(QT_TR_NOOP("&Fill"), "G",
+               QT_TR_NOOP("Fill the area of pixels with the same index by clicking"),
+               EditorTool::Fill),
+        Choice(QT_TR_NOOP("Pic&ker"), "I",
+               QT_TR_NOOP("Take the index to paint with from a pixel (as Alt and a click do with "
+                          "every tool)"),
+               EditorTool::Picker),
+    };
+
     static constexpr MenuRow EditRows[] = {
         Entry(QT_TR_NOOP("&Undo"), "Ctrl+Z", QT_TR_NOOP("Undo last action"), WindowCommand::Undo),
         Entry(QT_TR_NOOP("&Redo"), "Ctrl+Y", QT_TR_NOOP("Redo previous action"),
@@ -223,6 +262,8 @@ public:
         Entry(QT_TR_NOOP("Save &pattern file..."), nullptr,
               QT_TR_NOOP("Save the currently enabled characters to a pattern file"),
               ActionType::SavePattern),
+        Separator,
+        Submenu(QT_TR_NOOP("Too&ls"), DrawingRows, SubmenuId::Tools),
     };
 
     static constexpr MenuRow ViewRows[] = {
