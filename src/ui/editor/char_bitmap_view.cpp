@@ -272,8 +272,10 @@ bool CharBitmapView::event(QEvent* event)
             return true;
         }
     }
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
-        viewport()->update();
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        const QRect frame = viewport()->rect();
+        viewport()->update(QRegion(frame) - QRegion(frame.adjusted(2, 2, -2, -2)));
+    }
     return QGraphicsView::event(event);
 }
 

@@ -32,9 +32,11 @@ protected:
     {
         QPainter painter(this);
         painter.fillRect(rect(), isChecked() ? palette().highlight() : palette().mid());
-        const int frame = isChecked() ? 2 : 1;
-        const QRect inside = rect().adjusted(frame, frame, -frame, -frame);
-        painter.fillRect(inside, Qt::white);
+        const auto within = [this](int frame) {
+            return rect().adjusted(frame, frame, -frame, -frame);
+        };
+        painter.fillRect(within(isChecked() ? 2 : 1), Qt::white);
+        const QRect inside = within(isChecked() ? 3 : 1);
         painter.fillRect(inside, QColor(0, 0, 0, isEnabled() ? alpha_ : alpha_ / 3));
         if (!hasFocus())
             return;
