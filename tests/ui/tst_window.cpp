@@ -303,6 +303,35 @@ private Q_SLOTS:
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
     }
 
+    // Each character and each change keeps it, another font does not.
+    void ZoomOfTheEditor()
+    {
+        OpenSample(FontFormat::AA4);
+        window_->Table().SelectCode('B');
+        const CharBitmapView& editor = window_->Editor();
+        const qreal fitting = editor.CellSize();
+        for (const auto& [command, size] :
+             {std::pair(WindowCommand::ActualSize, 1), std::pair(WindowCommand::ZoomOut, 1),
+              std::pair(WindowCommand::ZoomIn, 2), std::pair(WindowCommand::ZoomIn, 3),
+              std::pair(WindowCommand::ZoomOut, 2)}) {
+            Trigger(command);
+            QCOMPARE(editor.CellSize(), size);
+        }
+        QTest::keyClick(window_.get(), Qt::Key_Equal, Qt::ControlModifier);
+        QCOMPARE(editor.CellSize(), 3);
+        window_->Table().SelectCode('C');
+        Trigger(ActionType::InsertColumnRight);
+        QCOMPARE(editor.CellSize(), 3);
+        QTest::keyClick(window_.get(), Qt::Key_0, Qt::ControlModifier);
+        window_->Table().SelectCode('B');
+        QCOMPARE(editor.CellSize(), fitting);
+        for (int step = 0; step < 30; ++step)
+            Trigger(WindowCommand::ZoomIn);
+        QVERIFY(editor.CellSize() >= fitting);
+        OpenSample(FontFormat::AA4);
+        QCOMPARE(editor.Zoom(), 0);
+    }
+
     void PreferencesTakeEffectAtOnce()
     {
         OpenSample();
@@ -439,14 +468,15 @@ private Q_SLOTS:
     {
         OpenSample();
         window_->resize(900, 500);
-        window_->Editor().SetZoom(12);
+        Trigger(EditorTool::Line);
         Trigger(WindowCommand::AllCharacters);
         window_->close();
         window_ = std::make_unique<MainWindow>(*session_, *history_);
         SetCurrentInterface(window_.get());
         window_->show();
         QCOMPARE(window_->size(), QSize(900, 500));
-        QCOMPARE(window_->Editor().Zoom(), 12);
+        QVERIFY(window_->Menus().Command(EditorTool::Line)->isChecked());
+        QVERIFY(!window_->Menus().Command(EditorTool::Select)->isChecked());
         QVERIFY(!window_->Menus().Command(WindowCommand::AllCharacters)->isChecked());
     }
 

@@ -6,9 +6,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace Glyphor {
@@ -16,7 +18,8 @@ namespace Glyphor {
 namespace {
 
 constexpr int ResizeDelay = 20; // milliseconds
-constexpr int MaxZoom = 64;
+constexpr std::array ZoomSteps = {1, 2, 3, 4, 6, 8, 12, 16, 24, 32, 48, 64};
+constexpr int MaxZoom = ZoomSteps.back();
 
 // Stands out from any grey, on which an inverted one may not.
 void DrawOutline(QPainter& painter, const QRectF& rect)
@@ -142,7 +145,7 @@ void CharBitmapView::PlaceItems()
         scene_.setSceneRect(hint_->sceneBoundingRect());
         return;
     }
-    cellSize_ = zoom_ > 0 ? std::max(2.0, qreal(zoom_)) : FittingSize();
+    cellSize_ = zoom_ > 0 ? qreal(zoom_) : FittingSize();
     scene_.setSceneRect(0, 0, ShownColumns() * cellSize_, rows_ * cellSize_);
     for (CharPixelItem* const item : items_)
         item->setGeometry(
@@ -246,6 +249,38 @@ void CharBitmapView::SetZoom(int zoom)
     PlaceItems();
 }
 
+// What is at the place stays there, as far as there is something to scroll.
+void CharBitmapView::ZoomAround(QPoint place, int zoom)
+{
+    const QPointF cell = mapToScene(place) / cellSize_;
+    SetZoom(zoom);
+    const QPoint moved = mapFromScene(cell * cellSize_) - place;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + moved.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + moved.y());
+}
+
+QPoint CharBitmapView::ZoomCentre() const
+{
+    const QRect view = viewport()->rect();
+    const QPoint pixel =
+        current_ != nullptr ? mapFromScene(current_->rect().center()) : view.center();
+    return view.contains(pixel) ? pixel : view.center();
+}
+
+void CharBitmapView::ZoomIn()
+{
+    const auto* const larger = std::ranges::upper_bound(ZoomSteps, static_cast<int>(cellSize_));
+    if (larger != ZoomSteps.end())
+        ZoomAround(ZoomCentre(), *larger);
+}
+
+void CharBitmapView::ZoomOut()
+{
+    const auto* const first = std::ranges::lower_bound(ZoomSteps, static_cast<int>(cellSize_));
+    if (first != ZoomSteps.begin())
+        ZoomAround(ZoomCentre(), *std::prev(first));
+}
+
 // Zooms; all the way out fits the view again.
 void CharBitmapView::wheelEvent(QWheelEvent* event)
 {
@@ -259,7 +294,7 @@ void CharBitmapView::wheelEvent(QWheelEvent* event)
     const int fitting = static_cast<int>(FittingSize());
     const int zoom =
         std::clamp(static_cast<int>(cellSize_) + 2 * steps, 2, std::max(MaxZoom, fitting));
-    SetZoom(zoom <= fitting && steps < 0 ? 0 : zoom);
+    ZoomAround(event->position().toPoint(), zoom <= fitting && steps < 0 ? 0 : zoom);
 }
 
 // Space is a shortcut as well, but here it is the cell's.

@@ -56,6 +56,10 @@ public:
     [[nodiscard]] int Zoom() const { return zoom_; }
     void SetZoom(int zoom);
 
+    // To the next size of a series, around the selected pixel.
+    void ZoomIn();
+    void ZoomOut();
+
     // The cell at a place in the viewport, in a grid that goes on beyond its ends.
     [[nodiscard]] QPoint CellAt(QPoint place) const;
 
@@ -94,6 +98,8 @@ private:
     [[nodiscard]] QString Description(const Character& character, QPoint pixel) const;
     [[nodiscard]] QPoint GuidePlace() const;
     [[nodiscard]] qreal FittingSize() const;
+    [[nodiscard]] QPoint ZoomCentre() const;
+    void ZoomAround(QPoint place, int zoom);
     [[nodiscard]] int ShownColumns() const;
 
     const Character* character_ = nullptr;

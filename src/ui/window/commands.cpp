@@ -30,6 +30,9 @@ Commands::Commands(const WindowParts& parts, QWidget& window)
     }
     for (const ToolRow& tool : ToolTable())
         BindToEditor(*parts_.menus.Command(tool.tool));
+    // The same key without Shift where plus is above another character.
+    parts_.menus.Command(WindowCommand::ZoomIn)
+        ->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
 }
 
 // Elsewhere its key means something else.
@@ -112,6 +115,14 @@ void Commands::RunWindowCommand(quint32 id)
         return ShowManual();
     case WindowCommand::ExportProof:
         return parts_.document.ExportProof();
+    case WindowCommand::ZoomIn:
+        return parts_.panes.Editor().ZoomIn();
+    case WindowCommand::ZoomOut:
+        return parts_.panes.Editor().ZoomOut();
+    case WindowCommand::ZoomToFit:
+        return parts_.panes.Editor().SetZoom(0);
+    case WindowCommand::ActualSize:
+        return parts_.panes.Editor().SetZoom(1);
     }
 }
 
@@ -185,9 +196,11 @@ void Commands::EnablePossible()
     const bool isSaved = !parts_.session.IsModified() && parts_.document.HasOwnFile();
     enable(ActionType::SaveFont, hasFont && !isSaved);
     enable(ActionType::SaveKerning, hasFont && font->HasKerning());
-    enable(WindowCommand::AllCharacters, hasFont);
-    enable(WindowCommand::GoToCharacter, hasFont);
-    enable(WindowCommand::ExportProof, hasFont);
+    for (const WindowCommand command :
+         {WindowCommand::AllCharacters, WindowCommand::GoToCharacter, WindowCommand::ExportProof,
+          WindowCommand::ZoomIn, WindowCommand::ZoomOut, WindowCommand::ZoomToFit,
+          WindowCommand::ActualSize})
+        enable(command, hasFont);
     for (const ToolRow& tool : ToolTable())
         enable(tool.tool, hasFont);
     EnableEdits();

@@ -159,11 +159,11 @@ void MainWindow::RecallState()
     QByteArray upperSplitter;
     QStringList files;
     QByteArray preview;
-    qint32 zoom = 0;
+    qint32 unused = 0; // a font begins fitted
     quint8 tool = 0;
     bool showsAll = true;
     stream >> version >> window >> splitter >> subSplitter >> upperSplitter >> files >> preview >>
-        zoom >> tool >> showsAll;
+        unused >> tool >> showsAll;
     if (version != StateVersion || stream.status() != QDataStream::Ok)
         return;
     restoreState(window);
@@ -172,7 +172,6 @@ void MainWindow::RecallState()
     panes_->SubSplitters()[1]->restoreState(upperSplitter);
     document_->SetRecentFiles(files);
     Preview().RestoreState(preview);
-    Editor().SetZoom(zoom);
     if (tool < ToolTable().size())
         commands_->ChooseTool(EditorTool(tool));
     menus_->Command(WindowCommand::AllCharacters)->setChecked(showsAll);
@@ -185,8 +184,8 @@ void MainWindow::KeepState()
     QDataStream stream(&state, QIODevice::WriteOnly);
     stream << StateVersion << saveState() << panes_->saveState()
            << panes_->SubSplitters()[0]->saveState() << panes_->SubSplitters()[1]->saveState()
-           << document_->RecentFiles() << Preview().State() << qint32(Editor().Zoom())
-           << quint8(tools_->Tool()) << menus_->Command(WindowCommand::AllCharacters)->isChecked();
+           << document_->RecentFiles() << Preview().State() << qint32(0) << quint8(tools_->Tool())
+           << menus_->Command(WindowCommand::AllCharacters)->isChecked();
     Settings::Instance().mainWindow.save({saveGeometry(), state});
 }
 

@@ -271,6 +271,17 @@ public:
                WindowCommand::AllCharacters),
         Entry(QT_TR_NOOP("&Go to character..."), "Ctrl+G",
               QT_TR_NOOP("Selects and jumps to a desired character"), WindowCommand::GoToCharacter),
+        Separator,
+        Entry(QT_TR_NOOP("Zoom &in"), "Ctrl++", QT_TR_NOOP("Show the pixels of the editor larger"),
+              WindowCommand::ZoomIn),
+        Entry(QT_TR_NOOP("Zoom &out"), "Ctrl+-",
+              QT_TR_NOOP("Show the pixels of the editor smaller"), WindowCommand::ZoomOut),
+        Entry(QT_TR_NOOP("&Fit to view"), "Ctrl+0",
+              QT_TR_NOOP("Show the whole character as large as the editor has room for"),
+              WindowCommand::ZoomToFit),
+        Entry(QT_TR_NOOP("Actual &size"), "Ctrl+1",
+              QT_TR_NOOP("Show each pixel of the character as one of the screen"),
+              WindowCommand::ActualSize),
     };
 
     static constexpr MenuRow ToolRows[] = {

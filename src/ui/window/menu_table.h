@@ -22,7 +22,11 @@ enum class WindowCommand : quint32 {
     About = 63,
     CommandLineOptions = 64,
     UserManual = 65,
-    ExportProof = 80
+    ExportProof = 80,
+    ZoomIn = 110,
+    ZoomOut = 111,
+    ZoomToFit = 112,
+    ActualSize = 113
 };
 
 // The number that commands have in the menus and their actions.

@@ -59,6 +59,8 @@ void Panes::ShowFont(const Font* font)
 {
     font_ = font;
     editor_->SetCharacter(nullptr, -1);
+    if (font != nullptr)
+        editor_->SetZoom(0);
     table_->ShowFont(font);
     ShowCurrentCharacter();
     preview_->ShowFont(font);

@@ -3078,6 +3078,38 @@ Was soll mit ihnen geschehen?</translation>
         <source>Too&amp;ls</source>
         <translation>Werk&amp;zeuge</translation>
     </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Show the pixels of the editor larger</source>
+        <translation>Die Pixel des Editors größer zeigen</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Show the pixels of the editor smaller</source>
+        <translation>Die Pixel des Editors kleiner zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to view</source>
+        <translation>&amp;Einpassen</translation>
+    </message>
+    <message>
+        <source>Show the whole character as large as the editor has room for</source>
+        <translation>Das ganze Zeichen so groß zeigen, wie der Editor Platz hat</translation>
+    </message>
+    <message>
+        <source>Actual &amp;size</source>
+        <translation>&amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the character as one of the screen</source>
+        <translation>Jedes Pixel des Zeichens als eines des Bildschirms zeigen</translation>
+    </message>
 </context>
 <context>
     <name>Script</name>
