@@ -419,6 +419,42 @@ private Q_SLOTS:
         QCOMPARE(palette.Index(), 15);
     }
 
+    void Neighbours_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QList<QPoint>>("places");
+        // "A" is 3 pixels wide at the offset -1 and takes 4, "B" takes 6; "AB" is kerned by -2.
+        QTest::newRow("left, kerned") << u"AB"_s << QList<QPoint>{{-3, 1}};
+        QTest::newRow("right") << u"BA"_s << QList<QPoint>{{5, 1}};
+        QTest::newRow("place with both") << u"AB AB BA ABA"_s << QList<QPoint>{{-3, 1}, {5, 1}};
+        QTest::newRow("missing characters") << u"\u20ACB\u20AC"_s << QList<QPoint>{};
+        QTest::newRow("not in the text") << u"AA"_s << QList<QPoint>{};
+    }
+
+    void Neighbours()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QList<QPoint>, places);
+        Show(FontFormat::AA4);
+        const std::vector<uchar> ink(6, 0xFF);
+        font_->PutChar('A', {3, 3, -1, 1, 4}, ink).kerning = {{'B', -2}};
+        CharInfo& info = font_->FindChar('B')->info;
+        info.cursorDistance = 6;
+        info.xPos = 1;
+        QList<QPoint> found;
+        const std::vector<Neighbour> neighbours = NeighboursIn(text, *font_, 'B');
+        for (const Neighbour& neighbour : neighbours)
+            found.append(neighbour.place);
+        QCOMPARE(found, places);
+        view_->SetNeighbours(neighbours);
+        view_->SetCharacter(view_->CurrentCharacter(), 'B');
+        const QImage picture = view_->viewport()->grab().toImage();
+        for (const QPoint cell : places) {
+            const QColor colour = picture.pixelColor(Place(cell + QPoint(1 - info.xPos, 0)));
+            QVERIFY2(colour.value() > 100 && colour.value() < 180, qPrintable(colour.name()));
+        }
+    }
+
     void KeysAloneSelect()
     {
         Show(FontFormat::AA4);

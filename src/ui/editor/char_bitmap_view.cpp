@@ -77,11 +77,14 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
     const QPoint guides = GuidePlace();
     const bool hasOtherGuides = guides != guides_;
     guides_ = guides;
+    const bool showsOthers = ShownCells() != shownCells_;
     hint_->setVisible(character != nullptr && (columns == 0 || rows == 0));
     if (isResized)
         UpdateItems();
-    if (isResized || hasOtherGuides)
+    if (isResized || hasOtherGuides || showsOthers)
         PlaceItems();
+    else if (!neighbours_.empty())
+        viewport()->update();
     if (character_ != nullptr) {
         const FramePlane frame(*character_);
         for (CharPixelItem* const item : items_)
@@ -132,21 +135,47 @@ int CharBitmapView::ShownColumns() const
     return guides_.x() > columns_ && guides_.x() <= columns_ + room ? guides_.x() : columns_;
 }
 
+// From the corner of the grid. The cursor stands left of it by the offset.
+QRect CharBitmapView::CellsOf(const Neighbour& neighbour) const
+{
+    return {neighbour.place - QPoint(character_->info.xPos, 0), neighbour.picture.size()};
+}
+
+// The grid with room for the neighbours, unless they are far away.
+QRect CharBitmapView::ShownCells() const
+{
+    const QRect grid(0, 0, ShownColumns(), rows_);
+    const int room = std::max(4, columns_);
+    QRect shown = grid;
+    if (character_ != nullptr) {
+        for (const Neighbour& neighbour : neighbours_)
+            shown |= CellsOf(neighbour);
+    }
+    return shown & grid.adjusted(-room, 0, room, 0);
+}
+
+QRectF CharBitmapView::RectOf(const QRect& cells) const
+{
+    return {QPointF(cells.topLeft()) * cellSize_, QSizeF(cells.size()) * cellSize_};
+}
+
 // The size of a cell at which the whole grid can be seen.
 qreal CharBitmapView::FittingSize() const
 {
-    return std::max(2.0, std::floor(std::min(qreal(viewport()->width() - 4) / ShownColumns(),
-                                             qreal(viewport()->height() - 4) / rows_)));
+    const QSize cells = ShownCells().size();
+    return std::max(2.0, std::floor(std::min(qreal(viewport()->width() - 4) / cells.width(),
+                                             qreal(viewport()->height() - 4) / cells.height())));
 }
 
 void CharBitmapView::PlaceItems()
 {
+    shownCells_ = ShownCells();
     if (items_.empty()) {
         scene_.setSceneRect(hint_->sceneBoundingRect());
         return;
     }
     cellSize_ = zoom_ > 0 ? qreal(zoom_) : FittingSize();
-    scene_.setSceneRect(0, 0, ShownColumns() * cellSize_, rows_ * cellSize_);
+    scene_.setSceneRect(RectOf(shownCells_));
     for (CharPixelItem* const item : items_)
         item->setGeometry(
             {item->Column() * cellSize_, item->Row() * cellSize_, cellSize_, cellSize_});
@@ -213,16 +242,37 @@ void CharBitmapView::ClearPixel()
     TellPixel();
 }
 
-// Thin guides for the baseline and the cursor distance.
+// Paper for the neighbours.
+void CharBitmapView::drawBackground(QPainter* painter, const QRectF& rect)
+{
+    QGraphicsView::drawBackground(painter, rect);
+    if (!items_.empty() && !neighbours_.empty())
+        painter->fillRect(scene_.sceneRect(), Qt::white);
+}
+
+void CharBitmapView::DrawNeighbours(QPainter& painter) const
+{
+    painter.save();
+    painter.setClipRect(scene_.sceneRect(), Qt::IntersectClip);
+    painter.setOpacity(0.45);
+    for (const Neighbour& neighbour : neighbours_)
+        painter.drawImage(RectOf(CellsOf(neighbour)), neighbour.picture);
+    painter.restore();
+}
+
+// The neighbours, which may reach over the cells, and thin guides for the baseline and the cursor
+// distance.
 void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
 {
     if (items_.empty())
         return;
+    DrawNeighbours(*painter);
     QPen pen(QColor(230, 30, 30), 2);
     painter->setPen(pen);
     const qreal baseline = guides_.y() * cellSize_;
     if (guides_.y() <= rows_)
-        painter->drawLine(QPointF(0, baseline), QPointF(scene_.width(), baseline));
+        painter->drawLine(QPointF(scene_.sceneRect().left(), baseline),
+                          QPointF(scene_.sceneRect().right(), baseline));
     pen.setColor(QColor(40, 90, 220));
     painter->setPen(pen);
     const qreal advance = guides_.x() * cellSize_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/editor/char_pixel_item.h"
+#include "ui/editor/neighbours.h"
 
 #include <QGraphicsView>
 #include <QTimer>
@@ -20,6 +21,9 @@ public:
 
     // Null for none. The character must outlive its use here; call it again after every change.
     void SetCharacter(const Character* character, int code);
+
+    // What to show in grey from the next call on.
+    void SetNeighbours(std::vector<Neighbour> neighbours) { neighbours_ = std::move(neighbours); }
 
     [[nodiscard]] const Character* CurrentCharacter() const { return character_; }
     [[nodiscard]] int CurrentCode() const { return code_; }
@@ -79,6 +83,7 @@ Q_SIGNALS:
     void CharacterLeft();
 
 protected:
+    void drawBackground(QPainter* painter, const QRectF& rect) override;
     void drawForeground(QPainter* painter, const QRectF& rect) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -91,6 +96,7 @@ private:
     Q_SLOT void OnTimerResize();
     void UpdateItems();
     void PlaceItems();
+    void DrawNeighbours(QPainter& painter) const;
     void UpdateMark();
     void ForgetPixel();
     void TellPixel();
@@ -101,6 +107,9 @@ private:
     [[nodiscard]] QPoint ZoomCentre() const;
     void ZoomAround(QPoint place, int zoom);
     [[nodiscard]] int ShownColumns() const;
+    [[nodiscard]] QRect ShownCells() const;
+    [[nodiscard]] QRect CellsOf(const Neighbour& neighbour) const;
+    [[nodiscard]] QRectF RectOf(const QRect& cells) const;
 
     const Character* character_ = nullptr;
     int code_ = -1;
@@ -112,6 +121,8 @@ private:
     int columns_ = 0;
     int rows_ = 0;
     QPoint guides_ = {-1, -1};
+    std::vector<Neighbour> neighbours_;
+    QRect shownCells_; // when they were placed
     qreal cellSize_ = 1;
     int zoom_ = 0;       // size of a cell in pixels; 0 fits the view
     int wheelAngle_ = 0; // that was turned and has not zoomed yet

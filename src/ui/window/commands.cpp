@@ -123,6 +123,8 @@ void Commands::RunWindowCommand(quint32 id)
         return parts_.panes.Editor().SetZoom(0);
     case WindowCommand::ActualSize:
         return parts_.panes.Editor().SetZoom(1);
+    case WindowCommand::ShowNeighbours:
+        return parts_.panes.ShowNeighbours(parts_.menus.Command(id)->isChecked());
     }
 }
 
@@ -199,7 +201,7 @@ void Commands::EnablePossible()
     for (const WindowCommand command :
          {WindowCommand::AllCharacters, WindowCommand::GoToCharacter, WindowCommand::ExportProof,
           WindowCommand::ZoomIn, WindowCommand::ZoomOut, WindowCommand::ZoomToFit,
-          WindowCommand::ActualSize})
+          WindowCommand::ActualSize, WindowCommand::ShowNeighbours})
         enable(command, hasFont);
     for (const ToolRow& tool : ToolTable())
         enable(tool.tool, hasFont);

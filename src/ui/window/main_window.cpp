@@ -176,6 +176,10 @@ void MainWindow::RecallState()
         commands_->ChooseTool(EditorTool(tool));
     menus_->Command(WindowCommand::AllCharacters)->setChecked(showsAll);
     Table().ShowAll(showsAll);
+    bool showsNeighbours = false; // older records end before it
+    stream >> showsNeighbours;
+    menus_->Command(WindowCommand::ShowNeighbours)->setChecked(showsNeighbours);
+    panes_->ShowNeighbours(showsNeighbours);
 }
 
 void MainWindow::KeepState()
@@ -185,7 +189,8 @@ void MainWindow::KeepState()
     stream << StateVersion << saveState() << panes_->saveState()
            << panes_->SubSplitters()[0]->saveState() << panes_->SubSplitters()[1]->saveState()
            << document_->RecentFiles() << Preview().State() << qint32(0) << quint8(tools_->Tool())
-           << menus_->Command(WindowCommand::AllCharacters)->isChecked();
+           << menus_->Command(WindowCommand::AllCharacters)->isChecked()
+           << menus_->Command(WindowCommand::ShowNeighbours)->isChecked();
     Settings::Instance().mainWindow.save({saveGeometry(), state});
 }
 

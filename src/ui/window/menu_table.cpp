@@ -24,13 +24,14 @@ constexpr MenuRow Entry(const char* text, const char* shortcut, const char* stat
             .disabled = disabled};
 }
 
-// Starts disabled and checked.
+// Starts disabled.
 template <typename Command>
-constexpr MenuRow Toggle(const char* text, const char* statusTip, Command command)
+constexpr MenuRow Toggle(const char* text, const char* statusTip, Command command,
+                         quint8 checked = 1)
 {
     MenuRow row = Entry(text, nullptr, statusTip, command);
     row.checkable = 1;
-    row.checked = 1;
+    row.checked = checked;
     return row;
 }
 
@@ -282,6 +283,10 @@ public:
         Entry(QT_TR_NOOP("Actual &size"), "Ctrl+1",
               QT_TR_NOOP("Show each pixel of the character as one of the screen"),
               WindowCommand::ActualSize),
+        Separator,
+        Toggle(QT_TR_NOOP("Show &neighbours"),
+               QT_TR_NOOP("Show in the editor what stands beside the character in the sample text"),
+               WindowCommand::ShowNeighbours, 0),
     };
 
     static constexpr MenuRow ToolRows[] = {

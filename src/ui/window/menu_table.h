@@ -26,7 +26,8 @@ enum class WindowCommand : quint32 {
     ZoomIn = 110,
     ZoomOut = 111,
     ZoomToFit = 112,
-    ActualSize = 113
+    ActualSize = 113,
+    ShowNeighbours = 114
 };
 
 // The number that commands have in the menus and their actions.

@@ -43,6 +43,10 @@ Panes::Panes()
         splitter->setChildrenCollapsible(false);
     }
     connect(table_, &CharacterTable::CurrentCodeChanged, this, &Panes::ShowCurrentCharacter);
+    connect(preview_, &TextPreview::TextChanged, this, [this] {
+        if (showsNeighbours_)
+            ShowCurrentCharacter();
+    });
     connect(table_, &CharacterTable::EditRequested, this, [this] {
         editor_->setFocus();
         if (editor_->CurrentPixel() == nullptr)
@@ -77,8 +81,17 @@ void Panes::ShowCurrentCharacter()
 {
     const int code = table_->CurrentCode();
     const bool hasCode = font_ != nullptr && code >= 0;
+    editor_->SetNeighbours(hasCode && showsNeighbours_
+                               ? NeighboursIn(preview_->Text(), *font_, quint16(code))
+                               : std::vector<Neighbour>());
     editor_->SetCharacter(hasCode ? font_->FindChar(quint16(code)) : nullptr, code);
     info_->ShowCode(font_, code);
+}
+
+void Panes::ShowNeighbours(bool isOn)
+{
+    showsNeighbours_ = isOn;
+    ShowCurrentCharacter();
 }
 
 void Panes::ShowHexadecimal(bool isOn)

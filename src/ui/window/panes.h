@@ -40,6 +40,9 @@ public:
 
     void ShowHexadecimal(bool isOn);
 
+    // In the editor, what stands beside the character in the sample text.
+    void ShowNeighbours(bool isOn);
+
 private:
     CharacterTable* table_;
     CharBitmapView* editor_;
@@ -48,6 +51,7 @@ private:
     QSplitter* subSplitter_;
     QSplitter* upperSplitter_;
     const Font* font_ = nullptr;
+    bool showsNeighbours_ = false;
 };
 
 } // namespace Glyphor

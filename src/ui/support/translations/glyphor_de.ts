@@ -3110,6 +3110,14 @@ Was soll mit ihnen geschehen?</translation>
         <source>Show each pixel of the character as one of the screen</source>
         <translation>Jedes Pixel des Zeichens als eines des Bildschirms zeigen</translation>
     </message>
+    <message>
+        <source>Show &amp;neighbours</source>
+        <translation>&amp;Nachbarn zeigen</translation>
+    </message>
+    <message>
+        <source>Show in the editor what stands beside the character in the sample text</source>
+        <translation>Im Editor zeigen, was im Probetext neben dem Zeichen steht</translation>
+    </message>
 </context>
 <context>
     <name>Script</name>
