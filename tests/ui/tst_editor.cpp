@@ -446,7 +446,7 @@ private Q_SLOTS:
         for (const Neighbour& neighbour : neighbours)
             found.append(neighbour.place);
         QCOMPARE(found, places);
-        view_->SetNeighbours(neighbours);
+        view_->SetBackground(neighbours, {});
         view_->SetCharacter(view_->CurrentCharacter(), 'B');
         const QImage picture = view_->viewport()->grab().toImage();
         for (const QPoint cell : places) {

@@ -1,3 +1,4 @@
+#include "actions/action_open_font.h"
 #include "actions/edit_table.h"
 #include "app/progress.h"
 #include "app/settings.h"
@@ -331,6 +332,48 @@ private Q_SLOTS:
         Trigger(WindowCommand::Undo); // opening would ask
         OpenSample(FontFormat::AA4);
         QCOMPARE(editor.Zoom(), 0);
+    }
+
+    // Of the font that was rendered here, even after edits; a font of pixels has none.
+    void OutlineBehindThePixels()
+    {
+        const QColor colour(225, 0, 140);
+        const auto markedCells = [&] {
+            const CharBitmapView& editor = window_->Editor();
+            const QImage picture = window_->Editor().viewport()->grab().toImage();
+            QRect cells;
+            for (int y = 0; y < picture.height(); ++y)
+                for (int x = 0; x < picture.width(); ++x)
+                    if (picture.pixelColor(x, y) == colour)
+                        cells |= QRect(editor.CellAt({x, y}), QSize(1, 1));
+            return cells;
+        };
+        const auto action = std::make_shared<ActionOpenFont>(*session_, ActionType::OpenFont);
+        action->Args().path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
+        action->Args().selection.emplace().SetRange(' ', 'B', true);
+        action->Args().format = FontFormat::AA4;
+        action->Args().render.height = 24;
+        QVERIFY(action->Run());
+        window_->Table().SelectCode('A');
+        QVERIFY(markedCells().isEmpty());
+        Trigger(WindowCommand::ShowOutline);
+        const CharInfo& info = CurrentFont().FindChar('A')->info;
+        const QRect whole(0, info.yPos, info.width, info.height);
+        const auto isNear = [](const QRect& marked, const QRect& expected) {
+            return expected.adjusted(-1, -1, 1, 1).contains(marked) &&
+                   marked.contains(expected.adjusted(1, 1, -1, -1));
+        };
+        QVERIFY(isNear(markedCells(), whole));
+        Trigger(ActionType::InsertColumnLeft);
+        Trigger(ActionType::MoveLeft);
+        Trigger(ActionType::FontInsertRowTop);
+        QVERIFY(isNear(markedCells(), whole.translated(1, 1)));
+        window_->Table().SelectCode(' ');
+        QVERIFY(markedCells().isEmpty());
+        session_->SetSaved({}); // opening would ask
+        OpenSample();
+        QVERIFY(markedCells().isEmpty());
+        Trigger(WindowCommand::ShowOutline);
     }
 
     void PreferencesTakeEffectAtOnce()

@@ -83,8 +83,9 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
         UpdateItems();
     if (isResized || hasOtherGuides || showsOthers)
         PlaceItems();
-    else if (!neighbours_.empty())
+    else if (hasOtherBackground_)
         viewport()->update();
+    hasOtherBackground_ = false;
     if (character_ != nullptr) {
         const FramePlane frame(*character_);
         for (CharPixelItem* const item : items_)
@@ -260,6 +261,30 @@ void CharBitmapView::DrawNeighbours(QPainter& painter) const
     painter.restore();
 }
 
+// In a colour with a light edge, which shows on any grey.
+void CharBitmapView::DrawGlyphOutline(QPainter& painter) const
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QPointF(-character_->info.xPos, guides_.y()) * cellSize_);
+    painter.scale(cellSize_, cellSize_);
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [colour, width] :
+         {std::pair(QColor(255, 255, 255, 160), 3.5), std::pair(QColor(225, 0, 140), 1.5)}) {
+        QPen pen(colour, width);
+        pen.setCosmetic(true);
+        painter.strokePath(outline_, pen);
+    }
+    painter.restore();
+}
+
+void CharBitmapView::SetBackground(std::vector<Neighbour> neighbours, const QPainterPath& outline)
+{
+    hasOtherBackground_ = hasOtherBackground_ || neighbours != neighbours_ || outline != outline_;
+    neighbours_ = std::move(neighbours);
+    outline_ = outline;
+}
+
 // The neighbours, which may reach over the cells, and thin guides for the baseline and the cursor
 // distance.
 void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
@@ -278,6 +303,8 @@ void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
     const qreal advance = guides_.x() * cellSize_;
     if (guides_.x() >= 0 && guides_.x() <= ShownColumns())
         painter->drawLine(QPointF(advance, 0), QPointF(advance, scene_.height()));
+    if (!outline_.isEmpty())
+        DrawGlyphOutline(*painter);
     if (current_ != nullptr)
         DrawOutline(*painter, current_->rect());
 }

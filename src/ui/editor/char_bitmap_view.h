@@ -4,6 +4,7 @@
 #include "ui/editor/neighbours.h"
 
 #include <QGraphicsView>
+#include <QPainterPath>
 #include <QTimer>
 
 #include <vector>
@@ -22,8 +23,9 @@ public:
     // Null for none. The character must outlive its use here; call it again after every change.
     void SetCharacter(const Character* character, int code);
 
-    // What to show in grey from the next call on.
-    void SetNeighbours(std::vector<Neighbour> neighbours) { neighbours_ = std::move(neighbours); }
+    // What to show from the next call on: neighbours in grey, and an outline, whose origin is the
+    // cursor position on the baseline, in pixels of the font.
+    void SetBackground(std::vector<Neighbour> neighbours, const QPainterPath& outline);
 
     [[nodiscard]] const Character* CurrentCharacter() const { return character_; }
     [[nodiscard]] int CurrentCode() const { return code_; }
@@ -97,6 +99,7 @@ private:
     void UpdateItems();
     void PlaceItems();
     void DrawNeighbours(QPainter& painter) const;
+    void DrawGlyphOutline(QPainter& painter) const;
     void UpdateMark();
     void ForgetPixel();
     void TellPixel();
@@ -122,7 +125,9 @@ private:
     int rows_ = 0;
     QPoint guides_ = {-1, -1};
     std::vector<Neighbour> neighbours_;
-    QRect shownCells_; // when they were placed
+    QPainterPath outline_;
+    bool hasOtherBackground_ = false; // than what is painted
+    QRect shownCells_;                // when they were placed
     qreal cellSize_ = 1;
     int zoom_ = 0;       // size of a cell in pixels; 0 fits the view
     int wheelAngle_ = 0; // that was turned and has not zoomed yet

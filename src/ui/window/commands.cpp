@@ -125,6 +125,8 @@ void Commands::RunWindowCommand(quint32 id)
         return parts_.panes.Editor().SetZoom(1);
     case WindowCommand::ShowNeighbours:
         return parts_.panes.ShowNeighbours(parts_.menus.Command(id)->isChecked());
+    case WindowCommand::ShowOutline:
+        return parts_.panes.ShowOutline(parts_.menus.Command(id)->isChecked());
     }
 }
 
@@ -201,7 +203,7 @@ void Commands::EnablePossible()
     for (const WindowCommand command :
          {WindowCommand::AllCharacters, WindowCommand::GoToCharacter, WindowCommand::ExportProof,
           WindowCommand::ZoomIn, WindowCommand::ZoomOut, WindowCommand::ZoomToFit,
-          WindowCommand::ActualSize, WindowCommand::ShowNeighbours})
+          WindowCommand::ActualSize, WindowCommand::ShowNeighbours, WindowCommand::ShowOutline})
         enable(command, hasFont);
     for (const ToolRow& tool : ToolTable())
         enable(tool.tool, hasFont);

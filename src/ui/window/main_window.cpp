@@ -176,8 +176,11 @@ void MainWindow::RecallState()
         commands_->ChooseTool(EditorTool(tool));
     menus_->Command(WindowCommand::AllCharacters)->setChecked(showsAll);
     Table().ShowAll(showsAll);
-    bool showsNeighbours = false; // older records end before it
-    stream >> showsNeighbours;
+    bool showsNeighbours = false; // older records end before these
+    bool showsOutline = false;
+    stream >> showsNeighbours >> showsOutline;
+    menus_->Command(WindowCommand::ShowOutline)->setChecked(showsOutline);
+    panes_->ShowOutline(showsOutline);
     menus_->Command(WindowCommand::ShowNeighbours)->setChecked(showsNeighbours);
     panes_->ShowNeighbours(showsNeighbours);
 }
@@ -190,7 +193,8 @@ void MainWindow::KeepState()
            << panes_->SubSplitters()[0]->saveState() << panes_->SubSplitters()[1]->saveState()
            << document_->RecentFiles() << Preview().State() << qint32(0) << quint8(tools_->Tool())
            << menus_->Command(WindowCommand::AllCharacters)->isChecked()
-           << menus_->Command(WindowCommand::ShowNeighbours)->isChecked();
+           << menus_->Command(WindowCommand::ShowNeighbours)->isChecked()
+           << menus_->Command(WindowCommand::ShowOutline)->isChecked();
     Settings::Instance().mainWindow.save({saveGeometry(), state});
 }
 
@@ -261,6 +265,8 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
     status_->Tell(action->Log().Translated());
     if (action->Type() == ActionType::OpenFont)
         document_->AddRecentFile(session_.Path());
+    if (const auto* const open = dynamic_cast<const ActionOpenFont*>(action.get()))
+        panes_->SetOrigin(open->Args());
     ShowChanges();
     return true;
 }

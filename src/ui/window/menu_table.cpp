@@ -287,6 +287,9 @@ public:
         Toggle(QT_TR_NOOP("Show &neighbours"),
                QT_TR_NOOP("Show in the editor what stands beside the character in the sample text"),
                WindowCommand::ShowNeighbours, 0),
+        Toggle(QT_TR_NOOP("Show o&utline"),
+               QT_TR_NOOP("Show in the editor the outline that the character was rendered from"),
+               WindowCommand::ShowOutline, 0),
     };
 
     static constexpr MenuRow ToolRows[] = {

@@ -27,7 +27,8 @@ enum class WindowCommand : quint32 {
     ZoomOut = 111,
     ZoomToFit = 112,
     ActualSize = 113,
-    ShowNeighbours = 114
+    ShowNeighbours = 114,
+    ShowOutline = 115
 };
 
 // The number that commands have in the menus and their actions.

@@ -81,9 +81,10 @@ void Panes::ShowCurrentCharacter()
 {
     const int code = table_->CurrentCode();
     const bool hasCode = font_ != nullptr && code >= 0;
-    editor_->SetNeighbours(hasCode && showsNeighbours_
-                               ? NeighboursIn(preview_->Text(), *font_, quint16(code))
-                               : std::vector<Neighbour>());
+    editor_->SetBackground(
+        hasCode && showsNeighbours_ ? NeighboursIn(preview_->Text(), *font_, quint16(code))
+                                    : std::vector<Neighbour>(),
+        hasCode && showsOutline_ ? outlines_.PathOf(quint16(code)) : QPainterPath());
     editor_->SetCharacter(hasCode ? font_->FindChar(quint16(code)) : nullptr, code);
     info_->ShowCode(font_, code);
 }
@@ -91,6 +92,12 @@ void Panes::ShowCurrentCharacter()
 void Panes::ShowNeighbours(bool isOn)
 {
     showsNeighbours_ = isOn;
+    ShowCurrentCharacter();
+}
+
+void Panes::ShowOutline(bool isOn)
+{
+    showsOutline_ = isOn;
     ShowCurrentCharacter();
 }
 

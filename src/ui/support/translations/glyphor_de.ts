@@ -3118,6 +3118,14 @@ Was soll mit ihnen geschehen?</translation>
         <source>Show in the editor what stands beside the character in the sample text</source>
         <translation>Im Editor zeigen, was im Probetext neben dem Zeichen steht</translation>
     </message>
+    <message>
+        <source>Show o&amp;utline</source>
+        <translation>&amp;Umriss zeigen</translation>
+    </message>
+    <message>
+        <source>Show in the editor the outline that the character was rendered from</source>
+        <translation>Im Editor den Umriss zeigen, aus dem das Zeichen gerastert wurde</translation>
+    </message>
 </context>
 <context>
     <name>Script</name>
