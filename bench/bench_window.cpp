@@ -14,9 +14,11 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cstdio>
 #include <vector>
 
@@ -84,6 +86,37 @@ void MeasureTable()
     SetCurrentInterface(nullptr);
 }
 
+// Each event of a stroke with what it paints, down to the slowest.
+void MeasureStroke(MainWindow& window)
+{
+    CharBitmapView& editor = window.Editor();
+    editor.SelectItem(editor.CellItem(127, 127)); // the view shows it
+    window.Menus().Command(EditorTool::Pencil)->trigger();
+    std::vector<double> times;
+    const auto send = [&](QEvent::Type type, int column) {
+        const QPoint place = editor.mapFromScene(
+            (QPointF(column, 100 + column % 3) + QPointF(0.5, 0.5)) * editor.CellSize());
+        QMouseEvent event(type, place, editor.viewport()->mapToGlobal(place),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
+                          Qt::NoModifier);
+        times.push_back(Seconds([&] {
+            QCoreApplication::sendEvent(editor.viewport(), &event);
+            QCoreApplication::processEvents();
+        }));
+    };
+    send(QEvent::MouseButtonPress, 20);
+    for (int column = 21; column < 220; ++column)
+        send(QEvent::MouseMove, column);
+    send(QEvent::MouseButtonRelease, 219);
+    std::printf("  %-44s %7.1f ms\n", "an event of a stroke of 200 pixels", Median(times) * 1e3);
+    std::printf("  %-44s %7.1f ms\n", "ending it", times.back() * 1e3);
+    times.pop_back();
+    std::printf("  %-44s %7.1f ms\n", "the slowest event before",
+                *std::ranges::max_element(times) * 1e3);
+    window.Menus().Command(EditorTool::Select)->trigger();
+}
+
 void MeasureEditor()
 {
     UndoStack history;
@@ -107,6 +140,7 @@ void MeasureEditor()
     Measure("a change of the width",
             [&] { window.Menus().Command(ActionType::DeleteColumnLeft)->trigger(); });
     Measure("painting all of it", [&] { (void)editor.grab(); });
+    MeasureStroke(window);
     SetCurrentInterface(nullptr);
 }
 

@@ -12,6 +12,7 @@
 #include "render/font_assembly.h"
 #include "render/font_file_bdf.h"
 #include "render/font_file_scalable.h"
+#include "render/glyph_outlines.h"
 
 namespace Glyphor {
 
@@ -234,6 +235,17 @@ std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
     if (font->Metrics().height == 0)
         throw CriticalException(CreationFailed(), Engine::tr("Font has invalid metrics."));
     return font;
+}
+
+std::unique_ptr<GlyphOutlines> OutlinesOf(const ActionOpenFontArgs& args)
+{
+    if (!IsScalable(FileTypeOf(args.path)))
+        return nullptr;
+    try {
+        return OpenScalable(args.path, OptionsOf(args))->Outlines();
+    } catch (const CriticalException&) { // the font was made, so the file is another one now
+        return nullptr;
+    }
 }
 
 int EmSize(const ActionOpenFontArgs& args)

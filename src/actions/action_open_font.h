@@ -10,6 +10,8 @@
 
 namespace Glyphor {
 
+class GlyphOutlines;
+
 // A scalable font or a BDF file that gives characters to the font of another file.
 struct FontSource
 {
@@ -66,6 +68,10 @@ private:
 // format of a file that does not tell it. Throws a CriticalException on failure, and WorkStopped
 // where the user gives up.
 [[nodiscard]] std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args);
+
+// What the characters of such a font were rendered from; null where that is no scalable font, or
+// can't be opened any more.
+[[nodiscard]] std::unique_ptr<GlyphOutlines> OutlinesOf(const ActionOpenFontArgs& args);
 
 // The em size in pixels that a scalable font would be rendered at; 0 where it can't be.
 [[nodiscard]] int EmSize(const ActionOpenFontArgs& args);

@@ -8,6 +8,7 @@
 #include "render/face_charmaps.h"
 #include "render/font_assembly.h"
 #include "render/font_kerning.h"
+#include "render/glyph_outlines.h"
 #include "render/glyph_substitution.h"
 #include "render/kerning_index.h"
 #include "render/size_search.h"
@@ -67,7 +68,7 @@ int FontFileScalable::EmSize()
     return face_.EmSize();
 }
 
-GlyphSource FontFileScalable::PlanOwn() const
+GlyphSource FontFileScalable::PlanOwn(bool warnsOfUnused) const
 {
     GlyphSource source(std::make_shared<FreeTypeFace>(face_), Shown(fileName()));
     if (options_.map.empty())
@@ -77,7 +78,8 @@ GlyphSource FontFileScalable::PlanOwn() const
     if (!options_.features.empty()) {
         GlyphSubstitution substitution(face_, options_.features);
         source.ReplaceGlyphs([&](FT_UInt glyph) { return substitution.Replacement(glyph); });
-        substitution.WarnOfUnused();
+        if (warnsOfUnused)
+            substitution.WarnOfUnused();
     }
     return source;
 }
@@ -90,11 +92,17 @@ GlyphSource FontFileScalable::Source()
     return source;
 }
 
+std::unique_ptr<GlyphOutlines> FontFileScalable::Outlines()
+{
+    SetUp();
+    return std::make_unique<GlyphOutlines>(PlanOwn(false));
+}
+
 std::unique_ptr<Font> FontFileScalable::Read()
 {
     auto font = std::make_unique<Font>(options_.format, options_.encoding);
     SetUp();
-    GlyphSource own = PlanOwn();
+    GlyphSource own = PlanOwn(true);
     RefuseUselessHeight(own);
     font->SetName(FontName());
     SetMetrics(*font);

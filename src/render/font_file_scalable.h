@@ -8,6 +8,8 @@
 
 namespace Glyphor {
 
+class GlyphOutlines;
+
 // What there is to choose of a face.
 struct FaceTraits
 {
@@ -37,6 +39,9 @@ public:
     // mappings that fill gaps give only what the filter has. Throws as Read() does.
     [[nodiscard]] GlyphSource Source();
 
+    // What the file's own characters are rendered from. Throws as Read() does.
+    [[nodiscard]] std::unique_ptr<GlyphOutlines> Outlines();
+
     // How many face indices the file takes: 0 up to one less than this.
     [[nodiscard]] virtual int FaceCount() const = 0;
 
@@ -56,7 +61,7 @@ protected:
 private:
     void SetUp();
     void SetMetrics(Font& font) const;
-    [[nodiscard]] GlyphSource PlanOwn() const;
+    [[nodiscard]] GlyphSource PlanOwn(bool warnsOfUnused) const;
     void RenderAll(Font& font, GlyphSource own);
     void RefuseUselessHeight(const GlyphSource& own) const;
     void WarnOfMissingSize() const;

@@ -305,7 +305,7 @@ bool FreeTypeFace::LoadGlyph(quint16 code, FT_Int32 loadFlags) const
     return index != 0 && FT_Load_Glyph(Handle(), index, loadFlags) == 0;
 }
 
-bool FreeTypeFace::RenderIndex(FT_UInt index, RenderedGlyph& glyph) const
+bool FreeTypeFace::LoadWithEffects(FT_UInt index) const
 {
     if (index == 0 || FT_Load_Glyph(Handle(), index, LoadFlags()) != 0)
         return false;
@@ -313,6 +313,18 @@ bool FreeTypeFace::RenderIndex(FT_UInt index, RenderedGlyph& glyph) const
         FT_GlyphSlot_Embolden(face_->glyph);
     if ((effects_ & ItalicEffect) != 0)
         FT_GlyphSlot_Oblique(face_->glyph);
+    return true;
+}
+
+bool FreeTypeFace::LoadOutline(FT_UInt index) const
+{
+    return IsOpen() && LoadWithEffects(index) && face_->glyph->format == FT_GLYPH_FORMAT_OUTLINE;
+}
+
+bool FreeTypeFace::RenderIndex(FT_UInt index, RenderedGlyph& glyph) const
+{
+    if (!LoadWithEffects(index))
+        return false;
     if (ExceedsLargestBitmap(glyph))
         return true;
     if (FT_Render_Glyph(face_->glyph, monochrome_ ? FT_RENDER_MODE_MONO : FT_RENDER_MODE_NORMAL) !=

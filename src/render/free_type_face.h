@@ -143,6 +143,10 @@ public:
     // The same for a glyph whose index is known; 0 fails.
     bool RenderIndex(FT_UInt index, RenderedGlyph& glyph) const;
 
+    // Loads, emboldens and slants the outline of a glyph into the slot of the face; false for a
+    // bitmap, and as above.
+    bool LoadOutline(FT_UInt index) const;
+
     // By how many whole pixels a pair stands closer (negative) or further apart.
     [[nodiscard]] int Kerning(quint16 left, quint16 right) const;
 
@@ -178,6 +182,7 @@ private:
 
     void Open(FT_Long faceIndex, FontLibrary& library);
     [[nodiscard]] FT_Int32 LoadFlags() const;
+    bool LoadWithEffects(FT_UInt index) const;
     [[nodiscard]] int Advance() const;
     [[nodiscard]] int SizeMetric(FT_Pos FT_Size_Metrics::*metric) const;
     [[nodiscard]] bool ExceedsLargestBitmap(RenderedGlyph& glyph) const;

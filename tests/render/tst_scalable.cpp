@@ -1,5 +1,6 @@
 #include "render/font_file_scalable.h"
 #include "render/glyph_jobs.h"
+#include "render/glyph_outlines.h"
 #include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
@@ -261,6 +262,58 @@ private Q_SLOTS:
         QVERIFY(font->FindChar('A')->info.width > plain->FindChar('A')->info.width);
         QCOMPARE(font->FindChar('A')->info.height > plain->FindChar('A')->info.height,
                  (effects & BoldEffect) != 0);
+    }
+
+    void Outlines_data()
+    {
+        const Test::Rows<QString, RenderOptions> row;
+        const QString dejaVu = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
+        row("plain", dejaVu, At(40));
+        RenderOptions options = At(160);
+        options.effects = BoldEffect | ItalicEffect;
+        row("effects", dejaVu, options);
+        options = At(40);
+        options.hinting = Hinting::None;
+        options.map = ParseCharacterMap(u"0x3A9=65,0x20-0x40"_s);
+        row("mapped", dejaVu, options);
+        options = At(40, FontFormat::LegacyAA4);
+        options.encoding = EncodingType::ShiftJis;
+        row("Shift JIS", Test::FontPath("outlines.ttf"), options);
+        options = At(160);
+        options.axes = {{"wght", 700}};
+        row("axis", Test::FontPath("variable.ttf"), options);
+    }
+
+    // They reach as far as the ink.
+    void Outlines()
+    {
+        const auto [path, options] = Test::Row<QString, RenderOptions>();
+        const auto font = FontFileTTF(path, options).Read();
+        const Character& character = *font->FindChar('A');
+        const int top = IsLegacyFormat(options.format) ? 0 : character.info.yPos;
+        QRectF ink;
+        for (int x = 0; x < character.info.width; ++x) {
+            for (int y = 0; y < character.info.Rows(); ++y) {
+                if (character.bitmap->GetPixelIndex(x, y) != 0)
+                    ink |=
+                        QRectF(x + character.info.xPos, y + top - font->Metrics().baseline, 1, 1);
+            }
+        }
+        const auto outlines = FontFileTTF(path, options).Outlines();
+        QRectF box;
+        for (const OutlineStep& step : outlines->Of('A')) {
+            const QPointF end = step.points[step.kind == OutlineStep::Kind::Quadratic ? 1 : 0];
+            box |= QRectF(end, QSizeF(0.01, 0.01));
+        }
+        QVERIFY(std::abs(box.left() - ink.left()) <= 1 && std::abs(box.right() - ink.right()) <= 1);
+        QVERIFY(std::abs(box.top() - ink.top()) <= 1 && std::abs(box.bottom() - ink.bottom()) <= 1);
+        QVERIFY(outlines->Of(0xFFFF).empty());
+    }
+
+    void BitmapsHaveNoOutline()
+    {
+        FontFileTTF file(Test::FontPath("strike.ttf"), At(10));
+        QVERIFY(file.Outlines()->Of('A').empty());
     }
 
     // However many threads render, and however they are scheduled.

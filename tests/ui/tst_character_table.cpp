@@ -184,6 +184,30 @@ private Q_SLOTS:
         }
     }
 
+    void WheelZooms()
+    {
+        table_->resize(900, 400);
+        const auto turn = [this](int angle, Qt::KeyboardModifiers modifiers) {
+            QWheelEvent wheel({50, 50}, {50, 50}, {}, {0, angle}, Qt::NoButton, modifiers,
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(table_->viewport(), &wheel);
+        };
+        const QSize fitting = table_->CellRect('A').size();
+        turn(120, {});
+        QCOMPARE(table_->CellRect('A').size(), fitting);
+        turn(60, Qt::ControlModifier);
+        QCOMPARE(table_->Zoom(), 0);
+        turn(60, Qt::ControlModifier);
+        QVERIFY(table_->Zoom() > 1);
+        turn(-120, Qt::ControlModifier);
+        QCOMPARE(table_->Zoom(), 0);
+        QCOMPARE(table_->CellRect('A').size(), fitting);
+        turn(-12000, Qt::ControlModifier);
+        QCOMPARE(table_->Zoom(), 1);
+        table_->ShowFont(font_.get());
+        QCOMPARE(table_->Zoom(), 0);
+    }
+
     void ScreenReadersFindTheCells()
     {
         font_->SetEnabled(0x42, 0x42, false);

@@ -2,14 +2,15 @@
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/editor/char_bitmap_view.h"
-#include "ui/editor/pencil_tool.h"
+#include "ui/editor/drawing_tools.h"
+#include "ui/editor/index_palette.h"
 #include "ui/support/undo_stack.h"
 
-#include <QAction>
+#include <QAbstractButton>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QSignalSpy>
-#include <QSpinBox>
 #include <QTest>
 
 namespace Glyphor {
@@ -18,8 +19,12 @@ class TestEditor : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<CharBitmapView> view_;
     std::unique_ptr<Font> font_;
+    std::unique_ptr<UndoStack> history_;
+    std::unique_ptr<Session> session_;
+    std::unique_ptr<CharBitmapView> view_;
+    std::unique_ptr<IndexPalette> palette_;
+    DrawingTools* tools_ = nullptr; // the view's
 
     // A font of 4 rows whose "B" is 5 pixels wide and has the rows 1 and 2 of them.
     void Show(FontFormat format)
@@ -37,10 +42,79 @@ class TestEditor : public QObject
         QTest::qWait(40); // for the delayed layout
     }
 
-    [[nodiscard]] QPoint Place(int column, int row) const
+    void Clear()
     {
-        return view_->mapFromScene(view_->CellItem(column, row)->rect().center());
+        Character& character = *font_->FindChar('B');
+        for (int x = 0; x < 5; ++x)
+            for (int y = 0; y < 4; ++y)
+                character.bitmap->SetPixelIndex(x, y, 0);
+        view_->SetCharacter(&character, 'B');
     }
+
+    // The session takes the font.
+    void StartTools()
+    {
+        history_ = std::make_unique<UndoStack>();
+        session_ = std::make_unique<Session>(*history_);
+        session_->ReplaceFont(std::move(font_), {});
+        tools_ = new DrawingTools(*session_, *view_);
+        palette_.reset(&tools_->Palette());
+        tools_->ShowFont(session_->CurrentFont());
+    }
+
+    void ShowDrawing()
+    {
+        Show(FontFormat::LegacyAA4);
+        Clear();
+        font_->FindChar('B')->bitmap->SetPixelIndex(0, 2, 2);
+        view_->SetCharacter(view_->CurrentCharacter(), 'B');
+        StartTools();
+    }
+
+    // The indices of the font's character row by row, and those that the cells show.
+    [[nodiscard]] QString Pixels() const
+    {
+        const Character& character = *session_->CurrentFont()->FindChar('B');
+        return Rows(character.info.Rows(),
+                    [&](int x, int y) { return character.bitmap->GetPixelIndex(x, y); });
+    }
+
+    [[nodiscard]] QString ShownPixels() const
+    {
+        return Rows(view_->RowCount(),
+                    [this](int x, int y) { return view_->CellItem(x, y)->Colour().alpha() / 17; });
+    }
+
+    [[nodiscard]] static QString Rows(int count, const std::function<int(int, int)>& index)
+    {
+        QStringList rows(count);
+        for (int y = 0; y < count; ++y)
+            for (int x = 0; x < 5; ++x)
+                rows[y] += QString::number(index(x, y), 16);
+        return rows.join(u' ');
+    }
+
+    void Move(QPoint place, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QMouseEvent event(QEvent::MouseMove, place, view_->viewport()->mapToGlobal(place),
+                          Qt::NoButton, buttons, modifiers);
+        QApplication::sendEvent(view_->viewport(), &event);
+    }
+
+    // From cell to cell, without a release.
+    void Drag(const QList<QPoint>& way, Qt::KeyboardModifiers modifiers = {}) const
+    {
+        QTest::mousePress(view_->viewport(), Qt::LeftButton, modifiers, Place(way.first()));
+        for (const QPoint cell : way.sliced(1))
+            Move(Place(cell), Qt::LeftButton, modifiers);
+    }
+
+    [[nodiscard]] QPoint Place(QPoint cell) const
+    {
+        return view_->mapFromScene((QPointF(cell) + QPointF(0.5, 0.5)) * view_->CellSize());
+    }
+
+    [[nodiscard]] QPoint Place(int column, int row) const { return Place({column, row}); }
 
     [[nodiscard]] QPoint CurrentCell() const
     {
@@ -144,6 +218,46 @@ private Q_SLOTS:
         QCOMPARE(CurrentCell(), QPoint(1, 2));
     }
 
+    // The pencil draws over the frame of its own ink; only Ctrl and the arrow keys cross one.
+    void FramesAreNoBarrier()
+    {
+        Show(FontFormat::Framed);
+        Clear();
+        StartTools();
+        tools_->SetTool(EditorTool::Pencil);
+        QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(2, 1));
+        QCOMPARE(view_->CellItem(3, 1)->CellState(), CharPixelItem::Frame);
+        view_->SetCharacter(session_->CurrentFont()->FindChar('B'), 'B');
+        QVERIFY(view_->SelectItem(view_->CellItem(4, 1)));
+        view_->setFocus();
+        QTest::keyClick(view_->viewport(), Qt::Key_Left);
+        QCOMPARE(CurrentCell(), QPoint(4, 1));
+        QTest::keyClick(view_->viewport(), Qt::Key_Left, Qt::ControlModifier);
+        QCOMPARE(CurrentCell(), QPoint(2, 1));
+        QTest::keyClick(view_->viewport(), Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(CurrentCell(), QPoint(2, 1));
+        QTest::mouseClick(view_->viewport(), Qt::LeftButton, {}, Place(3, 1));
+        QCOMPARE(Pixels(), u"00110 00000"_s);
+    }
+
+    // With a dark line and a light one there is contrast to any grey.
+    void SelectedPixelStandsOut()
+    {
+        Show(FontFormat::AA4);
+        const auto brightness = [this](QPoint place) {
+            return qGray(view_->viewport()->grab().toImage().pixel(place));
+        };
+        for (int index = 0; index < 16; ++index) {
+            font_->FindChar('B')->bitmap->SetPixelIndex(2, 1, index);
+            view_->SetCharacter(view_->CurrentCharacter(), 'B');
+            QVERIFY(view_->SelectItem(view_->CellItem(2, 2)));
+            const QRect cell = view_->mapFromScene(view_->CellItem(2, 2)->rect()).boundingRect();
+            QVERIFY(brightness({cell.left(), cell.center().y()}) > 200);
+            QVERIFY(brightness({cell.left() + 1, cell.center().y()}) < 50);
+        }
+        view_->ClearPixel();
+    }
+
     // Space takes the row of the grid for that of the bitmap.
     void Space()
     {
@@ -168,39 +282,177 @@ private Q_SLOTS:
         QCOMPARE(texts.takeFirst()[0].toString(), QString());
     }
 
-    // A fast mouse skips cells, comes back to some, and is let go elsewhere.
-    void PencilPaintsTheWayOnce()
+    void Tools_data()
     {
-        UndoStack history;
-        Session session(history);
-        Show(FontFormat::AA4);
-        session.ReplaceFont(std::move(font_), {});
-        PencilTool pencil(session, history, *view_);
-        const std::unique_ptr<QSpinBox> box(&pencil.IndexBox());
-        pencil.ShowFont(session.CurrentFont());
-        pencil.Command().setChecked(true);
-        QSignalSpy ends(&pencil, &PencilTool::StrokeEnded);
-        const auto move = [this](QPoint place, Qt::MouseButtons buttons) {
-            QMouseEvent event(QEvent::MouseMove, place, view_->viewport()->mapToGlobal(place),
-                              Qt::NoButton, buttons, Qt::NoModifier);
-            QApplication::sendEvent(view_->viewport(), &event);
+        QTest::addColumn<int>("tool");
+        QTest::addColumn<QList<QPoint>>("way");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<QString>("pixels");
+        QTest::addColumn<QString>("log");
+        const auto row = [](const char* name, EditorTool tool, const QList<QPoint>& way,
+                            const QString& pixels, const QString& log, int modifiers = 0) {
+            QTest::newRow(name) << int(tool) << way << modifiers << pixels << log;
         };
-        const CharBitmap& bitmap = *view_->CurrentCharacter()->bitmap;
-        for (int x = 0; x < 5; ++x)
-            session.CurrentFont()->FindChar('B')->bitmap->SetPixelIndex(x, 0, 0);
-        QTest::mousePress(view_->viewport(), Qt::LeftButton, {}, Place(0, 1));
-        move(Place(4, 1), Qt::LeftButton);
-        move(Place(4, 0), Qt::LeftButton); // outside
-        for (int x = 0; x < 5; ++x)
-            QCOMPARE(bitmap.GetPixelIndex(x, 0), 15);
-        pencil.IndexBox().setValue(3);
-        move(Place(0, 1), Qt::LeftButton);
-        QCOMPARE(bitmap.GetPixelIndex(2, 0), 15);
-        const int below = bitmap.GetPixelIndex(0, 1);
-        move(Place(0, 2), Qt::NoButton);
-        QCOMPARE(ends.count(), 1);
-        QCOMPARE(bitmap.GetPixelIndex(0, 1), below);
-        QCOMPARE(history.count(), 1);
+        row("stroke", EditorTool::Pencil, {{0, 0}, {4, 0}, {4, 3}, {4, 0}},
+            u"77777 00007 20007 00007"_s, u"Drew a stroke with index 7."_s);
+        row("inverting stroke", EditorTool::Pencil, {{0, 1}, {0, 2}, {0, 0}},
+            u"f0000 f0000 d0000 00000"_s, u"Inverted the pixels of a stroke."_s,
+            Qt::ControlModifier);
+        row("eraser", EditorTool::Eraser, {{0, 0}, {0, 3}}, u"00000 00000 00000 00000"_s,
+            u"Erased the pixels of a stroke."_s);
+        row("line", EditorTool::Line, {{0, 3}, {0, 0}, {4, 1}}, u"00000 00077 27700 70000"_s,
+            u"Drew a line with index 7 from (0,3) to (4,1)."_s);
+        row("level line", EditorTool::Line, {{0, 0}, {4, 1}}, u"77777 00000 20000 00000"_s,
+            u"Drew a line with index 7 from (0,0) to (4,0)."_s, Qt::ShiftModifier);
+        row("rectangle", EditorTool::Rectangle, {{3, 3}, {0, 0}, {0, 1}},
+            u"00000 77770 70070 77770"_s, u"Drew a rectangle with index 7 from (3,3) to (0,1)."_s);
+        row("square", EditorTool::FilledRectangle, {{1, 1}, {3, 2}}, u"00000 07770 27770 07770"_s,
+            u"Filled a rectangle with index 7 from (1,1) to (3,3)."_s, Qt::ShiftModifier);
+        row("beyond the edge", EditorTool::Rectangle, {{3, 1}, {9, 3}},
+            u"00000 00077 20070 00077"_s, u"Drew a rectangle with index 7 from (3,1) to (9,3)."_s);
+        row("area", EditorTool::Fill, {{4, 3}, {0, 2}}, u"77777 77777 27777 77777"_s,
+            u"Filled the area at (4,3) with index 7."_s);
+        row("area of one", EditorTool::Fill, {{0, 2}}, u"00000 00000 70000 00000"_s,
+            u"Filled the area at (0,2) with index 7."_s);
+    }
+
+    // In a bitmap of 5 x 4 with one pixel, whose index is 2.
+    void Tools()
+    {
+        QFETCH(const int, tool);
+        QFETCH(const QList<QPoint>, way);
+        QFETCH(const int, modifiers);
+        QFETCH(const QString, pixels);
+        QFETCH(const QString, log);
+        ShowDrawing();
+        tools_->SetTool(EditorTool(tool));
+        tools_->Palette().SetIndex(7);
+        Drag(way, Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(ShownPixels(), pixels); // while it is drawn
+        QCOMPARE(Pixels(), u"00000 00000 20000 00000"_s);
+        QTest::mouseRelease(view_->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(modifiers),
+                            Place(way.last()));
+        QCOMPARE(Pixels(), pixels);
+        QCOMPARE(session_->Stack().LogLines().join(u'|'), u"[Char 0x0042]: "_s + log);
+        history_->undo();
+        QCOMPARE(Pixels(), u"00000 00000 20000 00000"_s);
+    }
+
+    // The release can go elsewhere, as can the character.
+    void DrawingsEnd_data()
+    {
+        QTest::addColumn<int>("way");
+        QTest::addColumn<int>("steps");
+        QTest::newRow("escape") << 0 << 0;
+        QTest::newRow("button was let go elsewhere") << 1 << 1;
+        QTest::newRow("another character") << 2 << 1;
+        QTest::newRow("character is gone") << 3 << 0;
+        QTest::newRow("another font") << 4 << 0;
+        QTest::newRow("nothing was changed") << 5 << 0;
+    }
+
+    void DrawingsEnd()
+    {
+        QFETCH(const int, way);
+        QFETCH(const int, steps);
+        ShowDrawing();
+        tools_->SetTool(EditorTool::Line);
+        if (way == 5)
+            tools_->Palette().SetIndex(0);
+        Drag({{0, 0}, {4, 0}});
+        if (way == 0)
+            QTest::keyClick(view_->viewport(), Qt::Key_Escape);
+        else if (way == 1)
+            Move(Place({0, 3}), Qt::NoButton);
+        else if (way == 2)
+            view_->SetCharacter(session_->CurrentFont()->FindChar('A'), 'A');
+        else if (way == 3)
+            static_cast<void>(session_->CurrentFont()->RemoveChar('B'));
+        else if (way == 4)
+            session_->ReplaceFont(Test::MakeSampleFont(FontFormat::LegacyAA4), {});
+        if (way == 3 || way == 4)
+            view_->SetCharacter(nullptr, -1);
+        else
+            QTest::mouseRelease(view_->viewport(), Qt::LeftButton, {}, Place({4, 0}));
+        QVERIFY(!tools_->IsDrawing());
+        QCOMPARE(history_->count(), steps);
+        if (way == 0)
+            QCOMPARE(ShownPixels(), u"00000 00000 20000 00000"_s);
+    }
+
+    // Whatever tool is in use.
+    void RightButtonErasesAndAltPicks()
+    {
+        ShowDrawing();
+        tools_->SetTool(EditorTool::Line);
+        const IndexPalette& palette = tools_->Palette();
+        QCOMPARE(palette.Index(), 15);
+        QTest::mouseClick(view_->viewport(), Qt::LeftButton, Qt::AltModifier, Place({0, 2}));
+        QCOMPARE(palette.Index(), 2);
+        QTest::mouseClick(view_->viewport(), Qt::RightButton, {}, Place({0, 2}));
+        QCOMPARE(Pixels(), u"00000 00000 00000 00000"_s);
+        QSignalSpy menus(view_.get(), &CharBitmapView::MenuRequested);
+        const QPoint place = Place({0, 2});
+        QContextMenuEvent menu(QContextMenuEvent::Mouse, place,
+                               view_->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(view_->viewport(), &menu);
+        QCOMPARE(menus.count(), 0);
+        tools_->SetTool(EditorTool::Select);
+        QApplication::sendEvent(view_->viewport(), &menu);
+        QCOMPARE(menus.count(), 1);
+    }
+
+    void PaletteByKeys()
+    {
+        IndexPalette palette;
+        palette.SetDepth(2);
+        palette.show();
+        palette.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&palette));
+        QCOMPARE(palette.Index(), 3);
+        palette.findChildren<QAbstractButton*>().last()->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+        QCOMPARE(palette.Index(), 2);
+        palette.SetIndex(4);
+        QCOMPARE(palette.Index(), 2);
+        palette.SetDepth(4);
+        QCOMPARE(palette.Index(), 15);
+    }
+
+    void Neighbours_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QList<QPoint>>("places");
+        // "A" is 3 pixels wide at the offset -1 and takes 4, "B" takes 6; "AB" is kerned by -2.
+        QTest::newRow("left, kerned") << u"AB"_s << QList<QPoint>{{-3, 1}};
+        QTest::newRow("right") << u"BA"_s << QList<QPoint>{{5, 1}};
+        QTest::newRow("place with both") << u"AB AB BA ABA"_s << QList<QPoint>{{-3, 1}, {5, 1}};
+        QTest::newRow("missing characters") << u"\u20ACB\u20AC"_s << QList<QPoint>{};
+        QTest::newRow("not in the text") << u"AA"_s << QList<QPoint>{};
+    }
+
+    void Neighbours()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QList<QPoint>, places);
+        Show(FontFormat::AA4);
+        const std::vector<uchar> ink(6, 0xFF);
+        font_->PutChar('A', {3, 3, -1, 1, 4}, ink).kerning = {{'B', -2}};
+        CharInfo& info = font_->FindChar('B')->info;
+        info.cursorDistance = 6;
+        info.xPos = 1;
+        QList<QPoint> found;
+        const std::vector<Neighbour> neighbours = NeighboursIn(text, *font_, 'B');
+        for (const Neighbour& neighbour : neighbours)
+            found.append(neighbour.place);
+        QCOMPARE(found, places);
+        view_->SetBackground(neighbours, {});
+        view_->SetCharacter(view_->CurrentCharacter(), 'B');
+        const QImage picture = view_->viewport()->grab().toImage();
+        for (const QPoint cell : places) {
+            const QColor colour = picture.pixelColor(Place(cell + QPoint(1 - info.xPos, 0)));
+            QVERIFY2(colour.value() > 100 && colour.value() < 180, qPrintable(colour.name()));
+        }
     }
 
     void KeysAloneSelect()

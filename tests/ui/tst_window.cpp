@@ -1,3 +1,4 @@
+#include "actions/action_open_font.h"
 #include "actions/edit_table.h"
 #include "app/progress.h"
 #include "app/settings.h"
@@ -287,10 +288,7 @@ private Q_SLOTS:
         };
         stroke(0, 3);
         QCOMPARE(history_->count(), 0); // it selects
-        for (QAction* const tool : window_->findChildren<QAction*>()) {
-            if (tool->text() == u"Pencil"_s)
-                tool->trigger();
-        }
+        Trigger(EditorTool::Pencil);
         stroke(0, 3);
         QCOMPARE(history_->count(), 1);
         for (int x = 0; x < 4; ++x)
@@ -304,6 +302,78 @@ private Q_SLOTS:
         QVERIFY(history_->canRedo());
         Trigger(WindowCommand::Undo);
         QCOMPARE(Test::Snapshot(CurrentFont()), before);
+    }
+
+    // Each character and each change keeps it, another font does not.
+    void ZoomOfTheEditor()
+    {
+        OpenSample(FontFormat::AA4);
+        window_->Table().SelectCode('B');
+        const CharBitmapView& editor = window_->Editor();
+        const qreal fitting = editor.CellSize();
+        for (const auto& [command, size] :
+             {std::pair(WindowCommand::ActualSize, 1), std::pair(WindowCommand::ZoomOut, 1),
+              std::pair(WindowCommand::ZoomIn, 2), std::pair(WindowCommand::ZoomIn, 3),
+              std::pair(WindowCommand::ZoomOut, 2)}) {
+            Trigger(command);
+            QCOMPARE(editor.CellSize(), size);
+        }
+        QTest::keyClick(window_.get(), Qt::Key_Equal, Qt::ControlModifier);
+        QCOMPARE(editor.CellSize(), 3);
+        window_->Table().SelectCode('C');
+        Trigger(ActionType::InsertColumnRight);
+        QCOMPARE(editor.CellSize(), 3);
+        QTest::keyClick(window_.get(), Qt::Key_0, Qt::ControlModifier);
+        window_->Table().SelectCode('B');
+        QCOMPARE(editor.CellSize(), fitting);
+        for (int step = 0; step < 30; ++step)
+            Trigger(WindowCommand::ZoomIn);
+        QVERIFY(editor.CellSize() >= fitting);
+        Trigger(WindowCommand::Undo); // opening would ask
+        OpenSample(FontFormat::AA4);
+        QCOMPARE(editor.Zoom(), 0);
+    }
+
+    // Of the font that was rendered here, even after edits; a font of pixels has none.
+    void OutlineBehindThePixels()
+    {
+        const QColor colour(225, 0, 140);
+        const auto markedCells = [&] {
+            const CharBitmapView& editor = window_->Editor();
+            const QImage picture = window_->Editor().viewport()->grab().toImage();
+            QRect cells;
+            for (int y = 0; y < picture.height(); ++y)
+                for (int x = 0; x < picture.width(); ++x)
+                    if (picture.pixelColor(x, y) == colour)
+                        cells |= QRect(editor.CellAt({x, y}), QSize(1, 1));
+            return cells;
+        };
+        const auto action = std::make_shared<ActionOpenFont>(*session_, ActionType::OpenFont);
+        action->Args().path = QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf");
+        action->Args().selection.emplace().SetRange(' ', 'B', true);
+        action->Args().format = FontFormat::AA4;
+        action->Args().render.height = 24;
+        QVERIFY(action->Run());
+        window_->Table().SelectCode('A');
+        QVERIFY(markedCells().isEmpty());
+        Trigger(WindowCommand::ShowOutline);
+        const CharInfo& info = CurrentFont().FindChar('A')->info;
+        const QRect whole(0, info.yPos, info.width, info.height);
+        const auto isNear = [](const QRect& marked, const QRect& expected) {
+            return expected.adjusted(-1, -1, 1, 1).contains(marked) &&
+                   marked.contains(expected.adjusted(1, 1, -1, -1));
+        };
+        QVERIFY(isNear(markedCells(), whole));
+        Trigger(ActionType::InsertColumnLeft);
+        Trigger(ActionType::MoveLeft);
+        Trigger(ActionType::FontInsertRowTop);
+        QVERIFY(isNear(markedCells(), whole.translated(1, 1)));
+        window_->Table().SelectCode(' ');
+        QVERIFY(markedCells().isEmpty());
+        session_->SetSaved({}); // opening would ask
+        OpenSample();
+        QVERIFY(markedCells().isEmpty());
+        Trigger(WindowCommand::ShowOutline);
     }
 
     void PreferencesTakeEffectAtOnce()
@@ -442,14 +512,15 @@ private Q_SLOTS:
     {
         OpenSample();
         window_->resize(900, 500);
-        window_->Editor().SetZoom(12);
+        Trigger(EditorTool::Line);
         Trigger(WindowCommand::AllCharacters);
         window_->close();
         window_ = std::make_unique<MainWindow>(*session_, *history_);
         SetCurrentInterface(window_.get());
         window_->show();
         QCOMPARE(window_->size(), QSize(900, 500));
-        QCOMPARE(window_->Editor().Zoom(), 12);
+        QVERIFY(window_->Menus().Command(EditorTool::Line)->isChecked());
+        QVERIFY(!window_->Menus().Command(EditorTool::Select)->isChecked());
         QVERIFY(!window_->Menus().Command(WindowCommand::AllCharacters)->isChecked());
     }
 

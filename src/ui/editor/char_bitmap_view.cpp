@@ -6,9 +6,11 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace Glyphor {
@@ -16,7 +18,18 @@ namespace Glyphor {
 namespace {
 
 constexpr int ResizeDelay = 20; // milliseconds
-constexpr int MaxZoom = 64;
+constexpr std::array ZoomSteps = {1, 2, 3, 4, 6, 8, 12, 16, 24, 32, 48, 64};
+constexpr int MaxZoom = ZoomSteps.back();
+
+// Stands out from any grey, on which an inverted one may not.
+void DrawOutline(QPainter& painter, const QRectF& rect)
+{
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [colour, width] : {std::pair(Qt::black, 3), std::pair(Qt::white, 1)}) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(rect);
+    }
+}
 
 } // namespace
 
@@ -48,7 +61,8 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
 {
     const QPoint selected =
         current_ != nullptr ? QPoint(current_->Column(), current_->Row()) : QPoint(-1, -1);
-    const bool isOther = character != character_;
+    // An edit may give the code another one.
+    const bool isOther = code != code_ || (character == nullptr) != (character_ == nullptr);
     if (isOther)
         Q_EMIT CharacterLeft();
     character_ = character;
@@ -63,11 +77,15 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
     const QPoint guides = GuidePlace();
     const bool hasOtherGuides = guides != guides_;
     guides_ = guides;
+    const bool showsOthers = ShownCells() != shownCells_;
     hint_->setVisible(character != nullptr && (columns == 0 || rows == 0));
     if (isResized)
         UpdateItems();
-    if (isResized || hasOtherGuides)
+    if (isResized || hasOtherGuides || showsOthers)
         PlaceItems();
+    else if (hasOtherBackground_)
+        viewport()->update();
+    hasOtherBackground_ = false;
     if (character_ != nullptr) {
         const FramePlane frame(*character_);
         for (CharPixelItem* const item : items_)
@@ -80,6 +98,7 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
         current_ = same;
         current_->setSelected(true);
         scene_.setFocusItem(current_);
+        UpdateMark();
     }
     TellPixel();
 }
@@ -117,21 +136,47 @@ int CharBitmapView::ShownColumns() const
     return guides_.x() > columns_ && guides_.x() <= columns_ + room ? guides_.x() : columns_;
 }
 
+// From the corner of the grid. The cursor stands left of it by the offset.
+QRect CharBitmapView::CellsOf(const Neighbour& neighbour) const
+{
+    return {neighbour.place - QPoint(character_->info.xPos, 0), neighbour.picture.size()};
+}
+
+// The grid with room for the neighbours, unless they are far away.
+QRect CharBitmapView::ShownCells() const
+{
+    const QRect grid(0, 0, ShownColumns(), rows_);
+    const int room = std::max(4, columns_);
+    QRect shown = grid;
+    if (character_ != nullptr) {
+        for (const Neighbour& neighbour : neighbours_)
+            shown |= CellsOf(neighbour);
+    }
+    return shown & grid.adjusted(-room, 0, room, 0);
+}
+
+QRectF CharBitmapView::RectOf(const QRect& cells) const
+{
+    return {QPointF(cells.topLeft()) * cellSize_, QSizeF(cells.size()) * cellSize_};
+}
+
 // The size of a cell at which the whole grid can be seen.
 qreal CharBitmapView::FittingSize() const
 {
-    return std::max(2.0, std::floor(std::min(qreal(viewport()->width() - 4) / ShownColumns(),
-                                             qreal(viewport()->height() - 4) / rows_)));
+    const QSize cells = ShownCells().size();
+    return std::max(2.0, std::floor(std::min(qreal(viewport()->width() - 4) / cells.width(),
+                                             qreal(viewport()->height() - 4) / cells.height())));
 }
 
 void CharBitmapView::PlaceItems()
 {
+    shownCells_ = ShownCells();
     if (items_.empty()) {
         scene_.setSceneRect(hint_->sceneBoundingRect());
         return;
     }
-    cellSize_ = zoom_ > 0 ? std::max(2.0, qreal(zoom_)) : FittingSize();
-    scene_.setSceneRect(0, 0, ShownColumns() * cellSize_, rows_ * cellSize_);
+    cellSize_ = zoom_ > 0 ? qreal(zoom_) : FittingSize();
+    scene_.setSceneRect(RectOf(shownCells_));
     for (CharPixelItem* const item : items_)
         item->setGeometry(
             {item->Column() * cellSize_, item->Row() * cellSize_, cellSize_, cellSize_});
@@ -152,12 +197,12 @@ bool CharBitmapView::SelectItem(CharPixelItem* item)
         return false;
     if (current_ != nullptr && current_ != item) {
         current_->setSelected(false);
-        current_->update();
+        UpdateMark();
     }
     current_ = item;
     item->setSelected(true);
     item->setFocus();
-    item->update();
+    UpdateMark();
     ensureVisible(item, 0, 0);
     TellPixel();
     return true;
@@ -175,11 +220,19 @@ QPoint CharBitmapView::SelectedPixel() const
     return current_ != nullptr ? current_->PixelPosition() : QPoint(-1, -1);
 }
 
+// Of the selected cell, with the outline around it.
+void CharBitmapView::UpdateMark()
+{
+    scene_.update(current_->rect().adjusted(-3, -3, 3, 3));
+}
+
 // Takes mark and focus from the cell, before it is one of something else.
 void CharBitmapView::ForgetPixel()
 {
-    if (current_ != nullptr)
+    if (current_ != nullptr) {
         current_->setSelected(false);
+        UpdateMark();
+    }
     scene_.setFocusItem(nullptr);
     current_ = nullptr;
 }
@@ -190,21 +243,70 @@ void CharBitmapView::ClearPixel()
     TellPixel();
 }
 
-// Thin guides for the baseline and the cursor distance.
+// Paper for the neighbours.
+void CharBitmapView::drawBackground(QPainter* painter, const QRectF& rect)
+{
+    QGraphicsView::drawBackground(painter, rect);
+    if (!items_.empty() && !neighbours_.empty())
+        painter->fillRect(scene_.sceneRect(), Qt::white);
+}
+
+void CharBitmapView::DrawNeighbours(QPainter& painter) const
+{
+    painter.save();
+    painter.setClipRect(scene_.sceneRect(), Qt::IntersectClip);
+    painter.setOpacity(0.45);
+    for (const Neighbour& neighbour : neighbours_)
+        painter.drawImage(RectOf(CellsOf(neighbour)), neighbour.picture);
+    painter.restore();
+}
+
+// In a colour with a light edge, which shows on any grey.
+void CharBitmapView::DrawGlyphOutline(QPainter& painter) const
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QPointF(-character_->info.xPos, guides_.y()) * cellSize_);
+    painter.scale(cellSize_, cellSize_);
+    painter.setBrush(Qt::NoBrush);
+    for (const auto& [colour, width] :
+         {std::pair(QColor(255, 255, 255, 160), 3.5), std::pair(QColor(225, 0, 140), 1.5)}) {
+        QPen pen(colour, width);
+        pen.setCosmetic(true);
+        painter.strokePath(outline_, pen);
+    }
+    painter.restore();
+}
+
+void CharBitmapView::SetBackground(std::vector<Neighbour> neighbours, const QPainterPath& outline)
+{
+    hasOtherBackground_ = hasOtherBackground_ || neighbours != neighbours_ || outline != outline_;
+    neighbours_ = std::move(neighbours);
+    outline_ = outline;
+}
+
+// The neighbours, which may reach over the cells, and thin guides for the baseline and the cursor
+// distance.
 void CharBitmapView::drawForeground(QPainter* painter, const QRectF&)
 {
     if (items_.empty())
         return;
+    DrawNeighbours(*painter);
     QPen pen(QColor(230, 30, 30), 2);
     painter->setPen(pen);
     const qreal baseline = guides_.y() * cellSize_;
     if (guides_.y() <= rows_)
-        painter->drawLine(QPointF(0, baseline), QPointF(scene_.width(), baseline));
+        painter->drawLine(QPointF(scene_.sceneRect().left(), baseline),
+                          QPointF(scene_.sceneRect().right(), baseline));
     pen.setColor(QColor(40, 90, 220));
     painter->setPen(pen);
     const qreal advance = guides_.x() * cellSize_;
     if (guides_.x() >= 0 && guides_.x() <= ShownColumns())
         painter->drawLine(QPointF(advance, 0), QPointF(advance, scene_.height()));
+    if (!outline_.isEmpty())
+        DrawGlyphOutline(*painter);
+    if (current_ != nullptr)
+        DrawOutline(*painter, current_->rect());
 }
 
 void CharBitmapView::resizeEvent(QResizeEvent* event)
@@ -224,6 +326,38 @@ void CharBitmapView::SetZoom(int zoom)
     PlaceItems();
 }
 
+// What is at the place stays there, as far as there is something to scroll.
+void CharBitmapView::ZoomAround(QPoint place, int zoom)
+{
+    const QPointF cell = mapToScene(place) / cellSize_;
+    SetZoom(zoom);
+    const QPoint moved = mapFromScene(cell * cellSize_) - place;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + moved.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + moved.y());
+}
+
+QPoint CharBitmapView::ZoomCentre() const
+{
+    const QRect view = viewport()->rect();
+    const QPoint pixel =
+        current_ != nullptr ? mapFromScene(current_->rect().center()) : view.center();
+    return view.contains(pixel) ? pixel : view.center();
+}
+
+void CharBitmapView::ZoomIn()
+{
+    const auto* const larger = std::ranges::upper_bound(ZoomSteps, static_cast<int>(cellSize_));
+    if (larger != ZoomSteps.end())
+        ZoomAround(ZoomCentre(), *larger);
+}
+
+void CharBitmapView::ZoomOut()
+{
+    const auto* const first = std::ranges::lower_bound(ZoomSteps, static_cast<int>(cellSize_));
+    if (first != ZoomSteps.begin())
+        ZoomAround(ZoomCentre(), *std::prev(first));
+}
+
 // Zooms; all the way out fits the view again.
 void CharBitmapView::wheelEvent(QWheelEvent* event)
 {
@@ -237,7 +371,7 @@ void CharBitmapView::wheelEvent(QWheelEvent* event)
     const int fitting = static_cast<int>(FittingSize());
     const int zoom =
         std::clamp(static_cast<int>(cellSize_) + 2 * steps, 2, std::max(MaxZoom, fitting));
-    SetZoom(zoom <= fitting && steps < 0 ? 0 : zoom);
+    ZoomAround(event->position().toPoint(), zoom <= fitting && steps < 0 ? 0 : zoom);
 }
 
 // Space is a shortcut as well, but here it is the cell's.
@@ -250,8 +384,10 @@ bool CharBitmapView::event(QEvent* event)
             return true;
         }
     }
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
-        viewport()->update();
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        const QRect frame = viewport()->rect();
+        viewport()->update(QRegion(frame) - QRegion(frame.adjusted(2, 2, -2, -2)));
+    }
     return QGraphicsView::event(event);
 }
 
@@ -267,14 +403,41 @@ void CharBitmapView::keyPressEvent(QKeyEvent* event)
         event->ignore();
 }
 
+void CharBitmapView::ShowDraft(const Character& draft, const std::vector<QPoint>& pixels)
+{
+    const FramePlane frame(draft);
+    const auto update = [&](QPoint cell) {
+        if (CharPixelItem* const item = CellItem(cell.x(), cell.y()))
+            item->UpdateFrom(draft, frame);
+    };
+    for (const QPoint pixel : pixels) {
+        const QPoint cell = pixel + QPoint(0, Top());
+        update(cell);
+        if (draft.info.font.format != FontFormat::Framed)
+            continue;
+        for (const QPoint step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
+            update(cell + step);
+    }
+}
+
 // Empty for a cell that is no pixel.
 QString CharBitmapView::Description(const CharPixelItem& item) const
 {
     const QPoint place = item.PixelPosition();
     if (character_ == nullptr || place.x() < 0)
         return {};
-    const int index = character_->bitmap->GetPixelIndex(place.x(), place.y());
-    return tr("Index of pixel [%1, %2]: %3").arg(place.x()).arg(place.y()).arg(index);
+    return Description(*character_, place);
+}
+
+QString CharBitmapView::Description(const Character& character, QPoint pixel) const
+{
+    const int index = character.bitmap->GetPixelIndex(pixel.x(), pixel.y());
+    return tr("Index of pixel [%1, %2]: %3").arg(pixel.x()).arg(pixel.y()).arg(index);
+}
+
+void CharBitmapView::ShowStatus(const Character& character, QPoint pixel)
+{
+    Q_EMIT StatusChanged(Description(character, pixel));
 }
 
 void CharBitmapView::ShowStatus(const CharPixelItem& item)

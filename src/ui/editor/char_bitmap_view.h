@@ -1,8 +1,10 @@
 #pragma once
 
 #include "ui/editor/char_pixel_item.h"
+#include "ui/editor/neighbours.h"
 
 #include <QGraphicsView>
+#include <QPainterPath>
 #include <QTimer>
 
 #include <vector>
@@ -20,6 +22,10 @@ public:
 
     // Null for none. The character must outlive its use here; call it again after every change.
     void SetCharacter(const Character* character, int code);
+
+    // What to show from the next call on: neighbours in grey, and an outline, whose origin is the
+    // cursor position on the baseline, in pixels of the font.
+    void SetBackground(std::vector<Neighbour> neighbours, const QPainterPath& outline);
 
     [[nodiscard]] const Character* CurrentCharacter() const { return character_; }
     [[nodiscard]] int CurrentCode() const { return code_; }
@@ -44,6 +50,10 @@ public:
 
     // Tells the place and the index of a cell that is a pixel.
     void ShowStatus(const CharPixelItem& item);
+    void ShowStatus(const Character& character, QPoint pixel);
+
+    // Shows pixels of a bitmap that the character may get, until it is set the next time.
+    void ShowDraft(const Character& draft, const std::vector<QPoint>& pixels);
 
     // The y of the first row of the character's bitmap.
     [[nodiscard]] int Top() const;
@@ -51,6 +61,10 @@ public:
     // The size of a cell in pixels; 0 where the grid fits the view.
     [[nodiscard]] int Zoom() const { return zoom_; }
     void SetZoom(int zoom);
+
+    // To the next size of a series, around the selected pixel.
+    void ZoomIn();
+    void ZoomOut();
 
     // The cell at a place in the viewport, in a grid that goes on beyond its ends.
     [[nodiscard]] QPoint CellAt(QPoint place) const;
@@ -71,6 +85,7 @@ Q_SIGNALS:
     void CharacterLeft();
 
 protected:
+    void drawBackground(QPainter* painter, const QRectF& rect) override;
     void drawForeground(QPainter* painter, const QRectF& rect) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -83,12 +98,21 @@ private:
     Q_SLOT void OnTimerResize();
     void UpdateItems();
     void PlaceItems();
+    void DrawNeighbours(QPainter& painter) const;
+    void DrawGlyphOutline(QPainter& painter) const;
+    void UpdateMark();
     void ForgetPixel();
     void TellPixel();
     [[nodiscard]] QString Description(const CharPixelItem& item) const;
+    [[nodiscard]] QString Description(const Character& character, QPoint pixel) const;
     [[nodiscard]] QPoint GuidePlace() const;
     [[nodiscard]] qreal FittingSize() const;
+    [[nodiscard]] QPoint ZoomCentre() const;
+    void ZoomAround(QPoint place, int zoom);
     [[nodiscard]] int ShownColumns() const;
+    [[nodiscard]] QRect ShownCells() const;
+    [[nodiscard]] QRect CellsOf(const Neighbour& neighbour) const;
+    [[nodiscard]] QRectF RectOf(const QRect& cells) const;
 
     const Character* character_ = nullptr;
     int code_ = -1;
@@ -100,6 +124,10 @@ private:
     int columns_ = 0;
     int rows_ = 0;
     QPoint guides_ = {-1, -1};
+    std::vector<Neighbour> neighbours_;
+    QPainterPath outline_;
+    bool hasOtherBackground_ = false; // than what is painted
+    QRect shownCells_;                // when they were placed
     qreal cellSize_ = 1;
     int zoom_ = 0;       // size of a cell in pixels; 0 fits the view
     int wheelAngle_ = 0; // that was turned and has not zoomed yet

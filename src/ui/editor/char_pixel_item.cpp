@@ -55,7 +55,12 @@ void CharPixelItem::UpdateFrom(const Character& character, const FramePlane& fra
 
 QPoint CharPixelItem::PixelPosition() const
 {
-    return state_ == Pixel ? QPoint(column_, row_ - view_.Top()) : QPoint(-1, -1);
+    return state_ == Pixel ? BitmapPosition() : QPoint(-1, -1);
+}
+
+QPoint CharPixelItem::BitmapPosition() const
+{
+    return state_ != Outside ? QPoint(column_, row_ - view_.Top()) : QPoint(-1, -1);
 }
 
 void CharPixelItem::setGeometry(const QRectF& rect)
@@ -125,20 +130,32 @@ void CharPixelItem::hoverLeaveEvent(QGraphicsSceneHoverEvent*)
     Q_EMIT view_.StatusChanged({});
 }
 
+// The neighbour, or the next cell that can be selected, on the other side of a frame for example.
+void CharPixelItem::SelectNext(QPoint step, bool skipsOthers) const
+{
+    QPoint cell = QPoint(column_, row_) + step;
+    CharPixelItem* item = view_.CellItem(cell.x(), cell.y());
+    while (!view_.SelectItem(item) && item != nullptr && skipsOthers) {
+        cell += step;
+        item = view_.CellItem(cell.x(), cell.y());
+    }
+}
+
 void CharPixelItem::keyPressEvent(QKeyEvent* event)
 {
+    const bool skipsOthers = event->modifiers().testFlag(Qt::ControlModifier);
     switch (event->key()) {
     case Qt::Key_Left:
-        view_.SelectItem(view_.CellItem(column_ - 1, row_));
+        SelectNext({-1, 0}, skipsOthers);
         break;
     case Qt::Key_Right:
-        view_.SelectItem(view_.CellItem(column_ + 1, row_));
+        SelectNext({1, 0}, skipsOthers);
         break;
     case Qt::Key_Up:
-        view_.SelectItem(view_.CellItem(column_, row_ - 1));
+        SelectNext({0, -1}, skipsOthers);
         break;
     case Qt::Key_Down:
-        view_.SelectItem(view_.CellItem(column_, row_ + 1));
+        SelectNext({0, 1}, skipsOthers);
         break;
     case Qt::Key_Space:
         Q_EMIT view_.InversionRequested(column_, row_);

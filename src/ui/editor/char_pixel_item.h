@@ -33,6 +33,9 @@ public:
     // The place in the bitmap of the character; (-1, -1) for a cell that is no pixel of it.
     [[nodiscard]] QPoint PixelPosition() const;
 
+    // The same, with a place for cells of the frame, which is painted over but can't be selected.
+    [[nodiscard]] QPoint BitmapPosition() const;
+
     void setGeometry(const QRectF& rect) override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
@@ -47,6 +50,7 @@ protected:
 
 private:
     [[nodiscard]] int PenWidth() const;
+    void SelectNext(QPoint step, bool skipsOthers) const;
 
     CharBitmapView& view_;
     State state_ = Pixel;

@@ -149,6 +149,7 @@ TextPreview::TextPreview(QWidget* parent)
     layout->addWidget(area, 1);
 
     connect(field_, &QLineEdit::textChanged, strip_, &TextStrip::SetText);
+    connect(field_, &QLineEdit::textChanged, this, &TextPreview::TextChanged);
     connect(zoom_, &QSpinBox::valueChanged, strip_, &TextStrip::SetZoom);
     connect(kerning_, &QCheckBox::toggled, strip_, &TextStrip::SetKerning);
     connect(inkButton_, &QToolButton::clicked, this, [this] { ChooseColour(ink_, tr("Ink")); });
@@ -163,6 +164,11 @@ void TextPreview::ShowFont(const Font* font)
 {
     strip_->ShowFont(font);
     kerning_->setEnabled(font != nullptr && font->HasKerning());
+}
+
+QString TextPreview::Text() const
+{
+    return field_->text();
 }
 
 QByteArray TextPreview::State() const

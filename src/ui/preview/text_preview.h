@@ -73,6 +73,10 @@ public:
     void RestoreState(const QByteArray& state);
 
     [[nodiscard]] TextStrip& Strip() const { return *strip_; }
+    [[nodiscard]] QString Text() const;
+
+Q_SIGNALS:
+    void TextChanged();
 
 private:
     void ChooseColour(QColor& colour, const QString& title);

@@ -10,10 +10,19 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <algorithm>
 
 namespace Glyphor {
+
+namespace {
+
+constexpr int MinCellSize = 24;
+constexpr int CellMargins = 2 * CharacterDelegate::Margin;
+constexpr int MaxZoom = 16;
+
+} // namespace
 
 CharacterTable::CharacterTable(QWidget* parent)
     : QTableView(parent),
@@ -51,6 +60,7 @@ void CharacterTable::ShowFont(const Font* font)
     }
     for (QHeaderView* const header : {horizontalHeader(), verticalHeader()})
         header->setVisible(font != nullptr);
+    zoom_ = 0;
     SizeCells();
     scrollToTop();
     if (model_->rowCount() > 0) {
@@ -121,18 +131,26 @@ void CharacterTable::TakeSelection()
 
 // Cells fill the width and are large enough for the usual characters at their own size. Room for
 // the scroll bar is left in any case: its coming and going would change what it comes and goes for.
+int CharacterTable::FittingCellWidth() const
+{
+    const int available = maximumViewportSize().width() - verticalScrollBar()->sizeHint().width();
+    return std::max(
+        {MinCellSize, available / CharacterModel::Columns, model_->UsualWidth() + CellMargins});
+}
+
+int CharacterTable::FittingZoom() const
+{
+    return std::max(1, (FittingCellWidth() - CellMargins) / model_->UsualWidth());
+}
+
 void CharacterTable::SizeCells()
 {
-    constexpr int minCellSize = 24;
-    constexpr int margins = 2 * CharacterDelegate::Margin;
     const Font* const font = model_->ShownFont();
-    const int usualWidth = model_->UsualWidth();
     const int fontHeight = font != nullptr ? std::max<int>(1, font->Metrics().height) : 1;
-    const int available = maximumViewportSize().width() - verticalScrollBar()->sizeHint().width();
-    const int width =
-        std::max({minCellSize, available / CharacterModel::Columns, usualWidth + margins});
-    const int zoom = std::max(1, (width - margins) / usualWidth);
-    const int height = std::max(minCellSize, fontHeight * zoom + margins);
+    const int zoom = zoom_ > 0 ? zoom_ : FittingZoom();
+    const int width = zoom_ > 0 ? std::max(MinCellSize, model_->UsualWidth() * zoom + CellMargins)
+                                : FittingCellWidth();
+    const int height = std::max(MinCellSize, fontHeight * zoom + CellMargins);
     delegate_->ZoomTo(zoom);
     horizontalHeader()->setDefaultSectionSize(width);
     verticalHeader()->setDefaultSectionSize(height);
@@ -229,6 +247,26 @@ bool CharacterTable::event(QEvent* event)
         }
     }
     return QTableView::event(event);
+}
+
+// Ctrl and the wheel zoom, and fit the cells again where they pass what fits.
+void CharacterTable::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier) || model_->ShownFont() == nullptr)
+        return QTableView::wheelEvent(event);
+    constexpr int notch = 120; // touch pads turn in smaller parts
+    wheelAngle_ += event->angleDelta().y();
+    const int steps = wheelAngle_ / notch;
+    wheelAngle_ -= steps * notch;
+    event->accept();
+    if (steps == 0)
+        return;
+    const int fitting = FittingZoom();
+    const int zoom =
+        std::clamp((zoom_ > 0 ? zoom_ : fitting) + steps, 1, std::max(MaxZoom, fitting));
+    zoom_ = zoom == fitting ? 0 : zoom;
+    SizeCells();
+    scrollTo(currentIndex());
 }
 
 // A blank is a character like others here.

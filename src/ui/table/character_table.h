@@ -37,6 +37,9 @@ public:
     // The selected codes, whether or not they have a character.
     [[nodiscard]] const CodeSet& SelectedCodes() const { return selected_; }
 
+    // How many pixels of the screen a character's pixel is wide and high; 0 for as many as fit.
+    [[nodiscard]] int Zoom() const { return zoom_; }
+
     // Where a code is painted, in the viewport; empty where its row is not shown.
     [[nodiscard]] QRect CellRect(int code) const;
 
@@ -52,6 +55,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -60,6 +64,8 @@ protected:
 
 private:
     void SizeCells();
+    [[nodiscard]] int FittingCellWidth() const;
+    [[nodiscard]] int FittingZoom() const;
     void TakeSelection();
     void Restore(int current, const CodeSet& selected);
     [[nodiscard]] int FirstCodeWithPixels() const;
@@ -69,6 +75,8 @@ private:
     int current_ = -1;
     CodeSet selected_;
     bool isRestoring_ = false; // what the model's reset took away
+    int zoom_ = 0;
+    int wheelAngle_ = 0; // that was turned and has not zoomed yet
 };
 
 } // namespace Glyphor

@@ -8,7 +8,7 @@
 #include "ui/document/document.h"
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
-#include "ui/editor/pencil_tool.h"
+#include "ui/editor/drawing_tools.h"
 #include "ui/table/character_table.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
@@ -24,19 +24,33 @@ Commands::Commands(const WindowParts& parts, QWidget& window)
 {
     connect(&parts_.document, &Document::DirectoriesRequested, this,
             [this](QWidget* parent) { EditPreferences(PreferencesDialog::Fonts, parent); });
-    // Elsewhere their keys mean something else.
     for (const Edit& edit : EditTable()) {
-        if (edit.target != EditTarget::Pixel)
-            continue;
-        QAction* const command = parts_.menus.Command(edit.type);
-        command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        parts_.panes.Editor().addAction(command);
+        if (edit.target == EditTarget::Pixel)
+            BindToEditor(*parts_.menus.Command(edit.type));
     }
+    for (const ToolRow& tool : ToolTable())
+        BindToEditor(*parts_.menus.Command(tool.tool));
+    // The same key without Shift where plus is above another character.
+    parts_.menus.Command(WindowCommand::ZoomIn)
+        ->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
+}
+
+// Elsewhere its key means something else.
+void Commands::BindToEditor(QAction& command) const
+{
+    command.setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    parts_.panes.Editor().addAction(&command);
+}
+
+void Commands::ChooseTool(EditorTool tool)
+{
+    parts_.menus.Command(tool)->setChecked(true);
+    parts_.tools.SetTool(tool);
 }
 
 void Commands::Run(quint32 id)
 {
-    parts_.pencil.EndStroke();
+    parts_.tools.EndDrawing();
     const auto type = ActionType(id);
     if (const Edit* const edit = EditOf(type))
         return parts_.edits.RunEdit(*edit);
@@ -76,6 +90,10 @@ void Commands::Run(quint32 id)
 
 void Commands::RunWindowCommand(quint32 id)
 {
+    for (const ToolRow& row : ToolTable()) {
+        if (CommandId(row.tool) == id)
+            return ChooseTool(row.tool);
+    }
     switch (WindowCommand(id)) {
     case WindowCommand::Undo:
         return parts_.edits.Undo();
@@ -97,6 +115,18 @@ void Commands::RunWindowCommand(quint32 id)
         return ShowManual();
     case WindowCommand::ExportProof:
         return parts_.document.ExportProof();
+    case WindowCommand::ZoomIn:
+        return parts_.panes.Editor().ZoomIn();
+    case WindowCommand::ZoomOut:
+        return parts_.panes.Editor().ZoomOut();
+    case WindowCommand::ZoomToFit:
+        return parts_.panes.Editor().SetZoom(0);
+    case WindowCommand::ActualSize:
+        return parts_.panes.Editor().SetZoom(1);
+    case WindowCommand::ShowNeighbours:
+        return parts_.panes.ShowNeighbours(parts_.menus.Command(id)->isChecked());
+    case WindowCommand::ShowOutline:
+        return parts_.panes.ShowOutline(parts_.menus.Command(id)->isChecked());
     }
 }
 
@@ -147,8 +177,9 @@ void Commands::ShowContextMenu(QPoint globalPosition)
         action->setEnabled(toggle->isEnabled()); // they all need a character
     menu.addSeparator();
     for (QAction* const action : parts_.menus.Submenu(SubmenuId::Edit)->actions()) {
-        if (action->menu() != nullptr &&
-            action->menu() != parts_.menus.Submenu(SubmenuId::PixelIndex))
+        const bool isOfEditor = action->menu() == parts_.menus.Submenu(SubmenuId::PixelIndex) ||
+                                action->menu() == parts_.menus.Submenu(SubmenuId::Tools);
+        if (action->menu() != nullptr && !isOfEditor)
             menu.addMenu(action->menu());
     }
     menu.exec(globalPosition);
@@ -169,9 +200,13 @@ void Commands::EnablePossible()
     const bool isSaved = !parts_.session.IsModified() && parts_.document.HasOwnFile();
     enable(ActionType::SaveFont, hasFont && !isSaved);
     enable(ActionType::SaveKerning, hasFont && font->HasKerning());
-    enable(WindowCommand::AllCharacters, hasFont);
-    enable(WindowCommand::GoToCharacter, hasFont);
-    enable(WindowCommand::ExportProof, hasFont);
+    for (const WindowCommand command :
+         {WindowCommand::AllCharacters, WindowCommand::GoToCharacter, WindowCommand::ExportProof,
+          WindowCommand::ZoomIn, WindowCommand::ZoomOut, WindowCommand::ZoomToFit,
+          WindowCommand::ActualSize, WindowCommand::ShowNeighbours, WindowCommand::ShowOutline})
+        enable(command, hasFont);
+    for (const ToolRow& tool : ToolTable())
+        enable(tool.tool, hasFont);
     EnableEdits();
 }
 

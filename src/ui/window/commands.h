@@ -1,18 +1,21 @@
 #pragma once
 
+#include "ui/editor/editor_tool.h"
+
 #include <QObject>
 
+class QAction;
 class QPoint;
 class QWidget;
 
 namespace Glyphor {
 
 class Document;
+class DrawingTools;
 class EditCommands;
 class FontIndexer;
 class MenuBar;
 class Panes;
-class PencilTool;
 class Session;
 
 // What the commands of the window work on.
@@ -24,7 +27,7 @@ struct WindowParts
     MenuBar& menus;
     Panes& panes;
     EditCommands& edits;
-    PencilTool& pencil;
+    DrawingTools& tools;
 };
 
 // Runs the commands of the menus by their numbers, and enables those that can be run.
@@ -39,6 +42,7 @@ public:
     void Run(quint32 id);
     void EnablePossible();
     void EditPreferences(int page, QWidget* parent);
+    void ChooseTool(EditorTool tool);
 
     // The commands for what is selected in the table.
     void ShowContextMenu(QPoint globalPosition);
@@ -47,6 +51,7 @@ Q_SIGNALS:
     void PreferencesChanged();
 
 private:
+    void BindToEditor(QAction& command) const;
     void RunWindowCommand(quint32 id);
     void EnableEdits();
     void GoToCharacter();

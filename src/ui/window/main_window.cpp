@@ -11,7 +11,7 @@
 #include "ui/document/document.h"
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
-#include "ui/editor/pencil_tool.h"
+#include "ui/editor/drawing_tools.h"
 #include "ui/preview/text_preview.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/support/undo_stack.h"
@@ -62,8 +62,8 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       menus_(new MenuBar(this)),
       panes_(new Panes),
       edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
-      pencil_(new PencilTool(session, history, panes_->Editor())),
-      commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
+      tools_(new DrawingTools(session, panes_->Editor())),
+      commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *tools_},
                              *this)),
       status_(new StatusLine)
 {
@@ -71,7 +71,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
     setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
     setAcceptDrops(true);
     setMenuBar(menus_);
-    addToolBar(new ToolBar(*menus_, *document_, *pencil_));
+    addToolBar(new ToolBar(*menus_, *document_, *tools_));
     setCentralWidget(panes_);
     setStatusBar(status_);
     setMinimumSize(640, 420);
@@ -86,7 +86,7 @@ MainWindow::~MainWindow()
 {
     // These outlive what the slots use.
     delete commands_;
-    for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_, pencil_})
+    for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_})
         disconnect(sender, nullptr, this, nullptr);
 }
 
@@ -132,7 +132,6 @@ void MainWindow::ConnectViews()
     connect(&editor, &CharBitmapView::MenuRequested, this,
             [this](QPoint place) { menus_->Submenu(SubmenuId::PixelIndex)->exec(place); });
     connect(&editor, &CharBitmapView::InversionRequested, edits_, &EditCommands::InvertPixel);
-    connect(pencil_, &PencilTool::StrokeEnded, this, &MainWindow::ShowChanges);
 }
 
 void MainWindow::ConnectIndexer()
@@ -160,11 +159,11 @@ void MainWindow::RecallState()
     QByteArray upperSplitter;
     QStringList files;
     QByteArray preview;
-    qint32 zoom = 0;
-    bool hasPencil = false;
+    qint32 unused = 0; // a font begins fitted
+    quint8 tool = 0;
     bool showsAll = true;
     stream >> version >> window >> splitter >> subSplitter >> upperSplitter >> files >> preview >>
-        zoom >> hasPencil >> showsAll;
+        unused >> tool >> showsAll;
     if (version != StateVersion || stream.status() != QDataStream::Ok)
         return;
     restoreState(window);
@@ -173,10 +172,17 @@ void MainWindow::RecallState()
     panes_->SubSplitters()[1]->restoreState(upperSplitter);
     document_->SetRecentFiles(files);
     Preview().RestoreState(preview);
-    Editor().SetZoom(zoom);
-    pencil_->Command().setChecked(hasPencil);
+    if (tool < ToolTable().size())
+        commands_->ChooseTool(EditorTool(tool));
     menus_->Command(WindowCommand::AllCharacters)->setChecked(showsAll);
     Table().ShowAll(showsAll);
+    bool showsNeighbours = false; // older records end before these
+    bool showsOutline = false;
+    stream >> showsNeighbours >> showsOutline;
+    menus_->Command(WindowCommand::ShowOutline)->setChecked(showsOutline);
+    panes_->ShowOutline(showsOutline);
+    menus_->Command(WindowCommand::ShowNeighbours)->setChecked(showsNeighbours);
+    panes_->ShowNeighbours(showsNeighbours);
 }
 
 void MainWindow::KeepState()
@@ -185,9 +191,10 @@ void MainWindow::KeepState()
     QDataStream stream(&state, QIODevice::WriteOnly);
     stream << StateVersion << saveState() << panes_->saveState()
            << panes_->SubSplitters()[0]->saveState() << panes_->SubSplitters()[1]->saveState()
-           << document_->RecentFiles() << Preview().State() << qint32(Editor().Zoom())
-           << pencil_->Command().isChecked()
-           << menus_->Command(WindowCommand::AllCharacters)->isChecked();
+           << document_->RecentFiles() << Preview().State() << qint32(0) << quint8(tools_->Tool())
+           << menus_->Command(WindowCommand::AllCharacters)->isChecked()
+           << menus_->Command(WindowCommand::ShowNeighbours)->isChecked()
+           << menus_->Command(WindowCommand::ShowOutline)->isChecked();
     Settings::Instance().mainWindow.save({saveGeometry(), state});
 }
 
@@ -202,7 +209,7 @@ void MainWindow::ShowFont()
     Font* const font = session_.CurrentFont();
     shownFont_ = font;
     panes_->ShowFont(font);
-    pencil_->ShowFont(font);
+    tools_->ShowFont(font);
     UpdateTitle();
 }
 
@@ -258,6 +265,8 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
     status_->Tell(action->Log().Translated());
     if (action->Type() == ActionType::OpenFont)
         document_->AddRecentFile(session_.Path());
+    if (const auto* const open = dynamic_cast<const ActionOpenFont*>(action.get()))
+        panes_->SetOrigin(open->Args());
     ShowChanges();
     return true;
 }
@@ -265,8 +274,7 @@ bool MainWindow::actionPerformed(const std::shared_ptr<Action>& action, const QS
 void MainWindow::ActionChanged(const std::shared_ptr<Action>& action)
 {
     edits_->NoteChange(action.get());
-    if (!pencil_->IsStroking())
-        ShowChanges();
+    ShowChanges();
 }
 
 bool MainWindow::ProgressChanged(const QString& text, int value, int maximum)

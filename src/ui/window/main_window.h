@@ -12,10 +12,10 @@ namespace Glyphor {
 
 class Commands;
 class Document;
+class DrawingTools;
 class EditCommands;
 class FontIndexer;
 class MenuBar;
-class PencilTool;
 class Session;
 class UndoStack;
 
@@ -82,7 +82,7 @@ private:
     MenuBar* menus_;
     Panes* panes_;
     EditCommands* edits_;
-    PencilTool* pencil_;
+    DrawingTools* tools_;
     Commands* commands_;
     StatusLine* status_;
     QTimer resizeTimer_;

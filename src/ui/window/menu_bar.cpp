@@ -1,6 +1,7 @@
 #include "ui/window/menu_bar.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCoreApplication>
 
 namespace Glyphor {
@@ -63,7 +64,17 @@ void MenuBar::AddCommand(const MenuRow& row, QMenu* parent)
             [this, id = row.commandId] { Q_EMIT CommandTriggered(id); });
     if (parent != nullptr)
         parent->addAction(command);
+    if (row.exclusive != 0)
+        MakeExclusive(*command, *parent);
     commands_.insert(row.commandId, command);
+}
+
+void MenuBar::MakeExclusive(QAction& command, QMenu& menu)
+{
+    auto* group = menu.findChild<QActionGroup*>(QString(), Qt::FindDirectChildrenOnly);
+    if (group == nullptr)
+        group = new QActionGroup(&menu);
+    group->addAction(&command);
 }
 
 } // namespace Glyphor

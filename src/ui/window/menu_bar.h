@@ -22,6 +22,7 @@ public:
     {
         return Command(CommandId(command));
     }
+    [[nodiscard]] QAction* Command(EditorTool tool) const { return Command(CommandId(tool)); }
 
     [[nodiscard]] QMenu* Submenu(SubmenuId id) const { return submenus_.value(id); }
 
@@ -32,6 +33,7 @@ private:
     void Build(std::span<const MenuRow> rows, QMenu* parent);
     void AddSubmenu(const MenuRow& row, QMenu* parent);
     void AddCommand(const MenuRow& row, QMenu* parent);
+    static void MakeExclusive(QAction& command, QMenu& menu);
 
     QHash<quint32, QAction*> commands_;
     QHash<SubmenuId, QMenu*> submenus_;

@@ -24,13 +24,25 @@ constexpr MenuRow Entry(const char* text, const char* shortcut, const char* stat
             .disabled = disabled};
 }
 
-// Starts disabled and checked.
+// Starts disabled.
 template <typename Command>
-constexpr MenuRow Toggle(const char* text, const char* statusTip, Command command)
+constexpr MenuRow Toggle(const char* text, const char* statusTip, Command command,
+                         quint8 checked = 1)
 {
     MenuRow row = Entry(text, nullptr, statusTip, command);
     row.checkable = 1;
-    row.checked = 1;
+    row.checked = checked;
+    return row;
+}
+
+// One of several, of which the first is chosen at the start.
+constexpr MenuRow Choice(const char* text, const char* shortcut, const char* statusTip,
+                         EditorTool tool)
+{
+    MenuRow row = Entry(text, shortcut, statusTip, tool);
+    row.checkable = 1;
+    row.checked = tool == EditorTool::Select ? 1 : 0;
+    row.exclusive = 1;
     return row;
 }
 
@@ -194,6 +206,34 @@ public:
               ActionType::SetPixelIndex15),
     };
 
+    static constexpr MenuRow DrawingRows[] = {
+        Choice(QT_TR_NOOP("&Select"), "S", QT_TR_NOOP("Select pixels by clicking"),
+               EditorTool::Select),
+        Choice(QT_TR_NOOP("&Pencil"), "P",
+               QT_TR_NOOP("Paint pixels by clicking and dragging (Ctrl inverts them)"),
+               EditorTool::Pencil),
+        Choice(QT_TR_NOOP("&Eraser"), "X",
+               QT_TR_NOOP("Set pixels to index 0 by clicking and dragging (as the right button "
+                          "does with every tool)"),
+               EditorTool::Eraser),
+        Choice(QT_TR_NOOP("&Line"), "L",
+               QT_TR_NOOP("Draw a line by dragging (Shift keeps it level, upright or diagonal)"),
+               EditorTool::Line),
+        Choice(QT_TR_NOOP("&Rectangle"), "U",
+               QT_TR_NOOP("Draw the outline of a rectangle by dragging (Shift makes it a square)"),
+               EditorTool::Rectangle),
+        Choice(QT_TR_NOOP("Filled re&ctangle"), "Shift+U",
+               QT_TR_NOOP("Fill a rectangle by dragging (Shift makes it a square)"),
+               EditorTool::FilledRectangle),
+        Choice(QT_TR_NOOP("&Fill"), "G",
+               QT_TR_NOOP("Fill the area of pixels with the same index by clicking"),
+               EditorTool::Fill),
+        Choice(QT_TR_NOOP("Pic&ker"), "I",
+               QT_TR_NOOP("Take the index to paint with from a pixel (as Alt and a click do with "
+                          "every tool)"),
+               EditorTool::Picker),
+    };
+
     static constexpr MenuRow EditRows[] = {
         Entry(QT_TR_NOOP("&Undo"), "Ctrl+Z", QT_TR_NOOP("Undo last action"), WindowCommand::Undo),
         Entry(QT_TR_NOOP("&Redo"), "Ctrl+Y", QT_TR_NOOP("Redo previous action"),
@@ -223,6 +263,8 @@ public:
         Entry(QT_TR_NOOP("Save &pattern file..."), nullptr,
               QT_TR_NOOP("Save the currently enabled characters to a pattern file"),
               ActionType::SavePattern),
+        Separator,
+        Submenu(QT_TR_NOOP("Too&ls"), DrawingRows, SubmenuId::Tools),
     };
 
     static constexpr MenuRow ViewRows[] = {
@@ -230,6 +272,24 @@ public:
                WindowCommand::AllCharacters),
         Entry(QT_TR_NOOP("&Go to character..."), "Ctrl+G",
               QT_TR_NOOP("Selects and jumps to a desired character"), WindowCommand::GoToCharacter),
+        Separator,
+        Entry(QT_TR_NOOP("Zoom &in"), "Ctrl++", QT_TR_NOOP("Show the pixels of the editor larger"),
+              WindowCommand::ZoomIn),
+        Entry(QT_TR_NOOP("Zoom &out"), "Ctrl+-",
+              QT_TR_NOOP("Show the pixels of the editor smaller"), WindowCommand::ZoomOut),
+        Entry(QT_TR_NOOP("&Fit to view"), "Ctrl+0",
+              QT_TR_NOOP("Show the whole character as large as the editor has room for"),
+              WindowCommand::ZoomToFit),
+        Entry(QT_TR_NOOP("Actual &size"), "Ctrl+1",
+              QT_TR_NOOP("Show each pixel of the character as one of the screen"),
+              WindowCommand::ActualSize),
+        Separator,
+        Toggle(QT_TR_NOOP("Show &neighbours"),
+               QT_TR_NOOP("Show in the editor what stands beside the character in the sample text"),
+               WindowCommand::ShowNeighbours, 0),
+        Toggle(QT_TR_NOOP("Show o&utline"),
+               QT_TR_NOOP("Show in the editor the outline that the character was rendered from"),
+               WindowCommand::ShowOutline, 0),
     };
 
     static constexpr MenuRow ToolRows[] = {

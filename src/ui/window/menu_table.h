@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/action_type.h"
+#include "ui/editor/editor_tool.h"
 
 #include <QtGlobal>
 
@@ -21,7 +22,13 @@ enum class WindowCommand : quint32 {
     About = 63,
     CommandLineOptions = 64,
     UserManual = 65,
-    ExportProof = 80
+    ExportProof = 80,
+    ZoomIn = 110,
+    ZoomOut = 111,
+    ZoomToFit = 112,
+    ActualSize = 113,
+    ShowNeighbours = 114,
+    ShowOutline = 115
 };
 
 // The number that commands have in the menus and their actions.
@@ -35,8 +42,16 @@ enum class WindowCommand : quint32 {
     return static_cast<quint32>(command);
 }
 
+// Those of the tools begin here.
+constexpr quint32 FirstToolCommand = 100;
+
+[[nodiscard]] constexpr quint32 CommandId(EditorTool tool)
+{
+    return FirstToolCommand + static_cast<quint32>(tool);
+}
+
 // Submenus that the window has to find.
-enum class SubmenuId : quint8 { None, Edit, PixelIndex };
+enum class SubmenuId : quint8 { None, Edit, PixelIndex, Tools };
 
 // One entry of a menu. Texts are null where there is none.
 // NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): the order is that of a row's reading
@@ -50,6 +65,7 @@ struct MenuRow
     quint8 disabled = 0; // at the start
     quint8 checkable = 0;
     quint8 checked = 0;
+    quint8 exclusive = 0; // one of its menu's that have this is checked
     const MenuRow* submenu = nullptr;
     qint32 submenuCount = 0;
     SubmenuId submenuId = SubmenuId::None;

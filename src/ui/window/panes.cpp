@@ -43,6 +43,10 @@ Panes::Panes()
         splitter->setChildrenCollapsible(false);
     }
     connect(table_, &CharacterTable::CurrentCodeChanged, this, &Panes::ShowCurrentCharacter);
+    connect(preview_, &TextPreview::TextChanged, this, [this] {
+        if (showsNeighbours_)
+            ShowCurrentCharacter();
+    });
     connect(table_, &CharacterTable::EditRequested, this, [this] {
         editor_->setFocus();
         if (editor_->CurrentPixel() == nullptr)
@@ -59,6 +63,8 @@ void Panes::ShowFont(const Font* font)
 {
     font_ = font;
     editor_->SetCharacter(nullptr, -1);
+    if (font != nullptr)
+        editor_->SetZoom(0);
     table_->ShowFont(font);
     ShowCurrentCharacter();
     preview_->ShowFont(font);
@@ -75,8 +81,24 @@ void Panes::ShowCurrentCharacter()
 {
     const int code = table_->CurrentCode();
     const bool hasCode = font_ != nullptr && code >= 0;
+    editor_->SetBackground(
+        hasCode && showsNeighbours_ ? NeighboursIn(preview_->Text(), *font_, quint16(code))
+                                    : std::vector<Neighbour>(),
+        hasCode && showsOutline_ ? outlines_.PathOf(quint16(code)) : QPainterPath());
     editor_->SetCharacter(hasCode ? font_->FindChar(quint16(code)) : nullptr, code);
     info_->ShowCode(font_, code);
+}
+
+void Panes::ShowNeighbours(bool isOn)
+{
+    showsNeighbours_ = isOn;
+    ShowCurrentCharacter();
+}
+
+void Panes::ShowOutline(bool isOn)
+{
+    showsOutline_ = isOn;
+    ShowCurrentCharacter();
 }
 
 void Panes::ShowHexadecimal(bool isOn)

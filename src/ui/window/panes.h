@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/window/font_outlines.h"
+
 #include <QSplitter>
 
 #include <array>
@@ -40,6 +42,14 @@ public:
 
     void ShowHexadecimal(bool isOn);
 
+    // In the editor, what stands beside the character in the sample text.
+    void ShowNeighbours(bool isOn);
+
+    // In the editor, the outline of the glyph that the character was rendered from, and how the
+    // font was opened, which tells that glyph.
+    void ShowOutline(bool isOn);
+    void SetOrigin(const ActionOpenFontArgs& origin) { outlines_.SetOrigin(origin); }
+
 private:
     CharacterTable* table_;
     CharBitmapView* editor_;
@@ -48,6 +58,9 @@ private:
     QSplitter* subSplitter_;
     QSplitter* upperSplitter_;
     const Font* font_ = nullptr;
+    FontOutlines outlines_;
+    bool showsNeighbours_ = false;
+    bool showsOutline_ = false;
 };
 
 } // namespace Glyphor

@@ -1,19 +1,19 @@
 #include "ui/window/tool_bar.h"
 
 #include "ui/document/document.h"
-#include "ui/editor/pencil_tool.h"
+#include "ui/editor/drawing_tools.h"
+#include "ui/editor/index_palette.h"
 #include "ui/window/menu_bar.h"
 
 #include <QMenu>
 #include <QShortcut>
-#include <QSpinBox>
 #include <QToolButton>
 
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
-ToolBar::ToolBar(MenuBar& menus, Document& document, PencilTool& pencil) : QToolBar(tr("Tools"))
+ToolBar::ToolBar(MenuBar& menus, Document& document, DrawingTools& tools) : QToolBar(tr("Tools"))
 {
     setObjectName(u"tools"_s);
     setIconSize({20, 20});
@@ -33,8 +33,13 @@ ToolBar::ToolBar(MenuBar& menus, Document& document, PencilTool& pencil) : QTool
     add(ActionType::Toggle, u"toggle"_s);
     add(WindowCommand::GoToCharacter, u"goto"_s);
     addSeparator();
-    addAction(&pencil.Command());
-    addWidget(&pencil.IndexBox());
+    for (const ToolRow& tool : ToolTable()) {
+        QAction* const command = add(tool.tool, QString::fromLatin1(tool.icon));
+        command->setToolTip(
+            tr("%1 (%2)").arg(QString(command->text()).remove(u'&'),
+                              command->shortcut().toString(QKeySequence::NativeText)));
+    }
+    addWidget(&tools.Palette());
     for (QToolButton* const button : findChildren<QToolButton*>())
         button->setFocusPolicy(Qt::TabFocus);
 }

@@ -5,16 +5,16 @@
 namespace Glyphor {
 
 class Document;
+class DrawingTools;
 class MenuBar;
-class PencilTool;
 
-// The commands that are used most, the recent files and the pencil.
+// The commands that are used most, the recent files and the tools of the pixel editor.
 class ToolBar final : public QToolBar
 {
     Q_OBJECT
 
 public:
-    ToolBar(MenuBar& menus, Document& document, PencilTool& pencil);
+    ToolBar(MenuBar& menus, Document& document, DrawingTools& tools);
 
 private:
     void AddRecentFiles(QAction* open, Document& document);

@@ -1331,6 +1331,34 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Cursor distance set to %2.</source>
         <translation>Cursorabstand auf %2 gesetzt.</translation>
     </message>
+    <message>
+        <source>Drew a stroke with index %1.</source>
+        <translation>Strich mit Index %1 gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Inverted the pixels of a stroke.</source>
+        <translation>Pixel eines Strichs invertiert.</translation>
+    </message>
+    <message>
+        <source>Erased the pixels of a stroke.</source>
+        <translation>Pixel eines Strichs radiert.</translation>
+    </message>
+    <message>
+        <source>Drew a line with index %1 from (%2,%3) to (%4,%5).</source>
+        <translation>Linie mit Index %1 von (%2,%3) nach (%4,%5) gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Drew a rectangle with index %1 from (%2,%3) to (%4,%5).</source>
+        <translation>Rechteck mit Index %1 von (%2,%3) nach (%4,%5) gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Filled a rectangle with index %1 from (%2,%3) to (%4,%5).</source>
+        <translation>Rechteck mit Index %1 von (%2,%3) nach (%4,%5) gefüllt.</translation>
+    </message>
+    <message>
+        <source>Filled the area at (%2,%3) with index %1.</source>
+        <translation>Fläche bei (%2,%3) mit Index %1 gefüllt.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1912,6 +1940,21 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::IndexPalette</name>
+    <message>
+        <source>Index to paint with</source>
+        <translation>Index, mit dem gemalt wird</translation>
+    </message>
+    <message>
+        <source>Index %1</source>
+        <translation>Index %1</translation>
+    </message>
+    <message>
+        <source>Paint with index %1</source>
+        <translation>Mit Index %1 malen</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::InfoPanel</name>
     <message>
         <source>Information</source>
@@ -2072,25 +2115,6 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Do not replace, keep old characters.</source>
         <translation>Nicht ersetzen, die alten Zeichen behalten.</translation>
-    </message>
-</context>
-<context>
-    <name>Glyphor::PencilTool</name>
-    <message>
-        <source>Pencil</source>
-        <translation>Stift</translation>
-    </message>
-    <message>
-        <source>Paint pixels by clicking and dragging (Ctrl inverts them)</source>
-        <translation>Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
-    </message>
-    <message>
-        <source>Index that the pencil paints</source>
-        <translation>Index, den der Stift malt</translation>
-    </message>
-    <message>
-        <source>Stroke</source>
-        <translation>Strich</translation>
     </message>
 </context>
 <context>
@@ -2442,6 +2466,10 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Tools</source>
         <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -2981,6 +3009,122 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Write pictures of the font into a PNG or PDF file</source>
         <translation>Bilder der Schrift in eine PNG- oder PDF-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>&amp;Auswählen</translation>
+    </message>
+    <message>
+        <source>Select pixels by clicking</source>
+        <translation>Pixel durch Klicken auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Pencil</source>
+        <translation>&amp;Stift</translation>
+    </message>
+    <message>
+        <source>Paint pixels by clicking and dragging (Ctrl inverts them)</source>
+        <translation type="unfinished">Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
+    </message>
+    <message>
+        <source>&amp;Eraser</source>
+        <translation>&amp;Radierer</translation>
+    </message>
+    <message>
+        <source>Set pixels to index 0 by clicking and dragging (as the right button does with every tool)</source>
+        <translation>Pixel durch Klicken und Ziehen auf Index 0 setzen (wie mit jedem Werkzeug die rechte Taste)</translation>
+    </message>
+    <message>
+        <source>&amp;Line</source>
+        <translation>&amp;Linie</translation>
+    </message>
+    <message>
+        <source>Draw a line by dragging (Shift keeps it level, upright or diagonal)</source>
+        <translation>Durch Ziehen eine Linie zeichnen (mit Umschalt waagrecht, senkrecht oder diagonal)</translation>
+    </message>
+    <message>
+        <source>&amp;Rectangle</source>
+        <translation>Rechtec&amp;k</translation>
+    </message>
+    <message>
+        <source>Draw the outline of a rectangle by dragging (Shift makes it a square)</source>
+        <translation>Durch Ziehen den Umriss eines Rechtecks zeichnen (mit Umschalt ein Quadrat)</translation>
+    </message>
+    <message>
+        <source>Filled re&amp;ctangle</source>
+        <translation>&amp;Gefülltes Rechteck</translation>
+    </message>
+    <message>
+        <source>Fill a rectangle by dragging (Shift makes it a square)</source>
+        <translation>Durch Ziehen ein Rechteck füllen (mit Umschalt ein Quadrat)</translation>
+    </message>
+    <message>
+        <source>&amp;Fill</source>
+        <translation>&amp;Füllen</translation>
+    </message>
+    <message>
+        <source>Fill the area of pixels with the same index by clicking</source>
+        <translation>Durch Klicken die Fläche der Pixel mit demselben Index füllen</translation>
+    </message>
+    <message>
+        <source>Pic&amp;ker</source>
+        <translation>&amp;Pipette</translation>
+    </message>
+    <message>
+        <source>Take the index to paint with from a pixel (as Alt and a click do with every tool)</source>
+        <translation>Den Index, mit dem gemalt wird, von einem Pixel nehmen (wie mit jedem Werkzeug Alt und ein Klick)</translation>
+    </message>
+    <message>
+        <source>Too&amp;ls</source>
+        <translation>Werk&amp;zeuge</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Show the pixels of the editor larger</source>
+        <translation>Die Pixel des Editors größer zeigen</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Show the pixels of the editor smaller</source>
+        <translation>Die Pixel des Editors kleiner zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to view</source>
+        <translation>&amp;Einpassen</translation>
+    </message>
+    <message>
+        <source>Show the whole character as large as the editor has room for</source>
+        <translation>Das ganze Zeichen so groß zeigen, wie der Editor Platz hat</translation>
+    </message>
+    <message>
+        <source>Actual &amp;size</source>
+        <translation>&amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>Show each pixel of the character as one of the screen</source>
+        <translation>Jedes Pixel des Zeichens als eines des Bildschirms zeigen</translation>
+    </message>
+    <message>
+        <source>Show &amp;neighbours</source>
+        <translation>&amp;Nachbarn zeigen</translation>
+    </message>
+    <message>
+        <source>Show in the editor what stands beside the character in the sample text</source>
+        <translation>Im Editor zeigen, was im Probetext neben dem Zeichen steht</translation>
+    </message>
+    <message>
+        <source>Show o&amp;utline</source>
+        <translation>&amp;Umriss zeigen</translation>
+    </message>
+    <message>
+        <source>Show in the editor the outline that the character was rendered from</source>
+        <translation>Im Editor den Umriss zeigen, aus dem das Zeichen gerastert wurde</translation>
     </message>
 </context>
 <context>
