@@ -194,6 +194,21 @@ public:
               ActionType::SetPixelIndex15),
     };
 
+    static constexpr MenuRow TransformRows[] = {
+        Entry(QT_TR_NOOP("Flip horizontally"), "Ctrl+Shift+H",
+              QT_TR_NOOP("Flip the selected pixels, or the characters, from left to right"),
+              ActionType::FlipHorizontally),
+        Entry(QT_TR_NOOP("Flip vertically"), "Ctrl+Shift+V",
+              QT_TR_NOOP("Flip the selected pixels, or the characters, from top to bottom"),
+              ActionType::FlipVertically),
+        Entry(QT_TR_NOOP("Rotate right"), "Ctrl+.",
+              QT_TR_NOOP("Rotate the selected pixels, or the characters, to the right"),
+              ActionType::RotateRight),
+        Entry(QT_TR_NOOP("Rotate left"), "Ctrl+,",
+              QT_TR_NOOP("Rotate the selected pixels, or the characters, to the left"),
+              ActionType::RotateLeft),
+    };
+
     static constexpr MenuRow EditRows[] = {
         Entry(QT_TR_NOOP("&Undo"), "Ctrl+Z", QT_TR_NOOP("Undo last action"), WindowCommand::Undo),
         Entry(QT_TR_NOOP("&Redo"), "Ctrl+Y", QT_TR_NOOP("Redo previous action"),
@@ -223,6 +238,11 @@ public:
         Entry(QT_TR_NOOP("Save &pattern file..."), nullptr,
               QT_TR_NOOP("Save the currently enabled characters to a pattern file"),
               ActionType::SavePattern),
+        Separator,
+        Submenu(QT_TR_NOOP("Tra&nsform"), TransformRows),
+        Entry(QT_TR_NOOP("Dup&licate to code..."), nullptr,
+              QT_TR_NOOP("Copy the selected characters to another code and those behind it"),
+              ActionType::CopyTo),
     };
 
     static constexpr MenuRow ViewRows[] = {

@@ -1331,6 +1331,42 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Cursor distance set to %2.</source>
         <translation>Cursorabstand auf %2 gesetzt.</translation>
     </message>
+    <message>
+        <source>Characters can&apos;t be copied!</source>
+        <translation>Zeichen können nicht kopiert werden!</translation>
+    </message>
+    <message>
+        <source>0x%1 would get a code beyond 0xFFFF.</source>
+        <translation>0x%1 bekäme einen Code über 0xFFFF.</translation>
+    </message>
+    <message>
+        <source>0x%1 would get the code 0x%2, which the encoding of the font does not have.</source>
+        <translation>0x%1 bekäme den Code 0x%2, den die Kodierung der Schrift nicht hat.</translation>
+    </message>
+    <message>
+        <source>Flipped horizontally.</source>
+        <translation>Waagerecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Flipped vertically.</source>
+        <translation>Senkrecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Rotated to the right.</source>
+        <translation>Nach rechts gedreht.</translation>
+    </message>
+    <message>
+        <source>Rotated to the left.</source>
+        <translation>Nach links gedreht.</translation>
+    </message>
+    <message>
+        <source>Copied to 0x%2.</source>
+        <translation>Nach 0x%2 kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 of -editchar needs a value.</source>
+        <translation>%1 von -editchar braucht einen Wert.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1537,6 +1573,41 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Export proof</source>
         <translation>Schriftprobe exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::DuplicateDialog</name>
+    <message>
+        <source>Duplicate to code</source>
+        <translation>Auf Code duplizieren</translation>
+    </message>
+    <message>
+        <source>A code (0x41, U+0041 or 65), or a character that is no digit</source>
+        <translation>Ein Code (0x41, U+0041 oder 65) oder ein Zeichen, das keine Ziffer ist</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>&amp;Code:</translation>
+    </message>
+    <message>
+        <source>A code is written as 0x41, U+0041 or 65; what is no digit can stand for itself.</source>
+        <translation>Codes werden als 0x41, U+0041 oder 65 geschrieben; außer Ziffern kann jedes Zeichen für sich selbst stehen.</translation>
+    </message>
+    <message>
+        <source>Characters to copy: %L1, of the font&apos;s own replaced: %L2</source>
+        <translation>Zu kopierende Zeichen: %L1, davon ersetzen vorhandene: %L2</translation>
+    </message>
+    <message>
+        <source>%1 would get a code beyond 0xFFFF.</source>
+        <translation>%1 bekäme einen Code über 0xFFFF.</translation>
+    </message>
+    <message>
+        <source>%1 would get the code %2, which the encoding does not have.</source>
+        <translation>%1 bekäme den Code %2, den die Kodierung nicht hat.</translation>
+    </message>
+    <message>
+        <source>This is the code that it has already.</source>
+        <translation>Diesen Code hat es bereits.</translation>
     </message>
 </context>
 <context>
@@ -2981,6 +3052,50 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Write pictures of the font into a PNG or PDF file</source>
         <translation>Bilder der Schrift in eine PNG- oder PDF-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Flip horizontally</source>
+        <translation>Waagerecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip the selected pixels, or the characters, from left to right</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen von links nach rechts spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip vertically</source>
+        <translation>Senkrecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip the selected pixels, or the characters, from top to bottom</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen von oben nach unten spiegeln</translation>
+    </message>
+    <message>
+        <source>Rotate right</source>
+        <translation>Nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Rotate the selected pixels, or the characters, to the right</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message>
+        <source>Rotate the selected pixels, or the characters, to the left</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen nach links drehen</translation>
+    </message>
+    <message>
+        <source>Tra&amp;nsform</source>
+        <translation>Trans&amp;formieren</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate to code...</source>
+        <translation>Auf &amp;Code duplizieren...</translation>
+    </message>
+    <message>
+        <source>Copy the selected characters to another code and those behind it</source>
+        <translation>Die ausgewählten Zeichen auf einen anderen Code und die folgenden kopieren</translation>
     </message>
 </context>
 <context>
