@@ -48,7 +48,8 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
 {
     const QPoint selected =
         current_ != nullptr ? QPoint(current_->Column(), current_->Row()) : QPoint(-1, -1);
-    const bool isOther = character != character_;
+    // An edit may have put another one in its place.
+    const bool isOther = code != code_ || (character == nullptr) != (character_ == nullptr);
     if (isOther)
         Q_EMIT CharacterLeft();
     character_ = character;

@@ -9,13 +9,16 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/pencil_tool.h"
+#include "ui/editor/pixel_selection.h"
 #include "ui/table/character_table.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/panes.h"
 
+#include <QApplication>
 #include <QMenu>
+#include <QSpinBox>
 
 namespace Glyphor {
 
@@ -28,10 +31,25 @@ Commands::Commands(const WindowParts& parts, QWidget& window)
     for (const Edit& edit : EditTable()) {
         if (edit.target != EditTarget::Pixel)
             continue;
-        QAction* const command = parts_.menus.Command(edit.type);
-        command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        parts_.panes.Editor().addAction(command);
+        KeepInEditor(parts_.menus.Command(edit.type));
     }
+    for (const WindowCommand command :
+         {WindowCommand::SelectAllPixels, WindowCommand::FillPixels, WindowCommand::DeletePixels})
+        KeepInEditor(parts_.menus.Command(command));
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* now) { NoteFocus(now); });
+}
+
+void Commands::KeepInEditor(QAction* command)
+{
+    command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    parts_.panes.Editor().addAction(command);
+}
+
+void Commands::NoteFocus(const QWidget* widget)
+{
+    if (widget != nullptr && !widget->inherits("QMenu") && !widget->inherits("QMenuBar"))
+        isInEditor_ = widget == &parts_.panes.Editor();
 }
 
 void Commands::Run(quint32 id)
@@ -39,7 +57,7 @@ void Commands::Run(quint32 id)
     parts_.pencil.EndStroke();
     const auto type = ActionType(id);
     if (const Edit* const edit = EditOf(type))
-        return parts_.edits.RunEdit(*edit);
+        return RunEdit(*edit);
     switch (type) {
     case ActionType::CreateFont:
         return parts_.document.Create();
@@ -74,12 +92,42 @@ void Commands::Run(quint32 id)
     }
 }
 
+// Selected pixels are what is edited while the editor has the focus.
+void Commands::RunEdit(const Edit& edit)
+{
+    PixelSelection& selection = parts_.selection;
+    if (!selection.IsEmpty() && edit.target == EditTarget::Pixel)
+        return selection.Change(edit);
+    if (!selection.IsEmpty() && isInEditor_ && selection.Turn(edit.type))
+        return;
+    parts_.edits.RunEdit(edit);
+}
+
+// False for another command.
+bool Commands::RunPixelCommand(WindowCommand command)
+{
+    PixelSelection& selection = parts_.selection;
+    if (command == WindowCommand::SelectAllPixels)
+        selection.SelectAll();
+    else if (command == WindowCommand::FillPixels)
+        selection.Fill(parts_.pencil.IndexBox().value());
+    else if (command == WindowCommand::DeletePixels)
+        selection.Erase();
+    else
+        return false;
+    return true;
+}
+
 void Commands::RunWindowCommand(quint32 id)
 {
+    if (RunPixelCommand(WindowCommand(id)))
+        return;
     switch (WindowCommand(id)) {
     case WindowCommand::Undo:
+        parts_.selection.Clear(); // whose pixels may move back
         return parts_.edits.Undo();
     case WindowCommand::Redo:
+        parts_.selection.Clear();
         return parts_.edits.Redo();
     case WindowCommand::AllCharacters:
         return parts_.panes.Table().ShowAll(parts_.menus.Command(id)->isChecked());
@@ -97,6 +145,8 @@ void Commands::RunWindowCommand(quint32 id)
         return ShowManual();
     case WindowCommand::ExportProof:
         return parts_.document.ExportProof();
+    default:
+        return;
     }
 }
 
@@ -154,6 +204,21 @@ void Commands::ShowContextMenu(QPoint globalPosition)
     menu.exec(globalPosition);
 }
 
+// A single pixel has its indices alone.
+void Commands::ShowPixelMenu(QPoint globalPosition)
+{
+    QMenu* const indices = parts_.menus.Submenu(SubmenuId::PixelIndex);
+    if (parts_.selection.IsEmpty()) {
+        indices->exec(globalPosition);
+        return;
+    }
+    QMenu menu(&parts_.panes.Editor());
+    for (const SubmenuId id : {SubmenuId::Transform, SubmenuId::PixelSelection})
+        menu.addMenu(parts_.menus.Submenu(id));
+    menu.addMenu(indices);
+    menu.exec(globalPosition);
+}
+
 void Commands::EnablePossible()
 {
     const Font* const font = parts_.session.CurrentFont();
@@ -173,6 +238,16 @@ void Commands::EnablePossible()
     enable(WindowCommand::GoToCharacter, hasFont);
     enable(WindowCommand::ExportProof, hasFont);
     EnableEdits();
+    EnablePixelCommands();
+}
+
+void Commands::EnablePixelCommands()
+{
+    const bool hasSelection = !parts_.selection.IsEmpty();
+    parts_.menus.Command(WindowCommand::SelectAllPixels)
+        ->setEnabled(parts_.panes.Editor().CurrentCharacter() != nullptr);
+    parts_.menus.Command(WindowCommand::FillPixels)->setEnabled(hasSelection);
+    parts_.menus.Command(WindowCommand::DeletePixels)->setEnabled(hasSelection);
 }
 
 void Commands::EnableEdits()
@@ -180,15 +255,18 @@ void Commands::EnableEdits()
     const Font* const font = parts_.session.CurrentFont();
     const bool hasFont = font != nullptr;
     const bool hasCharacter = !parts_.edits.SelectedCharacters().IsEmpty();
-    const bool hasPixel = hasFont && parts_.panes.Editor().SelectedPixel().x() >= 0;
+    const bool hasPixels = !parts_.selection.IsEmpty();
+    const bool hasPixel = hasPixels || (hasFont && parts_.panes.Editor().SelectedPixel().x() >= 0);
     const bool isLegacy = hasFont && IsLegacyFormat(font->Metrics().format);
     const int maximum = hasFont ? (1 << font->Metrics().bitsPerPixel) - 1 : -1;
     for (const Edit& edit : EditTable()) {
         if (edit.applyValue != nullptr)
             continue; // no menu has it
-        const bool hasTarget = edit.target == EditTarget::Character ? hasCharacter
-                               : edit.target == EditTarget::Pixel   ? hasPixel
-                                                                    : hasFont;
+        const bool isTurn = edit.period > 0;
+        const bool hasTarget = edit.target == EditTarget::Character
+                                   ? hasCharacter || (isTurn && hasPixels)
+                               : edit.target == EditTarget::Pixel ? hasPixel
+                                                                  : hasFont;
         const bool isRefused = (isLegacy && edit.notForLegacy) || edit.index > maximum;
         parts_.menus.Command(edit.type)->setEnabled(hasTarget && !isRefused);
     }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "ui/window/menu_table.h"
+
 #include <QObject>
 
+class QAction;
 class QPoint;
 class QWidget;
 
@@ -10,9 +13,11 @@ namespace Glyphor {
 class Document;
 class EditCommands;
 class FontIndexer;
+struct Edit;
 class MenuBar;
 class Panes;
 class PencilTool;
+class PixelSelection;
 class Session;
 
 // What the commands of the window work on.
@@ -25,6 +30,7 @@ struct WindowParts
     Panes& panes;
     EditCommands& edits;
     PencilTool& pencil;
+    PixelSelection& selection;
 };
 
 // Runs the commands of the menus by their numbers, and enables those that can be run.
@@ -43,16 +49,25 @@ public:
     // The commands for what is selected in the table.
     void ShowContextMenu(QPoint globalPosition);
 
+    // Those for what is selected in the editor.
+    void ShowPixelMenu(QPoint globalPosition);
+
 Q_SIGNALS:
     void PreferencesChanged();
 
 private:
     void RunWindowCommand(quint32 id);
+    bool RunPixelCommand(WindowCommand command);
+    void RunEdit(const Edit& edit);
     void EnableEdits();
+    void EnablePixelCommands();
+    void KeepInEditor(QAction* command);
+    void NoteFocus(const QWidget* widget);
     void GoToCharacter();
 
     WindowParts parts_;
     QWidget& window_;
+    bool isInEditor_ = false; // the focus, or was before a menu had it
 };
 
 } // namespace Glyphor

@@ -12,6 +12,7 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/pencil_tool.h"
+#include "ui/editor/pixel_selection.h"
 #include "ui/preview/text_preview.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/support/undo_stack.h"
@@ -62,9 +63,11 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       menus_(new MenuBar(this)),
       panes_(new Panes),
       edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
+      selection_(new PixelSelection(session, panes_->Editor())), // gets what tools leave
       pencil_(new PencilTool(session, history, panes_->Editor())),
-      commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
-                             *this)),
+      commands_(new Commands(
+          {session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_, *selection_},
+          *this)),
       status_(new StatusLine)
 {
     InitResources();
@@ -86,7 +89,8 @@ MainWindow::~MainWindow()
 {
     // These outlive what the slots use.
     delete commands_;
-    for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_, pencil_})
+    for (QObject* const sender :
+         std::initializer_list<QObject*>{&history_, panes_, pencil_, selection_})
         disconnect(sender, nullptr, this, nullptr);
 }
 
@@ -129,8 +133,9 @@ void MainWindow::ConnectViews()
     const CharBitmapView& editor = Editor();
     connect(&editor, &CharBitmapView::PixelSelected, commands_, &Commands::EnablePossible);
     connect(&editor, &CharBitmapView::StatusChanged, status_, &StatusLine::TellPixel);
-    connect(&editor, &CharBitmapView::MenuRequested, this,
-            [this](QPoint place) { menus_->Submenu(SubmenuId::PixelIndex)->exec(place); });
+    connect(&editor, &CharBitmapView::MenuRequested, commands_, &Commands::ShowPixelMenu);
+    connect(selection_, &PixelSelection::Changed, commands_, &Commands::EnablePossible);
+    connect(selection_, &PixelSelection::Refused, status_, &StatusLine::Tell);
     connect(&editor, &CharBitmapView::InversionRequested, edits_, &EditCommands::InvertPixel);
     connect(pencil_, &PencilTool::StrokeEnded, this, &MainWindow::ShowChanges);
 }

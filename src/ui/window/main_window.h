@@ -16,6 +16,7 @@ class EditCommands;
 class FontIndexer;
 class MenuBar;
 class PencilTool;
+class PixelSelection;
 class Session;
 class UndoStack;
 
@@ -82,6 +83,7 @@ private:
     MenuBar* menus_;
     Panes* panes_;
     EditCommands* edits_;
+    PixelSelection* selection_;
     PencilTool* pencil_;
     Commands* commands_;
     StatusLine* status_;

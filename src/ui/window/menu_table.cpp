@@ -209,6 +209,16 @@ public:
               ActionType::RotateLeft),
     };
 
+    static constexpr MenuRow PixelSelectionRows[] = {
+        Entry(QT_TR_NOOP("Select all"), "Ctrl+A", QT_TR_NOOP("Select all pixels of the character"),
+              WindowCommand::SelectAllPixels),
+        Entry(QT_TR_NOOP("Fill"), "Ctrl+Shift+F",
+              QT_TR_NOOP("Fill the selected pixels with the index that the pencil paints"),
+              WindowCommand::FillPixels),
+        Entry(QT_TR_NOOP("Delete"), "Del", QT_TR_NOOP("Set the selected pixels to index 0"),
+              WindowCommand::DeletePixels),
+    };
+
     static constexpr MenuRow EditRows[] = {
         Entry(QT_TR_NOOP("&Undo"), "Ctrl+Z", QT_TR_NOOP("Undo last action"), WindowCommand::Undo),
         Entry(QT_TR_NOOP("&Redo"), "Ctrl+Y", QT_TR_NOOP("Redo previous action"),
@@ -239,7 +249,8 @@ public:
               QT_TR_NOOP("Save the currently enabled characters to a pattern file"),
               ActionType::SavePattern),
         Separator,
-        Submenu(QT_TR_NOOP("Tra&nsform"), TransformRows),
+        Submenu(QT_TR_NOOP("Tra&nsform"), TransformRows, SubmenuId::Transform),
+        Submenu(QT_TR_NOOP("Pixel selecti&on"), PixelSelectionRows, SubmenuId::PixelSelection),
         Entry(QT_TR_NOOP("Dup&licate to code..."), nullptr,
               QT_TR_NOOP("Copy the selected characters to another code and those behind it"),
               ActionType::CopyTo),

@@ -21,7 +21,10 @@ enum class WindowCommand : quint32 {
     About = 63,
     CommandLineOptions = 64,
     UserManual = 65,
-    ExportProof = 80
+    ExportProof = 80,
+    SelectAllPixels = 153,
+    FillPixels = 154,
+    DeletePixels = 155
 };
 
 // The number that commands have in the menus and their actions.
@@ -36,7 +39,7 @@ enum class WindowCommand : quint32 {
 }
 
 // Submenus that the window has to find.
-enum class SubmenuId : quint8 { None, Edit, PixelIndex };
+enum class SubmenuId : quint8 { None, Edit, PixelIndex, Transform, PixelSelection };
 
 // One entry of a menu. Texts are null where there is none.
 // NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): the order is that of a row's reading

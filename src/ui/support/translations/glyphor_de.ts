@@ -1367,6 +1367,42 @@ Erwartete Größe: %2 Byte.</translation>
         <source>%1 of -editchar needs a value.</source>
         <translation>%1 von -editchar braucht einen Wert.</translation>
     </message>
+    <message>
+        <source>Flipped pixels horizontally.</source>
+        <translation>Pixel waagerecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Flipped pixels vertically.</source>
+        <translation>Pixel senkrecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Rotated pixels to the right.</source>
+        <translation>Pixel nach rechts gedreht.</translation>
+    </message>
+    <message>
+        <source>Rotated pixels to the left.</source>
+        <translation>Pixel nach links gedreht.</translation>
+    </message>
+    <message>
+        <source>Filled pixels with index %2.</source>
+        <translation>Pixel mit Index %2 gefüllt.</translation>
+    </message>
+    <message>
+        <source>Deleted pixels.</source>
+        <translation>Pixel gelöscht.</translation>
+    </message>
+    <message>
+        <source>Changed the indices of pixels.</source>
+        <translation>Indizes von Pixeln geändert.</translation>
+    </message>
+    <message>
+        <source>Pasted pixels.</source>
+        <translation>Pixel eingefügt.</translation>
+    </message>
+    <message>
+        <source>Moved pixels.</source>
+        <translation>Pixel verschoben.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -2162,6 +2198,17 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Stroke</source>
         <translation>Strich</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::PixelSelection</name>
+    <message>
+        <source>Selected pixels: %1 x %2 from [%3, %4] on</source>
+        <translation>Ausgewählte Pixel: %1 x %2 ab [%3, %4]</translation>
+    </message>
+    <message>
+        <source>Rotated, the pixels do not fit into the character.</source>
+        <translation>Gedreht passen die Pixel nicht in das Zeichen.</translation>
     </message>
 </context>
 <context>
@@ -3096,6 +3143,34 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Copy the selected characters to another code and those behind it</source>
         <translation>Die ausgewählten Zeichen auf einen anderen Code und die folgenden kopieren</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select all pixels of the character</source>
+        <translation>Alle Pixel des Zeichens auswählen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Fill the selected pixels with the index that the pencil paints</source>
+        <translation>Die ausgewählten Pixel mit dem Index des Stifts füllen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Set the selected pixels to index 0</source>
+        <translation>Die ausgewählten Pixel auf Index 0 setzen</translation>
+    </message>
+    <message>
+        <source>Pixel selecti&amp;on</source>
+        <translation>P&amp;ixelauswahl</translation>
     </message>
 </context>
 <context>
