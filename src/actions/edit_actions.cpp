@@ -1,10 +1,10 @@
 #include "actions/edit_actions.h"
 
 #include "actions/edit_table.h"
+#include "actions/paste_action.h"
 #include "actions/session.h"
 #include "app/engine_texts.h"
 #include "model/code_text.h"
-#include "model/encoding.h"
 
 #include <algorithm>
 
@@ -90,20 +90,11 @@ void ActionChar::PrepareCopies()
 {
     SetRepeat(1);
     const Font& font = *CurrentFont();
-    const Encoding& encoding = EncodingFor(font.Metrics().encoding);
     CodeSet enabled = font.EnabledCodes();
     swap_ = std::make_unique<CharacterSwap>();
     ForEachChar([&](quint16 code, const Character& character) {
         const int target = Args().value + code - Args().first;
-        if (target >= CodeSet::Limit)
-            ThrowActionError(
-                Engine::tr("Characters can't be copied!"),
-                Engine::tr("0x%1 would get a code beyond 0xFFFF.").arg(Hex4Text(code)));
-        if (!encoding.Converted(EncodingType::Unicode, quint16(target)))
-            ThrowActionError(Engine::tr("Characters can't be copied!"),
-                             Engine::tr("0x%1 would get the code 0x%2, which the encoding of the "
-                                        "font does not have.")
-                                 .arg(Hex4Text(code), Hex4Text(quint16(target))));
+        CheckTarget(code, target, font.Metrics().encoding);
         std::unique_ptr<Character> copy = CopyOf(character, font.Metrics());
         copy->label = nullptr;
         swap_->Put(quint16(target), std::move(copy));

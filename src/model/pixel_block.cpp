@@ -83,6 +83,22 @@ PixelBlock PixelsOf(const CharBitmap& bitmap)
     return PixelsOf(bitmap, {0, 0, layout.width, layout.rows});
 }
 
+PixelBlock PixelsOf(const RenderedGlyph& glyph, int bitsPerPixel)
+{
+    GlyphPlacement placement;
+    placement.width = glyph.width;
+    placement.height = glyph.rows;
+    const QByteArray data = ConvertGlyph(glyph, placement, bitsPerPixel);
+    const PixelLayout layout{glyph.width, glyph.rows, bitsPerPixel};
+    PixelBlock block = FilledBlock({glyph.width, glyph.rows}, 0);
+    auto to = block.indices.begin();
+    for (int y = 0; y < glyph.rows; ++y) {
+        for (int x = 0; x < glyph.width; ++x)
+            *to++ = static_cast<quint8>(PixelPlane::GetPixel(data, layout, x, y));
+    }
+    return block;
+}
+
 void PutPixels(CharBitmap& bitmap, const PixelBlock& block, QPoint place)
 {
     const PixelLayout layout = LayoutOf(bitmap.Info());

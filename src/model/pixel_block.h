@@ -31,6 +31,9 @@ struct PixelBlock
 [[nodiscard]] PixelBlock PixelsOf(const CharBitmap& bitmap, const QRect& area);
 [[nodiscard]] PixelBlock PixelsOf(const CharBitmap& bitmap);
 
+// The glyph's coverage, at that depth. It must have 255 x 255 pixels at most.
+[[nodiscard]] PixelBlock PixelsOf(const RenderedGlyph& glyph, int bitsPerPixel);
+
 // Parts of the block outside of the bitmap are left out. In framed characters the frame becomes
 // that of the new pixels.
 void PutPixels(CharBitmap& bitmap, const PixelBlock& block, QPoint place);

@@ -31,12 +31,7 @@ void PixelOutline::ShowAt(const QRectF& area)
 
 void PixelOutline::SetPixels(const PixelBlock& block, int bitsPerPixel)
 {
-    pixels_ = block.IsEmpty() ? QImage() : QImage(block.Size(), QImage::Format_Grayscale8);
-    for (int y = 0; y < block.rows; ++y) {
-        uchar* const line = pixels_.scanLine(y);
-        for (int x = 0; x < block.width; ++x)
-            line[x] = uchar(255 - IndexAlpha(block.At(x, y), bitsPerPixel));
-    }
+    pixels_ = BlockPicture(block, bitsPerPixel);
     update();
 }
 

@@ -11,6 +11,7 @@
 #include "ui/editor/pencil_tool.h"
 #include "ui/editor/pixel_selection.h"
 #include "ui/table/character_table.h"
+#include "ui/window/clipboard_commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
 #include "ui/window/menu_bar.h"
@@ -19,6 +20,8 @@
 #include <QApplication>
 #include <QMenu>
 #include <QSpinBox>
+
+#include <algorithm>
 
 namespace Glyphor {
 
@@ -107,15 +110,28 @@ void Commands::RunEdit(const Edit& edit)
 bool Commands::RunPixelCommand(WindowCommand command)
 {
     PixelSelection& selection = parts_.selection;
-    if (command == WindowCommand::SelectAllPixels)
+    switch (command) {
+    case WindowCommand::Cut:
+        parts_.clipboard.Cut(isInEditor_);
+        return true;
+    case WindowCommand::Copy:
+        parts_.clipboard.Copy(isInEditor_);
+        return true;
+    case WindowCommand::Paste:
+        parts_.clipboard.Paste(isInEditor_);
+        return true;
+    case WindowCommand::SelectAllPixels:
         selection.SelectAll();
-    else if (command == WindowCommand::FillPixels)
+        return true;
+    case WindowCommand::FillPixels:
         selection.Fill(parts_.pencil.IndexBox().value());
-    else if (command == WindowCommand::DeletePixels)
+        return true;
+    case WindowCommand::DeletePixels:
         selection.Erase();
-    else
+        return true;
+    default:
         return false;
-    return true;
+    }
 }
 
 void Commands::RunWindowCommand(quint32 id)
@@ -196,12 +212,23 @@ void Commands::ShowContextMenu(QPoint globalPosition)
     for (QAction* const action : menu.actions())
         action->setEnabled(toggle->isEnabled()); // they all need a character
     menu.addSeparator();
+    AddClipboardCommands(menu);
+    menu.addSeparator();
+    const QMenu* const ofPixels[] = {parts_.menus.Submenu(SubmenuId::PixelIndex),
+                                     parts_.menus.Submenu(SubmenuId::PixelSelection)};
     for (QAction* const action : parts_.menus.Submenu(SubmenuId::Edit)->actions()) {
-        if (action->menu() != nullptr &&
-            action->menu() != parts_.menus.Submenu(SubmenuId::PixelIndex))
+        if (action->menu() != nullptr && !std::ranges::count(ofPixels, action->menu()))
             menu.addMenu(action->menu());
     }
+    menu.addAction(parts_.menus.Command(ActionType::CopyTo));
     menu.exec(globalPosition);
+}
+
+void Commands::AddClipboardCommands(QMenu& menu) const
+{
+    for (const WindowCommand command :
+         {WindowCommand::Cut, WindowCommand::Copy, WindowCommand::Paste})
+        menu.addAction(parts_.menus.Command(command));
 }
 
 // A single pixel has its indices alone.
@@ -213,6 +240,8 @@ void Commands::ShowPixelMenu(QPoint globalPosition)
         return;
     }
     QMenu menu(&parts_.panes.Editor());
+    AddClipboardCommands(menu);
+    menu.addSeparator();
     for (const SubmenuId id : {SubmenuId::Transform, SubmenuId::PixelSelection})
         menu.addMenu(parts_.menus.Submenu(id));
     menu.addMenu(indices);
@@ -244,10 +273,18 @@ void Commands::EnablePossible()
 void Commands::EnablePixelCommands()
 {
     const bool hasSelection = !parts_.selection.IsEmpty();
-    parts_.menus.Command(WindowCommand::SelectAllPixels)
-        ->setEnabled(parts_.panes.Editor().CurrentCharacter() != nullptr);
-    parts_.menus.Command(WindowCommand::FillPixels)->setEnabled(hasSelection);
-    parts_.menus.Command(WindowCommand::DeletePixels)->setEnabled(hasSelection);
+    const bool hasCharacter = !parts_.edits.SelectedCharacters().IsEmpty();
+    const bool hasCode =
+        parts_.session.CurrentFont() != nullptr && parts_.panes.Table().CurrentCode() >= 0;
+    const auto enable = [this](WindowCommand command, bool state) {
+        parts_.menus.Command(command)->setEnabled(state);
+    };
+    enable(WindowCommand::Cut, hasSelection || hasCharacter);
+    enable(WindowCommand::Copy, hasSelection || hasCharacter);
+    enable(WindowCommand::Paste, hasCode); // whatever is on the clipboard: asking may take long
+    enable(WindowCommand::SelectAllPixels, parts_.panes.Editor().CurrentCharacter() != nullptr);
+    enable(WindowCommand::FillPixels, hasSelection);
+    enable(WindowCommand::DeletePixels, hasSelection);
 }
 
 void Commands::EnableEdits()

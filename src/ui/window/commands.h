@@ -5,11 +5,13 @@
 #include <QObject>
 
 class QAction;
+class QMenu;
 class QPoint;
 class QWidget;
 
 namespace Glyphor {
 
+class ClipboardCommands;
 class Document;
 class EditCommands;
 class FontIndexer;
@@ -31,6 +33,7 @@ struct WindowParts
     EditCommands& edits;
     PencilTool& pencil;
     PixelSelection& selection;
+    ClipboardCommands& clipboard;
 };
 
 // Runs the commands of the menus by their numbers, and enables those that can be run.
@@ -61,6 +64,7 @@ private:
     void RunEdit(const Edit& edit);
     void EnableEdits();
     void EnablePixelCommands();
+    void AddClipboardCommands(QMenu& menu) const;
     void KeepInEditor(QAction* command);
     void NoteFocus(const QWidget* widget);
     void GoToCharacter();

@@ -17,6 +17,7 @@
 #include "ui/support/dialog_parts.h"
 #include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
+#include "ui/window/clipboard_commands.h"
 #include "ui/window/commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
@@ -64,10 +65,12 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       panes_(new Panes),
       edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
       selection_(new PixelSelection(session, panes_->Editor())), // gets what tools leave
+      clipboard_(
+          new ClipboardCommands(session, panes_->Table(), panes_->Editor(), *selection_, *edits_)),
       pencil_(new PencilTool(session, history, panes_->Editor())),
-      commands_(new Commands(
-          {session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_, *selection_},
-          *this)),
+      commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_,
+                              *selection_, *clipboard_},
+                             *this)),
       status_(new StatusLine)
 {
     InitResources();
@@ -136,6 +139,7 @@ void MainWindow::ConnectViews()
     connect(&editor, &CharBitmapView::MenuRequested, commands_, &Commands::ShowPixelMenu);
     connect(selection_, &PixelSelection::Changed, commands_, &Commands::EnablePossible);
     connect(selection_, &PixelSelection::Refused, status_, &StatusLine::Tell);
+    connect(clipboard_, &ClipboardCommands::Done, status_, &StatusLine::Tell);
     connect(&editor, &CharBitmapView::InversionRequested, edits_, &EditCommands::InvertPixel);
     connect(pencil_, &PencilTool::StrokeEnded, this, &MainWindow::ShowChanges);
 }

@@ -10,6 +10,7 @@
 
 namespace Glyphor {
 
+class ClipboardCommands;
 class Commands;
 class Document;
 class EditCommands;
@@ -84,6 +85,7 @@ private:
     Panes* panes_;
     EditCommands* edits_;
     PixelSelection* selection_;
+    ClipboardCommands* clipboard_;
     PencilTool* pencil_;
     Commands* commands_;
     StatusLine* status_;

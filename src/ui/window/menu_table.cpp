@@ -254,6 +254,15 @@ public:
         Entry(QT_TR_NOOP("Dup&licate to code..."), nullptr,
               QT_TR_NOOP("Copy the selected characters to another code and those behind it"),
               ActionType::CopyTo),
+        Separator,
+        Entry(QT_TR_NOOP("Cut"), "Ctrl+X",
+              QT_TR_NOOP("Cut the selected pixels, or the characters, to the clipboard"),
+              WindowCommand::Cut),
+        Entry(QT_TR_NOOP("Cop&y"), "Ctrl+C",
+              QT_TR_NOOP("Copy the selected pixels, or the characters, to the clipboard"),
+              WindowCommand::Copy),
+        Entry(QT_TR_NOOP("Paste"), "Ctrl+V",
+              QT_TR_NOOP("Paste pixels or characters from the clipboard"), WindowCommand::Paste),
     };
 
     static constexpr MenuRow ViewRows[] = {

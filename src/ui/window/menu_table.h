@@ -22,6 +22,9 @@ enum class WindowCommand : quint32 {
     CommandLineOptions = 64,
     UserManual = 65,
     ExportProof = 80,
+    Cut = 150,
+    Copy = 151,
+    Paste = 152,
     SelectAllPixels = 153,
     FillPixels = 154,
     DeletePixels = 155

@@ -1403,6 +1403,14 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Moved pixels.</source>
         <translation>Pixel verschoben.</translation>
     </message>
+    <message>
+        <source>Pasted.</source>
+        <translation>Eingefügt.</translation>
+    </message>
+    <message>
+        <source>The character for 0x%1 does not fit into the font.</source>
+        <translation>Das Zeichen für 0x%1 passt nicht in die Schrift.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1516,6 +1524,61 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Open a font file or drop one here.</source>
         <translation>Eine Schriftdatei öffnen oder hierher ziehen.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::ClipboardCommands</name>
+    <message>
+        <source>Pasting is not possible!</source>
+        <translation>Einfügen ist nicht möglich!</translation>
+    </message>
+    <message>
+        <source>The clipboard has neither characters nor a picture.</source>
+        <translation>In der Zwischenablage sind weder Zeichen noch ein Bild.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard has %1 x %2 pixels; a character has 255 x 255 at most.</source>
+        <translation>Das Bild in der Zwischenablage hat %1 x %2 Pixel; ein Zeichen hat höchstens 255 x 255.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard can&apos;t be read.</source>
+        <translation>Das Bild in der Zwischenablage kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The characters on the clipboard can&apos;t be read.</source>
+        <translation>Die Zeichen in der Zwischenablage können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Pasted pixels: %1 x %2. The character has no room for all of them.</source>
+        <translation>Eingefügte Pixel: %1 x %2. Das Zeichen hat nicht für alle Platz.</translation>
+    </message>
+    <message>
+        <source>Their pixels were converted from %1 to %2 bits.</source>
+        <translation>Ihre Pixel wurden von %1 in %2 Bit umgewandelt.</translation>
+    </message>
+    <message>
+        <source>Characters that lost ink beyond the line: %L1.</source>
+        <translation>Zeichen, deren Tinte jenseits der Zeile verlorenging: %L1.</translation>
+    </message>
+    <message>
+        <source>It lost ink beyond the line.</source>
+        <translation>Tinte jenseits der Zeile ging verloren.</translation>
+    </message>
+    <message>
+        <source>Copied pixels: %1 x %2.</source>
+        <translation>Kopierte Pixel: %1 x %2.</translation>
+    </message>
+    <message>
+        <source>Copied characters: %L1.</source>
+        <translation>Kopierte Zeichen: %L1.</translation>
+    </message>
+    <message>
+        <source>Pasted characters: %L1.</source>
+        <translation>Eingefügte Zeichen: %L1.</translation>
+    </message>
+    <message>
+        <source>Pasted a picture: %1 x %2.</source>
+        <translation>Eingefügtes Bild: %1 x %2.</translation>
     </message>
 </context>
 <context>
@@ -3171,6 +3234,30 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Pixel selecti&amp;on</source>
         <translation>P&amp;ixelauswahl</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneide&amp;n</translation>
+    </message>
+    <message>
+        <source>Cut the selected pixels, or the characters, to the clipboard</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen in die Zwischenablage ausschneiden</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected pixels, or the characters, to the clipboard</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Aus &amp;Zwischenablage einfügen</translation>
+    </message>
+    <message>
+        <source>Paste pixels or characters from the clipboard</source>
+        <translation>Pixel oder Zeichen aus der Zwischenablage einfügen</translation>
     </message>
 </context>
 <context>
