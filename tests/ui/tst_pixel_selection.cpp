@@ -76,6 +76,8 @@ class TestPixelSelection : public QObject, Test::WindowFixture
         switch (step) {
         case 'r':
             return Press(Qt::Key_Right);
+        case 'l':
+            return Press(Qt::Key_Left);
         case 'd':
             return Press(Qt::Key_Down);
         case 'x':
@@ -112,7 +114,8 @@ private Q_SLOTS:
         // From 1 2 / 4 5 on.
         row("moved", grey, "r", "0120 0450 0000", {1, 0, 2, 2}, 1);
         row("moved over others, which come back", grey, "rd", "0030 0120 0450", {1, 1, 2, 2}, 2);
-        row("not beyond the edge", grey, "rrr", "0012 0045 0000", {2, 0, 2, 2}, 2);
+        row("over the edge", grey, "rrrr", "0031 0064 0000", {3, 0, 2, 2}, 3);
+        row("over the edge and back", grey, "rrrrl", "0012 0045 0000", {2, 0, 2, 2}, 4);
         row("deleted", grey, "x", "0030 0060 0000", {0, 0, 2, 2}, 1);
         row("inverted", grey, " ", "ed30 ba60 0000", {0, 0, 2, 2}, 1);
         row("set", grey, "S", "3330 3360 0000", {0, 0, 2, 2}, 1);
@@ -159,7 +162,8 @@ private Q_SLOTS:
         QCOMPARE(Picture(), QByteArray("0030 4560 0012"));
         QCOMPARE(session_->Stack().LogLines(), QStringList(u"[Char 0x0041]: Moved pixels."_s));
         Drag(Place(3, 2), Place(3, 2) + QPoint(1000, 1000));
-        QCOMPARE(history_->count(), 1);
+        QCOMPARE(Selection().Area(), QRect(3, 2, 2, 1));
+        QCOMPARE(Picture(), QByteArray("0030 4560 0001"));
     }
 
     void Ends_data()

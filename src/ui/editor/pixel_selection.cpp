@@ -108,6 +108,13 @@ QPoint PixelSelection::PlaceInBox(QPoint place, QSize size) const
             std::clamp(place.y() - box.top(), least.y(), most.y()) + box.top()};
 }
 
+// What is moved may leave the box but for a pixel: it is still there while it is selected.
+QPoint PixelSelection::PlaceInTouch(QPoint place) const
+{
+    const QPoint rest(area_.width() - 1, area_.height() - 1);
+    return Within(Box().adjusted(-rest.x(), -rest.y(), 0, 0), place);
+}
+
 void PixelSelection::SelectAll()
 {
     Select(Box().topLeft(), Box().bottomRight());
@@ -269,7 +276,7 @@ void PixelSelection::MoveTo(QPoint place)
 {
     Lift();
     const PixelBlock block = floating_->block;
-    Put(block, PlaceInBox(place, block.Size()), QT_TRANSLATE_NOOP("Engine", "Moved pixels."));
+    Put(block, PlaceInTouch(place), QT_TRANSLATE_NOOP("Engine", "Moved pixels."));
 }
 
 void PixelSelection::Extend(QPoint step)
@@ -344,7 +351,7 @@ bool PixelSelection::DragTo(const QMouseEvent& mouse)
         Select(grabbed_, pixel);
         return true;
     case Drag::Moving:
-        shift_ = PlaceInBox(area_.topLeft() + pixel - grabbed_, area_.size()) - area_.topLeft();
+        shift_ = PlaceInTouch(area_.topLeft() + pixel - grabbed_) - area_.topLeft();
         ShowOutline();
         return true;
     }

@@ -30,7 +30,7 @@ public:
 
     [[nodiscard]] bool IsEmpty() const { return area_.isEmpty(); }
 
-    // In the bitmap of the character. What was pasted may be larger than that.
+    // In the bitmap of the character. What was pasted or moved may leave that.
     [[nodiscard]] const QRect& Area() const { return area_; }
 
     void SelectAll();
@@ -86,6 +86,7 @@ private:
     [[nodiscard]] QRect Box() const;
     [[nodiscard]] QPoint PixelAt(QPoint place) const;
     [[nodiscard]] QPoint PlaceInBox(QPoint place, QSize size) const;
+    [[nodiscard]] QPoint PlaceInTouch(QPoint place) const;
 
     Session& session_;
     CharBitmapView& editor_;

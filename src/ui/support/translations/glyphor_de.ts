@@ -1558,11 +1558,11 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
     <message>
         <source>Characters that lost ink beyond the line: %L1.</source>
-        <translation>Zeichen, deren Tinte jenseits der Zeile verlorenging: %L1.</translation>
+        <translation>Zeichen, die jenseits der Zeile Pixel verloren: %L1.</translation>
     </message>
     <message>
         <source>It lost ink beyond the line.</source>
-        <translation>Tinte jenseits der Zeile ging verloren.</translation>
+        <translation>Jenseits der Zeile gingen Pixel verloren.</translation>
     </message>
     <message>
         <source>Copied pixels: %1 x %2.</source>
