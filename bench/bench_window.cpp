@@ -83,6 +83,20 @@ void MeasureTable()
     QCoreApplication::sendEvent(&table, &selectAll);
     Measure("an edit of them", [&] { run(ActionType::ShiftLeft); });
     Measure("undoing it", [&] { window.Menus().Command(WindowCommand::Undo)->trigger(); });
+    std::printf("A font of 2,000 characters\n");
+    session.ReplaceFont(MakeFont(1000, 16), QStringLiteral("part.c"));
+    window.ActionChanged(nullptr);
+    table.setFocus();
+    QCoreApplication::sendEvent(&table, &selectAll);
+    Measure("copying 1,000 characters",
+            [&] { window.Menus().Command(WindowCommand::Copy)->trigger(); });
+    session.ReplaceFont(MakeFont(2000, 16), QStringLiteral("whole.c"));
+    window.ActionChanged(nullptr);
+    int place = 500;
+    Measure("pasting 1,000 characters", [&] {
+        table.SelectCode(place++);
+        window.Menus().Command(WindowCommand::Paste)->trigger();
+    });
     SetCurrentInterface(nullptr);
 }
 

@@ -1,5 +1,7 @@
 #include "actions/action_replace_chars.h"
 
+#include <algorithm>
+
 namespace Glyphor {
 
 ActionReplaceChars::ActionReplaceChars(Session& session, const char* text,
@@ -27,6 +29,13 @@ void ActionReplaceChars::Put(quint16 code, std::unique_ptr<Character> character)
     swap_.Put(code, std::move(character));
 }
 
+void ActionReplaceChars::PutEnabled(quint16 code, std::unique_ptr<Character> character)
+{
+    Put(code, std::move(character));
+    enabling_.Set(code, true);
+}
+
+// Characters may bring kerning to a font that had none.
 bool ActionReplaceChars::Execute()
 {
     SetRepeat(1);
@@ -39,13 +48,34 @@ bool ActionReplaceChars::Execute()
         if (swap_.Find(code) == nullptr || font->FindChar(code) == nullptr)
             enabled.Set(code, swap_.Find(code) != nullptr);
     }
+    enabled |= enabling_;
     swap_.SetEnabledCodes(enabled);
-    return !swap_.IsEmpty();
+    hasKerning_ = font->HasKerning() || std::ranges::any_of(swap_.Codes(), [this](quint16 code) {
+                      const Character* const character = swap_.Find(code);
+                      return character != nullptr && !character->kerning.empty();
+                  });
+    return !swap_.IsEmpty() || enabled != font->EnabledCodes();
+}
+
+void ActionReplaceChars::Swap()
+{
+    Font& font = *CurrentFont();
+    swap_.SwapWith(font);
+    const bool hadKerning = font.HasKerning();
+    font.SetHasKerning(hasKerning_);
+    hasKerning_ = hadKerning;
+}
+
+CodeSet ActionReplaceChars::AffectedCodes() const
+{
+    CodeSet codes = swap_.Codes();
+    codes |= enabling_;
+    return codes;
 }
 
 LogEntry ActionReplaceChars::Log() const
 {
-    const CodeSet codes = swap_.Codes();
+    const CodeSet codes = AffectedCodes();
     const std::vector<CodeRange> runs = RunsOf(codes);
     const LogEntry entry(text_, arguments_);
     return runs.empty() ? entry : entry.About(RangePrefix(runs.front().first, runs.back().last));

@@ -21,17 +21,24 @@ public:
     // Null removes the character.
     void Put(quint16 code, std::unique_ptr<Character> character);
 
+    // Enables it as well, whether or not there was one that is disabled.
+    void PutEnabled(quint16 code, std::unique_ptr<Character> character);
+
     // False where nothing would change.
     bool Execute() override;
-    void UndoOnce() override { swap_.SwapWith(*CurrentFont()); }
-    void RedoOnce() override { swap_.SwapWith(*CurrentFont()); }
-    [[nodiscard]] CodeSet AffectedCodes() const override { return swap_.Codes(); }
+    void UndoOnce() override { Swap(); }
+    void RedoOnce() override { Swap(); }
+    [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] LogEntry Log() const override;
 
 private:
+    void Swap();
+
     const char* text_;
     QStringList arguments_;
     CharacterSwap swap_;
+    CodeSet enabling_;
+    bool hasKerning_ = false; // the font, on the other side of the swap
 };
 
 } // namespace Glyphor

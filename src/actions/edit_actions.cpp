@@ -1,6 +1,7 @@
 #include "actions/edit_actions.h"
 
 #include "actions/edit_table.h"
+#include "actions/paste_action.h"
 #include "actions/session.h"
 #include "app/engine_texts.h"
 #include "model/code_text.h"
@@ -56,16 +57,18 @@ bool ActionChar::Execute()
     if (Type() == ActionType::Toggle)
         return true;
     const Edit& edit = *EditOf(Type());
-    if (edit.revert == nullptr)
+    if (edit.copies)
+        PrepareCopies();
+    else if (edit.revert == nullptr)
         PrepareSwap(edit);
-    return true;
+    return stepsOfSwap_ > 0;
 }
 
 // Makes all steps one.
 void ActionChar::PrepareSwap(const Edit& edit)
 {
     const bool hasValue = edit.applyValue != nullptr;
-    stepsOfSwap_ = hasValue ? 1 : Repeat();
+    stepsOfSwap_ = hasValue ? 1 : edit.period > 0 ? Repeat() % edit.period : Repeat();
     SetRepeat(1);
     const Font& font = *CurrentFont();
     swap_ = std::make_unique<CharacterSwap>();
@@ -79,6 +82,25 @@ void ActionChar::PrepareSwap(const Edit& edit)
         swap_->Put(code, std::move(copy));
     });
     swap_->DropEqual(font);
+}
+
+// The copies are enabled, as characters are that come from another font. They have no name in the
+// header, where each stands for one code.
+void ActionChar::PrepareCopies()
+{
+    SetRepeat(1);
+    const Font& font = *CurrentFont();
+    CodeSet enabled = font.EnabledCodes();
+    swap_ = std::make_unique<CharacterSwap>();
+    ForEachChar([&](quint16 code, const Character& character) {
+        const int target = Args().value + code - Args().first;
+        CheckTarget(code, target, font.Metrics().encoding);
+        std::unique_ptr<Character> copy = CopyOf(character, font.Metrics());
+        copy->label = nullptr;
+        swap_->Put(quint16(target), std::move(copy));
+        enabled.Set(quint16(target), true);
+    });
+    swap_->SetEnabledCodes(enabled);
 }
 
 void ActionChar::RedoOnce()
@@ -121,16 +143,19 @@ void ActionChar::UndoOnce()
 
 CodeSet ActionChar::AffectedCodes() const
 {
+    if (Type() == ActionType::CopyTo && swap_ != nullptr)
+        return swap_->Codes();
     return RangeOf(Args().first, Args().last);
 }
 
 LogEntry ActionChar::Log() const
 {
     const Edit* const edit = EditOf(Type());
-    if (edit != nullptr && edit->applyValue != nullptr)
-        return LogEntry(MessageFor(), {QString::number(Args().value)})
-            .About(RangePrefix(Args().first, Args().last));
-    return EntryOf(*this, target_);
+    if (edit == nullptr || !NeedsValue(*edit))
+        return EntryOf(*this, target_);
+    const QString value =
+        edit->copies ? Hex4Text(quint16(Args().value)) : QString::number(Args().value);
+    return LogEntry(MessageFor(), {value}).About(RangePrefix(Args().first, Args().last));
 }
 
 int ActionChar::CharCount() const

@@ -22,8 +22,8 @@ struct ActionCharArgs
     int value = 0; // of edits that have one
 };
 
-// Edits the pixels or metrics of every character of a range by an edit of characters, or toggles
-// each one's enabled bit (33). Codes without a character are skipped.
+// Edits the pixels or metrics of every character of a range by an edit of characters, copies them
+// to other codes, or toggles each one's enabled bit (33). Codes without a character are skipped.
 class ActionChar final : public ActionWithArgs<ActionCharArgs>
 {
 public:
@@ -33,6 +33,7 @@ public:
     // For a range, which the arguments give.
     ActionChar(Session& session, ActionType type) : ActionWithArgs(session, type) {}
 
+    // Fails where a copy would go to a code that the encoding does not have.
     bool Execute() override;
     void UndoOnce() override;
     void RedoOnce() override;
@@ -46,6 +47,7 @@ public:
 private:
     [[nodiscard]] int CharCount() const;
     void PrepareSwap(const Edit& edit);
+    void PrepareCopies();
 
     template <typename Visit>
     void ForEachChar(Visit visit) const;

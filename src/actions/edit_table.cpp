@@ -1,6 +1,7 @@
 #include "actions/edit_table.h"
 
 #include "app/engine_texts.h"
+#include "model/pixel_block.h"
 
 #include <algorithm>
 #include <array>
@@ -95,6 +96,19 @@ constexpr Edit OfValue(ActionType type, const char* log, bool (*apply)(Character
             .applyValue = apply};
 }
 
+// Its undo puts back what was there.
+constexpr Edit OfTurn(ActionType type, QLatin1StringView keyword, QLatin1StringView help,
+                      const char* log, bool (*apply)(Character&), int period)
+{
+    return {.type = type,
+            .target = EditTarget::Character,
+            .keyword = keyword,
+            .help = help,
+            .log = log,
+            .apply = apply,
+            .period = period};
+}
+
 // How many rows a font can gain, or lose: some of a legacy font stay.
 int RowsToGain(const Font& font)
 {
@@ -146,7 +160,7 @@ constexpr Edit SettingPixel(ActionType type, int index)
 }
 
 // In the order in which the usage text lists keywords.
-constexpr std::array Edits = {
+constexpr auto Edits = std::to_array<Edit>({
     OfCharacter(ActionType::ShiftRight, "SHIFTR"_L1,
                 "Shifts pixel data of character range to the right by <value> px."_L1,
                 QT_TRANSLATE_NOOP("Engine", "Pixel data shifted to the right."),
@@ -277,7 +291,25 @@ constexpr std::array Edits = {
     SettingPixel(ActionType::SetPixelIndex13, 13),
     SettingPixel(ActionType::SetPixelIndex14, 14),
     SettingPixel(ActionType::SetPixelIndex15, 15),
-};
+    OfTurn(ActionType::FlipHorizontally, "FLIPH"_L1,
+           "Flips the pixel data of the character range horizontally."_L1,
+           QT_TRANSLATE_NOOP("Engine", "Flipped horizontally."), FlipHorizontally, 2),
+    OfTurn(ActionType::FlipVertically, "FLIPV"_L1,
+           "Flips the pixel data of the character range vertically."_L1,
+           QT_TRANSLATE_NOOP("Engine", "Flipped vertically."), FlipVertically, 2),
+    OfTurn(ActionType::RotateRight, "ROTR"_L1,
+           "Rotates the characters of the range to the right <value> times by 90 degrees."_L1,
+           QT_TRANSLATE_NOOP("Engine", "Rotated to the right."), RotateRight, 4),
+    OfTurn(ActionType::RotateLeft, "ROTL"_L1,
+           "Rotates the characters of the range to the left <value> times by 90 degrees."_L1,
+           QT_TRANSLATE_NOOP("Engine", "Rotated to the left."), RotateLeft, 4),
+    {.type = ActionType::CopyTo,
+     .target = EditTarget::Character,
+     .keyword = "COPY"_L1,
+     .help = "Copies the character range to the codes from <value> on."_L1,
+     .log = QT_TRANSLATE_NOOP("Engine", "Copied to 0x%2."),
+     .copies = true},
+});
 
 } // namespace
 

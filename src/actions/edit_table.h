@@ -34,6 +34,12 @@ struct Edit
     // In the place of both: once, with a value that counts no steps.
     bool (*applyValue)(Character&, int value) = nullptr;
 
+    // Nothing is edited: characters go to other codes, of which the value is the first one's.
+    bool copies = false;
+
+    // As often of an edit without `revert` leaves everything as it was; 0 for never.
+    int period = 0;
+
     // Of a font. `grown` gets, or tells, which characters got a row of their own; see
     // Font::InsertRowTop(). `room` is how many steps are possible.
     bool (*applyToFont)(Font&, CodeSet& grown) = nullptr;
@@ -43,6 +49,12 @@ struct Edit
     void (*applyToPixel)(CharBitmap&, int x, int y, int index) = nullptr;
     int index = -1; // that a pixel is set to; -1 for edits that do not set one
 };
+
+// True where the value that goes with the edit counts no steps, and can't be left out.
+[[nodiscard]] inline bool NeedsValue(const Edit& edit)
+{
+    return edit.applyValue != nullptr || edit.copies;
+}
 
 // In the order in which the usage text lists keywords.
 [[nodiscard]] std::span<const Edit> EditTable();

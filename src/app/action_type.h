@@ -65,6 +65,11 @@ enum class ActionType : int {
     PrintVersion = 67,
     ListCharsets = 68,
     SaveHeader = 69,
+    FlipHorizontally = 140,
+    FlipVertically = 141,
+    RotateRight = 142,
+    RotateLeft = 143,
+    CopyTo = 144,
     SetCursorDistance = 172
 };
 

@@ -3,6 +3,7 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
 #include "actions/edit_actions.h"
+#include "actions/edit_table.h"
 #include "app/critical_exception.h"
 #include "app/settings.h"
 #include "cli/installed_fonts.h"
@@ -114,12 +115,15 @@ std::shared_ptr<Action> MakeCharEdit(const OptionOccurrence& occurrence, const R
                                      Session& session)
 {
     const auto type = static_cast<ActionType>(occurrence.Get<int>(0));
-    if (CountOf(occurrence, 2) == 0)
+    const bool isCount = !NeedsValue(*EditOf(type));
+    const int value = CountOf(occurrence, 2);
+    if (isCount && value == 0)
         return nullptr;
     auto action = std::make_shared<ActionChar>(session, type);
     const CodeRange range = Ordered(occurrence.Get<CodeRange>(1));
-    action->Args() = {.first = range.first, .last = range.last};
-    action->SetRepeat(CountOf(occurrence, 2));
+    action->Args() = {.first = range.first, .last = range.last, .value = value};
+    if (isCount)
+        action->SetRepeat(value);
     return action;
 }
 

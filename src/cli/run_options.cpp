@@ -1,5 +1,6 @@
 #include "cli/run_options.h"
 
+#include "actions/edit_table.h"
 #include "actions/pattern_file.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
@@ -44,6 +45,15 @@ void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
         throw CriticalException(Engine::tr("The %1 of -%2 has to be from 0 to %3.")
                                     .arg(occurrence.option->parameters[parameter].placeholder,
                                          occurrence.option->longName, QString::number(MaxCount)));
+}
+
+void CheckCharEdit(const OptionOccurrence& occurrence)
+{
+    CheckCount(occurrence, 2);
+    const Edit& edit = *EditOf(static_cast<ActionType>(occurrence.Get<int>(0)));
+    if (NeedsValue(edit) && !std::holds_alternative<int>(occurrence.values[2]))
+        throw CriticalException(
+            Engine::tr("%1 of -editchar needs a value.").arg(QString(edit.keyword)));
 }
 
 // It becomes a part of identifiers.
@@ -198,7 +208,7 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         CheckCount(occurrence, 1);
         break;
     case OptionId::EditChar:
-        CheckCount(occurrence, 2);
+        CheckCharEdit(occurrence);
         break;
     case OptionId::Verbose:
         options.verbose = true;

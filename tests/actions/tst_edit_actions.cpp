@@ -1,5 +1,6 @@
 #include "actions/action_replace_chars.h"
 #include "actions/edit_actions.h"
+#include "model/code_text.h"
 #include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
@@ -12,9 +13,9 @@ namespace Glyphor {
 namespace {
 
 // A font with "A", "B" and "D", whose pixels differ.
-std::unique_ptr<Font> MakeFont(FontFormat format)
+std::unique_ptr<Font> MakeFont(FontFormat format, EncodingType encoding = EncodingType::Unicode)
 {
-    auto font = std::make_unique<Font>(format, EncodingType::Unicode);
+    auto font = std::make_unique<Font>(format, encoding);
     font->SetHeight(4);
     font->SetBaseline(3);
     for (const char code : {'A', 'B', 'D'}) {
@@ -85,6 +86,8 @@ private Q_SLOTS:
         row("none", DeleteColumnRight, {'A', 'D'}, 4, QString(), 4);
         row("nobody", ShiftRight, {'0', '9'}, 1,
             u"0x0030-0x0039: the font has no character there"_s, 1);
+        row("box of a legacy font", RotateRight, {'A', 'D'}, 5,
+            u"0x0041-0x0044: up to 1 of 1 steps were left out, on 3 of 3 characters"_s, 0);
         row("rows", FontDeleteRowTop, {}, 300,
             u"[Font]: 296 of 300 steps were left out; its height is 0 now"_s, 4);
     }
@@ -93,7 +96,8 @@ private Q_SLOTS:
     {
         const auto [type, range, repeat, text, logged] =
             Test::Row<ActionType, CodeRange, int, QString, qsizetype>();
-        auto font = MakeFont(FontFormat::AA4);
+        const bool isTurn = type == ActionType::RotateRight;
+        auto font = MakeFont(isTurn ? FontFormat::LegacyAA4 : FontFormat::AA4);
         font->FindChar('D')->bitmap->InsertColumnRight();
         font->FindChar('D')->bitmap->InsertColumnRight();
         Test::UndoSession session(std::move(font));
@@ -142,6 +146,49 @@ private Q_SLOTS:
         session.Stack().Undo();
         session.Stack().Undo();
         QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
+        QVERIFY(!session.IsModified());
+    }
+
+    void Copies_data()
+    {
+        const Test::Rows<EncodingType, int, QString> row;
+        constexpr auto unicode = EncodingType::Unicode;
+        row("over themselves", unicode, 'B', QString());
+        row("elsewhere", unicode, 0xE000, QString());
+        row("beyond", unicode, 0xFFFD,
+            u"Characters can't be copied!: 0x0044 would get a code beyond 0xFFFF."_s);
+        row("no Shift JIS", EncodingType::ShiftJis, 0x80,
+            u"Characters can't be copied!: 0x0041 would get the code 0x0080, which the encoding of "
+            "the font does not have."_s);
+    }
+
+    // "C" has no character, and is none.
+    void Copies()
+    {
+        const auto [encoding, target, fault] = Test::Row<EncodingType, int, QString>();
+        Test::UndoSession session(MakeFont(FontFormat::Legacy, encoding));
+        Font& font = *session.CurrentFont();
+        Character& first = *font.FindChar('A');
+        first.kerning = {{'B', -1}};
+        first.label = std::make_shared<CharacterLabel>();
+        const QByteArray bytes = font.FindChar('D')->bitmap->Data();
+        const QByteArray before = Test::Snapshot(font);
+        const auto action = std::make_shared<ActionChar>(session, ActionType::CopyTo);
+        action->Args() = {'A', 'D', target};
+        QCOMPARE(Test::FailureOf([&action] { action->Run(); }), fault);
+        if (!fault.isEmpty()) {
+            QCOMPARE(Test::Snapshot(font), before);
+            return;
+        }
+        const Character* const copy = font.FindChar(quint16(target));
+        QVERIFY(copy->kerning == font.FindChar('A')->kerning && copy->label == nullptr);
+        QCOMPARE(font.FindChar(quint16(target + 3))->bitmap->Data(), bytes);
+        QVERIFY(font.IsEnabled(quint16(target + 3)) && !font.FindChar(0xE002));
+        QCOMPARE(session.Stack().LogLines(),
+                 QStringList(
+                     u"[Range 0x0041-0x0044]: Copied to 0x%1."_s.arg(Hex4Text(quint16(target)))));
+        session.Stack().Undo();
+        QCOMPARE(Test::Snapshot(font), before);
         QVERIFY(!session.IsModified());
     }
 

@@ -56,6 +56,14 @@ public:
             action->Run();
             break;
         }
+        case 6: {
+            const auto action =
+                std::make_shared<ActionChar>(session_, ActionType(Number(140, 144)));
+            action->Args() = {first, last, Number(FirstCode, LastCode)};
+            action->SetRepeat(Repeat());
+            action->Run();
+            break;
+        }
         default:
             EditChars(first, last);
             break;

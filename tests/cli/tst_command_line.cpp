@@ -7,6 +7,7 @@
 #include "cli/font_height.h"
 #include "cli/option_actions.h"
 #include "support/rows.h"
+#include "support/sample_font.h"
 #include "support/test_main.h"
 
 #include <QTest>
@@ -165,6 +166,24 @@ private Q_SLOTS:
         const auto edit = std::dynamic_pointer_cast<ActionChar>(make(OptionId::EditChar));
         QVERIFY(edit->Args().first == 0x41 && edit->Args().last == 0x42 && edit->Repeat() == 1);
         QCOMPARE(make(OptionId::EditFont)->Repeat(), 3);
+    }
+
+    void EditsMayNeedAValue()
+    {
+        const auto read = [](const QString& words) {
+            auto uses = CommandLineParser().parse(Test::Words(words));
+            (void)ReadRunOptions(uses);
+            return uses;
+        };
+        QCOMPARE(Test::FailureOf([&] { read(u"a.sif -editchar COPY 0x41 -save b.sif"_s); }),
+                 u"Critical error!: COPY of -editchar needs a value."_s);
+        Session session;
+        for (const auto& [value, code] : {std::pair(u"0xE000"_s, 0xE000), {u"0"_s, 0}}) {
+            const auto uses = read(u"a.sif -editchar COPY 0x41 %1 -save b.sif"_s.arg(value));
+            const auto action = std::dynamic_pointer_cast<ActionChar>(
+                ActionOf(OptionId::EditChar)->make(uses[1], {}, session));
+            QVERIFY(action->Args().value == code && action->Repeat() == 1);
+        }
     }
 
     void Questions()

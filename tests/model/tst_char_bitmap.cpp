@@ -1,5 +1,6 @@
 #include "model/char_bitmap_framed.h"
 #include "model/font.h"
+#include "model/pixel_block.h"
 #include "support/rows.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
@@ -158,6 +159,44 @@ private Q_SLOTS:
                 QCOMPARE(PictureOf(*sample.character), before);
             } else {
                 CheckEdit(edit.edit, FontFormat(format), width, edit.yPos);
+            }
+        }
+    }
+
+    // The lower left corner stays; cells of a legacy font turn where they are square.
+    void Turns()
+    {
+        for (const FontFormat format : AllFormats) {
+            for (const int width : {1, Sample::Rows, 9, 254}) {
+                Sample sample(format, width);
+                Character& character = *sample.character;
+                const Picture before = PictureOf(character);
+                const CharMetrics metrics = character.info.Metrics();
+                const bool isTurned = !IsLegacyFormat(format) || width == Sample::Rows;
+                QCOMPARE(RotateRight(character), isTurned && width <= 133);
+                if (!isTurned || width > 133) { // an offset of -129
+                    QVERIFY(!RotateLeft(character) && PictureOf(character) == before);
+                    continue;
+                }
+                QVERIFY(sample.HasCleanPadding());
+                QCOMPARE(character.info.yPos + character.info.Rows(), metrics.yPos + Sample::Rows);
+                const Picture turned = PictureOf(character);
+                for (int y = 0; y < width; ++y) {
+                    for (int x = 0; x < Sample::Rows; ++x)
+                        QCOMPARE(turned[y][x], before[Sample::Rows - 1 - x][y]);
+                }
+                // Back by another way.
+                QVERIFY(FlipVertically(character) && RotateLeft(character));
+                QVERIFY(FlipVertically(character) && RotateLeft(character));
+                QVERIFY(RotateLeft(character) && FlipHorizontally(character));
+                QVERIFY(FlipHorizontally(character));
+                QCOMPARE(PictureOf(character), before);
+                QCOMPARE(character.info.Metrics(), metrics);
+                if (format == FontFormat::Framed) {
+                    const QByteArray bytes = character.bitmap->DataAsList();
+                    character.bitmap->SetPixelIndex(0, 0, before[0][0]); // computes the frame
+                    QCOMPARE(character.bitmap->DataAsList(), bytes);
+                }
             }
         }
     }

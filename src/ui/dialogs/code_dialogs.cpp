@@ -240,4 +240,69 @@ bool GoToDialog::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
+DuplicateDialog::DuplicateDialog(const CodeSet& codes, const CodeSet& existing,
+                                 EncodingType encoding, QWidget* parent)
+    : QDialog(parent),
+      codes_(codes),
+      existing_(existing),
+      encoding_(encoding),
+      field_(new QLineEdit),
+      hint_(PlainLabel())
+{
+    setWindowTitle(tr("Duplicate to code"));
+    field_->setToolTip(tr("A code (0x41, U+0041 or 65), or a character that is no digit"));
+    auto* const form = new QFormLayout;
+    form->addRow(tr("&Code:"), field_);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(hint_);
+    layout->addStretch();
+    ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
+    connect(field_, &QLineEdit::textChanged, this, &DuplicateDialog::Validate);
+    resize(420, sizeHint().height());
+    Validate();
+}
+
+quint16 DuplicateDialog::Code() const
+{
+    return ParseCode(field_->text(), encoding_).value_or(0);
+}
+
+// What is wrong with the code, or what becomes of the characters; an empty one needs no hint.
+void DuplicateDialog::Validate()
+{
+    const std::optional<quint16> code = ParseCode(field_->text(), encoding_);
+    const QString fault =
+        code
+            ? FaultOf(*code)
+            : tr("A code is written as 0x41, U+0041 or 65; what is no digit can stand for itself.");
+    ok_->setEnabled(code && fault.isEmpty());
+    if (!fault.isEmpty()) {
+        hint_->setText(fault);
+        return;
+    }
+    int replaced = 0;
+    for (const quint16 own : codes_)
+        replaced += existing_.Test(quint16(*code + own - *codes_.begin())) ? 1 : 0;
+    const QLatin1StringView name = EncodingFor(encoding_).CharName(*code);
+    hint_->setText(CodeText(*code) + u' ' + name + u'\n' +
+                   tr("Characters to copy: %L1, of the font's own replaced: %L2")
+                       .arg(codes_.Count())
+                       .arg(replaced));
+}
+
+QString DuplicateDialog::FaultOf(quint16 code) const
+{
+    const Encoding& encoding = EncodingFor(encoding_);
+    for (const quint16 own : codes_) {
+        const int target = code + own - *codes_.begin();
+        if (target >= CodeSet::Limit)
+            return tr("%1 would get a code beyond 0xFFFF.").arg(CodeText(own));
+        if (!encoding.Converted(EncodingType::Unicode, quint16(target)))
+            return tr("%1 would get the code %2, which the encoding does not have.")
+                .arg(CodeText(own), CodeText(target));
+    }
+    return code == *codes_.begin() ? tr("This is the code that it has already.") : QString();
+}
+
 } // namespace Glyphor

@@ -72,4 +72,29 @@ private:
     QPushButton* ok_;
 };
 
+// Asks for the code that the first of some characters is to be copied to.
+class DuplicateDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    // The characters' codes, and all that the font has, in the encoding.
+    DuplicateDialog(const CodeSet& codes, const CodeSet& existing, EncodingType encoding,
+                    QWidget* parent);
+
+    // Of an accepted dialog.
+    [[nodiscard]] quint16 Code() const;
+
+private:
+    void Validate();
+    [[nodiscard]] QString FaultOf(quint16 code) const;
+
+    CodeSet codes_;
+    CodeSet existing_;
+    EncodingType encoding_;
+    QLineEdit* field_;
+    QLabel* hint_;
+    QPushButton* ok_;
+};
+
 } // namespace Glyphor

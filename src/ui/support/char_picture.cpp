@@ -9,6 +9,19 @@ int IndexAlpha(int index, int bitsPerPixel)
     return index * 255 / ((1 << bitsPerPixel) - 1);
 }
 
+QImage BlockPicture(const PixelBlock& block, int bitsPerPixel)
+{
+    if (block.IsEmpty())
+        return {};
+    QImage picture(block.Size(), QImage::Format_Grayscale8);
+    for (int y = 0; y < block.rows; ++y) {
+        uchar* const line = picture.scanLine(y);
+        for (int x = 0; x < block.width; ++x)
+            line[x] = uchar(255 - IndexAlpha(block.At(x, y), bitsPerPixel));
+    }
+    return picture;
+}
+
 FramePlane::FramePlane(const Character& character)
 {
     const CharInfo& info = character.info;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/font.h"
+#include "model/pixel_block.h"
 
 #include <QColor>
 #include <QImage>
@@ -11,6 +11,9 @@ namespace Glyphor {
 // is high; frames are drawn in the colour of the paper.
 [[nodiscard]] QImage CharPicture(const Character& character, const QColor& ink,
                                  const QColor& paper);
+
+// Pixels in black on white; null where there are none.
+[[nodiscard]] QImage BlockPicture(const PixelBlock& block, int bitsPerPixel);
 
 // How opaque an index is drawn, 0 to 255.
 [[nodiscard]] int IndexAlpha(int index, int bitsPerPixel);

@@ -9,13 +9,19 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/drawing_tools.h"
+#include "ui/editor/index_palette.h"
+#include "ui/editor/pixel_selection.h"
 #include "ui/table/character_table.h"
+#include "ui/window/clipboard_commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/panes.h"
 
+#include <QApplication>
 #include <QMenu>
+
+#include <algorithm>
 
 namespace Glyphor {
 
@@ -30,9 +36,14 @@ Commands::Commands(const WindowParts& parts, QWidget& window)
     }
     for (const ToolRow& tool : ToolTable())
         BindToEditor(*parts_.menus.Command(tool.tool));
+    for (const WindowCommand command :
+         {WindowCommand::SelectAllPixels, WindowCommand::FillPixels, WindowCommand::DeletePixels})
+        BindToEditor(*parts_.menus.Command(command));
     // The same key without Shift where plus is above another character.
     parts_.menus.Command(WindowCommand::ZoomIn)
         ->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* now) { NoteFocus(now); });
 }
 
 // Elsewhere its key means something else.
@@ -48,12 +59,18 @@ void Commands::ChooseTool(EditorTool tool)
     parts_.tools.SetTool(tool);
 }
 
+void Commands::NoteFocus(const QWidget* widget)
+{
+    if (widget != nullptr && !widget->inherits("QMenu") && !widget->inherits("QMenuBar"))
+        isInEditor_ = widget == &parts_.panes.Editor();
+}
+
 void Commands::Run(quint32 id)
 {
     parts_.tools.EndDrawing();
     const auto type = ActionType(id);
     if (const Edit* const edit = EditOf(type))
-        return parts_.edits.RunEdit(*edit);
+        return RunEdit(*edit);
     switch (type) {
     case ActionType::CreateFont:
         return parts_.document.Create();
@@ -88,16 +105,59 @@ void Commands::Run(quint32 id)
     }
 }
 
+// Selected pixels are what is edited while the editor has the focus.
+void Commands::RunEdit(const Edit& edit)
+{
+    PixelSelection& selection = parts_.selection;
+    if (!selection.IsEmpty() && edit.target == EditTarget::Pixel)
+        return selection.Change(edit);
+    if (!selection.IsEmpty() && isInEditor_ && selection.Turn(edit.type))
+        return;
+    parts_.edits.RunEdit(edit);
+}
+
+// False for another command.
+bool Commands::RunPixelCommand(WindowCommand command)
+{
+    PixelSelection& selection = parts_.selection;
+    switch (command) {
+    case WindowCommand::Cut:
+        parts_.clipboard.Cut(isInEditor_);
+        return true;
+    case WindowCommand::Copy:
+        parts_.clipboard.Copy(isInEditor_);
+        return true;
+    case WindowCommand::Paste:
+        parts_.clipboard.Paste(isInEditor_);
+        return true;
+    case WindowCommand::SelectAllPixels:
+        selection.SelectAll();
+        return true;
+    case WindowCommand::FillPixels:
+        selection.Fill(parts_.tools.Palette().Index());
+        return true;
+    case WindowCommand::DeletePixels:
+        selection.Erase();
+        return true;
+    default:
+        return false;
+    }
+}
+
 void Commands::RunWindowCommand(quint32 id)
 {
     for (const ToolRow& row : ToolTable()) {
         if (CommandId(row.tool) == id)
             return ChooseTool(row.tool);
     }
+    if (RunPixelCommand(WindowCommand(id)))
+        return;
     switch (WindowCommand(id)) {
     case WindowCommand::Undo:
+        parts_.selection.Clear(); // whose pixels may move back
         return parts_.edits.Undo();
     case WindowCommand::Redo:
+        parts_.selection.Clear();
         return parts_.edits.Redo();
     case WindowCommand::AllCharacters:
         return parts_.panes.Table().ShowAll(parts_.menus.Command(id)->isChecked());
@@ -127,6 +187,8 @@ void Commands::RunWindowCommand(quint32 id)
         return parts_.panes.ShowNeighbours(parts_.menus.Command(id)->isChecked());
     case WindowCommand::ShowOutline:
         return parts_.panes.ShowOutline(parts_.menus.Command(id)->isChecked());
+    default:
+        return;
     }
 }
 
@@ -176,12 +238,40 @@ void Commands::ShowContextMenu(QPoint globalPosition)
     for (QAction* const action : menu.actions())
         action->setEnabled(toggle->isEnabled()); // they all need a character
     menu.addSeparator();
+    AddClipboardCommands(menu);
+    menu.addSeparator();
+    const QMenu* const ofPixels[] = {parts_.menus.Submenu(SubmenuId::PixelIndex),
+                                     parts_.menus.Submenu(SubmenuId::Tools),
+                                     parts_.menus.Submenu(SubmenuId::PixelSelection)};
     for (QAction* const action : parts_.menus.Submenu(SubmenuId::Edit)->actions()) {
-        const bool isOfEditor = action->menu() == parts_.menus.Submenu(SubmenuId::PixelIndex) ||
-                                action->menu() == parts_.menus.Submenu(SubmenuId::Tools);
-        if (action->menu() != nullptr && !isOfEditor)
+        if (action->menu() != nullptr && !std::ranges::count(ofPixels, action->menu()))
             menu.addMenu(action->menu());
     }
+    menu.addAction(parts_.menus.Command(ActionType::CopyTo));
+    menu.exec(globalPosition);
+}
+
+void Commands::AddClipboardCommands(QMenu& menu) const
+{
+    for (const WindowCommand command :
+         {WindowCommand::Cut, WindowCommand::Copy, WindowCommand::Paste})
+        menu.addAction(parts_.menus.Command(command));
+}
+
+// A single pixel has its indices alone.
+void Commands::ShowPixelMenu(QPoint globalPosition)
+{
+    QMenu* const indices = parts_.menus.Submenu(SubmenuId::PixelIndex);
+    if (parts_.selection.IsEmpty()) {
+        indices->exec(globalPosition);
+        return;
+    }
+    QMenu menu(&parts_.panes.Editor());
+    AddClipboardCommands(menu);
+    menu.addSeparator();
+    for (const SubmenuId id : {SubmenuId::Transform, SubmenuId::PixelSelection})
+        menu.addMenu(parts_.menus.Submenu(id));
+    menu.addMenu(indices);
     menu.exec(globalPosition);
 }
 
@@ -208,6 +298,24 @@ void Commands::EnablePossible()
     for (const ToolRow& tool : ToolTable())
         enable(tool.tool, hasFont);
     EnableEdits();
+    EnablePixelCommands();
+}
+
+void Commands::EnablePixelCommands()
+{
+    const bool hasSelection = !parts_.selection.IsEmpty();
+    const bool hasCharacter = !parts_.edits.SelectedCharacters().IsEmpty();
+    const bool hasCode =
+        parts_.session.CurrentFont() != nullptr && parts_.panes.Table().CurrentCode() >= 0;
+    const auto enable = [this](WindowCommand command, bool state) {
+        parts_.menus.Command(command)->setEnabled(state);
+    };
+    enable(WindowCommand::Cut, hasSelection || hasCharacter);
+    enable(WindowCommand::Copy, hasSelection || hasCharacter);
+    enable(WindowCommand::Paste, hasCode); // whatever is on the clipboard: asking may take long
+    enable(WindowCommand::SelectAllPixels, parts_.panes.Editor().CurrentCharacter() != nullptr);
+    enable(WindowCommand::FillPixels, hasSelection);
+    enable(WindowCommand::DeletePixels, hasSelection);
 }
 
 void Commands::EnableEdits()
@@ -215,15 +323,18 @@ void Commands::EnableEdits()
     const Font* const font = parts_.session.CurrentFont();
     const bool hasFont = font != nullptr;
     const bool hasCharacter = !parts_.edits.SelectedCharacters().IsEmpty();
-    const bool hasPixel = hasFont && parts_.panes.Editor().SelectedPixel().x() >= 0;
+    const bool hasPixels = !parts_.selection.IsEmpty();
+    const bool hasPixel = hasPixels || (hasFont && parts_.panes.Editor().SelectedPixel().x() >= 0);
     const bool isLegacy = hasFont && IsLegacyFormat(font->Metrics().format);
     const int maximum = hasFont ? (1 << font->Metrics().bitsPerPixel) - 1 : -1;
     for (const Edit& edit : EditTable()) {
         if (edit.applyValue != nullptr)
             continue; // no menu has it
-        const bool hasTarget = edit.target == EditTarget::Character ? hasCharacter
-                               : edit.target == EditTarget::Pixel   ? hasPixel
-                                                                    : hasFont;
+        const bool isTurn = edit.period > 0;
+        const bool hasTarget = edit.target == EditTarget::Character
+                                   ? hasCharacter || (isTurn && hasPixels)
+                               : edit.target == EditTarget::Pixel ? hasPixel
+                                                                  : hasFont;
         const bool isRefused = (isLegacy && edit.notForLegacy) || edit.index > maximum;
         parts_.menus.Command(edit.type)->setEnabled(hasTarget && !isRefused);
     }

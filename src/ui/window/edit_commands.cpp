@@ -3,6 +3,7 @@
 #include "actions/edit_actions.h"
 #include "actions/edit_table.h"
 #include "actions/session.h"
+#include "model/code_text.h"
 #include "ui/dialogs/code_dialogs.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/guarded.h"
@@ -10,6 +11,8 @@
 #include "ui/table/character_table.h"
 
 #include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace Glyphor {
 
@@ -45,7 +48,7 @@ void EditCommands::RunEdit(const Edit& edit)
 {
     switch (edit.target) {
     case EditTarget::Character:
-        RunSelectionEdit(edit);
+        edit.copies ? Duplicate() : RunSelectionEdit(edit);
         break;
     case EditTarget::Font:
         RunAction(std::make_shared<ActionFont>(session_, edit.type));
@@ -98,9 +101,9 @@ void EditCommands::MoveInHistory(bool isUndo)
 }
 
 // One action for each run of codes, undone as one.
-void EditCommands::RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make)
+void EditCommands::RunForEach(const std::vector<CodeRange>& runs, const QString& text,
+                              const MakeAction& make)
 {
-    const std::vector<CodeRange> runs = RunsOf(codes);
     if (runs.size() == 1)
         RunAction(make(runs.front()));
     else if (!runs.empty())
@@ -112,11 +115,12 @@ void EditCommands::RunForEach(const CodeSet& codes, const QString& text, const M
 
 void EditCommands::RunSelectionEdit(const Edit& edit)
 {
-    RunForEach(SelectedCharacters(), LogEntry(edit.log).Translated(), [&](const CodeRange& run) {
-        auto action = std::make_shared<ActionChar>(session_, edit.type);
-        action->Args() = {.first = run.first, .last = run.last};
-        return action;
-    });
+    RunForEach(RunsOf(SelectedCharacters()), LogEntry(edit.log).Translated(),
+               [&](const CodeRange& run) {
+                   auto action = std::make_shared<ActionChar>(session_, edit.type);
+                   action->Args() = {.first = run.first, .last = run.last};
+                   return action;
+               });
 }
 
 void EditCommands::ChangeSelection(ActionType type)
@@ -135,12 +139,36 @@ void EditCommands::ChangeSelection(ActionType type)
     const bool isOne = codes.Count() == 1;
     const ActionType state = enables ? ActionType::Enable : ActionType::Disable;
     const ActionType change = isOne ? type : state;
-    RunForEach(codes, LogEntry(LogMessage(state)).Translated(), [&](const CodeRange& run) {
+    RunForEach(RunsOf(codes), LogEntry(LogMessage(state)).Translated(), [&](const CodeRange& run) {
         auto action = std::make_shared<ActionCharState>(session_, change);
         action->Args().first = run.first;
         action->Args().last = run.last;
         return action;
     });
+}
+
+// The codes keep their distances. A copy must not replace what is still to be copied.
+void EditCommands::Duplicate()
+{
+    const Font& font = *session_.CurrentFont();
+    const CodeSet codes = SelectedCharacters();
+    DuplicateDialog dialog(codes, font.ExistingCodes(), font.Metrics().encoding, &window_);
+    if (codes.IsEmpty() || dialog.exec() != QDialog::Accepted)
+        return;
+    const int first = *codes.begin();
+    const int target = dialog.Code();
+    std::vector<CodeRange> runs = RunsOf(codes);
+    if (target > first)
+        std::ranges::reverse(runs);
+    const QString text =
+        LogEntry(LogMessage(ActionType::CopyTo), {Hex4Text(quint16(target))}).Translated();
+    RunForEach(runs, text, [&](const CodeRange& run) {
+        auto action = std::make_shared<ActionChar>(session_, ActionType::CopyTo);
+        action->Args() = {
+            .first = run.first, .last = run.last, .value = target + run.first - first};
+        return action;
+    });
+    table_.SelectCode(target);
 }
 
 void EditCommands::DeleteSelection()

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <functional>
+#include <vector>
 
 class QWidget;
 
@@ -63,7 +64,9 @@ private:
 
     void RunSelectionEdit(const Edit& edit);
     void RunPixelEdit(const Edit& edit);
-    void RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make);
+    void RunForEach(const std::vector<CodeRange>& runs, const QString& text,
+                    const MakeAction& make);
+    void Duplicate();
     void RunMacro(const QString& text, const std::function<void()>& work);
     void RunTogether(const std::function<void()>& work);
     void MoveInHistory(bool isUndo);

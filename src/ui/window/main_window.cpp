@@ -12,10 +12,12 @@
 #include "ui/document/font_indexer.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/drawing_tools.h"
+#include "ui/editor/pixel_selection.h"
 #include "ui/preview/text_preview.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
+#include "ui/window/clipboard_commands.h"
 #include "ui/window/commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
@@ -62,8 +64,12 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       menus_(new MenuBar(this)),
       panes_(new Panes),
       edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
+      selection_(new PixelSelection(session, panes_->Editor())), // gets what tools leave
+      clipboard_(
+          new ClipboardCommands(session, panes_->Table(), panes_->Editor(), *selection_, *edits_)),
       tools_(new DrawingTools(session, panes_->Editor())),
-      commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *tools_},
+      commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *tools_,
+                              *selection_, *clipboard_},
                              *this)),
       status_(new StatusLine)
 {
@@ -86,7 +92,7 @@ MainWindow::~MainWindow()
 {
     // These outlive what the slots use.
     delete commands_;
-    for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_})
+    for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_, selection_})
         disconnect(sender, nullptr, this, nullptr);
 }
 
@@ -129,8 +135,10 @@ void MainWindow::ConnectViews()
     const CharBitmapView& editor = Editor();
     connect(&editor, &CharBitmapView::PixelSelected, commands_, &Commands::EnablePossible);
     connect(&editor, &CharBitmapView::StatusChanged, status_, &StatusLine::TellPixel);
-    connect(&editor, &CharBitmapView::MenuRequested, this,
-            [this](QPoint place) { menus_->Submenu(SubmenuId::PixelIndex)->exec(place); });
+    connect(&editor, &CharBitmapView::MenuRequested, commands_, &Commands::ShowPixelMenu);
+    connect(selection_, &PixelSelection::Changed, commands_, &Commands::EnablePossible);
+    connect(selection_, &PixelSelection::Refused, status_, &StatusLine::Tell);
+    connect(clipboard_, &ClipboardCommands::Done, status_, &StatusLine::Tell);
     connect(&editor, &CharBitmapView::InversionRequested, edits_, &EditCommands::InvertPixel);
 }
 

@@ -10,12 +10,14 @@
 
 namespace Glyphor {
 
+class ClipboardCommands;
 class Commands;
 class Document;
 class DrawingTools;
 class EditCommands;
 class FontIndexer;
 class MenuBar;
+class PixelSelection;
 class Session;
 class UndoStack;
 
@@ -82,6 +84,8 @@ private:
     MenuBar* menus_;
     Panes* panes_;
     EditCommands* edits_;
+    PixelSelection* selection_;
+    ClipboardCommands* clipboard_;
     DrawingTools* tools_;
     Commands* commands_;
     StatusLine* status_;

@@ -234,6 +234,31 @@ public:
                EditorTool::Picker),
     };
 
+    static constexpr MenuRow TransformRows[] = {
+        Entry(QT_TR_NOOP("Flip horizontally"), "Ctrl+Shift+H",
+              QT_TR_NOOP("Flip the selected pixels, or the characters, from left to right"),
+              ActionType::FlipHorizontally),
+        Entry(QT_TR_NOOP("Flip vertically"), "Ctrl+Shift+V",
+              QT_TR_NOOP("Flip the selected pixels, or the characters, from top to bottom"),
+              ActionType::FlipVertically),
+        Entry(QT_TR_NOOP("Rotate right"), "Ctrl+.",
+              QT_TR_NOOP("Rotate the selected pixels, or the characters, to the right"),
+              ActionType::RotateRight),
+        Entry(QT_TR_NOOP("Rotate left"), "Ctrl+,",
+              QT_TR_NOOP("Rotate the selected pixels, or the characters, to the left"),
+              ActionType::RotateLeft),
+    };
+
+    static constexpr MenuRow PixelSelectionRows[] = {
+        Entry(QT_TR_NOOP("Select all"), "Ctrl+A", QT_TR_NOOP("Select all pixels of the character"),
+              WindowCommand::SelectAllPixels),
+        Entry(QT_TR_NOOP("Fill"), "Ctrl+Shift+F",
+              QT_TR_NOOP("Fill the selected pixels with the index to paint with"),
+              WindowCommand::FillPixels),
+        Entry(QT_TR_NOOP("Delete"), "Del", QT_TR_NOOP("Set the selected pixels to index 0"),
+              WindowCommand::DeletePixels),
+    };
+
     static constexpr MenuRow EditRows[] = {
         Entry(QT_TR_NOOP("&Undo"), "Ctrl+Z", QT_TR_NOOP("Undo last action"), WindowCommand::Undo),
         Entry(QT_TR_NOOP("&Redo"), "Ctrl+Y", QT_TR_NOOP("Redo previous action"),
@@ -265,6 +290,20 @@ public:
               ActionType::SavePattern),
         Separator,
         Submenu(QT_TR_NOOP("Too&ls"), DrawingRows, SubmenuId::Tools),
+        Submenu(QT_TR_NOOP("Tra&nsform"), TransformRows, SubmenuId::Transform),
+        Submenu(QT_TR_NOOP("Pixel selecti&on"), PixelSelectionRows, SubmenuId::PixelSelection),
+        Entry(QT_TR_NOOP("Dup&licate to code..."), nullptr,
+              QT_TR_NOOP("Copy the selected characters to another code and those behind it"),
+              ActionType::CopyTo),
+        Separator,
+        Entry(QT_TR_NOOP("Cut"), "Ctrl+X",
+              QT_TR_NOOP("Cut the selected pixels, or the characters, to the clipboard"),
+              WindowCommand::Cut),
+        Entry(QT_TR_NOOP("Cop&y"), "Ctrl+C",
+              QT_TR_NOOP("Copy the selected pixels, or the characters, to the clipboard"),
+              WindowCommand::Copy),
+        Entry(QT_TR_NOOP("Paste"), "Ctrl+V",
+              QT_TR_NOOP("Paste pixels or characters from the clipboard"), WindowCommand::Paste),
     };
 
     static constexpr MenuRow ViewRows[] = {

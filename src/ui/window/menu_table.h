@@ -28,7 +28,13 @@ enum class WindowCommand : quint32 {
     ZoomToFit = 112,
     ActualSize = 113,
     ShowNeighbours = 114,
-    ShowOutline = 115
+    ShowOutline = 115,
+    Cut = 150,
+    Copy = 151,
+    Paste = 152,
+    SelectAllPixels = 153,
+    FillPixels = 154,
+    DeletePixels = 155
 };
 
 // The number that commands have in the menus and their actions.
@@ -51,7 +57,7 @@ constexpr quint32 FirstToolCommand = 100;
 }
 
 // Submenus that the window has to find.
-enum class SubmenuId : quint8 { None, Edit, PixelIndex, Tools };
+enum class SubmenuId : quint8 { None, Edit, PixelIndex, Tools, Transform, PixelSelection };
 
 // One entry of a menu. Texts are null where there is none.
 // NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding): the order is that of a row's reading

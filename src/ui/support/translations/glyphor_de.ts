@@ -1359,6 +1359,86 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Filled the area at (%2,%3) with index %1.</source>
         <translation>Fläche bei (%2,%3) mit Index %1 gefüllt.</translation>
     </message>
+    <message>
+        <source>Flipped horizontally.</source>
+        <translation>Waagerecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Flipped vertically.</source>
+        <translation>Senkrecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Rotated to the right.</source>
+        <translation>Nach rechts gedreht.</translation>
+    </message>
+    <message>
+        <source>Rotated to the left.</source>
+        <translation>Nach links gedreht.</translation>
+    </message>
+    <message>
+        <source>Copied to 0x%2.</source>
+        <translation>Nach 0x%2 kopiert.</translation>
+    </message>
+    <message>
+        <source>Pasted.</source>
+        <translation>Eingefügt.</translation>
+    </message>
+    <message>
+        <source>Characters can&apos;t be copied!</source>
+        <translation>Zeichen können nicht kopiert werden!</translation>
+    </message>
+    <message>
+        <source>The character for 0x%1 does not fit into the font.</source>
+        <translation>Das Zeichen für 0x%1 passt nicht in die Schrift.</translation>
+    </message>
+    <message>
+        <source>0x%1 would get a code beyond 0xFFFF.</source>
+        <translation>0x%1 bekäme einen Code über 0xFFFF.</translation>
+    </message>
+    <message>
+        <source>0x%1 would get the code 0x%2, which the encoding of the font does not have.</source>
+        <translation>0x%1 bekäme den Code 0x%2, den die Kodierung der Schrift nicht hat.</translation>
+    </message>
+    <message>
+        <source>%1 of -editchar needs a value.</source>
+        <translation>%1 von -editchar braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>Flipped pixels horizontally.</source>
+        <translation>Pixel waagerecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Flipped pixels vertically.</source>
+        <translation>Pixel senkrecht gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Rotated pixels to the right.</source>
+        <translation>Pixel nach rechts gedreht.</translation>
+    </message>
+    <message>
+        <source>Rotated pixels to the left.</source>
+        <translation>Pixel nach links gedreht.</translation>
+    </message>
+    <message>
+        <source>Filled pixels with index %2.</source>
+        <translation>Pixel mit Index %2 gefüllt.</translation>
+    </message>
+    <message>
+        <source>Deleted pixels.</source>
+        <translation>Pixel gelöscht.</translation>
+    </message>
+    <message>
+        <source>Changed the indices of pixels.</source>
+        <translation>Indizes von Pixeln geändert.</translation>
+    </message>
+    <message>
+        <source>Pasted pixels.</source>
+        <translation>Pixel eingefügt.</translation>
+    </message>
+    <message>
+        <source>Moved pixels.</source>
+        <translation>Pixel verschoben.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1475,6 +1555,61 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::ClipboardCommands</name>
+    <message>
+        <source>Pasting is not possible!</source>
+        <translation>Einfügen ist nicht möglich!</translation>
+    </message>
+    <message>
+        <source>The clipboard has neither characters nor a picture.</source>
+        <translation>In der Zwischenablage sind weder Zeichen noch ein Bild.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard has %1 x %2 pixels; a character has 255 x 255 at most.</source>
+        <translation>Das Bild in der Zwischenablage hat %1 x %2 Pixel; ein Zeichen hat höchstens 255 x 255.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard can&apos;t be read.</source>
+        <translation>Das Bild in der Zwischenablage kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The characters on the clipboard can&apos;t be read.</source>
+        <translation>Die Zeichen in der Zwischenablage können nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Copied pixels: %1 x %2.</source>
+        <translation>Kopierte Pixel: %1 x %2.</translation>
+    </message>
+    <message>
+        <source>Copied characters: %L1.</source>
+        <translation>Kopierte Zeichen: %L1.</translation>
+    </message>
+    <message>
+        <source>Pasted pixels: %1 x %2. The character has no room for all of them.</source>
+        <translation>Eingefügte Pixel: %1 x %2. Das Zeichen hat nicht für alle Platz.</translation>
+    </message>
+    <message>
+        <source>Pasted characters: %L1.</source>
+        <translation>Eingefügte Zeichen: %L1.</translation>
+    </message>
+    <message>
+        <source>Their pixels were converted from %1 to %2 bits.</source>
+        <translation>Ihre Pixel wurden von %1 in %2 Bit umgewandelt.</translation>
+    </message>
+    <message>
+        <source>Characters that lost ink beyond the line: %L1.</source>
+        <translation>Zeichen, die jenseits der Zeile Pixel verloren: %L1.</translation>
+    </message>
+    <message>
+        <source>Pasted a picture: %1 x %2.</source>
+        <translation>Eingefügtes Bild: %1 x %2.</translation>
+    </message>
+    <message>
+        <source>It lost ink beyond the line.</source>
+        <translation>Jenseits der Zeile gingen Pixel verloren.</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::CommandDialog</name>
     <message>
         <source>Command line options</source>
@@ -1565,6 +1700,41 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Export proof</source>
         <translation>Schriftprobe exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::DuplicateDialog</name>
+    <message>
+        <source>Duplicate to code</source>
+        <translation>Auf Code duplizieren</translation>
+    </message>
+    <message>
+        <source>A code (0x41, U+0041 or 65), or a character that is no digit</source>
+        <translation>Ein Code (0x41, U+0041 oder 65) oder ein Zeichen, das keine Ziffer ist</translation>
+    </message>
+    <message>
+        <source>&amp;Code:</source>
+        <translation>&amp;Code:</translation>
+    </message>
+    <message>
+        <source>A code is written as 0x41, U+0041 or 65; what is no digit can stand for itself.</source>
+        <translation>Codes werden als 0x41, U+0041 oder 65 geschrieben; außer Ziffern kann jedes Zeichen für sich selbst stehen.</translation>
+    </message>
+    <message>
+        <source>Characters to copy: %L1, of the font&apos;s own replaced: %L2</source>
+        <translation>Zu kopierende Zeichen: %L1, davon ersetzen vorhandene: %L2</translation>
+    </message>
+    <message>
+        <source>%1 would get a code beyond 0xFFFF.</source>
+        <translation>%1 bekäme einen Code über 0xFFFF.</translation>
+    </message>
+    <message>
+        <source>%1 would get the code %2, which the encoding does not have.</source>
+        <translation>%1 bekäme den Code %2, den die Kodierung nicht hat.</translation>
+    </message>
+    <message>
+        <source>This is the code that it has already.</source>
+        <translation>Diesen Code hat es bereits.</translation>
     </message>
 </context>
 <context>
@@ -2118,6 +2288,17 @@ Was soll mit ihnen geschehen?</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::PixelSelection</name>
+    <message>
+        <source>Selected pixels: %1 x %2 from [%3, %4] on</source>
+        <translation>Ausgewählte Pixel: %1 x %2 ab [%3, %4]</translation>
+    </message>
+    <message>
+        <source>Rotated, the pixels do not fit into the character.</source>
+        <translation>Gedreht passen die Pixel nicht in das Zeichen.</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::PreferencesDialog</name>
     <message>
         <source>&amp;Hide legacy font formats</source>
@@ -2469,7 +2650,7 @@ Was soll mit ihnen geschehen?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -3024,7 +3205,7 @@ Was soll mit ihnen geschehen?</translation>
     </message>
     <message>
         <source>Paint pixels by clicking and dragging (Ctrl inverts them)</source>
-        <translation type="unfinished">Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
+        <translation>Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
     </message>
     <message>
         <source>&amp;Eraser</source>
@@ -3125,6 +3306,102 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Show in the editor the outline that the character was rendered from</source>
         <translation>Im Editor den Umriss zeigen, aus dem das Zeichen gerastert wurde</translation>
+    </message>
+    <message>
+        <source>Flip horizontally</source>
+        <translation>Waagerecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip the selected pixels, or the characters, from left to right</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen von links nach rechts spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip vertically</source>
+        <translation>Senkrecht spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip the selected pixels, or the characters, from top to bottom</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen von oben nach unten spiegeln</translation>
+    </message>
+    <message>
+        <source>Rotate right</source>
+        <translation>Nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Rotate the selected pixels, or the characters, to the right</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Rotate left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message>
+        <source>Rotate the selected pixels, or the characters, to the left</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen nach links drehen</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select all pixels of the character</source>
+        <translation>Alle Pixel des Zeichens auswählen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Fill the selected pixels with the index to paint with</source>
+        <translation>Die ausgewählten Pixel mit dem Index füllen, mit dem gemalt wird</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Set the selected pixels to index 0</source>
+        <translation>Die ausgewählten Pixel auf Index 0 setzen</translation>
+    </message>
+    <message>
+        <source>Tra&amp;nsform</source>
+        <translation>Trans&amp;formieren</translation>
+    </message>
+    <message>
+        <source>Pixel selecti&amp;on</source>
+        <translation>P&amp;ixelauswahl</translation>
+    </message>
+    <message>
+        <source>Dup&amp;licate to code...</source>
+        <translation>Auf &amp;Code duplizieren...</translation>
+    </message>
+    <message>
+        <source>Copy the selected characters to another code and those behind it</source>
+        <translation>Die ausgewählten Zeichen auf einen anderen Code und die folgenden kopieren</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneide&amp;n</translation>
+    </message>
+    <message>
+        <source>Cut the selected pixels, or the characters, to the clipboard</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen in die Zwischenablage ausschneiden</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected pixels, or the characters, to the clipboard</source>
+        <translation>Die ausgewählten Pixel oder die Zeichen in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Aus &amp;Zwischenablage einfügen</translation>
+    </message>
+    <message>
+        <source>Paste pixels or characters from the clipboard</source>
+        <translation>Pixel oder Zeichen aus der Zwischenablage einfügen</translation>
     </message>
 </context>
 <context>
