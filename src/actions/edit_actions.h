@@ -45,6 +45,7 @@ public:
 
 private:
     [[nodiscard]] int CharCount() const;
+    [[nodiscard]] bool IsRefusedByFormat(const Edit& edit) const;
     void PrepareSwap(const Edit& edit);
 
     template <typename Visit>

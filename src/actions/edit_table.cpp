@@ -85,13 +85,15 @@ constexpr Edit OfCharacter(ActionType type, QLatin1StringView keyword, QLatin1St
             .revert = revert};
 }
 
-constexpr Edit OfValue(ActionType type, const char* log, bool (*apply)(Character&, int))
+constexpr Edit OfValue(ActionType type, QLatin1StringView keyword, QLatin1StringView help,
+                       const char* log, bool (*apply)(Character&, int), bool notForLegacy = false)
 {
     return {.type = type,
             .target = EditTarget::Character,
-            .keyword = {},
-            .help = {},
+            .keyword = keyword,
+            .help = help,
             .log = log,
+            .notForLegacy = notForLegacy,
             .applyValue = apply};
 }
 
@@ -223,7 +225,15 @@ constexpr std::array Edits = {
                 "Decrements the cursor distance for the given range <value> times."_L1,
                 QT_TRANSLATE_NOOP("Engine", "Decreased cursor distance."),
                 Less<&CharInfo::cursorDistance>, More<&CharInfo::cursorDistance>),
-    OfValue(ActionType::SetCursorDistance,
+    OfValue(ActionType::SetXPos, "SETX"_L1,
+            "Sets the left edge of the character range to <value> px (-128 to 127)."_L1,
+            QT_TRANSLATE_NOOP("Engine", "Left edge set to %2."), Set<&CharInfo::xPos>,
+            NotForLegacy),
+    OfValue(ActionType::SetYPos, "SETY"_L1,
+            "Sets the top row of the character range to <value> px (-128 to 127)."_L1,
+            QT_TRANSLATE_NOOP("Engine", "Top row set to %2."), Set<&CharInfo::yPos>, NotForLegacy),
+    OfValue(ActionType::SetCursorDistance, "SETADV"_L1,
+            "Sets the cursor distance of the character range to <value> px (0 to 255)."_L1,
             QT_TRANSLATE_NOOP("Engine", "Cursor distance set to %2."),
             Set<&CharInfo::cursorDistance>),
     OfFont(

@@ -65,6 +65,8 @@ enum class ActionType : int {
     PrintVersion = 67,
     ListCharsets = 68,
     SaveHeader = 69,
+    SetXPos = 170,
+    SetYPos = 171,
     SetCursorDistance = 172
 };
 

@@ -3,6 +3,7 @@
 #include "actions/action_merge_font.h"
 #include "actions/action_save_file.h"
 #include "actions/edit_actions.h"
+#include "actions/edit_table.h"
 #include "app/critical_exception.h"
 #include "app/settings.h"
 #include "cli/installed_fonts.h"
@@ -113,12 +114,15 @@ std::shared_ptr<Action> MakeCharEdit(const OptionOccurrence& occurrence, const R
                                      Session& session)
 {
     const auto type = static_cast<ActionType>(occurrence.Get<int>(0));
-    if (CountOf(occurrence, 2) == 0)
+    const bool hasValue = EditOf(type)->applyValue != nullptr;
+    const int number = CountOf(occurrence, 2);
+    if (number == 0 && !hasValue)
         return nullptr;
     auto action = std::make_shared<ActionChar>(session, type);
     const CodeRange range = Ordered(occurrence.Get<CodeRange>(1));
-    action->Args() = {.first = range.first, .last = range.last};
-    action->SetRepeat(CountOf(occurrence, 2));
+    action->Args() = {.first = range.first, .last = range.last, .value = hasValue ? number : 0};
+    if (!hasValue)
+        action->SetRepeat(number);
     return action;
 }
 

@@ -1,5 +1,6 @@
 #include "cli/run_options.h"
 
+#include "actions/edit_table.h"
 #include "actions/pattern_file.h"
 #include "app/critical_exception.h"
 #include "app/engine_texts.h"
@@ -198,7 +199,8 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         CheckCount(occurrence, 1);
         break;
     case OptionId::EditChar:
-        CheckCount(occurrence, 2);
+        if (EditOf(static_cast<ActionType>(occurrence.Get<int>(0)))->applyValue == nullptr)
+            CheckCount(occurrence, 2);
         break;
     case OptionId::Verbose:
         options.verbose = true;

@@ -50,9 +50,9 @@ public:
             break;
         }
         case 5: {
-            const auto action =
-                std::make_shared<ActionChar>(session_, ActionType::SetCursorDistance);
-            action->Args() = {first, last, Number(0, 300)};
+            const int type = Number(int(ActionType::SetXPos), int(ActionType::SetCursorDistance));
+            const auto action = std::make_shared<ActionChar>(session_, ActionType(type));
+            action->Args() = {first, last, Number(-150, 300)};
             action->Run();
             break;
         }

@@ -1329,7 +1329,19 @@ Erwartete Größe: %2 Byte.</translation>
     </message>
     <message>
         <source>Cursor distance set to %2.</source>
-        <translation>Cursorabstand auf %2 gesetzt.</translation>
+        <translation>Vorschub auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>%1: characters of legacy formats have no offset to set</source>
+        <translation>%1: Zeichen von Legacy-Formaten haben keinen Versatz, der sich setzen ließe</translation>
+    </message>
+    <message>
+        <source>Left edge set to %2.</source>
+        <translation>Linker Rand auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Top row set to %2.</source>
+        <translation>Oberste Zeile auf %2 gesetzt.</translation>
     </message>
 </context>
 <context>
