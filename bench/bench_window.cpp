@@ -8,7 +8,9 @@
 #include "timing.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/undo_stack.h"
+#include "ui/support/value_fields.h"
 #include "ui/table/character_table.h"
+#include "ui/window/info_panel.h"
 #include "ui/window/main_window.h"
 #include "ui/window/menu_bar.h"
 
@@ -80,6 +82,9 @@ void MeasureTable()
     QKeyEvent selectAll(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
     QCoreApplication::sendEvent(&table, &selectAll);
     Measure("an edit of them", [&] { run(ActionType::ShiftLeft); });
+    NumberField& distance = window.findChild<InfoPanel*>()->FieldOf(ActionType::SetCursorDistance);
+    int value = 0;
+    Measure("a metric of them", [&] { distance.setValue(++value); });
     Measure("undoing it", [&] { window.Menus().Command(WindowCommand::Undo)->trigger(); });
     SetCurrentInterface(nullptr);
 }

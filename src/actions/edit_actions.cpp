@@ -168,7 +168,8 @@ QString ActionChar::Shortfall() const
         return Engine::tr("%1: the font has no character there").arg(range);
     const Edit* const edit = EditOf(Type());
     if (edit != nullptr && IsRefusedByFormat(*edit))
-        return Engine::tr("%1: characters of legacy formats have no offset to set").arg(range);
+        return Engine::tr("%1: characters of legacy formats have the font's height and no offsets")
+            .arg(range);
     if (refused_.isEmpty())
         return {};
     if (edit != nullptr && edit->applyValue != nullptr)

@@ -68,6 +68,16 @@ bool Set(Character& character, int value)
     return true;
 }
 
+bool SetWidth(Character& character, int width)
+{
+    return character.bitmap->SetSize(width, character.info.Rows());
+}
+
+bool SetHeight(Character& character, int height)
+{
+    return character.bitmap->SetSize(character.info.width, height);
+}
+
 constexpr bool NotForLegacy = true;
 
 constexpr Edit OfCharacter(ActionType type, QLatin1StringView keyword, QLatin1StringView help,
@@ -236,6 +246,10 @@ constexpr std::array Edits = {
             "Sets the cursor distance of the character range to <value> px (0 to 255)."_L1,
             QT_TRANSLATE_NOOP("Engine", "Cursor distance set to %2."),
             Set<&CharInfo::cursorDistance>),
+    OfValue(ActionType::SetWidth, {}, {}, QT_TRANSLATE_NOOP("Engine", "Width set to %2."),
+            SetWidth),
+    OfValue(ActionType::SetHeight, {}, {}, QT_TRANSLATE_NOOP("Engine", "Height set to %2."),
+            SetHeight, NotForLegacy),
     OfFont(
         ActionType::FontInsertRowTop, "INSTOP"_L1, "Inserts a row at the top of the font."_L1,
         QT_TRANSLATE_NOOP("Engine", "[Font]: Inserted a row at the top of the font."),

@@ -67,7 +67,9 @@ enum class ActionType : int {
     SaveHeader = 69,
     SetXPos = 170,
     SetYPos = 171,
-    SetCursorDistance = 172
+    SetCursorDistance = 172,
+    SetWidth = 173,
+    SetHeight = 174
 };
 
 } // namespace Glyphor

@@ -142,7 +142,7 @@ private Q_SLOTS:
         refused("top too large", SetYPos, 128);
         for (const ActionType type : {SetXPos, SetYPos})
             row(QTest::addRow("legacy %d", int(type)), FontFormat::LegacyAA2, type, 1, QString(),
-                u"characters of legacy formats have no offset to set"_s);
+                u"characters of legacy formats have the font's height and no offsets"_s);
     }
 
     void ValuesAreSet()

@@ -23,8 +23,12 @@ public:
     // As its text, in the language of the window.
     [[nodiscard]] QString ShownText() const { return action_->Log().Translated(); }
 
+    // With the next undo it leaves the stack.
+    void LeaveWithUndo() { leavesWithUndo_ = true; }
+
 private:
     std::shared_ptr<Action> action_;
+    bool leavesWithUndo_ = false;
 };
 
 // The history of a font together with what of it can be undone and redone. Keeps the commands that
@@ -40,6 +44,10 @@ public:
     // What was undone is dropped.
     void Push(const std::shared_ptr<Action>& action) override;
     void Clear() override;
+
+    // Undoes the last action, which then never was.
+    void TakeBack();
+
     [[nodiscard]] bool IsAsSaved() const override { return isClean(); }
     void MarkSaved() override { setClean(); }
 

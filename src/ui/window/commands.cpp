@@ -12,6 +12,7 @@
 #include "ui/table/character_table.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
+#include "ui/window/info_panel.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/panes.h"
 
@@ -37,6 +38,7 @@ Commands::Commands(const WindowParts& parts, QWidget& window)
 void Commands::Run(quint32 id)
 {
     parts_.pencil.EndStroke();
+    parts_.panes.Info().TakeTyped();
     const auto type = ActionType(id);
     if (const Edit* const edit = EditOf(type))
         return parts_.edits.RunEdit(*edit);

@@ -65,7 +65,6 @@ void EditCommands::RunMacro(const QString& text, const std::function<void()>& wo
     Q_EMIT Done(text);
 }
 
-// What several actions have changed is told once, at their end.
 void EditCommands::RunTogether(const std::function<void()>& work)
 {
     {

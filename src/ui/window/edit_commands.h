@@ -48,6 +48,9 @@ public:
     // What undo and redo change is selected once they are done.
     void NoteChange(const Action* action);
 
+    // What the work changes is told once, at its end.
+    void RunTogether(const std::function<void()>& work);
+
     // True while there is more to come than what was changed.
     [[nodiscard]] bool IsAtWork() const { return isAtWork_; }
 
@@ -65,7 +68,6 @@ private:
     void RunPixelEdit(const Edit& edit);
     void RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make);
     void RunMacro(const QString& text, const std::function<void()>& work);
-    void RunTogether(const std::function<void()>& work);
     void MoveInHistory(bool isUndo);
 
     Session& session_;

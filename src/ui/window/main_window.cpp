@@ -19,7 +19,9 @@
 #include "ui/window/commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
+#include "ui/window/info_panel.h"
 #include "ui/window/menu_bar.h"
+#include "ui/window/metric_commands.h"
 #include "ui/window/tool_bar.h"
 
 #include <QAction>
@@ -62,6 +64,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       menus_(new MenuBar(this)),
       panes_(new Panes),
       edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
+      metrics_(new MetricCommands(session, history, *edits_)),
       pencil_(new PencilTool(session, history, panes_->Editor())),
       commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
                              *this)),
@@ -103,6 +106,7 @@ void MainWindow::ConnectCommands()
         UpdateTitle();
     });
     connect(document_, &Document::OpeningRequested, this, [this](const QString& path) {
+        panes_->Info().TakeTyped();
         if (!Progress().IsWorking())
             document_->OpenFile(path);
     });
@@ -133,6 +137,10 @@ void MainWindow::ConnectViews()
             [this](QPoint place) { menus_->Submenu(SubmenuId::PixelIndex)->exec(place); });
     connect(&editor, &CharBitmapView::InversionRequested, edits_, &EditCommands::InvertPixel);
     connect(pencil_, &PencilTool::StrokeEnded, this, &MainWindow::ShowChanges);
+    const InfoPanel& info = panes_->Info();
+    connect(&info, &InfoPanel::CharacterMetricSet, metrics_, &MetricCommands::SetOfCharacters);
+    connect(&info, &InfoPanel::FontMetricSet, metrics_, &MetricCommands::SetOfFont);
+    connect(&info, &InfoPanel::FontNameSet, metrics_, &MetricCommands::SetName);
 }
 
 void MainWindow::ConnectIndexer()
@@ -286,6 +294,7 @@ void MainWindow::OnProgbarClose()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    panes_->Info().TakeTyped();
     if (!document_->AskToSave()) {
         event->ignore();
         return;
@@ -302,6 +311,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
+    panes_->Info().TakeTyped();
     event->setAccepted(document_->Drop(LocalFileOf(*event->mimeData())));
 }
 

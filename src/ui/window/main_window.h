@@ -15,6 +15,7 @@ class Document;
 class EditCommands;
 class FontIndexer;
 class MenuBar;
+class MetricCommands;
 class PencilTool;
 class Session;
 class UndoStack;
@@ -82,6 +83,7 @@ private:
     MenuBar* menus_;
     Panes* panes_;
     EditCommands* edits_;
+    MetricCommands* metrics_;
     PencilTool* pencil_;
     Commands* commands_;
     StatusLine* status_;

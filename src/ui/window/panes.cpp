@@ -43,6 +43,8 @@ Panes::Panes()
         splitter->setChildrenCollapsible(false);
     }
     connect(table_, &CharacterTable::CurrentCodeChanged, this, &Panes::ShowCurrentCharacter);
+    connect(table_, &CharacterTable::CodesSelected, info_,
+            [this] { info_->ShowSelection(table_->SelectedCodes()); });
     connect(table_, &CharacterTable::EditRequested, this, [this] {
         editor_->setFocus();
         if (editor_->CurrentPixel() == nullptr)
@@ -58,7 +60,9 @@ std::array<QSplitter*, 2> Panes::SubSplitters() const
 void Panes::ShowFont(const Font* font)
 {
     font_ = font;
+    // They must not ask the font before.
     editor_->SetCharacter(nullptr, -1);
+    info_->ShowCode(nullptr, -1);
     table_->ShowFont(font);
     ShowCurrentCharacter();
     preview_->ShowFont(font);
@@ -76,7 +80,7 @@ void Panes::ShowCurrentCharacter()
     const int code = table_->CurrentCode();
     const bool hasCode = font_ != nullptr && code >= 0;
     editor_->SetCharacter(hasCode ? font_->FindChar(quint16(code)) : nullptr, code);
-    info_->ShowCode(font_, code);
+    info_->ShowCode(font_, code, table_->SelectedCodes());
 }
 
 void Panes::ShowHexadecimal(bool isOn)

@@ -1332,16 +1332,44 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>Vorschub auf %2 gesetzt.</translation>
     </message>
     <message>
-        <source>%1: characters of legacy formats have no offset to set</source>
-        <translation>%1: Zeichen von Legacy-Formaten haben keinen Versatz, der sich setzen ließe</translation>
-    </message>
-    <message>
         <source>Left edge set to %2.</source>
         <translation>Linker Rand auf %2 gesetzt.</translation>
     </message>
     <message>
         <source>Top row set to %2.</source>
         <translation>Oberste Zeile auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Height set to %1.</source>
+        <translation>[Font]: Höhe auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Baseline set to %1.</source>
+        <translation>[Font]: Grundlinie auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Height of lowercase characters set to %1.</source>
+        <translation>[Font]: Höhe der Kleinbuchstaben auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Height of capital characters set to %1.</source>
+        <translation>[Font]: Höhe der Großbuchstaben auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Name set to %1.</source>
+        <translation>[Font]: Name auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>%1: characters of legacy formats have the font&apos;s height and no offsets</source>
+        <translation>%1: Zeichen von Legacy-Formaten haben die Höhe der Schrift und keinen Versatz</translation>
+    </message>
+    <message>
+        <source>Width set to %2.</source>
+        <translation>Breite auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Height set to %2.</source>
+        <translation>Höhe auf %2 gesetzt.</translation>
     </message>
 </context>
 <context>
@@ -1950,14 +1978,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>Aktiv</translation>
     </message>
     <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Versatz</translation>
-    </message>
-    <message>
         <source>Cursor distance</source>
         <translation>Vorschub</translation>
     </message>
@@ -2010,10 +2030,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>Flash</translation>
     </message>
     <message>
-        <source>%1 px</source>
-        <translation>%1 px</translation>
-    </message>
-    <message>
         <source>Unicode</source>
         <translation>Unicode</translation>
     </message>
@@ -2042,12 +2058,76 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>nein</translation>
     </message>
     <message>
-        <source>%1 × %2 px</source>
-        <translation>%1 × %2 px</translation>
-    </message>
-    <message>
         <source>%1 B a line, %2 B in all</source>
         <translation>%1 B je Zeile, %2 B gesamt</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height of the character</source>
+        <translation>Höhe des Zeichens</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top row</source>
+        <translation>Oberste Zeile</translation>
+    </message>
+    <message>
+        <source>Height of the font</source>
+        <translation>Höhe der Schrift</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Character (%1 selected)</source>
+        <translation>Zeichen (%1 ausgewählt)</translation>
+    </message>
+    <message>
+        <source>In legacy formats characters have no offset.</source>
+        <translation>In Legacy-Formaten haben Zeichen keinen Versatz.</translation>
+    </message>
+    <message>
+        <source>Columns come and go at the right</source>
+        <translation>Spalten kommen und gehen rechts</translation>
+    </message>
+    <message>
+        <source>In legacy formats all characters have the height of the font.</source>
+        <translation>In Legacy-Formaten haben alle Zeichen die Höhe der Schrift.</translation>
+    </message>
+    <message>
+        <source>Rows come and go at the bottom</source>
+        <translation>Zeilen kommen und gehen unten</translation>
+    </message>
+    <message>
+        <source>From the cursor position</source>
+        <translation>Von der Cursorposition aus</translation>
+    </message>
+    <message>
+        <source>From the top of the font</source>
+        <translation>Vom oberen Rand der Schrift aus</translation>
+    </message>
+    <message>
+        <source>From one character to the next</source>
+        <translation>Von einem Zeichen zum nächsten</translation>
+    </message>
+    <message>
+        <source>In legacy formats the characters get or lose rows at the bottom.</source>
+        <translation>In Legacy-Formaten bekommen oder verlieren die Zeichen unten Zeilen.</translation>
+    </message>
+    <message>
+        <source>The distance between lines changes as much</source>
+        <translation>Der Zeilenabstand ändert sich ebenso</translation>
+    </message>
+    <message>
+        <source>Names the font in C files; XBF and SIF files are called by their own name</source>
+        <translation>Benennt die Schrift in C-Dateien; XBF- und SIF-Dateien heißen nach ihrem eigenen Namen</translation>
     </message>
 </context>
 <context>
@@ -2084,6 +2164,13 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Do not replace, keep old characters.</source>
         <translation>Nicht ersetzen, die alten Zeichen behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::NumberField</name>
+    <message>
+        <source>various</source>
+        <translation>verschieden</translation>
     </message>
 </context>
 <context>
