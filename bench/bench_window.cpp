@@ -3,6 +3,7 @@
 //
 // Usage: bench_window
 
+#include "actions/edit_actions.h"
 #include "actions/session.h"
 #include "files/font_file.h"
 #include "timing.h"
@@ -10,10 +11,12 @@
 #include "ui/support/undo_stack.h"
 #include "ui/support/value_fields.h"
 #include "ui/table/character_table.h"
+#include "ui/window/history_view.h"
 #include "ui/window/info_panel.h"
 #include "ui/window/main_window.h"
 #include "ui/window/menu_bar.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -89,6 +92,37 @@ void MeasureTable()
     SetCurrentInterface(nullptr);
 }
 
+void MeasureHistory()
+{
+    UndoStack history;
+    Session session(history);
+    MainWindow window(session, history);
+    SetCurrentInterface(&window);
+    window.show();
+    session.ReplaceFont(MakeFont(256, 16), QStringLiteral("edited.c"));
+    window.ActionChanged(nullptr);
+    constexpr int steps = 10000;
+    SetCurrentInterface(nullptr);
+    for (int step = 0; step < steps; ++step)
+        std::make_shared<ActionChar>(session, ActionType::ShiftLeft, quint16(step % 256))->Run();
+    SetCurrentInterface(&window);
+    std::printf("A history of 10,000 steps\n");
+    HistoryView& list = *window.findChild<HistoryView*>();
+    QAction* const shows = window.Menus().Command(WindowCommand::History);
+    Measure("opening the list", [&] {
+        if (shows->isChecked())
+            shows->trigger();
+        shows->trigger();
+    });
+    Measure("an edit with the list open",
+            [&] { window.Menus().Command(ActionType::ShiftLeft)->trigger(); });
+    Measure("moving to the beginning, or back", [&] {
+        const int state = history.index() == 0 ? history.count() : 0;
+        Q_EMIT list.StateRequested(state);
+    });
+    SetCurrentInterface(nullptr);
+}
+
 void MeasureEditor()
 {
     UndoStack history;
@@ -122,6 +156,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     MeasureTable();
+    MeasureHistory();
     MeasureEditor();
     return 0;
 }

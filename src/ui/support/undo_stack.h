@@ -65,8 +65,10 @@ public:
     void AddUndoCommand(QAction* command);
     void AddRedoCommand(QAction* command);
 
-private:
+    // What an action does, by its place from 0 on, in the language of the window; empty for none.
     [[nodiscard]] QString ShownText(int index) const;
+
+private:
     void UpdateCommands();
 
     bool hasUndone_ = false; // actions that a new one drops

@@ -99,6 +99,9 @@ void Commands::RunWindowCommand(quint32 id)
         return ShowManual();
     case WindowCommand::ExportProof:
         return parts_.document.ExportProof();
+    case WindowCommand::History:
+    case WindowCommand::KerningPairs:
+        return; // their panes follow
     }
 }
 

@@ -42,8 +42,11 @@ public:
     // Inverts a pixel by no action, so the history does not know of it.
     void InvertPixel(int column, int row);
 
-    void Undo() { MoveInHistory(true); }
-    void Redo() { MoveInHistory(false); }
+    void Undo();
+    void Redo();
+
+    // To the state in which so many of the actions are in force.
+    void MoveTo(int index);
 
     // What undo and redo change is selected once they are done.
     void NoteChange(const Action* action);
@@ -68,7 +71,7 @@ private:
     void RunPixelEdit(const Edit& edit);
     void RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make);
     void RunMacro(const QString& text, const std::function<void()>& work);
-    void MoveInHistory(bool isUndo);
+    void MoveInHistory(int index, const QString& told);
 
     Session& session_;
     UndoStack& history_;

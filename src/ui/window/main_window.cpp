@@ -19,6 +19,7 @@
 #include "ui/window/commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
+#include "ui/window/history_view.h"
 #include "ui/window/info_panel.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/metric_commands.h"
@@ -28,6 +29,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDataStream>
+#include <QDockWidget>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QIcon>
@@ -68,7 +70,8 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       pencil_(new PencilTool(session, history, panes_->Editor())),
       commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
                              *this)),
-      status_(new StatusLine)
+      status_(new StatusLine),
+      historyView_(new HistoryView(history))
 {
     InitResources();
     setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
@@ -78,6 +81,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
     setCentralWidget(panes_);
     setStatusBar(status_);
     setMinimumSize(640, 420);
+    AddPanes();
     ConnectCommands();
     ConnectViews();
     ConnectIndexer();
@@ -91,6 +95,35 @@ MainWindow::~MainWindow()
     delete commands_;
     for (QObject* const sender : std::initializer_list<QObject*>{&history_, panes_, pencil_})
         disconnect(sender, nullptr, this, nullptr);
+}
+
+void MainWindow::AddPanes()
+{
+    AddPane(u"history"_s, tr("History"), *historyView_, WindowCommand::History);
+    connect(historyView_, &HistoryView::StateRequested, this, [this](int index) {
+        if (Progress().IsWorking())
+            return;
+        pencil_->EndStroke();
+        edits_->MoveTo(index);
+    });
+}
+
+// A dock of its own, which a command of the menu shows and hides.
+void MainWindow::AddPane(const QString& name, const QString& title, QWidget& content,
+                         WindowCommand command)
+{
+    auto* const dock = new QDockWidget(title, this);
+    dock->setObjectName(name); // of its state
+    dock->setWidget(&content);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    QAction* const shows = menus_->Command(command);
+    connect(dock->toggleViewAction(), &QAction::toggled, shows, &QAction::setChecked);
+    connect(shows, &QAction::toggled, &resizeTimer_, qOverload<>(&QTimer::start));
+    connect(shows, &QAction::triggered, dock, [dock](bool isOn) {
+        dock->setVisible(isOn);
+        dock->raise();
+    });
 }
 
 void MainWindow::ConnectCommands()
@@ -231,6 +264,7 @@ void MainWindow::UpdateTitle()
         session_.Path().isEmpty() ? tr("No font") : QFileInfo(session_.Path()).fileName();
     setWindowTitle(u"%1[*] – %2"_s.arg(TitlePart(name), QString(Program::Name)));
     setWindowModified(session_.IsModified());
+    historyView_->SetHasFile(document_->HasOwnFile());
     commands_->EnablePossible();
 }
 

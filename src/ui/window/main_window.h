@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/dialogs/gui_interface.h"
+#include "ui/window/menu_table.h"
 #include "ui/window/panes.h"
 #include "ui/window/progress_area.h"
 #include "ui/window/status_line.h"
@@ -14,6 +15,7 @@ class Commands;
 class Document;
 class EditCommands;
 class FontIndexer;
+class HistoryView;
 class MenuBar;
 class MetricCommands;
 class PencilTool;
@@ -56,7 +58,11 @@ private:
     Q_SLOT void OnActionTriggered(quint32 id);
     Q_SLOT void OnSplitterMoved(int, int) { resizeTimer_.start(); }
     Q_SLOT void OnSplitterSubMoved(int, int) { resizeTimer_.start(); }
-    Q_SLOT void OnTimerResize() { KeepState(); }
+    Q_SLOT void OnTimerResize()
+    {
+        if (isVisible()) // else its panes are not
+            KeepState();
+    }
     Q_SLOT void OnProgbarInitCnt(const char* text, int, int maximum)
     {
         Progress().BeginWork(QString::fromUtf8(text), maximum);
@@ -66,6 +72,9 @@ private:
     Q_SLOT void OnDatabaseFileDone(int done) { Progress().SetBackground(done); }
     Q_SLOT void OnDatabaseThreadFinished() { Progress().EndBackground(); }
 
+    void AddPanes();
+    void AddPane(const QString& name, const QString& title, QWidget& content,
+                 WindowCommand command);
     void ConnectCommands();
     void ConnectViews();
     void ConnectIndexer();
@@ -87,6 +96,7 @@ private:
     PencilTool* pencil_;
     Commands* commands_;
     StatusLine* status_;
+    HistoryView* historyView_;
     QTimer resizeTimer_;
     const void* shownFont_ = nullptr;
 };

@@ -34,6 +34,14 @@ constexpr MenuRow Toggle(const char* text, const char* statusTip, Command comman
     return row;
 }
 
+// Of a pane, which is hidden at the start.
+constexpr MenuRow Pane(const char* text, const char* statusTip, WindowCommand command)
+{
+    MenuRow row = Entry(text, nullptr, statusTip, command, StartsEnabled);
+    row.checkable = 1;
+    return row;
+}
+
 template <std::size_t Count>
 constexpr MenuRow Submenu(const char* text, const MenuRow (&rows)[Count],
                           SubmenuId id = SubmenuId::None)
@@ -230,6 +238,9 @@ public:
                WindowCommand::AllCharacters),
         Entry(QT_TR_NOOP("&Go to character..."), "Ctrl+G",
               QT_TR_NOOP("Selects and jumps to a desired character"), WindowCommand::GoToCharacter),
+        Separator,
+        Pane(QT_TR_NOOP("&History"), QT_TR_NOOP("Show the steps that can be undone and redone"),
+             WindowCommand::History),
     };
 
     static constexpr MenuRow ToolRows[] = {

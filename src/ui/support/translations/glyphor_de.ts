@@ -1593,6 +1593,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <source>Selection: %1</source>
         <translation>Auswahl: %1</translation>
     </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Schritte rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Steps redone: %1</source>
+        <translation>Schritte wiederholt: %1</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::EnableRangeDialog</name>
@@ -1952,6 +1960,24 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::HistoryModel</name>
+    <message>
+        <source>Beginning</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::HistoryView</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::InfoPanel</name>
     <message>
         <source>Information</source>
@@ -2143,6 +2169,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Installed fonts</source>
         <translation>Installierte Schriften</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
     </message>
 </context>
 <context>
@@ -3080,6 +3110,14 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Write pictures of the font into a PNG or PDF file</source>
         <translation>Bilder der Schrift in eine PNG- oder PDF-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
+    </message>
+    <message>
+        <source>Show the steps that can be undone and redone</source>
+        <translation>Die Schritte zeigen, die sich rückgängig machen und wiederholen lassen</translation>
     </message>
 </context>
 <context>
