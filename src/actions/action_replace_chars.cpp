@@ -1,5 +1,7 @@
 #include "actions/action_replace_chars.h"
 
+#include "actions/session.h"
+
 namespace Glyphor {
 
 ActionReplaceChars::ActionReplaceChars(Session& session, const char* text,
@@ -40,7 +42,20 @@ bool ActionReplaceChars::Execute()
             enabled.Set(code, swap_.Find(code) != nullptr);
     }
     swap_.SetEnabledCodes(enabled);
+    swap_.SetHasKerning(font->HasKerning() || swap_.HasKerning());
+    if (swap_.ChangesKerning(*font))
+        kerningState_ = CurrentSession().NewKerningState();
     return !swap_.IsEmpty();
+}
+
+void ActionReplaceChars::RedoOnce()
+{
+    swap_.SwapWith(*CurrentFont());
+    if (!kerningState_)
+        return;
+    const int before = CurrentSession().KerningState();
+    CurrentSession().SetKerningState(*kerningState_);
+    kerningState_ = before;
 }
 
 LogEntry ActionReplaceChars::Log() const

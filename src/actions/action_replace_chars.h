@@ -23,8 +23,8 @@ public:
 
     // False where nothing would change.
     bool Execute() override;
-    void UndoOnce() override { swap_.SwapWith(*CurrentFont()); }
-    void RedoOnce() override { swap_.SwapWith(*CurrentFont()); }
+    void UndoOnce() override { RedoOnce(); }
+    void RedoOnce() override;
     [[nodiscard]] CodeSet AffectedCodes() const override { return swap_.Codes(); }
     [[nodiscard]] LogEntry Log() const override;
 
@@ -32,6 +32,7 @@ private:
     const char* text_;
     QStringList arguments_;
     CharacterSwap swap_;
+    std::optional<int> kerningState_; // of the session after the next undo or redo, if it changes
 };
 
 } // namespace Glyphor

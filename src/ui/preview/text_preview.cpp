@@ -161,8 +161,15 @@ TextPreview::TextPreview(QWidget* parent)
 
 void TextPreview::ShowFont(const Font* font)
 {
+    font_ = font;
     strip_->ShowFont(font);
     kerning_->setEnabled(font != nullptr && font->HasKerning());
+}
+
+void TextPreview::Refresh()
+{
+    strip_->Resized();
+    kerning_->setEnabled(font_ != nullptr && font_->HasKerning());
 }
 
 QByteArray TextPreview::State() const

@@ -56,7 +56,8 @@ void Commands::Run(quint32 id)
         parts_.document.SaveAs();
         return;
     case ActionType::SaveKerning:
-        return parts_.document.SaveKerning();
+        parts_.document.SaveKerning();
+        return;
     case ActionType::SavePattern:
         return parts_.document.SavePattern();
     case ActionType::ReadPattern:
@@ -171,7 +172,7 @@ void Commands::EnablePossible()
           ActionType::ReadPattern, ActionType::Enable, ActionType::Disable, ActionType::DisableAll})
         enable(action, hasFont);
     // A font that was rendered has no file of its own yet.
-    const bool isSaved = !parts_.session.IsModified() && parts_.document.HasOwnFile();
+    const bool isSaved = parts_.session.IsFontSaved() && parts_.document.HasOwnFile();
     enable(ActionType::SaveFont, hasFont && !isSaved);
     enable(ActionType::SaveKerning, hasFont && font->HasKerning());
     enable(WindowCommand::AllCharacters, hasFont);

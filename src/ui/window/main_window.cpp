@@ -21,6 +21,8 @@
 #include "ui/window/help.h"
 #include "ui/window/history_view.h"
 #include "ui/window/info_panel.h"
+#include "ui/window/kerning_commands.h"
+#include "ui/window/kerning_panel.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/metric_commands.h"
 #include "ui/window/tool_bar.h"
@@ -71,7 +73,8 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
                              *this)),
       status_(new StatusLine),
-      historyView_(new HistoryView(history))
+      historyView_(new HistoryView(history)),
+      kerning_(new KerningPanel)
 {
     InitResources();
     setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
@@ -106,6 +109,11 @@ void MainWindow::AddPanes()
         pencil_->EndStroke();
         edits_->MoveTo(index);
     });
+    AddPane(u"kerning"_s, tr("Kerning"), *kerning_, WindowCommand::KerningPairs);
+    auto* const commands = new KerningCommands(session_, this);
+    connect(kerning_, &KerningPanel::PairSet, commands, &KerningCommands::SetPair);
+    connect(kerning_, &KerningPanel::PairsRemoved, commands, &KerningCommands::RemovePairs);
+    connect(&Table(), &CharacterTable::CurrentCodeChanged, this, &MainWindow::ShowKerning);
 }
 
 // A dock of its own, which a command of the menu shows and hides.
@@ -244,6 +252,7 @@ void MainWindow::ShowFont()
     shownFont_ = font;
     panes_->ShowFont(font);
     pencil_->ShowFont(font);
+    ShowKerning();
     UpdateTitle();
 }
 
@@ -255,7 +264,13 @@ void MainWindow::ShowChanges()
     if (session_.CurrentFont() != shownFont_)
         return ShowFont();
     panes_->ShowChanges();
+    ShowKerning();
     UpdateTitle();
+}
+
+void MainWindow::ShowKerning()
+{
+    kerning_->ShowCode(session_.CurrentFont(), Table().CurrentCode());
 }
 
 void MainWindow::UpdateTitle()

@@ -16,6 +16,7 @@ class Document;
 class EditCommands;
 class FontIndexer;
 class HistoryView;
+class KerningPanel;
 class MenuBar;
 class MetricCommands;
 class PencilTool;
@@ -83,6 +84,7 @@ private:
 
     void ShowFont();
     void ShowChanges();
+    void ShowKerning();
     void UpdateTitle();
 
     Session& session_;
@@ -97,6 +99,7 @@ private:
     Commands* commands_;
     StatusLine* status_;
     HistoryView* historyView_;
+    KerningPanel* kerning_;
     QTimer resizeTimer_;
     const void* shownFont_ = nullptr;
 };

@@ -241,6 +241,9 @@ public:
         Separator,
         Pane(QT_TR_NOOP("&History"), QT_TR_NOOP("Show the steps that can be undone and redone"),
              WindowCommand::History),
+        Pane(QT_TR_NOOP("&Kerning pairs"),
+             QT_TR_NOOP("Show the kerning pairs of the current character"),
+             WindowCommand::KerningPairs),
     };
 
     static constexpr MenuRow ToolRows[] = {

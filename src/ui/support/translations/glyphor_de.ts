@@ -1371,6 +1371,14 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Height set to %2.</source>
         <translation>Höhe auf %2 gesetzt.</translation>
     </message>
+    <message>
+        <source>Kerning with 0x%2 set to %3.</source>
+        <translation>Kerning mit 0x%2 auf %3 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Kerning with %2 removed.</source>
+        <translation>Kerning mit %2 entfernt.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1577,6 +1585,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Export proof</source>
         <translation>Schriftprobe exportieren</translation>
+    </message>
+    <message>
+        <source>Save kerning table?</source>
+        <translation>Kerning-Tabelle speichern?</translation>
+    </message>
+    <message>
+        <source>Save the kerning table? Its changes are in no font file.</source>
+        <translation>Die Kerning-Tabelle speichern? Ihre Änderungen stehen in keiner Schriftdatei.</translation>
     </message>
 </context>
 <context>
@@ -2157,6 +2173,68 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::KerningModel</name>
+    <message>
+        <source>The character is not enabled, so the pair is not saved.</source>
+        <translation>Das Zeichen ist nicht aktiv, darum wird das Paar nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Next character</source>
+        <translation>Nächstes Zeichen</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::KerningPanel</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Kerning</source>
+        <translation>Kerning</translation>
+    </message>
+    <message>
+        <source>Font files hold no kerning: File &gt; Save kerning table... writes the pairs of all characters.</source>
+        <translation>Schriftdateien enthalten kein Kerning: Datei &gt; Kerning-Tabelle speichern... schreibt die Paare aller Zeichen.</translation>
+    </message>
+    <message>
+        <source>Kerning pairs</source>
+        <translation>Kerning-Paare</translation>
+    </message>
+    <message>
+        <source>A code (0x41, U+0041 or 65), or a character that is no digit</source>
+        <translation>Ein Code (0x41, U+0041 oder 65) oder ein Zeichen, das keine Ziffer ist</translation>
+    </message>
+    <message>
+        <source>Pixels; negative ones bring the characters closer together</source>
+        <translation>Pixel; negative rücken die Zeichen näher zusammen</translation>
+    </message>
+    <message>
+        <source>Next character</source>
+        <translation>Nächstes Zeichen</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Behind %1</source>
+        <translation>Hinter %1</translation>
+    </message>
+    <message>
+        <source>No character</source>
+        <translation>Kein Zeichen</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::MainWindow</name>
     <message>
         <source>Stopped.</source>
@@ -2173,6 +2251,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>History</source>
         <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Kerning</source>
+        <translation>Kerning</translation>
     </message>
 </context>
 <context>
@@ -3118,6 +3200,14 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Show the steps that can be undone and redone</source>
         <translation>Die Schritte zeigen, die sich rückgängig machen und wiederholen lassen</translation>
+    </message>
+    <message>
+        <source>&amp;Kerning pairs</source>
+        <translation>&amp;Kerning-Paare</translation>
+    </message>
+    <message>
+        <source>Show the kerning pairs of the current character</source>
+        <translation>Die Kerning-Paare des aktuellen Zeichens zeigen</translation>
     </message>
 </context>
 <context>
