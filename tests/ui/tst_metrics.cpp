@@ -2,6 +2,7 @@
 #include "support/test_main.h"
 #include "ui/support/value_fields.h"
 #include "ui/window/info_panel.h"
+#include "ui/window/progress_area.h"
 #include "ui/window_fixture.h"
 
 #include <QAccessible>
@@ -143,6 +144,22 @@ private Q_SLOTS:
         window_->Table().setFocus();
         QCOMPARE(int(CurrentFont().FindChar('A')->info.cursorDistance), 79);
         QCOMPARE(history_->count(), 3);
+    }
+
+    // Screen readers could set them.
+    void LongWorkRefusesValues()
+    {
+        OpenSample();
+        const QByteArray before = Test::Snapshot(CurrentFont());
+        window_->Progress().BeginWork(u"Work"_s, 10);
+        Field(ActionType::SetWidth).setValue(9);
+        Field(FontMetric::Height).setValue(9);
+        Panel().findChild<NameField*>()->NameSet(u"Other"_s);
+        QCOMPARE(Test::Snapshot(CurrentFont()), before);
+        QCOMPARE(CurrentFont().Name(), u"sample"_s);
+        window_->Progress().EndWork();
+        window_->ActionChanged(nullptr);
+        QCOMPARE(Field(ActionType::SetWidth).value(), 1);
     }
 
     void SpinningIsOneStep()

@@ -58,6 +58,16 @@ QString LocalFileOf(const QMimeData& data)
     return urls.isEmpty() ? QString() : FileNameOf(urls.constFirst());
 }
 
+// Screen readers set fields without input, so they would do so in the middle of long work too.
+template <typename Object, typename... Arguments>
+auto UnlessAtWork(const ProgressArea& progress, Object& object, void (Object::*slot)(Arguments...))
+{
+    return [&progress, &object, slot](Arguments... arguments) {
+        if (!progress.IsWorking())
+            (object.*slot)(arguments...);
+    };
+}
+
 } // namespace
 
 MainWindow::MainWindow(Session& session, UndoStack& history)
@@ -111,8 +121,10 @@ void MainWindow::AddPanes()
     });
     AddPane(u"kerning"_s, tr("Kerning"), *kerning_, WindowCommand::KerningPairs);
     auto* const commands = new KerningCommands(session_, this);
-    connect(kerning_, &KerningPanel::PairSet, commands, &KerningCommands::SetPair);
-    connect(kerning_, &KerningPanel::PairsRemoved, commands, &KerningCommands::RemovePairs);
+    connect(kerning_, &KerningPanel::PairSet, commands,
+            UnlessAtWork(Progress(), *commands, &KerningCommands::SetPair));
+    connect(kerning_, &KerningPanel::PairsRemoved, commands,
+            UnlessAtWork(Progress(), *commands, &KerningCommands::RemovePairs));
     connect(&Table(), &CharacterTable::CurrentCodeChanged, this, &MainWindow::ShowKerning);
 }
 
@@ -179,9 +191,12 @@ void MainWindow::ConnectViews()
     connect(&editor, &CharBitmapView::InversionRequested, edits_, &EditCommands::InvertPixel);
     connect(pencil_, &PencilTool::StrokeEnded, this, &MainWindow::ShowChanges);
     const InfoPanel& info = panes_->Info();
-    connect(&info, &InfoPanel::CharacterMetricSet, metrics_, &MetricCommands::SetOfCharacters);
-    connect(&info, &InfoPanel::FontMetricSet, metrics_, &MetricCommands::SetOfFont);
-    connect(&info, &InfoPanel::FontNameSet, metrics_, &MetricCommands::SetName);
+    connect(&info, &InfoPanel::CharacterMetricSet, metrics_,
+            UnlessAtWork(Progress(), *metrics_, &MetricCommands::SetOfCharacters));
+    connect(&info, &InfoPanel::FontMetricSet, metrics_,
+            UnlessAtWork(Progress(), *metrics_, &MetricCommands::SetOfFont));
+    connect(&info, &InfoPanel::FontNameSet, metrics_,
+            UnlessAtWork(Progress(), *metrics_, &MetricCommands::SetName));
 }
 
 void MainWindow::ConnectIndexer()
