@@ -11,20 +11,14 @@ namespace Glyphor {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// Fields take the keys of undo and redo for what is typed. Where they have nothing to undo, those
-// are the window's.
-bool LeavesToWindow(QEvent& event, const QLineEdit& line)
+bool LeavesToWindow(const QEvent& event, const QLineEdit& line)
 {
     if (event.type() != QEvent::ShortcutOverride)
         return false;
-    const auto& key = static_cast<QKeyEvent&>(event);
+    const auto& key = static_cast<const QKeyEvent&>(event);
     return (key.matches(QKeySequence::Undo) && !line.isUndoAvailable()) ||
            (key.matches(QKeySequence::Redo) && !line.isRedoAvailable());
 }
-
-} // namespace
 
 NumberField::NumberField(QWidget* parent) : QSpinBox(parent)
 {

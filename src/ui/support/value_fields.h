@@ -7,6 +7,10 @@
 
 namespace Glyphor {
 
+// Fields take the keys of undo and redo for what is typed. True for such a key where there is
+// nothing of that: it is the window's then.
+[[nodiscard]] bool LeavesToWindow(const QEvent& event, const QLineEdit& line);
+
 // A number that stands for one or several things. It tells a new one when Return is pressed or the
 // field is left, and each one that it spins to. What was told already is the window's to undo.
 class NumberField final : public QSpinBox

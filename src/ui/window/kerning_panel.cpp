@@ -2,6 +2,7 @@
 
 #include "model/encoding.h"
 #include "ui/support/dialog_parts.h"
+#include "ui/support/value_fields.h"
 
 #include <QFormLayout>
 #include <QGuiApplication>
@@ -158,6 +159,7 @@ KerningPanel::KerningPanel(QWidget* parent)
     table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table_->verticalHeader()->hide();
     table_->installEventFilter(this);
+    next_->installEventFilter(this);
     next_->setToolTip(tr("A code (0x41, U+0041 or 65), or a character that is no digit"));
     distance_->setRange(MinDistance, MaxDistance);
     distance_->setValue(-1);
@@ -216,7 +218,7 @@ void KerningPanel::Add()
     if (!next)
         return;
     distance_->interpretText();
-    next_->clear();
+    next_->setText({}); // and nothing to undo in it
     next_->setFocus();
     Q_EMIT PairSet(quint16(code_), *next, distance_->value());
     if (const int row = model_->RowOf(*next); row >= 0)
@@ -234,6 +236,10 @@ void KerningPanel::RemoveSelected()
 
 bool KerningPanel::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == next_ && LeavesToWindow(*event, *next_)) {
+        event->ignore();
+        return true;
+    }
     if (watched != table_ || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const auto& key = static_cast<QKeyEvent&>(*event);
