@@ -3,15 +3,20 @@
 //
 // Usage: bench_window
 
+#include "actions/edit_actions.h"
 #include "actions/session.h"
 #include "files/font_file.h"
 #include "timing.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/undo_stack.h"
+#include "ui/support/value_fields.h"
 #include "ui/table/character_table.h"
+#include "ui/window/history_view.h"
+#include "ui/window/info_panel.h"
 #include "ui/window/main_window.h"
 #include "ui/window/menu_bar.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -82,6 +87,9 @@ void MeasureTable()
     QKeyEvent selectAll(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
     QCoreApplication::sendEvent(&table, &selectAll);
     Measure("an edit of them", [&] { run(ActionType::ShiftLeft); });
+    NumberField& distance = window.findChild<InfoPanel*>()->FieldOf(ActionType::SetCursorDistance);
+    int value = 0;
+    Measure("a metric of them", [&] { distance.setValue(++value); });
     Measure("undoing it", [&] { window.Menus().Command(WindowCommand::Undo)->trigger(); });
     std::printf("A font of 2,000 characters\n");
     session.ReplaceFont(MakeFont(1000, 16), QStringLiteral("part.c"));
@@ -131,6 +139,37 @@ void MeasureStroke(MainWindow& window)
     window.Menus().Command(EditorTool::Select)->trigger();
 }
 
+void MeasureHistory()
+{
+    UndoStack history;
+    Session session(history);
+    MainWindow window(session, history);
+    SetCurrentInterface(&window);
+    window.show();
+    session.ReplaceFont(MakeFont(256, 16), QStringLiteral("edited.c"));
+    window.ActionChanged(nullptr);
+    constexpr int steps = 10000;
+    SetCurrentInterface(nullptr);
+    for (int step = 0; step < steps; ++step)
+        std::make_shared<ActionChar>(session, ActionType::ShiftLeft, quint16(step % 256))->Run();
+    SetCurrentInterface(&window);
+    std::printf("A history of 10,000 steps\n");
+    HistoryView& list = *window.findChild<HistoryView*>();
+    QAction* const shows = window.Menus().Command(WindowCommand::History);
+    Measure("opening the list", [&] {
+        if (shows->isChecked())
+            shows->trigger();
+        shows->trigger();
+    });
+    Measure("an edit with the list open",
+            [&] { window.Menus().Command(ActionType::ShiftLeft)->trigger(); });
+    Measure("moving to the beginning, or back", [&] {
+        const int state = history.index() == 0 ? history.count() : 0;
+        Q_EMIT list.StateRequested(state);
+    });
+    SetCurrentInterface(nullptr);
+}
+
 void MeasureEditor()
 {
     UndoStack history;
@@ -165,6 +204,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     MeasureTable();
+    MeasureHistory();
     MeasureEditor();
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "actions/action_replace_chars.h"
 
-#include <algorithm>
+#include "actions/session.h"
 
 namespace Glyphor {
 
@@ -50,20 +50,10 @@ bool ActionReplaceChars::Execute()
     }
     enabled |= enabling_;
     swap_.SetEnabledCodes(enabled);
-    hasKerning_ = font->HasKerning() || std::ranges::any_of(swap_.Codes(), [this](quint16 code) {
-                      const Character* const character = swap_.Find(code);
-                      return character != nullptr && !character->kerning.empty();
-                  });
+    swap_.SetHasKerning(font->HasKerning() || swap_.HasKerning());
+    if (swap_.ChangesKerning(*font))
+        kerningState_ = CurrentSession().NewKerningState();
     return !swap_.IsEmpty() || enabled != font->EnabledCodes();
-}
-
-void ActionReplaceChars::Swap()
-{
-    Font& font = *CurrentFont();
-    swap_.SwapWith(font);
-    const bool hadKerning = font.HasKerning();
-    font.SetHasKerning(hasKerning_);
-    hasKerning_ = hadKerning;
 }
 
 CodeSet ActionReplaceChars::AffectedCodes() const
@@ -71,6 +61,16 @@ CodeSet ActionReplaceChars::AffectedCodes() const
     CodeSet codes = swap_.Codes();
     codes |= enabling_;
     return codes;
+}
+
+void ActionReplaceChars::RedoOnce()
+{
+    swap_.SwapWith(*CurrentFont());
+    if (!kerningState_)
+        return;
+    const int before = CurrentSession().KerningState();
+    CurrentSession().SetKerningState(*kerningState_);
+    kerningState_ = before;
 }
 
 LogEntry ActionReplaceChars::Log() const

@@ -26,19 +26,17 @@ public:
 
     // False where nothing would change.
     bool Execute() override;
-    void UndoOnce() override { Swap(); }
-    void RedoOnce() override { Swap(); }
+    void UndoOnce() override { RedoOnce(); }
+    void RedoOnce() override;
     [[nodiscard]] CodeSet AffectedCodes() const override;
     [[nodiscard]] LogEntry Log() const override;
 
 private:
-    void Swap();
-
     const char* text_;
     QStringList arguments_;
     CharacterSwap swap_;
     CodeSet enabling_;
-    bool hasKerning_ = false; // the font, on the other side of the swap
+    std::optional<int> kerningState_; // of the session after the next undo or redo, if it changes
 };
 
 } // namespace Glyphor

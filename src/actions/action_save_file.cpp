@@ -171,6 +171,8 @@ void ActionSaveFile::RedoOnce()
 {
     if (!IsKerning() && !IsHeader())
         CurrentSession().SetSaved(Args().path);
+    else if (IsKerning() && !IsBinaryKerningName(Args().path)) // those are empty
+        CurrentSession().SetKerningSaved();
 }
 
 LogEntry ActionSaveFile::Log() const

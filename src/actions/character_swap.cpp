@@ -1,5 +1,7 @@
 #include "actions/character_swap.h"
 
+#include <algorithm>
+
 namespace Glyphor {
 
 Character* CharacterSwap::Find(quint16 code) const
@@ -27,6 +29,24 @@ void CharacterSwap::DropEqual(const Font& font)
     });
 }
 
+bool CharacterSwap::ChangesKerning(const Font& font) const
+{
+    return std::ranges::any_of(characters_, [&font](const auto& entry) {
+        const Character* const own = font.FindChar(entry.first);
+        const Character* const other = entry.second.get();
+        const bool hadPairs = own != nullptr && !own->kerning.empty();
+        const bool hasPairs = other != nullptr && !other->kerning.empty();
+        return hadPairs != hasPairs || (hadPairs && own->kerning != other->kerning);
+    });
+}
+
+bool CharacterSwap::HasKerning() const
+{
+    return std::ranges::any_of(characters_, [](const auto& entry) {
+        return entry.second != nullptr && !entry.second->kerning.empty();
+    });
+}
+
 void CharacterSwap::SwapWith(Font& font)
 {
     for (auto& [code, character] : characters_) {
@@ -38,6 +58,11 @@ void CharacterSwap::SwapWith(Font& font)
     const CodeSet previous = font.EnabledCodes();
     font.SetEnabledCodes(enabled_);
     enabled_ = previous;
+    if (hasKerning_) {
+        const bool hadKerning = font.HasKerning();
+        font.SetHasKerning(*hasKerning_);
+        hasKerning_ = hadKerning;
+    }
 }
 
 } // namespace Glyphor

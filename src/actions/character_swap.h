@@ -5,6 +5,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace Glyphor {
 
@@ -21,6 +22,13 @@ public:
 
     void SetEnabledCodes(const CodeSet& codes) { enabled_ = codes; }
 
+    // Whether the font has kerning then; where nobody says so, it stays as it is.
+    void SetHasKerning(bool hasKerning) { hasKerning_ = hasKerning; }
+
+    // Whether the characters have other pairs than those of the font.
+    [[nodiscard]] bool ChangesKerning(const Font& font) const;
+    [[nodiscard]] bool HasKerning() const;
+
     [[nodiscard]] bool IsEmpty() const { return characters_.empty(); }
 
     // Null for codes that were not put, or as none.
@@ -36,6 +44,7 @@ public:
 private:
     std::map<quint16, std::unique_ptr<Character>> characters_;
     CodeSet enabled_;
+    std::optional<bool> hasKerning_;
 };
 
 } // namespace Glyphor

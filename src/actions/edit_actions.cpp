@@ -61,7 +61,14 @@ bool ActionChar::Execute()
         PrepareCopies();
     else if (edit.revert == nullptr)
         PrepareSwap(edit);
-    return stepsOfSwap_ > 0;
+    return stepsOfSwap_ > 0 && (edit.applyValue == nullptr || !swap_->IsEmpty());
+}
+
+// The others do nothing there that a file would hold.
+bool ActionChar::IsRefusedByFormat(const Edit& edit) const
+{
+    return edit.applyValue != nullptr && edit.notForLegacy &&
+           IsLegacyFormat(CurrentFont()->Metrics().format);
 }
 
 // Makes all steps one.
@@ -73,6 +80,8 @@ void ActionChar::PrepareSwap(const Edit& edit)
     const Font& font = *CurrentFont();
     swap_ = std::make_unique<CharacterSwap>();
     swap_->SetEnabledCodes(font.EnabledCodes());
+    if (IsRefusedByFormat(edit))
+        return;
     ForEachChar([&](quint16 code, const Character& character) {
         std::unique_ptr<Character> copy = CopyOf(character, font.Metrics());
         for (int step = 0; step < stepsOfSwap_; ++step) {
@@ -182,9 +191,13 @@ QString ActionChar::Shortfall() const
     const int count = CharCount();
     if (count == 0)
         return Engine::tr("%1: the font has no character there").arg(range);
+    const Edit* const edit = EditOf(Type());
+    if (edit != nullptr && IsRefusedByFormat(*edit))
+        return Engine::tr("%1: characters of legacy formats have the font's height and no offsets")
+            .arg(range);
     if (refused_.isEmpty())
         return {};
-    if (EditOf(Type())->applyValue != nullptr)
+    if (edit != nullptr && edit->applyValue != nullptr)
         return Engine::tr("%1: %2 does not fit, so it was left out on %3 of %4 characters")
             .arg(range, QString::number(Args().value), QString::number(refused_.size()),
                  QString::number(count));

@@ -46,6 +46,7 @@ public:
 
 private:
     [[nodiscard]] int CharCount() const;
+    [[nodiscard]] bool IsRefusedByFormat(const Edit& edit) const;
     void PrepareSwap(const Edit& edit);
     void PrepareCopies();
 

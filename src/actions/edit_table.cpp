@@ -69,6 +69,16 @@ bool Set(Character& character, int value)
     return true;
 }
 
+bool SetWidth(Character& character, int width)
+{
+    return character.bitmap->SetSize(width, character.info.Rows());
+}
+
+bool SetHeight(Character& character, int height)
+{
+    return character.bitmap->SetSize(character.info.width, height);
+}
+
 constexpr bool NotForLegacy = true;
 
 constexpr Edit OfCharacter(ActionType type, QLatin1StringView keyword, QLatin1StringView help,
@@ -86,13 +96,15 @@ constexpr Edit OfCharacter(ActionType type, QLatin1StringView keyword, QLatin1St
             .revert = revert};
 }
 
-constexpr Edit OfValue(ActionType type, const char* log, bool (*apply)(Character&, int))
+constexpr Edit OfValue(ActionType type, QLatin1StringView keyword, QLatin1StringView help,
+                       const char* log, bool (*apply)(Character&, int), bool notForLegacy = false)
 {
     return {.type = type,
             .target = EditTarget::Character,
-            .keyword = {},
-            .help = {},
+            .keyword = keyword,
+            .help = help,
             .log = log,
+            .notForLegacy = notForLegacy,
             .applyValue = apply};
 }
 
@@ -237,9 +249,21 @@ constexpr auto Edits = std::to_array<Edit>({
                 "Decrements the cursor distance for the given range <value> times."_L1,
                 QT_TRANSLATE_NOOP("Engine", "Decreased cursor distance."),
                 Less<&CharInfo::cursorDistance>, More<&CharInfo::cursorDistance>),
-    OfValue(ActionType::SetCursorDistance,
+    OfValue(ActionType::SetXPos, "SETX"_L1,
+            "Sets the left edge of the character range to <value> px (-128 to 127)."_L1,
+            QT_TRANSLATE_NOOP("Engine", "Left edge set to %2."), Set<&CharInfo::xPos>,
+            NotForLegacy),
+    OfValue(ActionType::SetYPos, "SETY"_L1,
+            "Sets the top row of the character range to <value> px (-128 to 127)."_L1,
+            QT_TRANSLATE_NOOP("Engine", "Top row set to %2."), Set<&CharInfo::yPos>, NotForLegacy),
+    OfValue(ActionType::SetCursorDistance, "SETADV"_L1,
+            "Sets the cursor distance of the character range to <value> px (0 to 255)."_L1,
             QT_TRANSLATE_NOOP("Engine", "Cursor distance set to %2."),
             Set<&CharInfo::cursorDistance>),
+    OfValue(ActionType::SetWidth, {}, {}, QT_TRANSLATE_NOOP("Engine", "Width set to %2."),
+            SetWidth),
+    OfValue(ActionType::SetHeight, {}, {}, QT_TRANSLATE_NOOP("Engine", "Height set to %2."),
+            SetHeight, NotForLegacy),
     OfFont(
         ActionType::FontInsertRowTop, "INSTOP"_L1, "Inserts a row at the top of the font."_L1,
         QT_TRANSLATE_NOOP("Engine", "[Font]: Inserted a row at the top of the font."),

@@ -31,7 +31,8 @@ struct Edit
     bool (*apply)(Character&) = nullptr;  // of a character
     bool (*revert)(Character&) = nullptr; // null: undo puts back what was there
 
-    // In the place of both: once, with a value that counts no steps.
+    // In the place of both: once, with a value that counts no steps and may be negative. Characters
+    // of legacy formats are not asked where the edit is not for them.
     bool (*applyValue)(Character&, int value) = nullptr;
 
     // Nothing is edited: characters go to other codes, of which the value is the first one's.

@@ -8,6 +8,8 @@ void Session::ReplaceFont(std::unique_ptr<Font> font, const QString& path)
     font_ = std::move(font);
     path_ = path;
     isChanged_ = false;
+    kerningState_ = 0;
+    savedKerningState_ = 0;
 }
 
 void Session::SetSaved(const QString& path)

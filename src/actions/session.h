@@ -27,8 +27,17 @@ public:
     // As the user gave it.
     [[nodiscard]] const QString& Path() const { return path_; }
 
-    // True where the font has changes that are not in its file.
-    [[nodiscard]] bool IsModified() const { return isChanged_ || !stack_.IsAsSaved(); }
+    // True where the font has changes that are not in its file, or kerning that is in none.
+    [[nodiscard]] bool IsModified() const { return !IsFontSaved() || HasUnsavedKerning(); }
+    [[nodiscard]] bool IsFontSaved() const { return !isChanged_ && stack_.IsAsSaved(); }
+
+    // Font files hold no kerning, so its changes stay unsaved until a kerning file has them. Each
+    // change leads to a state with a number of its own, and undo back to the one before.
+    [[nodiscard]] int KerningState() const { return kerningState_; }
+    [[nodiscard]] int NewKerningState() { return ++lastKerningState_; }
+    void SetKerningState(int state) { kerningState_ = state; }
+    [[nodiscard]] bool HasUnsavedKerning() const { return kerningState_ != savedKerningState_; }
+    void SetKerningSaved() { savedKerningState_ = kerningState_; }
 
     // The font has a change that its history does not tell of.
     void MarkChanged() { isChanged_ = true; }
@@ -46,6 +55,9 @@ private:
     ActionStack ownStack_;
     ActionStack& stack_;
     bool isChanged_ = false;
+    int kerningState_ = 0;
+    int savedKerningState_ = 0;
+    int lastKerningState_ = 0;
 };
 
 } // namespace Glyphor

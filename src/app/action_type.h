@@ -70,7 +70,11 @@ enum class ActionType : int {
     RotateRight = 142,
     RotateLeft = 143,
     CopyTo = 144,
-    SetCursorDistance = 172
+    SetXPos = 170,
+    SetYPos = 171,
+    SetCursorDistance = 172,
+    SetWidth = 173,
+    SetHeight = 174
 };
 
 } // namespace Glyphor

@@ -19,7 +19,10 @@ std::vector<ParameterKeywordTable::Entry> KeywordsOf(EditTarget target)
     std::vector<ParameterKeywordTable::Entry> entries;
     for (const Edit& edit : EditTable()) {
         if (edit.target == target && !edit.keyword.isEmpty())
-            entries.push_back({edit.keyword, edit.help, static_cast<int>(edit.type)});
+            entries.push_back({.keyword = edit.keyword,
+                               .description = edit.help,
+                               .value = static_cast<int>(edit.type),
+                               .needsValue = NeedsValue(edit)});
     }
     return entries;
 }

@@ -82,6 +82,9 @@ public:
         QString description;
         int value;
         bool hidden = false;
+
+        // The number behind it, if any: how often, which may be left out, or a value.
+        bool needsValue = false;
     };
 
     explicit ParameterKeywordTable(std::vector<Entry> entries) : entries_(std::move(entries)) {}

@@ -176,9 +176,26 @@ private:
     std::vector<ParameterValue> ReadValues(const CommandLineOption& option)
     {
         std::vector<ParameterValue> values;
-        for (const CommandLineParameter& parameter : option.parameters)
+        bool needsValue = false;
+        for (CommandLineParameter parameter : option.parameters) {
+            if (needsValue && parameter.kind == ParameterKind::Number) {
+                parameter.kind = ParameterKind::SignedNumber;
+                parameter.required = true;
+            }
             values.push_back(ReadValue(parameter));
+            needsValue = needsValue || NeedsValue(parameter, values.back());
+        }
         return values;
+    }
+
+    // True for a keyword that the number behind it belongs to.
+    static bool NeedsValue(const CommandLineParameter& parameter, const ParameterValue& value)
+    {
+        const auto* const keyword = std::get_if<int>(&value);
+        return keyword != nullptr && parameter.keywords != nullptr &&
+               std::ranges::any_of(parameter.keywords->Entries(), [keyword](const auto& entry) {
+                   return entry.needsValue && entry.value == *keyword;
+               });
     }
 
     ParameterValue ReadValue(const CommandLineParameter& parameter)

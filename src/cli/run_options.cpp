@@ -47,15 +47,6 @@ void CheckCount(const OptionOccurrence& occurrence, std::size_t parameter)
                                          occurrence.option->longName, QString::number(MaxCount)));
 }
 
-void CheckCharEdit(const OptionOccurrence& occurrence)
-{
-    CheckCount(occurrence, 2);
-    const Edit& edit = *EditOf(static_cast<ActionType>(occurrence.Get<int>(0)));
-    if (NeedsValue(edit) && !std::holds_alternative<int>(occurrence.values[2]))
-        throw CriticalException(
-            Engine::tr("%1 of -editchar needs a value.").arg(QString(edit.keyword)));
-}
-
 // It becomes a part of identifiers.
 QString CheckedName(const QString& name)
 {
@@ -208,7 +199,8 @@ void ReadOption(const OptionOccurrence& occurrence, RunOptions& options)
         CheckCount(occurrence, 1);
         break;
     case OptionId::EditChar:
-        CheckCharEdit(occurrence);
+        if (EditOf(static_cast<ActionType>(occurrence.Get<int>(0)))->applyValue == nullptr)
+            CheckCount(occurrence, 2);
         break;
     case OptionId::Verbose:
         options.verbose = true;

@@ -125,6 +125,19 @@ bool CharBitmap::DeleteRowTop()
     return true;
 }
 
+bool CharBitmap::SetSize(int width, int height)
+{
+    const auto isSize = [](int pixels) { return pixels >= 1 && pixels <= CharInfo::MaxSize; };
+    const bool isHeightFixed = IsLegacyFormat(info_.font.format);
+    if ((width != info_.width && !isSize(width)) ||
+        (height != info_.Rows() && (isHeightFixed || !isSize(height))))
+        return false;
+    ResizePlanes({width, height, info_.font.bitsPerPixel});
+    info_.SetWidth(static_cast<quint8>(width));
+    info_.height = static_cast<quint8>(height);
+    return true;
+}
+
 bool CharBitmap::ReadData(std::span<const uchar> source)
 {
     const auto size = static_cast<std::size_t>(Layout().Size());

@@ -52,6 +52,10 @@ public:
     virtual bool DeleteRowTop();
     virtual bool DeleteRowBottom() { return DeleteRow(PixelPlane::DeleteRowBottom); }
 
+    // Cuts pixels at the right and at the bottom, or adds empty ones there. Each way a character
+    // has 1 to 255 pixels.
+    bool SetSize(int width, int height);
+
     // What undo calls: deleted pixels come back empty.
     virtual bool UndoInsertColumnRight() { return DeleteColumnRight(); }
     virtual bool UndoInsertColumnLeft() { return DeleteColumnLeft(); }
@@ -99,6 +103,8 @@ protected:
 
     // Applies an edit of rows or columns to the pixels, whose metrics are still those before it.
     virtual void EditPlanes(PlaneEdit edit) { edit(data_, Layout()); }
+
+    virtual void ResizePlanes(const PixelLayout& to) { PixelPlane::Resize(data_, Layout(), to); }
 
     // Of one plane, after the metrics.
     [[nodiscard]] PixelLayout Layout() const;

@@ -10,6 +10,12 @@ void CharBitmapFramed::EditPlanes(PlaneEdit edit)
     CharBitmap::EditPlanes(edit);
 }
 
+void CharBitmapFramed::ResizePlanes(const PixelLayout& to)
+{
+    PixelPlane::Resize(frame_, Layout(), to);
+    CharBitmap::ResizePlanes(to);
+}
+
 bool CharBitmapFramed::ReadData(std::span<const uchar> source)
 {
     const auto size = static_cast<std::size_t>(Layout().Size());

@@ -34,6 +34,7 @@ public:
 
 protected:
     void EditPlanes(PlaneEdit edit) override;
+    void ResizePlanes(const PixelLayout& to) override;
 
 private:
     void UpdateFrame();

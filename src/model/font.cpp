@@ -64,6 +64,18 @@ void Font::SetHeight(quint8 height)
     metrics_.verticalSpace = height;
 }
 
+void Font::ChangeHeight(quint8 height)
+{
+    metrics_.verticalSpace = static_cast<quint8>(metrics_.verticalSpace + height - metrics_.height);
+    metrics_.height = height;
+    if (!IsLegacyFormat(metrics_.format))
+        return;
+    ForEachChar([height](quint16, Character& character) {
+        character.info.height = height;
+        character.bitmap->AdjustData();
+    });
+}
+
 void Font::SetReferenceHeights(quint8 lowercase, quint8 capital)
 {
     metrics_.lowercaseHeight = lowercase;

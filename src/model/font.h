@@ -65,6 +65,11 @@ public:
 
     [[nodiscard]] const FontMetrics& Metrics() const { return metrics_; }
     void SetHeight(quint8 height); // and the line distance, which equals it
+
+    // The rows come and go at the bottom, in the characters of legacy formats too; the line
+    // distance changes as much.
+    void ChangeHeight(quint8 height);
+
     void SetBaseline(quint8 baseline) { metrics_.baseline = baseline; }
     void SetReferenceHeights(quint8 lowercase, quint8 capital);
     void SetMaxWidth(quint8 width) { metrics_.maxWidth = width; }

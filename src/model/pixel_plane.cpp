@@ -42,7 +42,7 @@ QByteArray Repacked(const QByteArray& bytes, const PixelLayout& from, const Pixe
 {
     QByteArray result(to.Size(), '\0');
     const int common = std::min(from.BytesPerLine(), to.BytesPerLine());
-    for (int y = 0; y < from.rows; ++y) {
+    for (int y = 0; y < std::min(from.rows, to.rows); ++y) {
         std::copy_n(bytes.constData() + y * from.BytesPerLine(), common,
                     result.data() + y * to.BytesPerLine());
     }
@@ -121,6 +121,12 @@ void DeleteRowTop(QByteArray& bytes, const PixelLayout& layout)
 void DeleteRowBottom(QByteArray& bytes, const PixelLayout& layout)
 {
     bytes.chop(layout.BytesPerLine());
+}
+
+void Resize(QByteArray& bytes, const PixelLayout& from, const PixelLayout& to)
+{
+    bytes = Repacked(bytes, from, to);
+    ClearPadding(bytes, to);
 }
 
 void ClearPadding(QByteArray& bytes, const PixelLayout& layout)

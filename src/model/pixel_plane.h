@@ -37,6 +37,9 @@ void DeleteColumnLeft(QByteArray& bytes, const PixelLayout& layout);
 void DeleteRowTop(QByteArray& bytes, const PixelLayout& layout);
 void DeleteRowBottom(QByteArray& bytes, const PixelLayout& layout);
 
+// Cuts what is beyond the other layout at the right and at the bottom, or adds empty pixels there.
+void Resize(QByteArray& bytes, const PixelLayout& from, const PixelLayout& to);
+
 // Sets the unused bits at the end of every row to 0.
 void ClearPadding(QByteArray& bytes, const PixelLayout& layout);
 

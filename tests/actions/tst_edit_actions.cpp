@@ -126,24 +126,44 @@ private Q_SLOTS:
                  (QStringList{u"[Char 0x0041]: Disabled."_s, u"[Char 0x0041]: Enabled."_s}));
     }
 
+    void ValuesAreSet_data()
+    {
+        // What is told, in the log or of what could not be done; nothing for no change.
+        const Test::Rows<FontFormat, ActionType, int, QString, QString> row;
+        using enum ActionType;
+        const auto refused = [&](const char* name, ActionType type, int value) {
+            row(name, FontFormat::AA2, type, value, QString(),
+                u"%1 does not fit, so it was left out on 2 of 2 characters"_s.arg(value));
+        };
+        row("distance", FontFormat::Framed, SetCursorDistance, 9, u"Cursor distance set to 9."_s,
+            QString());
+        row("left", FontFormat::AA2, SetXPos, -128, u"Left edge set to -128."_s, QString());
+        row("top", FontFormat::AA4, SetYPos, 127, u"Top row set to 127."_s, QString());
+        row("as it is", FontFormat::AA2, SetCursorDistance, 6, QString(), QString());
+        refused("distance too large", SetCursorDistance, 256);
+        refused("distance too small", SetCursorDistance, -1);
+        refused("left too small", SetXPos, -129);
+        refused("top too large", SetYPos, 128);
+        for (const ActionType type : {SetXPos, SetYPos})
+            row(QTest::addRow("legacy %d", int(type)), FontFormat::LegacyAA2, type, 1, QString(),
+                u"characters of legacy formats have the font's height and no offsets"_s);
+    }
+
     void ValuesAreSet()
     {
-        Test::UndoSession session(MakeFont(FontFormat::Framed));
+        const auto [format, type, value, log, shortfall] =
+            Test::Row<FontFormat, ActionType, int, QString, QString>();
+        Test::UndoSession session(MakeFont(format));
         Test::RecordingInterface interface;
         const QByteArray before = Test::Snapshot(*session.CurrentFont());
-        for (const int value : {9, 256}) {
-            const auto action =
-                std::make_shared<ActionChar>(session, ActionType::SetCursorDistance);
-            action->Args() = {'A', 'B', value};
-            QVERIFY(action->Run());
-        }
-        QCOMPARE(int(session.CurrentFont()->FindChar('B')->info.cursorDistance), 9);
-        QCOMPARE(session.Stack().LogLines(),
-                 QStringList(u"[Range 0x0041-0x0042]: Cursor distance set to 9."_s));
-        QCOMPARE(interface.shortfalls,
-                 QStringList(u"0x0041-0x0042: 256 does not fit, so it was left out on 2 of 2 "
-                             "characters"_s));
-        session.Stack().Undo();
+        const auto action = std::make_shared<ActionChar>(session, type);
+        action->Args() = {'A', 'B', value};
+        QCOMPARE(action->Run(), !log.isEmpty());
+        QCOMPARE(Test::Snapshot(*session.CurrentFont()) == before, log.isEmpty());
+        QCOMPARE(session.Stack().LogLines().join(u'\n'),
+                 log.isEmpty() ? QString() : u"[Range 0x0041-0x0042]: "_s + log);
+        QCOMPARE(interface.shortfalls.join(u'\n'),
+                 shortfall.isEmpty() ? QString() : u"0x0041-0x0042: "_s + shortfall);
         session.Stack().Undo();
         QCOMPARE(Test::Snapshot(*session.CurrentFont()), before);
         QVERIFY(!session.IsModified());

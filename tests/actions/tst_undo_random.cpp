@@ -1,3 +1,4 @@
+#include "actions/action_set_font_metrics.h"
 #include "actions/edit_actions.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
@@ -50,9 +51,9 @@ public:
             break;
         }
         case 5: {
-            const auto action =
-                std::make_shared<ActionChar>(session_, ActionType::SetCursorDistance);
-            action->Args() = {first, last, Number(0, 300)};
+            const int type = Number(int(ActionType::SetXPos), int(ActionType::SetHeight));
+            const auto action = std::make_shared<ActionChar>(session_, ActionType(type));
+            action->Args() = {first, last, Number(-150, 300)};
             action->Run();
             break;
         }
@@ -122,6 +123,11 @@ private:
 
     void EditFont()
     {
+        if (Number(0, 1) == 0) {
+            const auto metric = FontMetric(Number(0, int(FontMetric::CapitalHeight)));
+            std::make_shared<ActionSetFontMetrics>(session_, metric, Number(-1, 20))->Run();
+            return;
+        }
         const int lastType = isExact_ && IsLegacyFormat(format_) ? 27 : 29;
         const auto action =
             std::make_shared<ActionFont>(session_, ActionType(Number(26, lastType)));

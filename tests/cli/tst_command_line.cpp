@@ -176,7 +176,7 @@ private Q_SLOTS:
             return uses;
         };
         QCOMPARE(Test::FailureOf([&] { read(u"a.sif -editchar COPY 0x41 -save b.sif"_s); }),
-                 u"Critical error!: COPY of -editchar needs a value."_s);
+                 u"Critical error!: Read new argument -save where a parameter was expected!"_s);
         Session session;
         for (const auto& [value, code] : {std::pair(u"0xE000"_s, 0xE000), {u"0"_s, 0}}) {
             const auto uses = read(u"a.sif -editchar COPY 0x41 %1 -save b.sif"_s.arg(value));

@@ -45,6 +45,11 @@ private Q_SLOTS:
         row("-", "Invalid argument - entered!");
         row("-enable~1-2,", "Invalid argument -enable~1-2, entered!");
         row("-bold -B", "Argument -bold supplied more than once!");
+        row("a.c -ec SETX all", missing);
+        row("a.c -ec SETADV all -verbose",
+            "Read new argument -verbose where a parameter was expected!");
+        row("a.c -ec SETY all one", "Error while parsing number: one");
+        row("a.c -ec SHIFTR all -1", "Read new argument -1 where a parameter was expected!");
         row("-format XYZ", "Given parameter XYZ did not match constraint!");
         row("a.c -merge b.c REPLAC", "Given parameter REPLAC did not match constraint!");
         row("-face one", "Error while parsing number: one");
@@ -115,6 +120,11 @@ private Q_SLOTS:
         QCOMPARE(occurrences[7].Get<int>(1), 2);
         QVERIFY(std::holds_alternative<std::monostate>(occurrences[9].values[1]));
         QCOMPARE(occurrences[10].Id(), OptionId::Verbose);
+        const auto edits =
+            CommandLineParser().parse(Words(u"a.c -ec setx all -3 -ec CINC 65 -ec SETADV 65 0"_s));
+        QCOMPARE(edits[1].Get<int>(2), -3);
+        QVERIFY(std::holds_alternative<std::monostate>(edits[2].values[2]));
+        QCOMPARE(edits[3].Get<int>(2), 0);
     }
 
     void Usage()

@@ -56,6 +56,11 @@ private Q_SLOTS:
             u"Glyphor: warning: 1 of the 2 characters 0x0041-0x0042 are not in the font: 0x0042 "
             "(-e)\n"_s);
         row("edit", u"-hide @font.opt -chars A -ec DELR 0x41 500 -save a.c"_s, 2, QString());
+        row("value", u"-hide @font.opt -chars A -ec SETX 0x41 -2 -ec SETADV 0x41 0 -save a.c"_s, 0,
+            QString());
+        row("value beyond", u"-hide @font.opt -chars A -ec SETY 0x41 128 -save a.c"_s, 2,
+            u"Glyphor: warning: 0x0041: 128 does not fit, so it was left out on 1 of 1 characters "
+            "(-ec)\n"_s);
         row("no kerning", u"-hide @font.opt -chars A -kerning k.c"_s, 2, QString());
         row("lacks", u"-werror -hide @font.opt -text de.po -save a.c"_s, 1, euro);
         row("lacks kerning", u"-werror -hide @font.opt -chars A -save a.c -kerning k.c"_s, 1,

@@ -283,10 +283,10 @@ QString Document::ProposedName(const QString& suffix) const
     return WithoutRawBytes(QFileInfo(session_.Path()).completeBaseName(), u'_') + suffix;
 }
 
-void Document::SaveKerning()
+bool Document::SaveKerning()
 {
-    AskAndSave(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter(),
-               ActionType::SaveKerning);
+    return AskAndSave(tr("Save kerning file"), ProposedName(u"_Kerning.c"_s), KerningFileFilter(),
+                      ActionType::SaveKerning);
 }
 
 void Document::ExportProof()
@@ -376,12 +376,22 @@ void Document::FillRecentMenu(QMenu& menu)
 
 bool Document::AskToSave()
 {
-    if (!session_.IsModified())
-        return true;
+    if (!session_.IsFontSaved() &&
+        !AskTo(tr("Save file?"), tr("Save current file?"), [this] { return Save(); }))
+        return false;
+    return !session_.HasUnsavedKerning() ||
+           AskTo(tr("Save kerning table?"),
+                 tr("Save the kerning table? Its changes are in no font file."),
+                 [this] { return SaveKerning(); });
+}
+
+// False where the user gives up, or saving fails.
+bool Document::AskTo(const QString& title, const QString& text, const std::function<bool()>& save)
+{
     const auto answer =
-        ShowPlainBox(&window_, QMessageBox::Question, tr("Save file?"), tr("Save current file?"),
+        ShowPlainBox(&window_, QMessageBox::Question, title, text,
                      QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
-    return answer == QMessageBox::No || (answer == QMessageBox::Yes && Save());
+    return answer == QMessageBox::No || (answer == QMessageBox::Yes && save());
 }
 
 ActionType Document::PurposeOf(const QString& path)

@@ -29,7 +29,7 @@ public:
     void Merge();
     void OpenPattern();
     void SavePattern();
-    void SaveKerning();
+    bool SaveKerning();
     void ExportProof();
 
     // Opens a font, asking for what its kind needs. False where that failed or was given up.
@@ -69,6 +69,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] bool AskFont(ActionOpenFontArgs& args);
     [[nodiscard]] bool AskGeneration(ActionOpenFontArgs& args);
+    bool AskTo(const QString& title, const QString& text, const std::function<bool()>& save);
     bool AskAndSave(const QString& title, const QString& proposed, const QString& filter,
                     ActionType type);
     bool SaveTo(const QString& path, ActionType type, const std::optional<QString>& name = {});

@@ -162,6 +162,7 @@ TextPreview::TextPreview(QWidget* parent)
 
 void TextPreview::ShowFont(const Font* font)
 {
+    font_ = font;
     strip_->ShowFont(font);
     kerning_->setEnabled(font != nullptr && font->HasKerning());
 }
@@ -169,6 +170,12 @@ void TextPreview::ShowFont(const Font* font)
 QString TextPreview::Text() const
 {
     return field_->text();
+}
+
+void TextPreview::Refresh()
+{
+    strip_->Resized();
+    kerning_->setEnabled(font_ != nullptr && font_->HasKerning());
 }
 
 QByteArray TextPreview::State() const

@@ -66,7 +66,7 @@ public:
     explicit TextPreview(QWidget* parent = nullptr);
 
     void ShowFont(const Font* font);
-    void Refresh() { strip_->Resized(); }
+    void Refresh();
 
     // The sample and how it is shown, to be remembered. An unknown state changes nothing.
     [[nodiscard]] QByteArray State() const;
@@ -86,6 +86,7 @@ private:
     QLineEdit* field_;
     QSpinBox* zoom_;
     QCheckBox* kerning_;
+    const Font* font_ = nullptr;
     QToolButton* inkButton_;
     QToolButton* paperButton_;
     QColor ink_ = Qt::black;

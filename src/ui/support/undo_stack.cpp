@@ -34,6 +34,7 @@ UndoAction::UndoAction(std::shared_ptr<Action> action)
 void UndoAction::undo()
 {
     action_->Undo();
+    setObsolete(leavesWithUndo_);
 }
 
 void UndoAction::redo()
@@ -68,6 +69,16 @@ void UndoStack::Push(const std::shared_ptr<Action>& action)
         action->Redo();
     }
     Keep(action);
+}
+
+void UndoStack::TakeBack()
+{
+    // The stack hands out its commands as constant, but these are ours.
+    if (auto* const last = const_cast<UndoAction*>( // NOLINT(*-const-cast)
+            dynamic_cast<const UndoAction*>(command(index() - 1))))
+        last->LeaveWithUndo();
+    undo();
+    DropUndone();
 }
 
 void UndoStack::Clear()

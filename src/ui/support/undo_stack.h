@@ -23,8 +23,12 @@ public:
     // As its text, in the language of the window.
     [[nodiscard]] QString ShownText() const { return action_->Log().Translated(); }
 
+    // With the next undo it leaves the stack.
+    void LeaveWithUndo() { leavesWithUndo_ = true; }
+
 private:
     std::shared_ptr<Action> action_;
+    bool leavesWithUndo_ = false;
 };
 
 // The history of a font together with what of it can be undone and redone. Keeps the commands that
@@ -40,6 +44,10 @@ public:
     // What was undone is dropped.
     void Push(const std::shared_ptr<Action>& action) override;
     void Clear() override;
+
+    // Undoes the last action, which then never was.
+    void TakeBack();
+
     [[nodiscard]] bool IsAsSaved() const override { return isClean(); }
     void MarkSaved() override { setClean(); }
 
@@ -57,8 +65,10 @@ public:
     void AddUndoCommand(QAction* command);
     void AddRedoCommand(QAction* command);
 
-private:
+    // What an action does, by its place from 0 on, in the language of the window; empty for none.
     [[nodiscard]] QString ShownText(int index) const;
+
+private:
     void UpdateCommands();
 
     bool hasUndone_ = false; // actions that a new one drops

@@ -15,6 +15,7 @@
 #include "ui/window/clipboard_commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
+#include "ui/window/info_panel.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/panes.h"
 
@@ -68,6 +69,7 @@ void Commands::NoteFocus(const QWidget* widget)
 void Commands::Run(quint32 id)
 {
     parts_.tools.EndDrawing();
+    parts_.panes.Info().TakeTyped();
     const auto type = ActionType(id);
     if (const Edit* const edit = EditOf(type))
         return RunEdit(*edit);
@@ -85,7 +87,8 @@ void Commands::Run(quint32 id)
         parts_.document.SaveAs();
         return;
     case ActionType::SaveKerning:
-        return parts_.document.SaveKerning();
+        parts_.document.SaveKerning();
+        return;
     case ActionType::SavePattern:
         return parts_.document.SavePattern();
     case ActionType::ReadPattern:
@@ -187,6 +190,9 @@ void Commands::RunWindowCommand(quint32 id)
         return parts_.panes.ShowNeighbours(parts_.menus.Command(id)->isChecked());
     case WindowCommand::ShowOutline:
         return parts_.panes.ShowOutline(parts_.menus.Command(id)->isChecked());
+    case WindowCommand::History:
+    case WindowCommand::KerningPairs:
+        return; // their panes follow
     default:
         return;
     }
@@ -287,7 +293,7 @@ void Commands::EnablePossible()
           ActionType::ReadPattern, ActionType::Enable, ActionType::Disable, ActionType::DisableAll})
         enable(action, hasFont);
     // A font that was rendered has no file of its own yet.
-    const bool isSaved = !parts_.session.IsModified() && parts_.document.HasOwnFile();
+    const bool isSaved = parts_.session.IsFontSaved() && parts_.document.HasOwnFile();
     enable(ActionType::SaveFont, hasFont && !isSaved);
     enable(ActionType::SaveKerning, hasFont && font->HasKerning());
     for (const WindowCommand command :

@@ -68,7 +68,6 @@ void EditCommands::RunMacro(const QString& text, const std::function<void()>& wo
     Q_EMIT Done(text);
 }
 
-// What several actions have changed is told once, at their end.
 void EditCommands::RunTogether(const std::function<void()>& work)
 {
     {
@@ -84,16 +83,38 @@ void EditCommands::NoteChange(const Action* action)
         movedCodes_ |= action->AffectedCodes();
 }
 
-// Brings the view back to what changed.
-void EditCommands::MoveInHistory(bool isUndo)
+void EditCommands::Undo()
 {
-    const QString text = isUndo ? history_.ShownUndoText() : history_.ShownRedoText();
+    MoveInHistory(history_.index() - 1, tr("Undone: %1").arg(history_.ShownUndoText()));
+}
+
+void EditCommands::Redo()
+{
+    MoveInHistory(history_.index() + 1, tr("Redone: %1").arg(history_.ShownRedoText()));
+}
+
+void EditCommands::MoveTo(int index)
+{
+    const int steps = index - history_.index();
+    if (steps == -1)
+        Undo();
+    else if (steps == 1)
+        Redo();
+    else if (steps < 0)
+        MoveInHistory(index, tr("Steps undone: %1").arg(-steps));
+    else if (steps > 0)
+        MoveInHistory(index, tr("Steps redone: %1").arg(steps));
+}
+
+// Brings the view back to what changed.
+void EditCommands::MoveInHistory(int index, const QString& told)
+{
     movedCodes_ = {};
     {
         const QScopedValueRollback move(isMovingInHistory_, true);
-        RunTogether([&] { isUndo ? history_.undo() : history_.redo(); });
+        RunTogether([&] { history_.setIndex(index); });
     }
-    Q_EMIT Done((isUndo ? tr("Undone: %1") : tr("Redone: %1")).arg(text));
+    Q_EMIT Done(told);
     const int current = table_.CurrentCode();
     const int first = movedCodes_.Next(0);
     if (first < CodeSet::Limit && (current < 0 || !movedCodes_.Test(quint16(current))))

@@ -43,11 +43,17 @@ public:
     // Inverts a pixel by no action, so the history does not know of it.
     void InvertPixel(int column, int row);
 
-    void Undo() { MoveInHistory(true); }
-    void Redo() { MoveInHistory(false); }
+    void Undo();
+    void Redo();
+
+    // To the state in which so many of the actions are in force.
+    void MoveTo(int index);
 
     // What undo and redo change is selected once they are done.
     void NoteChange(const Action* action);
+
+    // What the work changes is told once, at its end.
+    void RunTogether(const std::function<void()>& work);
 
     // True while there is more to come than what was changed.
     [[nodiscard]] bool IsAtWork() const { return isAtWork_; }
@@ -68,8 +74,7 @@ private:
                     const MakeAction& make);
     void Duplicate();
     void RunMacro(const QString& text, const std::function<void()>& work);
-    void RunTogether(const std::function<void()>& work);
-    void MoveInHistory(bool isUndo);
+    void MoveInHistory(int index, const QString& told);
 
     Session& session_;
     UndoStack& history_;

@@ -21,13 +21,19 @@
 #include "ui/window/commands.h"
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
+#include "ui/window/history_view.h"
+#include "ui/window/info_panel.h"
+#include "ui/window/kerning_commands.h"
+#include "ui/window/kerning_panel.h"
 #include "ui/window/menu_bar.h"
+#include "ui/window/metric_commands.h"
 #include "ui/window/tool_bar.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDataStream>
+#include <QDockWidget>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QIcon>
@@ -54,6 +60,16 @@ QString LocalFileOf(const QMimeData& data)
     return urls.isEmpty() ? QString() : FileNameOf(urls.constFirst());
 }
 
+// Screen readers set fields without input, so they would do so in the middle of long work too.
+template <typename Object, typename... Arguments>
+auto UnlessAtWork(const ProgressArea& progress, Object& object, void (Object::*slot)(Arguments...))
+{
+    return [&progress, &object, slot](Arguments... arguments) {
+        if (!progress.IsWorking())
+            (object.*slot)(arguments...);
+    };
+}
+
 } // namespace
 
 MainWindow::MainWindow(Session& session, UndoStack& history)
@@ -68,10 +84,13 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       clipboard_(
           new ClipboardCommands(session, panes_->Table(), panes_->Editor(), *selection_, *edits_)),
       tools_(new DrawingTools(session, panes_->Editor())),
+      metrics_(new MetricCommands(session, history, *edits_)),
       commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *tools_,
                               *selection_, *clipboard_},
                              *this)),
-      status_(new StatusLine)
+      status_(new StatusLine),
+      historyView_(new HistoryView(history)),
+      kerning_(new KerningPanel)
 {
     InitResources();
     setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
@@ -81,6 +100,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
     setCentralWidget(panes_);
     setStatusBar(status_);
     setMinimumSize(640, 420);
+    AddPanes();
     ConnectCommands();
     ConnectViews();
     ConnectIndexer();
@@ -96,6 +116,42 @@ MainWindow::~MainWindow()
         disconnect(sender, nullptr, this, nullptr);
 }
 
+void MainWindow::AddPanes()
+{
+    AddPane(u"history"_s, tr("History"), *historyView_, WindowCommand::History);
+    connect(historyView_, &HistoryView::StateRequested, this, [this](int index) {
+        if (Progress().IsWorking())
+            return;
+        tools_->EndDrawing();
+        edits_->MoveTo(index);
+    });
+    AddPane(u"kerning"_s, tr("Kerning"), *kerning_, WindowCommand::KerningPairs);
+    auto* const commands = new KerningCommands(session_, this);
+    connect(kerning_, &KerningPanel::PairSet, commands,
+            UnlessAtWork(Progress(), *commands, &KerningCommands::SetPair));
+    connect(kerning_, &KerningPanel::PairsRemoved, commands,
+            UnlessAtWork(Progress(), *commands, &KerningCommands::RemovePairs));
+    connect(&Table(), &CharacterTable::CurrentCodeChanged, this, &MainWindow::ShowKerning);
+}
+
+// A dock of its own, which a command of the menu shows and hides.
+void MainWindow::AddPane(const QString& name, const QString& title, QWidget& content,
+                         WindowCommand command)
+{
+    auto* const dock = new QDockWidget(title, this);
+    dock->setObjectName(name); // of its state
+    dock->setWidget(&content);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    QAction* const shows = menus_->Command(command);
+    connect(dock->toggleViewAction(), &QAction::toggled, shows, &QAction::setChecked);
+    connect(shows, &QAction::toggled, &resizeTimer_, qOverload<>(&QTimer::start));
+    connect(shows, &QAction::triggered, dock, [dock](bool isOn) {
+        dock->setVisible(isOn);
+        dock->raise();
+    });
+}
+
 void MainWindow::ConnectCommands()
 {
     connect(menus_, &MenuBar::CommandTriggered, this, &MainWindow::OnActionTriggered);
@@ -109,6 +165,7 @@ void MainWindow::ConnectCommands()
         UpdateTitle();
     });
     connect(document_, &Document::OpeningRequested, this, [this](const QString& path) {
+        panes_->Info().TakeTyped();
         if (!Progress().IsWorking())
             document_->OpenFile(path);
     });
@@ -140,6 +197,13 @@ void MainWindow::ConnectViews()
     connect(selection_, &PixelSelection::Refused, status_, &StatusLine::Tell);
     connect(clipboard_, &ClipboardCommands::Done, status_, &StatusLine::Tell);
     connect(&editor, &CharBitmapView::InversionRequested, edits_, &EditCommands::InvertPixel);
+    const InfoPanel& info = panes_->Info();
+    connect(&info, &InfoPanel::CharacterMetricSet, metrics_,
+            UnlessAtWork(Progress(), *metrics_, &MetricCommands::SetOfCharacters));
+    connect(&info, &InfoPanel::FontMetricSet, metrics_,
+            UnlessAtWork(Progress(), *metrics_, &MetricCommands::SetOfFont));
+    connect(&info, &InfoPanel::FontNameSet, metrics_,
+            UnlessAtWork(Progress(), *metrics_, &MetricCommands::SetName));
 }
 
 void MainWindow::ConnectIndexer()
@@ -218,6 +282,7 @@ void MainWindow::ShowFont()
     shownFont_ = font;
     panes_->ShowFont(font);
     tools_->ShowFont(font);
+    ShowKerning();
     UpdateTitle();
 }
 
@@ -229,7 +294,13 @@ void MainWindow::ShowChanges()
     if (session_.CurrentFont() != shownFont_)
         return ShowFont();
     panes_->ShowChanges();
+    ShowKerning();
     UpdateTitle();
+}
+
+void MainWindow::ShowKerning()
+{
+    kerning_->ShowCode(session_.CurrentFont(), Table().CurrentCode());
 }
 
 void MainWindow::UpdateTitle()
@@ -238,6 +309,7 @@ void MainWindow::UpdateTitle()
         session_.Path().isEmpty() ? tr("No font") : QFileInfo(session_.Path()).fileName();
     setWindowTitle(u"%1[*] – %2"_s.arg(TitlePart(name), QString(Program::Name)));
     setWindowModified(session_.IsModified());
+    historyView_->SetHasFile(document_->HasOwnFile());
     commands_->EnablePossible();
 }
 
@@ -302,6 +374,7 @@ void MainWindow::OnProgbarClose()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    panes_->Info().TakeTyped();
     if (!document_->AskToSave()) {
         event->ignore();
         return;
@@ -318,6 +391,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
+    panes_->Info().TakeTyped();
     event->setAccepted(document_->Drop(LocalFileOf(*event->mimeData())));
 }
 

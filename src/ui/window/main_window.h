@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/dialogs/gui_interface.h"
+#include "ui/window/menu_table.h"
 #include "ui/window/panes.h"
 #include "ui/window/progress_area.h"
 #include "ui/window/status_line.h"
@@ -16,7 +17,10 @@ class Document;
 class DrawingTools;
 class EditCommands;
 class FontIndexer;
+class HistoryView;
+class KerningPanel;
 class MenuBar;
+class MetricCommands;
 class PixelSelection;
 class Session;
 class UndoStack;
@@ -57,7 +61,11 @@ private:
     Q_SLOT void OnActionTriggered(quint32 id);
     Q_SLOT void OnSplitterMoved(int, int) { resizeTimer_.start(); }
     Q_SLOT void OnSplitterSubMoved(int, int) { resizeTimer_.start(); }
-    Q_SLOT void OnTimerResize() { KeepState(); }
+    Q_SLOT void OnTimerResize()
+    {
+        if (isVisible()) // else its panes are not
+            KeepState();
+    }
     Q_SLOT void OnProgbarInitCnt(const char* text, int, int maximum)
     {
         Progress().BeginWork(QString::fromUtf8(text), maximum);
@@ -67,6 +75,9 @@ private:
     Q_SLOT void OnDatabaseFileDone(int done) { Progress().SetBackground(done); }
     Q_SLOT void OnDatabaseThreadFinished() { Progress().EndBackground(); }
 
+    void AddPanes();
+    void AddPane(const QString& name, const QString& title, QWidget& content,
+                 WindowCommand command);
     void ConnectCommands();
     void ConnectViews();
     void ConnectIndexer();
@@ -75,6 +86,7 @@ private:
 
     void ShowFont();
     void ShowChanges();
+    void ShowKerning();
     void UpdateTitle();
 
     Session& session_;
@@ -87,8 +99,11 @@ private:
     PixelSelection* selection_;
     ClipboardCommands* clipboard_;
     DrawingTools* tools_;
+    MetricCommands* metrics_;
     Commands* commands_;
     StatusLine* status_;
+    HistoryView* historyView_;
+    KerningPanel* kerning_;
     QTimer resizeTimer_;
     const void* shownFont_ = nullptr;
 };

@@ -46,6 +46,14 @@ constexpr MenuRow Choice(const char* text, const char* shortcut, const char* sta
     return row;
 }
 
+// Of a pane, which is hidden at the start.
+constexpr MenuRow Pane(const char* text, const char* statusTip, WindowCommand command)
+{
+    MenuRow row = Entry(text, nullptr, statusTip, command, StartsEnabled);
+    row.checkable = 1;
+    return row;
+}
+
 template <std::size_t Count>
 constexpr MenuRow Submenu(const char* text, const MenuRow (&rows)[Count],
                           SubmenuId id = SubmenuId::None)
@@ -329,6 +337,12 @@ public:
         Toggle(QT_TR_NOOP("Show o&utline"),
                QT_TR_NOOP("Show in the editor the outline that the character was rendered from"),
                WindowCommand::ShowOutline, 0),
+        Separator,
+        Pane(QT_TR_NOOP("&History"), QT_TR_NOOP("Show the steps that can be undone and redone"),
+             WindowCommand::History),
+        Pane(QT_TR_NOOP("&Kerning pairs"),
+             QT_TR_NOOP("Show the kerning pairs of the current character"),
+             WindowCommand::KerningPairs),
     };
 
     static constexpr MenuRow ToolRows[] = {

@@ -34,7 +34,9 @@ enum class WindowCommand : quint32 {
     Paste = 152,
     SelectAllPixels = 153,
     FillPixels = 154,
-    DeletePixels = 155
+    DeletePixels = 155,
+    History = 175,
+    KerningPairs = 176
 };
 
 // The number that commands have in the menus and their actions.

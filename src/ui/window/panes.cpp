@@ -47,6 +47,8 @@ Panes::Panes()
         if (showsNeighbours_)
             ShowCurrentCharacter();
     });
+    connect(table_, &CharacterTable::CodesSelected, info_,
+            [this] { info_->ShowSelection(table_->SelectedCodes()); });
     connect(table_, &CharacterTable::EditRequested, this, [this] {
         editor_->setFocus();
         if (editor_->CurrentPixel() == nullptr)
@@ -62,9 +64,11 @@ std::array<QSplitter*, 2> Panes::SubSplitters() const
 void Panes::ShowFont(const Font* font)
 {
     font_ = font;
+    // They must not ask the font before.
     editor_->SetCharacter(nullptr, -1);
     if (font != nullptr)
         editor_->SetZoom(0);
+    info_->ShowCode(nullptr, -1);
     table_->ShowFont(font);
     ShowCurrentCharacter();
     preview_->ShowFont(font);
@@ -86,7 +90,7 @@ void Panes::ShowCurrentCharacter()
                                     : std::vector<Neighbour>(),
         hasCode && showsOutline_ ? outlines_.PathOf(quint16(code)) : QPainterPath());
     editor_->SetCharacter(hasCode ? font_->FindChar(quint16(code)) : nullptr, code);
-    info_->ShowCode(font_, code);
+    info_->ShowCode(font_, code, table_->SelectedCodes());
 }
 
 void Panes::ShowNeighbours(bool isOn)

@@ -1400,10 +1400,6 @@ Erwartete Größe: %2 Byte.</translation>
         <translation>0x%1 bekäme den Code 0x%2, den die Kodierung der Schrift nicht hat.</translation>
     </message>
     <message>
-        <source>%1 of -editchar needs a value.</source>
-        <translation>%1 von -editchar braucht einen Wert.</translation>
-    </message>
-    <message>
         <source>Flipped pixels horizontally.</source>
         <translation>Pixel waagerecht gespiegelt.</translation>
     </message>
@@ -1438,6 +1434,54 @@ Erwartete Größe: %2 Byte.</translation>
     <message>
         <source>Moved pixels.</source>
         <translation>Pixel verschoben.</translation>
+    </message>
+    <message>
+        <source>[Font]: Height set to %1.</source>
+        <translation>[Font]: Höhe auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Baseline set to %1.</source>
+        <translation>[Font]: Grundlinie auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Height of lowercase characters set to %1.</source>
+        <translation>[Font]: Höhe der Kleinbuchstaben auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Height of capital characters set to %1.</source>
+        <translation>[Font]: Höhe der Großbuchstaben auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>[Font]: Name set to %1.</source>
+        <translation>[Font]: Name auf %1 gesetzt.</translation>
+    </message>
+    <message>
+        <source>%1: characters of legacy formats have the font&apos;s height and no offsets</source>
+        <translation>%1: Zeichen von Legacy-Formaten haben die Höhe der Schrift und keinen Versatz</translation>
+    </message>
+    <message>
+        <source>Left edge set to %2.</source>
+        <translation>Linker Rand auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Top row set to %2.</source>
+        <translation>Oberste Zeile auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Width set to %2.</source>
+        <translation>Breite auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Height set to %2.</source>
+        <translation>Höhe auf %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Kerning with 0x%2 set to %3.</source>
+        <translation>Kerning mit 0x%2 auf %3 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Kerning with %2 removed.</source>
+        <translation>Kerning mit %2 entfernt.</translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1745,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <source>Export proof</source>
         <translation>Schriftprobe exportieren</translation>
     </message>
+    <message>
+        <source>Save kerning table?</source>
+        <translation>Kerning-Tabelle speichern?</translation>
+    </message>
+    <message>
+        <source>Save the kerning table? Its changes are in no font file.</source>
+        <translation>Die Kerning-Tabelle speichern? Ihre Änderungen stehen in keiner Schriftdatei.</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::DuplicateDialog</name>
@@ -1750,6 +1802,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Selection: %1</source>
         <translation>Auswahl: %1</translation>
+    </message>
+    <message>
+        <source>Steps undone: %1</source>
+        <translation>Schritte rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Steps redone: %1</source>
+        <translation>Schritte wiederholt: %1</translation>
     </message>
 </context>
 <context>
@@ -2110,6 +2170,24 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::HistoryModel</name>
+    <message>
+        <source>Beginning</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::HistoryView</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::IndexPalette</name>
     <message>
         <source>Index to paint with</source>
@@ -2149,14 +2227,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Enabled</source>
         <translation>Aktiv</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Versatz</translation>
     </message>
     <message>
         <source>Cursor distance</source>
@@ -2211,10 +2281,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>Flash</translation>
     </message>
     <message>
-        <source>%1 px</source>
-        <translation>%1 px</translation>
-    </message>
-    <message>
         <source>Unicode</source>
         <translation>Unicode</translation>
     </message>
@@ -2243,12 +2309,138 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>nein</translation>
     </message>
     <message>
-        <source>%1 × %2 px</source>
-        <translation>%1 × %2 px</translation>
-    </message>
-    <message>
         <source>%1 B a line, %2 B in all</source>
         <translation>%1 B je Zeile, %2 B gesamt</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Height of the character</source>
+        <translation>Höhe des Zeichens</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top row</source>
+        <translation>Oberste Zeile</translation>
+    </message>
+    <message>
+        <source>Height of the font</source>
+        <translation>Höhe der Schrift</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Character (%1 selected)</source>
+        <translation>Zeichen (%1 ausgewählt)</translation>
+    </message>
+    <message>
+        <source>In legacy formats characters have no offset.</source>
+        <translation>In Legacy-Formaten haben Zeichen keinen Versatz.</translation>
+    </message>
+    <message>
+        <source>Columns come and go at the right</source>
+        <translation>Spalten kommen und gehen rechts</translation>
+    </message>
+    <message>
+        <source>In legacy formats all characters have the height of the font.</source>
+        <translation>In Legacy-Formaten haben alle Zeichen die Höhe der Schrift.</translation>
+    </message>
+    <message>
+        <source>Rows come and go at the bottom</source>
+        <translation>Zeilen kommen und gehen unten</translation>
+    </message>
+    <message>
+        <source>From the cursor position</source>
+        <translation>Von der Cursorposition aus</translation>
+    </message>
+    <message>
+        <source>From the top of the font</source>
+        <translation>Vom oberen Rand der Schrift aus</translation>
+    </message>
+    <message>
+        <source>From one character to the next</source>
+        <translation>Von einem Zeichen zum nächsten</translation>
+    </message>
+    <message>
+        <source>In legacy formats the characters get or lose rows at the bottom.</source>
+        <translation>In Legacy-Formaten bekommen oder verlieren die Zeichen unten Zeilen.</translation>
+    </message>
+    <message>
+        <source>The distance between lines changes as much</source>
+        <translation>Der Zeilenabstand ändert sich ebenso</translation>
+    </message>
+    <message>
+        <source>Names the font in C files; XBF and SIF files are called by their own name</source>
+        <translation>Benennt die Schrift in C-Dateien; XBF- und SIF-Dateien heißen nach ihrem eigenen Namen</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::KerningModel</name>
+    <message>
+        <source>The character is not enabled, so the pair is not saved.</source>
+        <translation>Das Zeichen ist nicht aktiv, darum wird das Paar nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Next character</source>
+        <translation>Nächstes Zeichen</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::KerningPanel</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Kerning</source>
+        <translation>Kerning</translation>
+    </message>
+    <message>
+        <source>Font files hold no kerning: File &gt; Save kerning table... writes the pairs of all characters.</source>
+        <translation>Schriftdateien enthalten kein Kerning: Datei &gt; Kerning-Tabelle speichern... schreibt die Paare aller Zeichen.</translation>
+    </message>
+    <message>
+        <source>Kerning pairs</source>
+        <translation>Kerning-Paare</translation>
+    </message>
+    <message>
+        <source>A code (0x41, U+0041 or 65), or a character that is no digit</source>
+        <translation>Ein Code (0x41, U+0041 oder 65) oder ein Zeichen, das keine Ziffer ist</translation>
+    </message>
+    <message>
+        <source>Pixels; negative ones bring the characters closer together</source>
+        <translation>Pixel; negative rücken die Zeichen näher zusammen</translation>
+    </message>
+    <message>
+        <source>Next character</source>
+        <translation>Nächstes Zeichen</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>Behind %1</source>
+        <translation>Hinter %1</translation>
+    </message>
+    <message>
+        <source>No character</source>
+        <translation>Kein Zeichen</translation>
     </message>
 </context>
 <context>
@@ -2264,6 +2456,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Installed fonts</source>
         <translation>Installierte Schriften</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Kerning</source>
+        <translation>Kerning</translation>
     </message>
 </context>
 <context>
@@ -2285,6 +2485,13 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Do not replace, keep old characters.</source>
         <translation>Nicht ersetzen, die alten Zeichen behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::NumberField</name>
+    <message>
+        <source>various</source>
+        <translation>verschieden</translation>
     </message>
 </context>
 <context>
@@ -3402,6 +3609,22 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Paste pixels or characters from the clipboard</source>
         <translation>Pixel oder Zeichen aus der Zwischenablage einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;Verlauf</translation>
+    </message>
+    <message>
+        <source>Show the steps that can be undone and redone</source>
+        <translation>Die Schritte zeigen, die sich rückgängig machen und wiederholen lassen</translation>
+    </message>
+    <message>
+        <source>&amp;Kerning pairs</source>
+        <translation>&amp;Kerning-Paare</translation>
+    </message>
+    <message>
+        <source>Show the kerning pairs of the current character</source>
+        <translation>Die Kerning-Paare des aktuellen Zeichens zeigen</translation>
     </message>
 </context>
 <context>
