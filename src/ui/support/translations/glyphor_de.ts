@@ -2469,7 +2469,7 @@ Was soll mit ihnen geschehen?</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -3024,7 +3024,7 @@ Was soll mit ihnen geschehen?</translation>
     </message>
     <message>
         <source>Paint pixels by clicking and dragging (Ctrl inverts them)</source>
-        <translation type="unfinished">Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
+        <translation>Pixel durch Klicken und Ziehen malen (Strg invertiert sie)</translation>
     </message>
     <message>
         <source>&amp;Eraser</source>
