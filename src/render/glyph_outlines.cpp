@@ -42,6 +42,15 @@ int CubicTo(const FT_Vector* first, const FT_Vector* second, const FT_Vector* to
     return 0;
 }
 
+// Far beyond what a character can be.
+bool IsHuge(FT_Outline* outline)
+{
+    constexpr FT_Pos limit = 2048 * 64;
+    FT_BBox box{};
+    FT_Outline_Get_CBox(outline, &box);
+    return box.xMin < -limit || box.yMin < -limit || box.xMax > limit || box.yMax > limit;
+}
+
 } // namespace
 
 GlyphOutlines::GlyphOutlines(const GlyphSource& source) : openFace_(source.Face().Opener())
@@ -61,8 +70,11 @@ std::vector<OutlineStep> GlyphOutlines::Of(quint16 code) const
     const FreeTypeFace face = openFace_(library);
     if (!face.LoadOutline(glyphs_.value(code)))
         return steps;
+    FT_Outline* const outline = &face.Handle()->glyph->outline;
+    if (IsHuge(outline))
+        return steps;
     const FT_Outline_Funcs functions = {MoveTo, LineTo, ConicTo, CubicTo, 0, 0};
-    if (FT_Outline_Decompose(&face.Handle()->glyph->outline, &functions, &steps) != 0)
+    if (FT_Outline_Decompose(outline, &functions, &steps) != 0)
         steps.clear();
     return steps;
 }

@@ -26,7 +26,7 @@ public:
     explicit GlyphOutlines(const GlyphSource& source);
 
     // In pixels to the right of the cursor position and down from the baseline. Nothing for a
-    // character that the source does not give, or gives as a bitmap.
+    // character that the source does not give, or gives as a bitmap, and for huge ones.
     [[nodiscard]] std::vector<OutlineStep> Of(quint16 code) const;
 
 private:

@@ -310,10 +310,12 @@ private Q_SLOTS:
         QVERIFY(outlines->Of(0xFFFF).empty());
     }
 
-    void BitmapsHaveNoOutline()
+    void BitmapsAndHugeGlyphsHaveNoOutline()
     {
-        FontFileTTF file(Test::FontPath("strike.ttf"), At(10));
-        QVERIFY(file.Outlines()->Of('A').empty());
+        for (const auto& [name, height] : {std::pair("strike.ttf", 10), {"damaged.ttf", 200}}) {
+            const auto outlines = FontFileTTF(Test::FontPath(name), At(height)).Outlines();
+            QVERIFY(outlines->Of('A').empty());
+        }
     }
 
     // However many threads render, and however they are scheduled.

@@ -335,6 +335,23 @@ private Q_SLOTS:
         QCOMPARE(editor.Zoom(), 0);
     }
 
+    // Not for the commands that have these as keys in the editor.
+    void MenusTakePlainKeys()
+    {
+        OpenSample(FontFormat::AA4);
+        CurrentFont().FindChar('B')->info.yPos = 0;
+        window_->Table().SelectCode('B');
+        CharBitmapView& editor = window_->Editor();
+        QVERIFY(editor.SelectItem(editor.CellItem(1, editor.Top())));
+        QAction* const view = window_->Menus().actions()[2];
+        window_->Menus().setFocus(Qt::MenuBarFocusReason); // as Alt and a letter do
+        view->menu()->popup(window_->pos());
+        QTest::keyClick(view->menu(), Qt::Key_U);
+        QVERIFY(window_->Menus().Command(EditorTool::Select)->isChecked());
+        QVERIFY(window_->Menus().Command(WindowCommand::ShowOutline)->isChecked());
+        Trigger(WindowCommand::ShowOutline);
+    }
+
     // Of the font that was rendered here, even after edits; a font of pixels has none.
     void OutlineBehindThePixels()
     {

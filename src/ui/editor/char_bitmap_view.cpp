@@ -142,11 +142,11 @@ QRect CharBitmapView::CellsOf(const Neighbour& neighbour) const
     return {neighbour.place - QPoint(character_->info.xPos, 0), neighbour.picture.size()};
 }
 
-// The grid with room for the neighbours, unless they are far away.
+// The grid with room for what is nearest of the neighbours.
 QRect CharBitmapView::ShownCells() const
 {
     const QRect grid(0, 0, ShownColumns(), rows_);
-    const int room = std::max(4, columns_);
+    const int room = std::max(4, columns_ / 2);
     QRect shown = grid;
     if (character_ != nullptr) {
         for (const Neighbour& neighbour : neighbours_)

@@ -46,11 +46,11 @@ bool DrawingTools::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        return watched != &editor_ && Press(*static_cast<QMouseEvent*>(event));
+        return watched != &editor_ && TakePress(*static_cast<QMouseEvent*>(event));
     case QEvent::MouseMove:
-        return watched != &editor_ && Move(*static_cast<QMouseEvent*>(event));
+        return watched != &editor_ && TakeMove(*static_cast<QMouseEvent*>(event));
     case QEvent::MouseButtonRelease:
-        return watched != &editor_ && Release(*static_cast<QMouseEvent*>(event));
+        return watched != &editor_ && TakeRelease(*static_cast<QMouseEvent*>(event));
     case QEvent::ContextMenu: // its button erases
         return tool_ != EditorTool::Select &&
                static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Mouse;
@@ -72,7 +72,7 @@ bool DrawingTools::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-bool DrawingTools::Press(const QMouseEvent& mouse)
+bool DrawingTools::TakePress(const QMouseEvent& mouse)
 {
     EndDrawing();
     isPicking_ = false;
@@ -92,7 +92,7 @@ bool DrawingTools::Press(const QMouseEvent& mouse)
     return true;
 }
 
-bool DrawingTools::Move(const QMouseEvent& mouse)
+bool DrawingTools::TakeMove(const QMouseEvent& mouse)
 {
     // The release may have gone elsewhere.
     if (IsDrawing() && !mouse.buttons().testFlag(drawing_->button))
@@ -105,7 +105,7 @@ bool DrawingTools::Move(const QMouseEvent& mouse)
     return isPicking_ || IsDrawing();
 }
 
-bool DrawingTools::Release(const QMouseEvent& mouse)
+bool DrawingTools::TakeRelease(const QMouseEvent& mouse)
 {
     if (IsDrawing() && mouse.button() != drawing_->button)
         return true;

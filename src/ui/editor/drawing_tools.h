@@ -57,9 +57,9 @@ private:
         std::vector<QPoint> shown; // pixels of the draft that may be others than before
     };
 
-    [[nodiscard]] bool Press(const QMouseEvent& mouse);
-    [[nodiscard]] bool Move(const QMouseEvent& mouse);
-    [[nodiscard]] bool Release(const QMouseEvent& mouse);
+    [[nodiscard]] bool TakePress(const QMouseEvent& mouse);
+    [[nodiscard]] bool TakeMove(const QMouseEvent& mouse);
+    [[nodiscard]] bool TakeRelease(const QMouseEvent& mouse);
     void Begin(const ToolRow& tool, const QMouseEvent& mouse);
     void DrawTo(QPoint pixel, bool isConstrained);
     void Paint(const std::vector<QPoint>& pixels, QByteArray plane);

@@ -1,7 +1,7 @@
 #include "ui/editor/neighbours.h"
 
-#include "ui/support/dialog_parts.h"
 #include "ui/support/char_picture.h"
+#include "ui/support/dialog_parts.h"
 
 #include <algorithm>
 #include <optional>

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCoreApplication>
+#include <QKeyEvent>
 
 namespace Glyphor {
 
@@ -44,7 +45,32 @@ void MenuBar::AddSubmenu(const MenuRow& row, QMenu* parent)
         parent != nullptr ? parent->addMenu(Translated(row.text)) : addMenu(Translated(row.text));
     if (row.submenuId != SubmenuId::None)
         submenus_.insert(row.submenuId, menu);
+    menu->installEventFilter(this);
     Build(row.Rows(), menu);
+}
+
+// In menus a plain key is that of an entry. It may be the shortcut of a command as well, which
+// takes the menus for a place where it is one.
+bool MenuBar::TakesKey(QEvent& event)
+{
+    if (event.type() != QEvent::ShortcutOverride)
+        return false;
+    const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if ((static_cast<QKeyEvent&>(event).modifiers() & commands) != 0)
+        return false;
+    event.accept();
+    return true;
+}
+
+bool MenuBar::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isMenu = qobject_cast<QMenu*>(watched) != nullptr;
+    return isMenu ? TakesKey(*event) : QMenuBar::eventFilter(watched, event);
+}
+
+bool MenuBar::event(QEvent* event)
+{
+    return TakesKey(*event) || QMenuBar::event(event);
 }
 
 void MenuBar::AddCommand(const MenuRow& row, QMenu* parent)

@@ -26,13 +26,19 @@ public:
 
     [[nodiscard]] QMenu* Submenu(SubmenuId id) const { return submenus_.value(id); }
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     void CommandTriggered(quint32 id);
+
+protected:
+    bool event(QEvent* event) override;
 
 private:
     void Build(std::span<const MenuRow> rows, QMenu* parent);
     void AddSubmenu(const MenuRow& row, QMenu* parent);
     void AddCommand(const MenuRow& row, QMenu* parent);
+    [[nodiscard]] static bool TakesKey(QEvent& event);
     static void MakeExclusive(QAction& command, QMenu& menu);
 
     QHash<quint32, QAction*> commands_;
