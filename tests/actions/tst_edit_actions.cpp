@@ -102,8 +102,8 @@ private Q_SLOTS:
         font->FindChar('D')->bitmap->InsertColumnRight();
         Test::UndoSession session(std::move(font));
         Test::RecordingInterface interface;
-        const auto run = [&](auto action) {
-            action->SetRepeat(repeat);
+        const auto run = [count = repeat](const auto& action) {
+            action->SetRepeat(count);
             action->Run();
         };
         if (type == ActionType::FontDeleteRowTop) {

@@ -181,8 +181,8 @@ private Q_SLOTS:
                 QVERIFY(sample.HasCleanPadding());
                 QCOMPARE(character.info.yPos + character.info.Rows(), metrics.yPos + Sample::Rows);
                 const Picture turned = PictureOf(character);
-                for (int y = 0; y < width; ++y) {
-                    for (int x = 0; x < Sample::Rows; ++x)
+                for (std::size_t y = 0; y < std::size_t(width); ++y) {
+                    for (std::size_t x = 0; x < Sample::Rows; ++x)
                         QCOMPARE(turned[y][x], before[Sample::Rows - 1 - x][y]);
                 }
                 // Back by another way.

@@ -17,7 +17,7 @@ class TestPixelSelection : public QObject, Test::WindowFixture
     {
         auto font = std::make_unique<Font>(format, EncodingType::Unicode);
         font->SetHeight(IsLegacyFormat(format) ? 3 : 5);
-        for (const quint16 code : {'A', 'B'}) {
+        for (const quint16 code : std::initializer_list<quint16>{'A', 'B'}) {
             const std::vector<uchar> empty(64);
             Character& character = font->PutChar(code, {4, 3, 0, 1, 5}, empty);
             const QByteArray indices = "123045600000";
