@@ -243,6 +243,7 @@ int EmSize(const ActionOpenFontArgs& args)
 
 bool ActionOpenFont::Execute()
 {
+    stamp_ = StampOf(Args().path); // before: what is written meanwhile is a change
     font_ = ReadFont(Args());
     if (Args().name)
         font_->SetName(*Args().name);
@@ -251,7 +252,7 @@ bool ActionOpenFont::Execute()
 
 void ActionOpenFont::RedoOnce()
 {
-    CurrentSession().ReplaceFont(std::move(font_), Args().path);
+    CurrentSession().ReplaceFont(std::move(font_), Args().path, stamp_);
 }
 
 LogEntry ActionOpenFont::Log() const

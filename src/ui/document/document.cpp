@@ -17,6 +17,7 @@
 #include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
 #include "ui/dialogs/font_size_box.h"
+#include "ui/document/file_watch.h"
 #include "ui/document/font_indexer.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/support/guarded.h"
@@ -77,8 +78,15 @@ QLineEdit* AddNameField(QFileDialog& dialog, const QString& name)
 } // namespace
 
 Document::Document(Session& session, FontIndexer& indexer, QWidget& window)
-    : QObject(&window), session_(session), indexer_(indexer), window_(window)
-{}
+    : QObject(&window),
+      session_(session),
+      indexer_(indexer),
+      window_(window),
+      watch_(new FileWatch(session, window))
+{
+    connect(watch_, &FileWatch::ReloadWanted, this, &Document::Reload);
+    connect(watch_, &FileWatch::Noticed, this, &Document::Noticed);
+}
 
 void Document::Create()
 {
@@ -151,6 +159,25 @@ bool Document::OpenFile(const QString& path)
             isOpened = CompleteArgs(action->Args()) && action->Run();
         });
     return isOpened;
+}
+
+void Document::CheckFile()
+{
+    watch_->Check();
+}
+
+// What the user told of the file when it was opened still holds.
+void Document::Reload()
+{
+    Guarded([&] {
+        const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::OpenFont);
+        const FontMetrics& metrics = session_.CurrentFont()->Metrics();
+        action->Args().path = session_.Path();
+        action->Args().encoding = metrics.encoding;
+        if (!MakeInputFile(session_.Path(), {})->TellsFormat())
+            action->Args().format = metrics.format;
+        action->Run();
+    });
 }
 
 void Document::Open()
@@ -228,7 +255,15 @@ bool Document::HasOwnFile() const
 
 bool Document::Save()
 {
-    return HasOwnFile() ? SaveTo(session_.Path(), ActionType::SaveFont) : SaveAs();
+    const auto saving = HasOwnFile() ? watch_->AskWhereToSave() : FileWatch::Saving::Elsewhere;
+    switch (saving) {
+    case FileWatch::Saving::Here:
+        return SaveTo(session_.Path(), ActionType::SaveFont);
+    case FileWatch::Saving::Elsewhere:
+        return SaveAs();
+    default:
+        return false;
+    }
 }
 
 bool Document::SaveAs()

@@ -10,6 +10,7 @@ class QWidget;
 
 namespace Glyphor {
 
+class FileWatch;
 class FontIndexer;
 class Session;
 
@@ -35,6 +36,9 @@ public:
     // Opens a font, asking for what its kind needs. False where that failed or was given up.
     bool OpenFile(const QString& path);
     bool ReadPattern(const QString& path);
+
+    // Looks whether the file of the font was changed by somebody else.
+    void CheckFile();
 
     // To its own file where it has one that fonts are written to, else to one that is asked for.
     bool Save();
@@ -64,11 +68,13 @@ public:
 Q_SIGNALS:
     void OpeningRequested(const QString& path); // of a recent file
     void RecentFilesChanged();
+    void Noticed(const QString& text);          // of the file on the disk
     void DirectoriesRequested(QWidget* parent); // a change of those that are indexed
 
 private:
     [[nodiscard]] bool AskFont(ActionOpenFontArgs& args);
     [[nodiscard]] bool AskGeneration(ActionOpenFontArgs& args);
+    void Reload();
     bool AskAndSave(const QString& title, const QString& proposed, const QString& filter,
                     ActionType type);
     bool SaveTo(const QString& path, ActionType type, const std::optional<QString>& name = {});
@@ -84,6 +90,7 @@ private:
     Session& session_;
     FontIndexer& indexer_;
     QWidget& window_;
+    FileWatch* watch_;
     QStringList recentFiles_;
     QString folder_; // that the user chose last
 };

@@ -106,6 +106,11 @@ void MainWindow::ConnectCommands()
         if (!Progress().IsWorking())
             document_->OpenFile(path);
     });
+    connect(document_, &Document::Noticed, this, [this](const QString& text) {
+        if (!text.isEmpty())
+            status_->Tell(text);
+        UpdateTitle();
+    });
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
     connect(commands_, &Commands::PreferencesChanged, this, [this] {
         panes_->ShowHexadecimal(ShowsHexadecimal());
@@ -282,6 +287,23 @@ void MainWindow::OnProgbarClose()
     Progress().EndWork();
     if (Progress().IsStopped())
         status_->Tell(tr("Stopped."));
+}
+
+// Not in the middle of what made the window active again.
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        QMetaObject::invokeMethod(this, &MainWindow::CheckFile, Qt::QueuedConnection);
+}
+
+void MainWindow::CheckFile()
+{
+    const bool isAtRest = !Progress().IsWorking() && !pencil_->IsStroking() &&
+                          QApplication::activeModalWidget() == nullptr &&
+                          QApplication::activePopupWidget() == nullptr;
+    if (isAtRest && isVisible())
+        document_->CheckFile();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

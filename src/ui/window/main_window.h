@@ -47,6 +47,7 @@ public:
     [[nodiscard]] ProgressArea& Progress() const { return status_->Progress(); }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -65,6 +66,7 @@ private:
     Q_SLOT void OnDatabaseFileDone(int done) { Progress().SetBackground(done); }
     Q_SLOT void OnDatabaseThreadFinished() { Progress().EndBackground(); }
 
+    void CheckFile();
     void ConnectCommands();
     void ConnectViews();
     void ConnectIndexer();

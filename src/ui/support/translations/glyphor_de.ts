@@ -1612,6 +1612,37 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::FileWatch</name>
+    <message>
+        <source>File has changed</source>
+        <translation>Datei wurde geändert</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed on the disk since it was opened. Replace it?</source>
+        <translation>Die Datei %1 wurde seit dem Öffnen auf der Platte geändert. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>The file %1 is no longer there.</source>
+        <translation>Die Datei %1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed on the disk.</source>
+        <translation>Die Datei %1 wurde auf der Platte geändert.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed on the disk. Load it again?</source>
+        <translation>Die Datei %1 wurde auf der Platte geändert. Neu laden?</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::FontDialog</name>
     <message>
         <source>Inde&amp;x again</source>
