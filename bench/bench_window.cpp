@@ -6,6 +6,8 @@
 #include "actions/session.h"
 #include "files/font_file.h"
 #include "timing.h"
+#include "ui/document/font_copy.h"
+#include "ui/document/recovery.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
@@ -16,6 +18,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <vector>
@@ -74,12 +77,16 @@ void MeasureTable()
     const auto run = [&](ActionType type) { window.Menus().Command(type)->trigger(); };
     Measure("an edit of one character", [&] { run(ActionType::InsertColumnRight); });
     Measure("an edit of the font", [&] { run(ActionType::FontInsertRowTop); });
+    Measure("copying it, to be kept", [&] { const FontCopy copy(*session.CurrentFont()); });
     std::printf("A font of 8,192 characters with gaps, all selected\n");
     session.ReplaceFont(MakeFont(0x4000, 16, 2), QStringLiteral("gaps.c"));
     window.ActionChanged(nullptr);
     QKeyEvent selectAll(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
     QCoreApplication::sendEvent(&table, &selectAll);
     Measure("an edit of them", [&] { run(ActionType::ShiftLeft); });
+    window.CurrentRecovery().SetInterval(0);
+    Measure("an edit of them, and the copy that follows", [&] { run(ActionType::ShiftLeft); });
+    window.CurrentRecovery().SetInterval(1000000);
     Measure("undoing it", [&] { window.Menus().Command(WindowCommand::Undo)->trigger(); });
     SetCurrentInterface(nullptr);
 }
@@ -114,6 +121,8 @@ void MeasureEditor()
 
 int main(int argc, char** argv)
 {
+    const QTemporaryDir states; // of the recovery
+    qputenv("XDG_STATE_HOME", states.path().toLocal8Bit());
     const QApplication application(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     MeasureTable();

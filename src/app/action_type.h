@@ -64,7 +64,8 @@ enum class ActionType : int {
     PrintUsage = 64,
     PrintVersion = 67,
     ListCharsets = 68,
-    SaveHeader = 69
+    SaveHeader = 69,
+    RestoreFont = 190
 };
 
 } // namespace Glyphor

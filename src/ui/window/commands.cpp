@@ -97,6 +97,9 @@ void Commands::RunWindowCommand(quint32 id)
         return ShowManual();
     case WindowCommand::ExportProof:
         return parts_.document.ExportProof();
+    case WindowCommand::RecoverFonts:
+        Q_EMIT RecoveryRequested();
+        return;
     }
 }
 

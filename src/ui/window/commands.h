@@ -45,6 +45,7 @@ public:
 
 Q_SIGNALS:
     void PreferencesChanged();
+    void RecoveryRequested();
 
 private:
     void RunWindowCommand(quint32 id);

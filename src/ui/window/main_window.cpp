@@ -10,6 +10,7 @@
 #include "ui/dialogs/text_dialog.h"
 #include "ui/document/document.h"
 #include "ui/document/font_indexer.h"
+#include "ui/document/recovery.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/pencil_tool.h"
 #include "ui/preview/text_preview.h"
@@ -65,7 +66,9 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       pencil_(new PencilTool(session, history, panes_->Editor())),
       commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
                              *this)),
-      status_(new StatusLine)
+      status_(new StatusLine),
+      recovery_(new Recovery(
+          session, *document_, [this] { return !IsAtRest(); }, *this))
 {
     InitResources();
     setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
@@ -111,6 +114,9 @@ void MainWindow::ConnectCommands()
             status_->Tell(text);
         UpdateTitle();
     });
+    connect(&history_, &QUndoStack::indexChanged, recovery_, &Recovery::CountStep);
+    connect(commands_, &Commands::RecoveryRequested, recovery_, [this] { recovery_->Offer(true); });
+    connect(recovery_, &Recovery::Failed, status_, &StatusLine::Tell);
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
     connect(commands_, &Commands::PreferencesChanged, this, [this] {
         panes_->ShowHexadecimal(ShowsHexadecimal());
@@ -208,6 +214,7 @@ void MainWindow::ShowFont()
     shownFont_ = font;
     panes_->ShowFont(font);
     pencil_->ShowFont(font);
+    recovery_->BeginFont();
     UpdateTitle();
 }
 
@@ -228,6 +235,7 @@ void MainWindow::UpdateTitle()
         session_.Path().isEmpty() ? tr("No font") : QFileInfo(session_.Path()).fileName();
     setWindowTitle(u"%1[*] – %2"_s.arg(TitlePart(name), QString(Program::Name)));
     setWindowModified(session_.IsModified());
+    recovery_->Update();
     commands_->EnablePossible();
 }
 
@@ -236,6 +244,16 @@ bool MainWindow::requestAction(Action& action)
 {
     auto* const open = dynamic_cast<ActionOpenFont*>(&action);
     return open == nullptr || document_->CompleteArgs(open->Args());
+}
+
+// Once the options have run; they may have closed the window.
+void MainWindow::OfferRecovery()
+{
+    const auto offer = [this] {
+        if (isVisible())
+            recovery_->Offer(false);
+    };
+    QMetaObject::invokeMethod(this, offer, Qt::QueuedConnection);
 }
 
 bool MainWindow::handleRequest(ActionType kind)
@@ -299,11 +317,15 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::CheckFile()
 {
-    const bool isAtRest = !Progress().IsWorking() && !pencil_->IsStroking() &&
-                          QApplication::activeModalWidget() == nullptr &&
-                          QApplication::activePopupWidget() == nullptr;
-    if (isAtRest && isVisible())
+    const bool isAlone = QApplication::activeModalWidget() == nullptr &&
+                         QApplication::activePopupWidget() == nullptr;
+    if (isAlone && isVisible() && IsAtRest())
         document_->CheckFile();
+}
+
+bool MainWindow::IsAtRest() const
+{
+    return !Progress().IsWorking() && !pencil_->IsStroking() && !edits_->IsAtWork();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -312,6 +334,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    recovery_->End();
     KeepState();
     event->accept();
 }

@@ -16,6 +16,7 @@ class EditCommands;
 class FontIndexer;
 class MenuBar;
 class PencilTool;
+class Recovery;
 class Session;
 class UndoStack;
 
@@ -39,7 +40,11 @@ public:
     void ProgressFinished() override { OnProgbarClose(); }
     bool handleRequest(ActionType kind) override;
 
+    // Asks what becomes of unsaved fonts of windows that were lost, where there are any.
+    void OfferRecovery();
+
     [[nodiscard]] Document& CurrentDocument() const { return *document_; }
+    [[nodiscard]] Recovery& CurrentRecovery() const { return *recovery_; }
     [[nodiscard]] MenuBar& Menus() const { return *menus_; }
     [[nodiscard]] CharacterTable& Table() const { return panes_->Table(); }
     [[nodiscard]] CharBitmapView& Editor() const { return panes_->Editor(); }
@@ -67,6 +72,7 @@ private:
     Q_SLOT void OnDatabaseThreadFinished() { Progress().EndBackground(); }
 
     void CheckFile();
+    [[nodiscard]] bool IsAtRest() const;
     void ConnectCommands();
     void ConnectViews();
     void ConnectIndexer();
@@ -87,6 +93,7 @@ private:
     PencilTool* pencil_;
     Commands* commands_;
     StatusLine* status_;
+    Recovery* recovery_;
     QTimer resizeTimer_;
     const void* shownFont_ = nullptr;
 };

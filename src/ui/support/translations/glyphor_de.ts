@@ -1323,6 +1323,10 @@ Erwartete Größe: %2 Byte.</translation>
         <source>The number %1 is not usable: -jobs takes 1 to 256 threads.</source>
         <translation>Die Zahl %1 ist nicht verwendbar: -jobs nimmt 1 bis 256 Threads.</translation>
     </message>
+    <message>
+        <source>Restored unsaved changes: %1</source>
+        <translation>Ungespeicherte Änderungen wiederhergestellt: %1</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -2251,6 +2255,64 @@ Was soll mit ihnen geschehen?</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::Recovery</name>
+    <message>
+        <source>Unsaved changes can&apos;t be kept for recovery: %1</source>
+        <translation>Ungespeicherte Änderungen können nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Recover unsaved fonts</source>
+        <translation>Ungespeicherte Schriften wiederherstellen</translation>
+    </message>
+    <message>
+        <source>There are no unsaved fonts.</source>
+        <translation>Es gibt keine ungespeicherten Schriften.</translation>
+    </message>
+    <message>
+        <source>The kept copy of %1 is damaged.</source>
+        <translation>Die gesicherte Kopie von %1 ist beschädigt.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::RecoveryDialog</name>
+    <message>
+        <source>Recover unsaved fonts</source>
+        <translation>Ungespeicherte Schriften wiederherstellen</translation>
+    </message>
+    <message>
+        <source>These fonts had unsaved changes when their windows were lost:</source>
+        <translation>Diese Schriften hatten ungespeicherte Änderungen, als ihre Fenster verloren gingen:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Gesichert am</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Später</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::RenderingEntries</name>
     <message>
         <source>%1 (%2)</source>
@@ -3004,6 +3066,14 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Write pictures of the font into a PNG or PDF file</source>
         <translation>Bilder der Schrift in eine PNG- oder PDF-Datei schreiben</translation>
+    </message>
+    <message>
+        <source>&amp;Recover unsaved fonts...</source>
+        <translation>Ungespeicherte Schriften &amp;wiederherstellen...</translation>
+    </message>
+    <message>
+        <source>Restore fonts whose windows were lost before they were saved</source>
+        <translation>Schriften wiederherstellen, deren Fenster vor dem Speichern verloren gingen</translation>
     </message>
 </context>
 <context>
