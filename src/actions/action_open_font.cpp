@@ -223,6 +223,12 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
     return font;
 }
 
+// Such a font is in no file until it is saved.
+bool IsGenerated(const ActionOpenFontArgs& args)
+{
+    return IsScalable(FileTypeOf(args.path)) || !args.sources.empty() || !args.images.empty();
+}
+
 } // namespace
 
 std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
@@ -253,6 +259,8 @@ bool ActionOpenFont::Execute()
 void ActionOpenFont::RedoOnce()
 {
     CurrentSession().ReplaceFont(std::move(font_), Args().path, stamp_);
+    if (Type() == ActionType::CreateFont || IsGenerated(Args()))
+        CurrentSession().MarkChanged();
 }
 
 LogEntry ActionOpenFont::Log() const

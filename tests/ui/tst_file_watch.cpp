@@ -29,21 +29,11 @@ class TestFileWatch : public QObject, protected Test::WindowFixture
     // Activates the window, answers all questions and gives their texts.
     [[nodiscard]] QStringList ComeBack(QMessageBox::StandardButton button) const
     {
-        QStringList texts;
-        QTimer answers;
-        connect(&answers, &QTimer::timeout, &answers, [&] {
-            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (box == nullptr)
-                return;
-            texts.append(box->text());
-            (box->button(button) != nullptr ? box->button(button) : box->button(QMessageBox::Ok))
-                ->click();
-        });
-        answers.start(10);
+        const Test::BoxAnswers answers(button);
         QEvent event(QEvent::ActivationChange);
         QCoreApplication::sendEvent(window_.get(), &event);
         QCoreApplication::processEvents();
-        return texts;
+        return answers.texts;
     }
 
 private Q_SLOTS:
@@ -111,11 +101,8 @@ private Q_SLOTS:
                     each->click();
             }
         });
-        const DialogAnswer<QFileDialog> elsewhere([this](QFileDialog& dialog) {
-            dialog.setDirectory(folder_.path());
-            dialog.selectFile(u"other.sif"_s);
-            QMetaObject::invokeMethod(&dialog, "accept");
-        });
+        const DialogAnswer<QFileDialog> elsewhere(
+            [this](QFileDialog& dialog) { Test::Choose(dialog, u"other.sif"_s, folder_); });
         QCOMPARE(window_->CurrentDocument().Save(), button != 2);
         QCOMPARE(question.wasAsked, button >= 0);
         QCOMPARE(Test::ReadAll(Path("sample.sif")) != before, isSavedHere);
