@@ -3,6 +3,7 @@
 #include "app/file_name.h"
 #include "app/settings.h"
 #include "files/font_file_c.h"
+#include "support/program.h"
 #include "support/rows.h"
 #include "support/test_main.h"
 #include "ui/dialogs/font_generation_dialog.h"
@@ -339,6 +340,38 @@ private Q_SLOTS:
         QCOMPARE(window_->isWindowModified(), isAsked);
         QVERIFY(window_->close());
         QCOMPARE(answers.texts.contains(u"Save current file?"_s), isAsked);
+    }
+
+    // What another process stored meanwhile stays in the list.
+    void RecentFilesAreThoseOfAllWindows()
+    {
+        OpenSample();
+        WriteSample(FontFormat::AA4, Path("other.sif"));
+        WriteSample(FontFormat::AA4, Path("third.sif"));
+        Test::RunProgram(folder_.path(), QStringLiteral(GLYPHOR_PROGRAM),
+                         {Path("other.sif"), u"-exit"_s});
+        QVERIFY(Open(Path("third.sif")));
+        const auto names = [this] {
+            QMenu menu;
+            window_->CurrentDocument().FillRecentMenu(menu);
+            QStringList texts;
+            for (const QAction* const entry : menu.actions().first(3))
+                texts.append(entry->text());
+            return texts;
+        };
+        QCOMPARE(names(), QStringList({u"third.sif"_s, u"other.sif"_s, u"sample.sif"_s}));
+        Test::RunProgram(folder_.path(), QStringLiteral(GLYPHOR_PROGRAM),
+                         {Path("other.sif"), u"-exit"_s});
+        QCOMPARE(names(), QStringList({u"other.sif"_s, u"third.sif"_s, u"sample.sif"_s}));
+
+        // One that is gone, before anything is asked about the changes.
+        Trigger(ActionType::FontInsertRowTop);
+        QVERIFY(QFile::remove(Path("other.sif")));
+        BoxAnswer answer(QMessageBox::Yes);
+        QVERIFY(!window_->CurrentDocument().OpenRecentFile(Path("other.sif")));
+        QVERIFY(answer.text.startsWith(u"File is missing: "_s));
+        QCOMPARE(names().first(2), QStringList({u"third.sif"_s, u"sample.sif"_s}));
+        QVERIFY(window_->isWindowModified());
     }
 
     void Drops()

@@ -39,8 +39,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype MaxRecentFiles = 10;
-
 QString PatternFilter()
 {
     return Document::tr("Text files (*.txt)");
@@ -389,23 +387,36 @@ void Document::TellMissing(const CodeSet& pattern) const
 
 void Document::AddRecentFile(const QString& path)
 {
-    const QString absolute = AbsolutePathOf(path);
-    recentFiles_.removeAll(absolute);
-    recentFiles_.prepend(absolute);
-    recentFiles_ = recentFiles_.first(std::min(recentFiles_.size(), MaxRecentFiles));
+    recentFiles_.Add(AbsolutePathOf(path));
     Q_EMIT RecentFilesChanged();
+}
+
+bool Document::OpenRecentFile(const QString& path)
+{
+    if (KindOf(path) != FileKind::None)
+        return OpenFile(path);
+    const auto answer = ShowPlainBox(
+        &window_, QMessageBox::Question, tr("File is missing"),
+        tr("The file %1 does not exist. Remove it from the recent files?").arg(Shown(path)),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    if (answer == QMessageBox::Yes) {
+        recentFiles_.Remove(path);
+        Q_EMIT RecentFilesChanged();
+    }
+    return false;
 }
 
 void Document::FillRecentMenu(QMenu& menu)
 {
+    Q_EMIT RecentFilesChanged(); // perhaps in another window
     menu.clear();
-    for (const QString& path : std::as_const(recentFiles_)) {
+    for (const QString& path : RecentFiles()) {
         QAction* const entry =
             menu.addAction(Shown(QFileInfo(path).fileName()).replace(u'&', u"&&"_s));
         entry->setStatusTip(Shown(path));
         connect(entry, &QAction::triggered, this, [this, path] { Q_EMIT OpeningRequested(path); });
     }
-    if (recentFiles_.isEmpty())
+    if (RecentFiles().isEmpty())
         menu.addAction(tr("No recent files"))->setEnabled(false);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/action_open_font.h"
+#include "ui/document/recent_files.h"
 
 #include <QObject>
 #include <QStringList>
@@ -60,14 +61,17 @@ public:
     [[nodiscard]] bool TakesDrop(const QString& path) const;
     bool Drop(const QString& path);
 
-    [[nodiscard]] const QStringList& RecentFiles() const { return recentFiles_; }
-    void SetRecentFiles(const QStringList& files) { recentFiles_ = files; }
+    [[nodiscard]] const QStringList& RecentFiles() const { return recentFiles_.List(); }
+    void MergeRecentFiles(const QStringList& stored) { recentFiles_.Merge(stored); }
     void AddRecentFile(const QString& path);
     void FillRecentMenu(QMenu& menu);
 
+    // One that is gone can be taken from the list.
+    bool OpenRecentFile(const QString& path);
+
 Q_SIGNALS:
     void OpeningRequested(const QString& path); // of a recent file
-    void RecentFilesChanged();
+    void RecentFilesChanged();                  // or are to be shown
     void Noticed(const QString& text);          // of the file on the disk
     void DirectoriesRequested(QWidget* parent); // a change of those that are indexed
 
@@ -91,7 +95,7 @@ private:
     FontIndexer& indexer_;
     QWidget& window_;
     FileWatch* watch_;
-    QStringList recentFiles_;
+    Glyphor::RecentFiles recentFiles_;
     QString folder_; // that the user chose last
 };
 

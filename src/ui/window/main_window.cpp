@@ -53,6 +53,18 @@ QString LocalFileOf(const QMimeData& data)
     return urls.isEmpty() ? QString() : FileNameOf(urls.constFirst());
 }
 
+// Of a stored state; nothing where it is not one of ours.
+std::optional<QStringList> RecentFilesIn(const QByteArray& state)
+{
+    QDataStream stream(state);
+    quint32 version = 0;
+    QByteArray part;
+    QStringList files;
+    stream >> version >> part >> part >> part >> part >> files;
+    const bool isOurs = version == StateVersion && stream.status() == QDataStream::Ok;
+    return isOurs ? std::optional(files) : std::nullopt;
+}
+
 } // namespace
 
 MainWindow::MainWindow(Session& session, UndoStack& history)
@@ -107,7 +119,7 @@ void MainWindow::ConnectCommands()
     });
     connect(document_, &Document::OpeningRequested, this, [this](const QString& path) {
         if (!Progress().IsWorking())
-            document_->OpenFile(path);
+            document_->OpenRecentFile(path);
     });
     connect(document_, &Document::Noticed, this, [this](const QString& text) {
         if (!text.isEmpty())
@@ -182,7 +194,7 @@ void MainWindow::RecallState()
     panes_->restoreState(splitter);
     panes_->SubSplitters()[0]->restoreState(subSplitter);
     panes_->SubSplitters()[1]->restoreState(upperSplitter);
-    document_->SetRecentFiles(files);
+    document_->MergeRecentFiles(files);
     Preview().RestoreState(preview);
     Editor().SetZoom(zoom);
     pencil_->Command().setChecked(hasPencil);
@@ -192,6 +204,9 @@ void MainWindow::RecallState()
 
 void MainWindow::KeepState()
 {
+    Settings& settings = Settings::Instance();
+    if (const auto stored = RecentFilesIn(settings.mainWindow.loadLatest().state))
+        document_->MergeRecentFiles(*stored);
     QByteArray state;
     QDataStream stream(&state, QIODevice::WriteOnly);
     stream << StateVersion << saveState() << panes_->saveState()
@@ -199,7 +214,8 @@ void MainWindow::KeepState()
            << document_->RecentFiles() << Preview().State() << qint32(Editor().Zoom())
            << pencil_->Command().isChecked()
            << menus_->Command(WindowCommand::AllCharacters)->isChecked();
-    Settings::Instance().mainWindow.save({saveGeometry(), state});
+    settings.mainWindow.save({saveGeometry(), state});
+    settings.Flush(); // for windows of other processes
 }
 
 void MainWindow::OnActionTriggered(quint32 id)

@@ -1534,6 +1534,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <source>Export proof</source>
         <translation>Schriftprobe exportieren</translation>
     </message>
+    <message>
+        <source>File is missing</source>
+        <translation>Datei fehlt</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist. Remove it from the recent files?</source>
+        <translation>Die Datei %1 gibt es nicht. Aus den zuletzt benutzten Dateien entfernen?</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::EditCommands</name>
