@@ -10,6 +10,8 @@
 
 #include <QThread>
 
+#include <cerrno>
+#include <new>
 #include <utility>
 
 namespace Glyphor {
@@ -91,6 +93,15 @@ void Recovery::Start()
         return;
     }
     steps_ = 0;
+    try {
+        Keep();
+    } catch (const std::bad_alloc&) {
+        timer_.start(interval_); // the work is of more use than its copy
+    }
+}
+
+void Recovery::Keep()
+{
     const Font& font = *session_.CurrentFont();
     const auto copy = std::make_shared<const FontCopy>(font);
     const KeptSession kept = {.path = session_.Path().isEmpty() ? QString()
@@ -100,9 +111,13 @@ void Recovery::Start()
                               .fontName = font.Name(),
                               .time = QDateTime::currentDateTimeUtc()};
     thread_.reset(QThread::create([this, copy, kept] {
-        if (slot_ == nullptr)
-            slot_ = RecoverySlot::Create(RecoverySlot::DefaultFolder());
-        failure_ = slot_ == nullptr ? qt_error_string() : slot_->Keep(*copy, kept);
+        try {
+            if (slot_ == nullptr)
+                slot_ = RecoverySlot::Create(RecoverySlot::DefaultFolder());
+            failure_ = slot_ == nullptr ? qt_error_string() : slot_->Keep(*copy, kept);
+        } catch (const std::bad_alloc&) {
+            failure_ = qt_error_string(ENOMEM);
+        }
     }));
     connect(thread_.get(), &QThread::finished, this, &Recovery::Finish);
     thread_->start(QThread::LowPriority);

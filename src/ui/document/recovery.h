@@ -53,6 +53,7 @@ Q_SIGNALS:
 
 private:
     void Start();
+    void Keep();
     void Finish();
     void Drop();
     void DiscardSlot();
