@@ -144,7 +144,7 @@ public:
     }
 
     // The same, where another process may have stored it meanwhile.
-    [[nodiscard]] Record loadLatest() const
+    [[nodiscard]] Record LoadLatest() const
     {
         Registry().Refresh(Key());
         return load();

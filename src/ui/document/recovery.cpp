@@ -176,6 +176,7 @@ void Recovery::Offer(bool tellsNone)
         return;
     }
     std::vector<RecoverableFont> fonts;
+    fonts.reserve(slots.size());
     for (const auto& slot : slots)
         fonts.push_back({slot->Session().fontName, slot->Session().path, slot->Session().time});
     RecoveryDialog dialog(fonts, &window_);

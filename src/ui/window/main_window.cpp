@@ -205,7 +205,7 @@ void MainWindow::RecallState()
 void MainWindow::KeepState()
 {
     Settings& settings = Settings::Instance();
-    if (const auto stored = RecentFilesIn(settings.mainWindow.loadLatest().state))
+    if (const auto stored = RecentFilesIn(settings.mainWindow.LoadLatest().state))
         document_->MergeRecentFiles(*stored);
     QByteArray state;
     QDataStream stream(&state, QIODevice::WriteOnly);
