@@ -265,11 +265,13 @@ bool MainWindow::requestAction(Action& action)
 // Once the options have run; they may have closed the window.
 void MainWindow::OfferRecovery()
 {
-    const auto offer = [this] {
-        if (isVisible())
-            recovery_->Offer(false);
-    };
-    QMetaObject::invokeMethod(this, offer, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, "OnRecoveryOffered", Qt::QueuedConnection);
+}
+
+void MainWindow::OnRecoveryOffered()
+{
+    if (isVisible())
+        recovery_->Offer(false);
 }
 
 bool MainWindow::handleRequest(ActionType kind)
@@ -328,7 +330,7 @@ void MainWindow::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        QMetaObject::invokeMethod(this, &MainWindow::CheckFile, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "CheckFile", Qt::QueuedConnection);
 }
 
 void MainWindow::CheckFile()

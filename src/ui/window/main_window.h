@@ -71,7 +71,8 @@ private:
     Q_SLOT void OnDatabaseFileDone(int done) { Progress().SetBackground(done); }
     Q_SLOT void OnDatabaseThreadFinished() { Progress().EndBackground(); }
 
-    void CheckFile();
+    Q_SLOT void CheckFile();
+    Q_SLOT void OnRecoveryOffered();
     [[nodiscard]] bool IsAtRest() const;
     void ConnectCommands();
     void ConnectViews();
