@@ -7,6 +7,8 @@
 #include "actions/session.h"
 #include "files/font_file.h"
 #include "timing.h"
+#include "ui/document/font_copy.h"
+#include "ui/document/recovery.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/support/undo_stack.h"
 #include "ui/support/value_fields.h"
@@ -22,6 +24,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -81,6 +84,7 @@ void MeasureTable()
     const auto run = [&](ActionType type) { window.Menus().Command(type)->trigger(); };
     Measure("an edit of one character", [&] { run(ActionType::InsertColumnRight); });
     Measure("an edit of the font", [&] { run(ActionType::FontInsertRowTop); });
+    Measure("copying it, to be kept", [&] { const FontCopy copy(*session.CurrentFont()); });
     std::printf("A font of 8,192 characters with gaps, all selected\n");
     session.ReplaceFont(MakeFont(0x4000, 16, 2), QStringLiteral("gaps.c"));
     window.ActionChanged(nullptr);
@@ -90,6 +94,9 @@ void MeasureTable()
     NumberField& distance = window.findChild<InfoPanel*>()->FieldOf(ActionType::SetCursorDistance);
     int value = 0;
     Measure("a metric of them", [&] { distance.setValue(++value); });
+    window.CurrentRecovery().SetInterval(0);
+    Measure("an edit of them, and the copy that follows", [&] { run(ActionType::ShiftLeft); });
+    window.CurrentRecovery().SetInterval(1000000);
     Measure("undoing it", [&] { window.Menus().Command(WindowCommand::Undo)->trigger(); });
     std::printf("A font of 2,000 characters\n");
     session.ReplaceFont(MakeFont(1000, 16), QStringLiteral("part.c"));
@@ -201,6 +208,8 @@ void MeasureEditor()
 
 int main(int argc, char** argv)
 {
+    const QTemporaryDir states; // of the recovery
+    qputenv("XDG_STATE_HOME", states.path().toLocal8Bit());
     const QApplication application(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     MeasureTable();

@@ -42,8 +42,10 @@ int main(int argc, char** argv)
     SetCurrentInterface(&window);
     window.show();
     CommandLine::Instance().RunGuarded(argc, argv, session);
-    if (window.isVisible()) // not closed meanwhile
+    if (window.isVisible()) { // not closed meanwhile
+        window.OfferRecovery();
         Application::exec();
+    }
     SetCurrentInterface(nullptr);
     return CommandLine::Instance().ExitStatus();
 }

@@ -55,6 +55,12 @@ const char* Action::MessageFor(ActionType type) const
     return LogMessage(type == ActionType::None ? type_ : type);
 }
 
+QStringList Action::LogLines() const
+{
+    const QString text = LogText();
+    return text.isEmpty() ? QStringList() : QStringList(LoggedSteps(), text);
+}
+
 Font* Action::CurrentFont() const
 {
     return session_.CurrentFont();

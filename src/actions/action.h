@@ -5,6 +5,7 @@
 #include "model/code_set.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -41,6 +42,9 @@ public:
 
     // What the action could not do of what it was told; empty where it did everything.
     [[nodiscard]] virtual QString Shortfall() const { return {}; }
+
+    // All that the log has of the action now.
+    [[nodiscard]] virtual QStringList LogLines() const;
 
     // How often its line stands in the log.
     [[nodiscard]] virtual int LoggedSteps() const { return applied_; }

@@ -224,6 +224,12 @@ std::unique_ptr<Font> ReadFile(const ActionOpenFontArgs& args)
     return font;
 }
 
+// Such a font is in no file until it is saved.
+bool IsGenerated(const ActionOpenFontArgs& args)
+{
+    return IsScalable(FileTypeOf(args.path)) || !args.sources.empty() || !args.images.empty();
+}
+
 } // namespace
 
 std::unique_ptr<Font> ReadFont(const ActionOpenFontArgs& args)
@@ -255,6 +261,7 @@ int EmSize(const ActionOpenFontArgs& args)
 
 bool ActionOpenFont::Execute()
 {
+    stamp_ = StampOf(Args().path); // before: what is written meanwhile is a change
     font_ = ReadFont(Args());
     if (Args().name)
         font_->SetName(*Args().name);
@@ -263,7 +270,9 @@ bool ActionOpenFont::Execute()
 
 void ActionOpenFont::RedoOnce()
 {
-    CurrentSession().ReplaceFont(std::move(font_), Args().path);
+    CurrentSession().ReplaceFont(std::move(font_), Args().path, stamp_);
+    if (Type() == ActionType::CreateFont || IsGenerated(Args()))
+        CurrentSession().MarkChanged();
 }
 
 LogEntry ActionOpenFont::Log() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/action.h"
+#include "app/file_system.h"
 #include "model/code_set.h"
 #include "model/font.h"
 #include "render/picture_glyph.h"
@@ -62,6 +63,7 @@ public:
 
 private:
     std::unique_ptr<Font> font_; // between Execute and the first step
+    std::optional<FileStamp> stamp_;
 };
 
 // The font of a file of any kind: read, or rendered as the arguments say. Asks the user for the

@@ -20,15 +20,13 @@ void ActionStack::DropUndone()
     std::erase_if(actions_, [](const auto& action) { return action->Applied() == 0; });
 }
 
-QStringList ActionStack::LogLines() const
+QStringList ActionStack::LogLines(qsizetype most) const
 {
     QStringList lines;
     for (const auto& action : actions_) {
-        const QString text = action->LogText();
-        if (text.isEmpty())
-            continue;
-        for (int step = 0; step < action->LoggedSteps(); ++step)
-            lines.append(text);
+        lines += action->LogLines();
+        if (lines.size() > most)
+            break;
     }
     return lines;
 }

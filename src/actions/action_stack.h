@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -28,8 +29,10 @@ public:
     [[nodiscard]] virtual bool IsAsSaved() const { return isClean_; }
     virtual void MarkSaved() { isClean_ = true; }
 
-    // The line of every applied action, repeated for each of its elementary steps.
-    [[nodiscard]] QStringList LogLines() const;
+    // The line of every applied action, repeated for each of its elementary steps. Where there are
+    // more than `most`, not much more than those come.
+    [[nodiscard]] QStringList
+    LogLines(qsizetype most = std::numeric_limits<qsizetype>::max()) const;
 
 protected:
     // Takes an action that was applied.

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "actions/action_stack.h"
+#include "app/file_system.h"
 #include "model/font.h"
 
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Glyphor {
 
@@ -27,6 +29,9 @@ public:
     // As the user gave it.
     [[nodiscard]] const QString& Path() const { return path_; }
 
+    // Of the file when the font was read from it or saved to it.
+    [[nodiscard]] const std::optional<FileStamp>& Stamp() const { return stamp_; }
+
     // True where the font has changes that are not in its file, or kerning that is in none.
     [[nodiscard]] bool IsModified() const { return !IsFontSaved() || HasUnsavedKerning(); }
     [[nodiscard]] bool IsFontSaved() const { return !isChanged_ && stack_.IsAsSaved(); }
@@ -45,13 +50,15 @@ public:
     [[nodiscard]] ActionStack& Stack() { return stack_; }
 
     // Takes a new font and begins its history.
-    void ReplaceFont(std::unique_ptr<Font> font, const QString& path);
+    void ReplaceFont(std::unique_ptr<Font> font, const QString& path,
+                     const std::optional<FileStamp>& stamp = {});
 
     void SetSaved(const QString& path);
 
 private:
     std::unique_ptr<Font> font_;
     QString path_;
+    std::optional<FileStamp> stamp_;
     ActionStack ownStack_;
     ActionStack& stack_;
     bool isChanged_ = false;

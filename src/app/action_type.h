@@ -74,7 +74,8 @@ enum class ActionType : int {
     SetYPos = 171,
     SetCursorDistance = 172,
     SetWidth = 173,
-    SetHeight = 174
+    SetHeight = 174,
+    RestoreFont = 190
 };
 
 } // namespace Glyphor

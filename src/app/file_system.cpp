@@ -8,6 +8,13 @@
 #include <filesystem>
 #include <system_error>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#else
+#include <QDateTime>
+#include <QFileInfo>
+#endif
+
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
@@ -66,6 +73,29 @@ qint64 SizeOfFile(const QString& path)
     std::error_code error;
     const auto size = std::filesystem::file_size(NativePath(path), error);
     return error ? 0 : qint64(size);
+}
+
+std::optional<FileStamp> StampOf(const QString& path)
+{
+    if (KindOf(path) != FileKind::Ordinary)
+        return std::nullopt;
+#ifdef Q_OS_UNIX
+    struct stat status = {};
+    if (::stat(BytesOf(path).constData(), &status) != 0)
+        return std::nullopt;
+#ifdef Q_OS_DARWIN
+    const timespec& modified = status.st_mtimespec;
+#else
+    const timespec& modified = status.st_mtim;
+#endif
+    constexpr qint64 second = 1'000'000'000;
+    return FileStamp{qint64(status.st_size), qint64(modified.tv_sec) * second + modified.tv_nsec,
+                     quint64(status.st_ino)};
+#else
+    const QFileInfo info(path);
+    constexpr qint64 millisecond = 1'000'000;
+    return FileStamp{info.size(), info.lastModified().toMSecsSinceEpoch() * millisecond, 0};
+#endif
 }
 
 QStringList EntriesOf(const QString& directory, FileKind kind)

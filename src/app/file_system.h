@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 namespace Glyphor {
 
 // What the system says about files, whatever bytes their names have. Links are followed.
@@ -12,6 +14,19 @@ enum class FileKind { None, Ordinary, Directory, Other };
 
 // In bytes; 0 where that is not known.
 [[nodiscard]] qint64 SizeOfFile(const QString& path);
+
+// What tells a version of a file from the others that have its name.
+struct FileStamp
+{
+    qint64 size = 0;
+    qint64 modified = 0; // nanoseconds since 1970
+    quint64 number = 0;  // of the file in its file system
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+// Nothing where there is no ordinary file.
+[[nodiscard]] std::optional<FileStamp> StampOf(const QString& path);
 
 // The names of the ordinary files or of the directories in a directory, but for hidden ones, in the
 // system's order.

@@ -143,6 +143,13 @@ public:
         return stored.canConvert<Record>() ? stored.value<Record>() : Record();
     }
 
+    // The same, where another process may have stored it meanwhile.
+    [[nodiscard]] Record LoadLatest() const
+    {
+        Registry().Refresh(Key());
+        return load();
+    }
+
     // What could not be read of the record before is over.
     void save(Record record)
     {

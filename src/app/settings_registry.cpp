@@ -25,4 +25,11 @@ void SettingsRegistry::setValue(const QString& key, const QVariant& value)
     store_->setValue(key, value);
 }
 
+void SettingsRegistry::Refresh(const QString& key)
+{
+    store_->sync();
+    if (store_->contains(key))
+        current_.insert(key, store_->value(key));
+}
+
 } // namespace Glyphor

@@ -24,6 +24,12 @@ public:
     [[nodiscard]] QVariant value(const QString& key) const;
     void setValue(const QString& key, const QVariant& value);
 
+    // Takes the value that another process may have stored.
+    void Refresh(const QString& key);
+
+    // Stores what was set, at once.
+    void Flush() { store_->sync(); }
+
 protected:
     ~SettingsRegistry() = default;
 

@@ -173,28 +173,31 @@ void FontFileSIF::AppendRecords(const Font& font, quint32 bitmapOffset, QByteArr
     });
 }
 
-void FontFileSIF::Write(const Font& font)
+void FontFileSIF::Compose(const Font& font, const Sink& sink)
 {
     const FontFormat format = font.Metrics().format;
-    Replace([&](const Sink& sink) {
-        QByteArray bytes;
-        AppendHeader(bytes, SifMagic, font.Metrics());
-        const std::vector<CodeRange> runs = font.EnabledRuns();
-        Append16(bytes, {static_cast<int>(runs.size())});
-        qint64 count = 0;
-        for (const CodeRange& run : runs) {
-            Append16(bytes, {run.first, run.last});
-            count += run.Size();
-        }
-        const qint64 bitmapOffset = bytes.size() + SifRecordSize(format) * count;
-        AppendRecords(font, static_cast<quint32>(bitmapOffset), bytes, sink);
-        font.ForEachEnabled([&](quint16, const Character& character) {
-            character.bitmap->Write(bytes);
-            PassOn(bytes, sink);
-        });
-        AppendTrailer(bytes, SifTrailerName, format);
-        PassOn(bytes, sink, 0);
+    QByteArray bytes;
+    AppendHeader(bytes, SifMagic, font.Metrics());
+    const std::vector<CodeRange> runs = font.EnabledRuns();
+    Append16(bytes, {static_cast<int>(runs.size())});
+    qint64 count = 0;
+    for (const CodeRange& run : runs) {
+        Append16(bytes, {run.first, run.last});
+        count += run.Size();
+    }
+    const qint64 bitmapOffset = bytes.size() + SifRecordSize(format) * count;
+    AppendRecords(font, static_cast<quint32>(bitmapOffset), bytes, sink);
+    font.ForEachEnabled([&](quint16, const Character& character) {
+        character.bitmap->Write(bytes);
+        PassOn(bytes, sink);
     });
+    AppendTrailer(bytes, SifTrailerName, format);
+    PassOn(bytes, sink, 0);
+}
+
+void FontFileSIF::Write(const Font& font)
+{
+    Replace([&](const Sink& sink) { Compose(font, sink); });
 }
 
 } // namespace Glyphor

@@ -16,6 +16,9 @@ public:
     std::unique_ptr<Font> Read() override;
     void Write(const Font& font) override;
 
+    // What Write() writes, which may be done on any thread while nobody edits the font.
+    static void Compose(const Font& font, const Sink& sink);
+
 protected:
     [[nodiscard]] QString FailureTitle() const override;
 

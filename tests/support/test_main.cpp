@@ -65,7 +65,8 @@ int main(int argc, char** argv)
 {
     const QTemporaryDir settings;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
+    for (const char* const place : {"XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+        qputenv(place, settings.path().toLocal8Bit());
     const TEST_APPLICATION application(argc, argv);
 
     int failures = 0;

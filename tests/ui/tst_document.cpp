@@ -3,6 +3,8 @@
 #include "app/file_name.h"
 #include "app/settings.h"
 #include "files/font_file_c.h"
+#include "support/program.h"
+#include "support/rows.h"
 #include "support/test_main.h"
 #include "ui/dialogs/font_generation_dialog.h"
 #include "ui/dialogs/font_size_box.h"
@@ -183,9 +185,7 @@ private Q_SLOTS:
                 Q_EMIT kinds->textActivated(kinds->currentText());
                 Q_EMIT kinds->activated(index);
             }
-            dialog.setDirectory(folder_.path());
-            dialog.selectFile(typed);
-            QMetaObject::invokeMethod(&dialog, "accept");
+            Test::Choose(dialog, typed, folder_);
         });
         const BoxAnswer failure(QMessageBox::Ok); // of a name without a suffix
         Trigger(ActionType::SaveFontAs);
@@ -229,11 +229,8 @@ private Q_SLOTS:
         QVERIFY(proof.startsWith("\x89PNG"));
         QVERIFY(!window_->isWindowModified());
         Trigger(ActionType::FontInsertRowTop);
-        const DialogAnswer<QFileDialog> again([&](QFileDialog& dialog) {
-            dialog.setDirectory(folder_.path());
-            dialog.selectFile(u"edited.png"_s);
-            QMetaObject::invokeMethod(&dialog, "accept");
-        });
+        const DialogAnswer<QFileDialog> again(
+            [&](QFileDialog& dialog) { Test::Choose(dialog, u"edited.png"_s, folder_); });
         Trigger(WindowCommand::ExportProof);
         QVERIFY(Test::ReadAll(Path("edited.png")) != proof);
     }
@@ -266,6 +263,8 @@ private Q_SLOTS:
         });
         QVERIFY(Open(path));
         QVERIFY(answer.wasAsked && session_->CurrentFont()->FindChar('A') != nullptr);
+        QVERIFY(window_->isWindowModified()); // it is in no file yet
+        session_->SetSaved(session_->Path());
         // A file that is no font is told so without a question.
         Test::WriteAll(Path("text.ttf"), "text");
         BoxAnswer box(QMessageBox::Ok);
@@ -314,6 +313,65 @@ private Q_SLOTS:
         QCOMPARE(window_->close(), closes);
         QCOMPARE(answer.text, u"Save file?: Save current file?"_s);
         QCOMPARE(Test::ReadAll(Path("sample.sif")) != old, saves);
+    }
+
+    // Work that is nowhere else is asked about, and kept for recovery.
+    void GeneratedFontsAreAskedAbout_data()
+    {
+        const Test::Rows<QString, bool, bool> row; // a file, with a source, whether it is asked
+        row("scalable", Test::FontPath("outlines.ttf"), false, true);
+        row("bitmaps", Test::FontPath("bitmap.bdf"), false, false);
+        row("characters of another file", Path("sample.sif"), true, true);
+        row("own file", Path("sample.sif"), false, false);
+    }
+
+    void GeneratedFontsAreAskedAbout()
+    {
+        const auto [path, hasSource, isAsked] = Test::Row<QString, bool, bool>();
+        WriteSample(FontFormat::AA4, Path("sample.sif"));
+        const auto action = std::make_shared<ActionOpenFont>(*session_, ActionType::OpenFont);
+        action->Args().path = path;
+        action->Args().render.height = 20;
+        if (hasSource)
+            action->Args().sources = {
+                {.path = Test::FontPath("bitmap.bdf"), .map = {}, .size = {}}};
+        const Test::BoxAnswers answers(QMessageBox::No);
+        QVERIFY(action->Run());
+        QCOMPARE(window_->isWindowModified(), isAsked);
+        QVERIFY(window_->close());
+        QCOMPARE(answers.texts.contains(u"Save current file?"_s), isAsked);
+    }
+
+    // What another process stored meanwhile stays in the list.
+    void RecentFilesAreThoseOfAllWindows()
+    {
+        OpenSample();
+        WriteSample(FontFormat::AA4, Path("other.sif"));
+        WriteSample(FontFormat::AA4, Path("third.sif"));
+        Test::RunProgram(folder_.path(), QStringLiteral(GLYPHOR_PROGRAM),
+                         {Path("other.sif"), u"-exit"_s});
+        QVERIFY(Open(Path("third.sif")));
+        const auto names = [this] {
+            QMenu menu;
+            window_->CurrentDocument().FillRecentMenu(menu);
+            QStringList texts;
+            for (const QAction* const entry : menu.actions().first(3))
+                texts.append(entry->text());
+            return texts;
+        };
+        QCOMPARE(names(), QStringList({u"third.sif"_s, u"other.sif"_s, u"sample.sif"_s}));
+        Test::RunProgram(folder_.path(), QStringLiteral(GLYPHOR_PROGRAM),
+                         {Path("other.sif"), u"-exit"_s});
+        QCOMPARE(names(), QStringList({u"other.sif"_s, u"third.sif"_s, u"sample.sif"_s}));
+
+        // One that is gone, before anything is asked about the changes.
+        Trigger(ActionType::FontInsertRowTop);
+        QVERIFY(QFile::remove(Path("other.sif")));
+        BoxAnswer answer(QMessageBox::Yes);
+        QVERIFY(!window_->CurrentDocument().OpenRecentFile(Path("other.sif")));
+        QVERIFY(answer.text.startsWith(u"File is missing: "_s));
+        QCOMPARE(names().first(2), QStringList({u"third.sif"_s, u"sample.sif"_s}));
+        QVERIFY(window_->isWindowModified());
     }
 
     void Drops()

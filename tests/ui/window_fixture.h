@@ -11,8 +11,11 @@
 #include "ui/window/menu_bar.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -62,6 +65,40 @@ public:
 
     QString text;
 };
+
+// Answers all boxes with a button where they have it, and else with OK, and keeps their texts.
+class BoxAnswers
+{
+public:
+    explicit BoxAnswers(QMessageBox::StandardButton button)
+    {
+        timer_.setInterval(10);
+        QObject::connect(&timer_, &QTimer::timeout, [this, button] {
+            const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return;
+            texts.append(box->text());
+            auto* const answer = box->button(button);
+            (answer != nullptr ? answer : box->button(QMessageBox::Ok))->click();
+        });
+        timer_.start();
+    }
+
+    QStringList texts;
+
+private:
+    QTimer timer_;
+};
+
+// Enters a name in a file dialog. The file that it proposes is selected as soon as the folder was
+// read, and would go before what is typed.
+inline void Choose(QFileDialog& dialog, const QString& name, const QTemporaryDir& folder)
+{
+    dialog.setDirectory(folder.path());
+    dialog.findChild<QAbstractItemView*>(QStringLiteral("listView"))->clearSelection();
+    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+    QMetaObject::invokeMethod(&dialog, "accept");
+}
 
 // A window with its session, and a folder for files.
 class WindowFixture

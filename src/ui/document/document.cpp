@@ -17,6 +17,7 @@
 #include "ui/dialogs/font_dialog.h"
 #include "ui/dialogs/font_generation_dialog.h"
 #include "ui/dialogs/font_size_box.h"
+#include "ui/document/file_watch.h"
 #include "ui/document/font_indexer.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/support/guarded.h"
@@ -37,8 +38,6 @@ namespace Glyphor {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype MaxRecentFiles = 10;
 
 QString PatternFilter()
 {
@@ -77,8 +76,15 @@ QLineEdit* AddNameField(QFileDialog& dialog, const QString& name)
 } // namespace
 
 Document::Document(Session& session, FontIndexer& indexer, QWidget& window)
-    : QObject(&window), session_(session), indexer_(indexer), window_(window)
-{}
+    : QObject(&window),
+      session_(session),
+      indexer_(indexer),
+      window_(window),
+      watch_(new FileWatch(session, window))
+{
+    connect(watch_, &FileWatch::ReloadWanted, this, &Document::Reload);
+    connect(watch_, &FileWatch::Noticed, this, &Document::Noticed);
+}
 
 void Document::Create()
 {
@@ -151,6 +157,25 @@ bool Document::OpenFile(const QString& path)
             isOpened = CompleteArgs(action->Args()) && action->Run();
         });
     return isOpened;
+}
+
+void Document::CheckFile()
+{
+    watch_->Check();
+}
+
+// What the user told of the file when it was opened still holds.
+void Document::Reload()
+{
+    Guarded([&] {
+        const auto action = std::make_shared<ActionOpenFont>(session_, ActionType::OpenFont);
+        const FontMetrics& metrics = session_.CurrentFont()->Metrics();
+        action->Args().path = session_.Path();
+        action->Args().encoding = metrics.encoding;
+        if (!MakeInputFile(session_.Path(), {})->TellsFormat())
+            action->Args().format = metrics.format;
+        action->Run();
+    });
 }
 
 void Document::Open()
@@ -228,7 +253,15 @@ bool Document::HasOwnFile() const
 
 bool Document::Save()
 {
-    return HasOwnFile() ? SaveTo(session_.Path(), ActionType::SaveFont) : SaveAs();
+    const auto saving = HasOwnFile() ? watch_->AskWhereToSave() : FileWatch::Saving::Elsewhere;
+    switch (saving) {
+    case FileWatch::Saving::Here:
+        return SaveTo(session_.Path(), ActionType::SaveFont);
+    case FileWatch::Saving::Elsewhere:
+        return SaveAs();
+    default:
+        return false;
+    }
 }
 
 bool Document::SaveAs()
@@ -354,23 +387,36 @@ void Document::TellMissing(const CodeSet& pattern) const
 
 void Document::AddRecentFile(const QString& path)
 {
-    const QString absolute = AbsolutePathOf(path);
-    recentFiles_.removeAll(absolute);
-    recentFiles_.prepend(absolute);
-    recentFiles_ = recentFiles_.first(std::min(recentFiles_.size(), MaxRecentFiles));
+    recentFiles_.Add(AbsolutePathOf(path));
     Q_EMIT RecentFilesChanged();
+}
+
+bool Document::OpenRecentFile(const QString& path)
+{
+    if (KindOf(path) != FileKind::None)
+        return OpenFile(path);
+    const auto answer = ShowPlainBox(
+        &window_, QMessageBox::Question, tr("File is missing"),
+        tr("The file %1 does not exist. Remove it from the recent files?").arg(Shown(path)),
+        QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    if (answer == QMessageBox::Yes) {
+        recentFiles_.Remove(path);
+        Q_EMIT RecentFilesChanged();
+    }
+    return false;
 }
 
 void Document::FillRecentMenu(QMenu& menu)
 {
+    Q_EMIT RecentFilesChanged(); // perhaps in another window
     menu.clear();
-    for (const QString& path : std::as_const(recentFiles_)) {
+    for (const QString& path : RecentFiles()) {
         QAction* const entry =
             menu.addAction(Shown(QFileInfo(path).fileName()).replace(u'&', u"&&"_s));
         entry->setStatusTip(Shown(path));
         connect(entry, &QAction::triggered, this, [this, path] { Q_EMIT OpeningRequested(path); });
     }
-    if (recentFiles_.isEmpty())
+    if (RecentFiles().isEmpty())
         menu.addAction(tr("No recent files"))->setEnabled(false);
 }
 

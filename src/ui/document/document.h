@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actions/action_open_font.h"
+#include "ui/document/recent_files.h"
 
 #include <QObject>
 #include <QStringList>
@@ -10,6 +11,7 @@ class QWidget;
 
 namespace Glyphor {
 
+class FileWatch;
 class FontIndexer;
 class Session;
 
@@ -36,6 +38,9 @@ public:
     bool OpenFile(const QString& path);
     bool ReadPattern(const QString& path);
 
+    // Looks whether the file of the font was changed by somebody else.
+    void CheckFile();
+
     // To its own file where it has one that fonts are written to, else to one that is asked for.
     bool Save();
     bool SaveAs();
@@ -56,20 +61,25 @@ public:
     [[nodiscard]] bool TakesDrop(const QString& path) const;
     bool Drop(const QString& path);
 
-    [[nodiscard]] const QStringList& RecentFiles() const { return recentFiles_; }
-    void SetRecentFiles(const QStringList& files) { recentFiles_ = files; }
+    [[nodiscard]] const QStringList& RecentFiles() const { return recentFiles_.List(); }
+    void MergeRecentFiles(const QStringList& stored) { recentFiles_.Merge(stored); }
     void AddRecentFile(const QString& path);
     void FillRecentMenu(QMenu& menu);
 
+    // One that is gone can be taken from the list.
+    bool OpenRecentFile(const QString& path);
+
 Q_SIGNALS:
     void OpeningRequested(const QString& path); // of a recent file
-    void RecentFilesChanged();
+    void RecentFilesChanged();                  // or are to be shown
+    void Noticed(const QString& text);          // of the file on the disk
     void DirectoriesRequested(QWidget* parent); // a change of those that are indexed
 
 private:
     [[nodiscard]] bool AskFont(ActionOpenFontArgs& args);
     [[nodiscard]] bool AskGeneration(ActionOpenFontArgs& args);
     bool AskTo(const QString& title, const QString& text, const std::function<bool()>& save);
+    void Reload();
     bool AskAndSave(const QString& title, const QString& proposed, const QString& filter,
                     ActionType type);
     bool SaveTo(const QString& path, ActionType type, const std::optional<QString>& name = {});
@@ -85,7 +95,8 @@ private:
     Session& session_;
     FontIndexer& indexer_;
     QWidget& window_;
-    QStringList recentFiles_;
+    FileWatch* watch_;
+    Glyphor::RecentFiles recentFiles_;
     QString folder_; // that the user chose last
 };
 

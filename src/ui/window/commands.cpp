@@ -193,6 +193,9 @@ void Commands::RunWindowCommand(quint32 id)
     case WindowCommand::History:
     case WindowCommand::KerningPairs:
         return; // their panes follow
+    case WindowCommand::RecoverFonts:
+        Q_EMIT RecoveryRequested();
+        return;
     default:
         return;
     }

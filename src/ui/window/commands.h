@@ -59,6 +59,7 @@ public:
 
 Q_SIGNALS:
     void PreferencesChanged();
+    void RecoveryRequested();
 
 private:
     void BindToEditor(QAction& command) const;

@@ -10,6 +10,7 @@
 #include "ui/dialogs/text_dialog.h"
 #include "ui/document/document.h"
 #include "ui/document/font_indexer.h"
+#include "ui/document/recovery.h"
 #include "ui/editor/char_bitmap_view.h"
 #include "ui/editor/drawing_tools.h"
 #include "ui/editor/pixel_selection.h"
@@ -70,6 +71,18 @@ auto UnlessAtWork(const ProgressArea& progress, Object& object, void (Object::*s
     };
 }
 
+// Of a stored state; nothing where it is not one of ours.
+std::optional<QStringList> RecentFilesIn(const QByteArray& state)
+{
+    QDataStream stream(state);
+    quint32 version = 0;
+    QByteArray part;
+    QStringList files;
+    stream >> version >> part >> part >> part >> part >> files;
+    const bool isOurs = version == StateVersion && stream.status() == QDataStream::Ok;
+    return isOurs ? std::optional(files) : std::nullopt;
+}
+
 } // namespace
 
 MainWindow::MainWindow(Session& session, UndoStack& history)
@@ -90,7 +103,9 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
                              *this)),
       status_(new StatusLine),
       historyView_(new HistoryView(history)),
-      kerning_(new KerningPanel)
+      kerning_(new KerningPanel),
+      recovery_(new Recovery(
+          session, *document_, [this] { return !IsAtRest(); }, *this))
 {
     InitResources();
     setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
@@ -167,8 +182,16 @@ void MainWindow::ConnectCommands()
     connect(document_, &Document::OpeningRequested, this, [this](const QString& path) {
         panes_->Info().TakeTyped();
         if (!Progress().IsWorking())
-            document_->OpenFile(path);
+            document_->OpenRecentFile(path);
     });
+    connect(document_, &Document::Noticed, this, [this](const QString& text) {
+        if (!text.isEmpty())
+            status_->Tell(text);
+        UpdateTitle();
+    });
+    connect(&history_, &QUndoStack::indexChanged, recovery_, &Recovery::CountStep);
+    connect(commands_, &Commands::RecoveryRequested, recovery_, [this] { recovery_->Offer(true); });
+    connect(recovery_, &Recovery::Failed, status_, &StatusLine::Tell);
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
     connect(commands_, &Commands::PreferencesChanged, this, [this] {
         panes_->ShowHexadecimal(ShowsHexadecimal());
@@ -242,7 +265,7 @@ void MainWindow::RecallState()
     panes_->restoreState(splitter);
     panes_->SubSplitters()[0]->restoreState(subSplitter);
     panes_->SubSplitters()[1]->restoreState(upperSplitter);
-    document_->SetRecentFiles(files);
+    document_->MergeRecentFiles(files);
     Preview().RestoreState(preview);
     if (tool < ToolTable().size())
         commands_->ChooseTool(EditorTool(tool));
@@ -259,6 +282,9 @@ void MainWindow::RecallState()
 
 void MainWindow::KeepState()
 {
+    Settings& settings = Settings::Instance();
+    if (const auto stored = RecentFilesIn(settings.mainWindow.LoadLatest().state))
+        document_->MergeRecentFiles(*stored);
     QByteArray state;
     QDataStream stream(&state, QIODevice::WriteOnly);
     stream << StateVersion << saveState() << panes_->saveState()
@@ -267,7 +293,8 @@ void MainWindow::KeepState()
            << menus_->Command(WindowCommand::AllCharacters)->isChecked()
            << menus_->Command(WindowCommand::ShowNeighbours)->isChecked()
            << menus_->Command(WindowCommand::ShowOutline)->isChecked();
-    Settings::Instance().mainWindow.save({saveGeometry(), state});
+    settings.mainWindow.save({saveGeometry(), state});
+    settings.Flush(); // for windows of other processes
 }
 
 void MainWindow::OnActionTriggered(quint32 id)
@@ -283,6 +310,7 @@ void MainWindow::ShowFont()
     panes_->ShowFont(font);
     tools_->ShowFont(font);
     ShowKerning();
+    recovery_->BeginFont();
     UpdateTitle();
 }
 
@@ -310,6 +338,7 @@ void MainWindow::UpdateTitle()
     setWindowTitle(u"%1[*] – %2"_s.arg(TitlePart(name), QString(Program::Name)));
     setWindowModified(session_.IsModified());
     historyView_->SetHasFile(document_->HasOwnFile());
+    recovery_->Update();
     commands_->EnablePossible();
 }
 
@@ -318,6 +347,18 @@ bool MainWindow::requestAction(Action& action)
 {
     auto* const open = dynamic_cast<ActionOpenFont*>(&action);
     return open == nullptr || document_->CompleteArgs(open->Args());
+}
+
+// Once the options have run; they may have closed the window.
+void MainWindow::OfferRecovery()
+{
+    QMetaObject::invokeMethod(this, "OnRecoveryOffered", Qt::QueuedConnection);
+}
+
+void MainWindow::OnRecoveryOffered()
+{
+    if (isVisible())
+        recovery_->Offer(false);
 }
 
 bool MainWindow::handleRequest(ActionType kind)
@@ -372,6 +413,27 @@ void MainWindow::OnProgbarClose()
         status_->Tell(tr("Stopped."));
 }
 
+// Not in the middle of what made the window active again.
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        QMetaObject::invokeMethod(this, "CheckFile", Qt::QueuedConnection);
+}
+
+void MainWindow::CheckFile()
+{
+    const bool isAlone = QApplication::activeModalWidget() == nullptr &&
+                         QApplication::activePopupWidget() == nullptr;
+    if (isAlone && isVisible() && IsAtRest())
+        document_->CheckFile();
+}
+
+bool MainWindow::IsAtRest() const
+{
+    return !Progress().IsWorking() && !tools_->IsDrawing() && !edits_->IsAtWork();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     panes_->Info().TakeTyped();
@@ -379,6 +441,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    recovery_->End();
     KeepState();
     event->accept();
 }

@@ -22,6 +22,7 @@ class KerningPanel;
 class MenuBar;
 class MetricCommands;
 class PixelSelection;
+class Recovery;
 class Session;
 class UndoStack;
 
@@ -45,7 +46,11 @@ public:
     void ProgressFinished() override { OnProgbarClose(); }
     bool handleRequest(ActionType kind) override;
 
+    // Asks what becomes of unsaved fonts of windows that were lost, where there are any.
+    void OfferRecovery();
+
     [[nodiscard]] Document& CurrentDocument() const { return *document_; }
+    [[nodiscard]] Recovery& CurrentRecovery() const { return *recovery_; }
     [[nodiscard]] MenuBar& Menus() const { return *menus_; }
     [[nodiscard]] CharacterTable& Table() const { return panes_->Table(); }
     [[nodiscard]] CharBitmapView& Editor() const { return panes_->Editor(); }
@@ -53,6 +58,7 @@ public:
     [[nodiscard]] ProgressArea& Progress() const { return status_->Progress(); }
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -78,6 +84,9 @@ private:
     void AddPanes();
     void AddPane(const QString& name, const QString& title, QWidget& content,
                  WindowCommand command);
+    Q_SLOT void CheckFile();
+    Q_SLOT void OnRecoveryOffered();
+    [[nodiscard]] bool IsAtRest() const;
     void ConnectCommands();
     void ConnectViews();
     void ConnectIndexer();
@@ -104,6 +113,7 @@ private:
     StatusLine* status_;
     HistoryView* historyView_;
     KerningPanel* kerning_;
+    Recovery* recovery_;
     QTimer resizeTimer_;
     const void* shownFont_ = nullptr;
 };

@@ -96,6 +96,9 @@ public:
         Entry(QT_TR_NOOP("Export &proof..."), nullptr,
               QT_TR_NOOP("Write pictures of the font into a PNG or PDF file"),
               WindowCommand::ExportProof),
+        Entry(QT_TR_NOOP("&Recover unsaved fonts..."), nullptr,
+              QT_TR_NOOP("Restore fonts whose windows were lost before they were saved"),
+              WindowCommand::RecoverFonts, StartsEnabled),
     };
 
     static constexpr MenuRow InsertRows[] = {

@@ -36,7 +36,8 @@ enum class WindowCommand : quint32 {
     FillPixels = 154,
     DeletePixels = 155,
     History = 175,
-    KerningPairs = 176
+    KerningPairs = 176,
+    RecoverFonts = 191
 };
 
 // The number that commands have in the menus and their actions.

@@ -1483,6 +1483,10 @@ Erwartete Größe: %2 Byte.</translation>
         <source>Kerning with %2 removed.</source>
         <translation>Kerning mit %2 entfernt.</translation>
     </message>
+    <message>
+        <source>Restored unsaved changes: %1</source>
+        <translation>Ungespeicherte Änderungen wiederhergestellt: %1</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharBitmapView</name>
@@ -1753,6 +1757,14 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <source>Save the kerning table? Its changes are in no font file.</source>
         <translation>Die Kerning-Tabelle speichern? Ihre Änderungen stehen in keiner Schriftdatei.</translation>
     </message>
+    <message>
+        <source>File is missing</source>
+        <translation>Datei fehlt</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist. Remove it from the recent files?</source>
+        <translation>Die Datei %1 gibt es nicht. Aus den zuletzt benutzten Dateien entfernen?</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::DuplicateDialog</name>
@@ -1875,6 +1887,37 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>The quick brown fox 0123456789</source>
         <translation>Zwölf Boxkämpfer jagen 0123456789</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::FileWatch</name>
+    <message>
+        <source>File has changed</source>
+        <translation>Datei wurde geändert</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed on the disk since it was opened. Replace it?</source>
+        <translation>Die Datei %1 wurde seit dem Öffnen auf der Platte geändert. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>The file %1 is no longer there.</source>
+        <translation>Die Datei %1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed on the disk.</source>
+        <translation>Die Datei %1 wurde auf der Platte geändert.</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed on the disk. Load it again?</source>
+        <translation>Die Datei %1 wurde auf der Platte geändert. Neu laden?</translation>
     </message>
 </context>
 <context>
@@ -2637,6 +2680,64 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Stop the work (Esc)</source>
         <translation>Die Arbeit abbrechen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::Recovery</name>
+    <message>
+        <source>Unsaved changes can&apos;t be kept for recovery: %1</source>
+        <translation>Ungespeicherte Änderungen können nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Recover unsaved fonts</source>
+        <translation>Ungespeicherte Schriften wiederherstellen</translation>
+    </message>
+    <message>
+        <source>There are no unsaved fonts.</source>
+        <translation>Es gibt keine ungespeicherten Schriften.</translation>
+    </message>
+    <message>
+        <source>The kept copy of %1 is damaged.</source>
+        <translation>Die gesicherte Kopie von %1 ist beschädigt.</translation>
+    </message>
+</context>
+<context>
+    <name>Glyphor::RecoveryDialog</name>
+    <message>
+        <source>Recover unsaved fonts</source>
+        <translation>Ungespeicherte Schriften wiederherstellen</translation>
+    </message>
+    <message>
+        <source>These fonts had unsaved changes when their windows were lost:</source>
+        <translation>Diese Schriften hatten ungespeicherte Änderungen, als ihre Fenster verloren gingen:</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Kept on</source>
+        <translation>Gesichert am</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Später</translation>
     </message>
 </context>
 <context>
@@ -3625,6 +3726,14 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Show the kerning pairs of the current character</source>
         <translation>Die Kerning-Paare des aktuellen Zeichens zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Recover unsaved fonts...</source>
+        <translation>Ungespeicherte Schriften &amp;wiederherstellen...</translation>
+    </message>
+    <message>
+        <source>Restore fonts whose windows were lost before they were saved</source>
+        <translation>Schriften wiederherstellen, deren Fenster vor dem Speichern verloren gingen</translation>
     </message>
 </context>
 <context>
