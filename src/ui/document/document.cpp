@@ -315,6 +315,7 @@ void Document::SavePattern()
         CodeSet codes = session_.CurrentFont()->EnabledCodes();
         codes &= session_.CurrentFont()->ExistingCodes();
         PatternFile(path).Write(codes);
+        Q_EMIT Done(tr("Saved pattern file: %1").arg(Shown(path)));
     });
 }
 

@@ -64,6 +64,7 @@ public:
 Q_SIGNALS:
     void OpeningRequested(const QString& path); // of a recent file
     void RecentFilesChanged();
+    void Done(const QString& text); // by no action
     void DirectoriesRequested(QWidget* parent); // a change of those that are indexed
 
 private:

@@ -82,6 +82,10 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
         scene_.setFocusItem(current_);
     }
     TellPixel();
+    if (told_.x() >= 0) { // its index may be another one now
+        const CharPixelItem* const cell = CellItem(told_.x(), told_.y());
+        Q_EMIT StatusChanged(cell != nullptr ? Description(*cell) : QString());
+    }
 }
 
 // Where the cursor goes and where the characters stand, in the grid.
@@ -279,8 +283,17 @@ QString CharBitmapView::Description(const CharPixelItem& item) const
 
 void CharBitmapView::ShowStatus(const CharPixelItem& item)
 {
-    if (const QString text = Description(item); !text.isEmpty())
-        Q_EMIT StatusChanged(text);
+    const QString text = Description(item);
+    if (text.isEmpty())
+        return;
+    told_ = {item.Column(), item.Row()};
+    Q_EMIT StatusChanged(text);
+}
+
+void CharBitmapView::ClearStatus()
+{
+    told_ = {-1, -1};
+    Q_EMIT StatusChanged({});
 }
 
 // To the commands, and to those who don't see the mark.

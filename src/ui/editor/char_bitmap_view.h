@@ -42,8 +42,9 @@ public:
     [[nodiscard]] int RowCount() const { return rows_; }
     [[nodiscard]] qreal CellSize() const { return cellSize_; }
 
-    // Tells the place and the index of a cell that is a pixel.
+    // Tells the place and the index of a cell that is a pixel, until the mouse leaves it.
     void ShowStatus(const CharPixelItem& item);
+    void ClearStatus();
 
     // The y of the first row of the character's bitmap.
     [[nodiscard]] int Top() const;
@@ -102,6 +103,7 @@ private:
     QPoint guides_ = {-1, -1};
     qreal cellSize_ = 1;
     int zoom_ = 0;       // size of a cell in pixels; 0 fits the view
+    QPoint told_ = {-1, -1}; // the cell whose index is told
     int wheelAngle_ = 0; // that was turned and has not zoomed yet
 };
 

@@ -122,7 +122,7 @@ void CharPixelItem::hoverEnterEvent(QGraphicsSceneHoverEvent*)
 
 void CharPixelItem::hoverLeaveEvent(QGraphicsSceneHoverEvent*)
 {
-    Q_EMIT view_.StatusChanged({});
+    view_.ClearStatus();
 }
 
 void CharPixelItem::keyPressEvent(QKeyEvent* event)

@@ -5,6 +5,8 @@
 #include "ui/table/character_delegate.h"
 #include "ui/table/character_model.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,6 +16,30 @@
 #include <algorithm>
 
 namespace Glyphor {
+
+namespace {
+
+bool IsTyped(const QKeyEvent& key)
+{
+    return key.text().size() == 1 && key.text()[0].isPrint();
+}
+
+// One that the shortcuts of menus have.
+bool HasCommandModifier(const QKeyEvent& key)
+{
+    return (key.modifiers() &
+            (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+bool IsOfCommand(const QWidget& window, const QKeyEvent& key)
+{
+    const auto commands = window.findChildren<QAction*>();
+    return std::ranges::any_of(commands, [&key](const QAction* command) {
+        return command->shortcuts().contains(QKeySequence(key.keyCombination()));
+    });
+}
+
+} // namespace
 
 CharacterTable::CharacterTable(QWidget* parent)
     : QTableView(parent),
@@ -55,6 +81,7 @@ void CharacterTable::ShowFont(const Font* font)
     scrollToTop();
     if (model_->rowCount() > 0) {
         SelectCode(FirstCodeWithPixels());
+        horizontalScrollBar()->setValue(0);
     } else {
         Q_EMIT CurrentCodeChanged(-1);
         Q_EMIT CodesSelected();
@@ -214,16 +241,13 @@ void CharacterTable::keyboardSearch(const QString& text)
         SelectCode(*code);
 }
 
-// Typing jumps to a character, so it must not trigger the commands that have letters as shortcuts,
-// whether or not the font has the character.
+// Plain typing jumps to a character, so it must not trigger the commands that have letters as
+// shortcuts, whether or not the font has the character.
 bool CharacterTable::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        const auto* const key = static_cast<QKeyEvent*>(event);
-        const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-        const QString text = key->text();
-        const bool isTyped = text.size() == 1 && text[0].isPrint();
-        if (model_->ShownFont() != nullptr && (key->modifiers() & commands) == 0 && isTyped) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (model_->ShownFont() != nullptr && IsTyped(key) && !HasCommandModifier(key)) {
             event->accept();
             return true;
         }
@@ -231,13 +255,25 @@ bool CharacterTable::event(QEvent* event)
     return QTableView::event(event);
 }
 
-// A blank is a character like others here.
+// A blank is a character like others here. A command that can't be run now gets its key still, or
+// the selection that it is meant for would be lost.
 void CharacterTable::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
         keyboardSearch(event->text());
-    else
+    else if (!IsTyped(*event) || !HasCommandModifier(*event) || !IsOfCommand(*window(), *event))
         QTableView::keyPressEvent(event);
+}
+
+// The key opens the menu at the current cell.
+void CharacterTable::contextMenuEvent(QContextMenuEvent* event)
+{
+    QPoint place = event->globalPos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        scrollTo(currentIndex());
+        place = viewport()->mapToGlobal(CellRect(current_).center());
+    }
+    Q_EMIT MenuRequested(place);
 }
 
 void CharacterTable::paintEvent(QPaintEvent* event)

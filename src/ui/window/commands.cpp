@@ -32,6 +32,9 @@ Commands::Commands(const WindowParts& parts, QWidget& window)
         command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         parts_.panes.Editor().addAction(command);
     }
+    QAction* const deletion = parts_.menus.Command(WindowCommand::DeleteCharacters);
+    deletion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    parts_.panes.Table().addAction(deletion);
 }
 
 void Commands::Run(quint32 id)
@@ -97,6 +100,8 @@ void Commands::RunWindowCommand(quint32 id)
         return ShowManual();
     case WindowCommand::ExportProof:
         return parts_.document.ExportProof();
+    case WindowCommand::DeleteCharacters:
+        return parts_.edits.DeleteSelection();
     }
 }
 
@@ -141,8 +146,7 @@ void Commands::ShowContextMenu(QPoint globalPosition)
             [this] { parts_.edits.ChangeSelection(ActionType::Disable); });
     QAction* const toggle = parts_.menus.Command(ActionType::Toggle);
     menu.addAction(toggle);
-    connect(menu.addAction(tr("De&lete")), &QAction::triggered, &parts_.edits,
-            &EditCommands::DeleteSelection);
+    menu.addAction(parts_.menus.Command(WindowCommand::DeleteCharacters));
     for (QAction* const action : menu.actions())
         action->setEnabled(toggle->isEnabled()); // they all need a character
     menu.addSeparator();
@@ -179,7 +183,7 @@ void Commands::EnableEdits()
 {
     const Font* const font = parts_.session.CurrentFont();
     const bool hasFont = font != nullptr;
-    const bool hasCharacter = !parts_.edits.SelectedCharacters().IsEmpty();
+    const bool hasCharacter = !parts_.edits.EditedCharacters().IsEmpty();
     const bool hasPixel = hasFont && parts_.panes.Editor().SelectedPixel().x() >= 0;
     const bool isLegacy = hasFont && IsLegacyFormat(font->Metrics().format);
     const int maximum = hasFont ? (1 << font->Metrics().bitsPerPixel) - 1 : -1;
@@ -191,6 +195,8 @@ void Commands::EnableEdits()
         parts_.menus.Command(edit.type)->setEnabled(hasTarget && !isRefused);
     }
     parts_.menus.Command(ActionType::Toggle)->setEnabled(hasCharacter);
+    parts_.menus.Command(WindowCommand::DeleteCharacters)
+        ->setEnabled(!parts_.edits.SelectedCharacters().IsEmpty());
 }
 
 } // namespace Glyphor

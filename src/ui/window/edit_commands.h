@@ -54,6 +54,9 @@ public:
     // The selected codes that have a character.
     [[nodiscard]] CodeSet SelectedCharacters() const;
 
+    // The current character alone where the editor was used last, or else the selected ones.
+    [[nodiscard]] CodeSet EditedCharacters() const;
+
 Q_SIGNALS:
     void Changed();
     void Done(const QString& text);
@@ -61,7 +64,7 @@ Q_SIGNALS:
 private:
     using MakeAction = std::function<std::shared_ptr<Action>(const CodeRange&)>;
 
-    void RunSelectionEdit(const Edit& edit);
+    void RunCharacterEdit(const Edit& edit);
     void RunPixelEdit(const Edit& edit);
     void RunForEach(const CodeSet& codes, const QString& text, const MakeAction& make);
     void RunMacro(const QString& text, const std::function<void()>& work);
@@ -73,6 +76,7 @@ private:
     CharacterTable& table_;
     CharBitmapView& editor_;
     QWidget& window_;
+    bool isInEditor_ = false; // where the focus was last, of the table and the editor
     bool isAtWork_ = false;
     bool isMovingInHistory_ = false; // by undo or redo
     CodeSet movedCodes_;             // that undo or redo changed

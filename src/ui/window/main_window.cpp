@@ -106,6 +106,7 @@ void MainWindow::ConnectCommands()
         if (!Progress().IsWorking())
             document_->OpenFile(path);
     });
+    connect(document_, &Document::Done, status_, &StatusLine::Tell);
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
     connect(commands_, &Commands::PreferencesChanged, this, [this] {
         panes_->ShowHexadecimal(ShowsHexadecimal());
@@ -122,10 +123,7 @@ void MainWindow::ConnectViews()
     for (QSplitter* const splitter : panes_->SubSplitters())
         connect(splitter, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterSubMoved);
     connect(&Table(), &CharacterTable::CodesSelected, commands_, &Commands::EnablePossible);
-    Table().setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&Table(), &QWidget::customContextMenuRequested, commands_, [this](QPoint place) {
-        commands_->ShowContextMenu(Table().viewport()->mapToGlobal(place));
-    });
+    connect(&Table(), &CharacterTable::MenuRequested, commands_, &Commands::ShowContextMenu);
     const CharBitmapView& editor = Editor();
     connect(&editor, &CharBitmapView::PixelSelected, commands_, &Commands::EnablePossible);
     connect(&editor, &CharBitmapView::StatusChanged, status_, &StatusLine::TellPixel);
@@ -211,8 +209,10 @@ void MainWindow::ShowChanges()
 {
     if (edits_->IsAtWork())
         return;
-    if (session_.CurrentFont() != shownFont_)
+    if (session_.CurrentFont() != shownFont_) {
+        Editor().SetZoom(0);
         return ShowFont();
+    }
     panes_->ShowChanges();
     UpdateTitle();
 }

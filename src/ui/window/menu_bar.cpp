@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace Glyphor {
 
 namespace {
@@ -44,6 +46,23 @@ void MenuBar::AddSubmenu(const MenuRow& row, QMenu* parent)
     if (row.submenuId != SubmenuId::None)
         submenus_.insert(row.submenuId, menu);
     Build(row.Rows(), menu);
+    if (parent != nullptr)
+        FollowEntries(*menu);
+}
+
+// A submenu is enabled as long as one of its entries is.
+void MenuBar::FollowEntries(QMenu& menu)
+{
+    const auto follow = [&menu] {
+        menu.menuAction()->setEnabled(std::ranges::any_of(menu.actions(), [](const QAction* entry) {
+            return !entry->isSeparator() && entry->isEnabled();
+        }));
+    };
+    for (const QAction* const entry : menu.actions()) {
+        if (!entry->isSeparator())
+            connect(entry, &QAction::enabledChanged, &menu, follow);
+    }
+    follow();
 }
 
 void MenuBar::AddCommand(const MenuRow& row, QMenu* parent)

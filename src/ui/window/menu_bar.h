@@ -31,6 +31,7 @@ Q_SIGNALS:
 private:
     void Build(std::span<const MenuRow> rows, QMenu* parent);
     void AddSubmenu(const MenuRow& row, QMenu* parent);
+    void FollowEntries(QMenu& menu);
     void AddCommand(const MenuRow& row, QMenu* parent);
 
     QHash<quint32, QAction*> commands_;

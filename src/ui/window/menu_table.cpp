@@ -223,6 +223,10 @@ public:
         Entry(QT_TR_NOOP("Save &pattern file..."), nullptr,
               QT_TR_NOOP("Save the currently enabled characters to a pattern file"),
               ActionType::SavePattern),
+        Separator,
+        Entry(QT_TR_NOOP("De&lete characters"), "Del",
+              QT_TR_NOOP("Delete the selected characters from the font"),
+              WindowCommand::DeleteCharacters),
     };
 
     static constexpr MenuRow ViewRows[] = {

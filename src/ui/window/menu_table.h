@@ -21,7 +21,8 @@ enum class WindowCommand : quint32 {
     About = 63,
     CommandLineOptions = 64,
     UserManual = 65,
-    ExportProof = 80
+    ExportProof = 80,
+    DeleteCharacters = 200
 };
 
 // The number that commands have in the menus and their actions.

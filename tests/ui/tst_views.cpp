@@ -1,0 +1,170 @@
+#include "support/test_main.h"
+#include "ui/editor/char_bitmap_view.h"
+#include "ui/window/status_line.h"
+#include "ui/window_fixture.h"
+
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QScrollBar>
+
+namespace Glyphor {
+
+// Which of the views a key or a command is for, and what they show of the font.
+class TestViews : public QObject, private Test::WindowFixture
+{
+    Q_OBJECT
+
+    void SelectFromA(int further) const
+    {
+        window_->Table().SelectCode('A');
+        window_->Table().setFocus();
+        for (int step = 0; step < further; ++step)
+            QTest::keyClick(&window_->Table(), Qt::Key_Right, Qt::ShiftModifier);
+    }
+
+    [[nodiscard]] int Width(quint16 code) const { return CurrentFont().FindChar(code)->info.width; }
+
+private Q_SLOTS:
+    void init() { OpenWindow(); }
+    void cleanup() { CloseWindow(); }
+
+    void ShortcutsOfMenusWinInTheTable()
+    {
+        OpenSample(FontFormat::LegacyAA2);
+        CurrentFont().AddChar('R');
+        CurrentFont().AddChar('T');
+        SelectFromA(1);
+        const CodeSet selected = window_->Table().SelectedCodes();
+        QTest::keyClick(&window_->Table(), Qt::Key_R, Qt::ShiftModifier);
+        QCOMPARE(Width('B'), 4);
+        QTest::keyClick(&window_->Table(), Qt::Key_T, Qt::ShiftModifier); // not in this format
+        QCOMPARE(window_->Table().SelectedCodes(), selected);
+        QTest::keyClick(&window_->Table(), Qt::Key_B, Qt::ShiftModifier);
+        QCOMPARE(window_->Table().SelectedCodes(), selected);
+        QTest::keyClick(&window_->Table(), Qt::Key_C, Qt::ShiftModifier); // of no command
+        QCOMPARE(window_->Table().SelectedCodes(), selected);             // nor in the font
+        QTest::keyClicks(&window_->Table(), u"T"_s);
+        QCOMPARE(window_->Table().CurrentCode(), int('T'));
+    }
+
+    void TheEditorChangesItsCharacterAlone()
+    {
+        OpenSample();
+        SelectFromA(1);
+        const QList<int> widths = {Width('A'), Width('B')};
+        window_->Editor().setFocus();
+        Trigger(ActionType::InsertColumnRight);
+        QCOMPARE((QList<int>{Width('A'), Width('B')}), (QList<int>{widths[0], widths[1] + 1}));
+        Trigger(ActionType::Toggle);
+        QVERIFY(CurrentFont().IsEnabled('A') && !CurrentFont().IsEnabled('B'));
+        window_->Table().setFocus();
+        Trigger(ActionType::InsertColumnLeft);
+        QCOMPARE((QList<int>{Width('A'), Width('B')}), (QList<int>{widths[0] + 1, widths[1] + 2}));
+    }
+
+    void TheIndexThatIsToldIsThatOfNow()
+    {
+        OpenSample(FontFormat::AA4);
+        CurrentFont().FindChar('B')->info.yPos = 0;
+        window_->Table().SelectCode('B');
+        CharBitmapView& editor = window_->Editor();
+        CharPixelItem* const cell = editor.CellItem(1, 0);
+        editor.SelectItem(cell);
+        editor.ShowStatus(*cell);
+        const auto told = [this](const QString& text) {
+            const auto labels = window_->statusBar()->findChildren<QLabel*>();
+            return std::ranges::any_of(labels,
+                                       [&](const QLabel* label) { return label->text() == text; });
+        };
+        Trigger(ActionType::SetPixelIndex9);
+        QVERIFY(told(u"Index of pixel [1, 0]: 9"_s));
+        Trigger(WindowCommand::Undo);
+        QVERIFY(!told(u"Index of pixel [1, 0]: 9"_s));
+        Trigger(WindowCommand::Redo);
+        QVERIFY(told(u"Index of pixel [1, 0]: 9"_s));
+    }
+
+    void ArrowsGoOnAfterTheMenus()
+    {
+        OpenSample();
+        CurrentFont().FindChar('B')->info.yPos = 0;
+        window_->Table().SelectCode('B');
+        CharBitmapView& editor = window_->Editor();
+        editor.setFocus();
+        editor.SelectFirstPixel();
+        QTest::keyClick(&editor, Qt::Key_Right);
+        const int column = editor.CurrentPixel()->Column();
+        window_->menuBar()->setFocus(Qt::MenuBarFocusReason);
+        editor.setFocus(Qt::MenuBarFocusReason);
+        QTest::keyClick(&editor, Qt::Key_Right);
+        QCOMPARE(editor.CurrentPixel()->Column(), column + 1);
+    }
+
+    void AnotherFontIsShownFromItsBeginning()
+    {
+        OpenSample();
+        for (quint16 code = 0x40; code < 0x50; ++code)
+            CurrentFont().AddChar(code).info.SetWidth(200);
+        window_->Table().Refresh();
+        QTRY_VERIFY(window_->Table().horizontalScrollBar()->maximum() > 0);
+        window_->Table().horizontalScrollBar()->setValue(200);
+        window_->Editor().SetZoom(12);
+        QVERIFY(window_->Table().horizontalScrollBar()->value() > 0);
+        WriteSample(FontFormat::AA4, Path("other.sif"));
+        QVERIFY(Open(Path("other.sif")));
+        QCOMPARE(window_->Editor().Zoom(), 0);
+        QCOMPARE(window_->Table().horizontalScrollBar()->value(), 0);
+    }
+
+    void SubmenusFollowTheirEntries()
+    {
+        const auto isEnabled = [this](ActionType entry) {
+            const QAction* const command = window_->Menus().Command(entry);
+            return qobject_cast<QMenu*>(command->associatedObjects().constFirst())
+                ->menuAction()
+                ->isEnabled();
+        };
+        QVERIFY(!isEnabled(ActionType::MoveUp) && !isEnabled(ActionType::SetPixelIndex0));
+        OpenSample(FontFormat::Legacy);
+        QVERIFY(isEnabled(ActionType::InsertColumnLeft) && !isEnabled(ActionType::MoveUp));
+        window_->Table().SelectCode('B');
+        window_->Editor().SelectFirstPixel();
+        QVERIFY(isEnabled(ActionType::SetPixelIndex0));
+    }
+
+    void TheDeleteKeyDeletesCharacters()
+    {
+        OpenSample();
+        SelectFromA(1);
+        window_->Editor().setFocus();
+        QTest::keyClick(&window_->Editor(), Qt::Key_Delete);
+        QVERIFY(CurrentFont().FindChar('A') != nullptr);
+        window_->Table().setFocus();
+        QTest::keyClick(&window_->Table(), Qt::Key_Delete);
+        QVERIFY(CurrentFont().FindChar('A') == nullptr && CurrentFont().FindChar('B') == nullptr);
+    }
+
+    void TheMenuKeyOpensAtTheCell()
+    {
+        OpenSample();
+        CharacterTable& table = window_->Table();
+        const QRect cell = table.CellRect('A').translated(table.viewport()->mapToGlobal(QPoint()));
+        QPoint corner;
+        QTimer::singleShot(0, &table, [&corner] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu != nullptr);
+            corner = menu->pos();
+            menu->close();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QApplication::sendEvent(&table, &event);
+        QCOMPARE(corner, cell.center());
+    }
+};
+
+GLYPHOR_TEST(TestViews)
+
+} // namespace Glyphor
+
+#include "tst_views.moc"
