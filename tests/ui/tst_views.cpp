@@ -95,8 +95,11 @@ private Q_SLOTS:
         editor.SelectFirstPixel();
         QTest::keyClick(&editor, Qt::Key_Right);
         const int column = editor.CurrentPixel()->Column();
-        window_->menuBar()->setFocus(Qt::MenuBarFocusReason);
-        editor.setFocus(Qt::MenuBarFocusReason);
+        QTest::keyClick(&editor, Qt::Key_E, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(editor.hasFocus());
         QTest::keyClick(&editor, Qt::Key_Right);
         QCOMPARE(editor.CurrentPixel()->Column(), column + 1);
     }

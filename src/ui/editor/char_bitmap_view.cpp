@@ -263,6 +263,8 @@ bool CharBitmapView::event(QEvent* event)
 void CharBitmapView::keyPressEvent(QKeyEvent* event)
 {
     const bool isArrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+    if (current_ != nullptr)
+        scene_.setFocusItem(current_); // menus took it
     if (current_ == nullptr && isArrow)
         SelectFirstPixel();
     else if (current_ != nullptr)
