@@ -118,6 +118,7 @@ private Q_SLOTS:
         EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::ShiftJis, nullptr);
         dialog.show();
         QVERIFY(!dialog.findChild<QComboBox*>()->isVisible()); // blocks are Unicode's
+        QCOMPARE(dialog.focusWidget(), Labelled<QLineEdit>(dialog, u"First:"_s));
         Labelled<QLineEdit>(dialog, u"First:"_s)->setText(QString(QChar(0x3042)));
         Labelled<QLineEdit>(dialog, u"Last:"_s)->setText(u"U+3042"_s);
         QCOMPARE(int(dialog.First()), 0x82A0);
@@ -166,6 +167,10 @@ private Q_SLOTS:
                 keys.append(key);
             }
             QVERIFY(keys.size() >= 3);
+            for (const QLabel* const label : dialog->findChildren<QLabel*>())
+                QVERIFY2(!label->text().contains(u"&"_s) ||
+                             label->buddy()->focusPolicy() != Qt::NoFocus,
+                         qPrintable(label->text()));
         }
         QCoreApplication::removeTranslator(&texts);
     }
@@ -175,6 +180,7 @@ private Q_SLOTS:
         for (const bool isAccepted : {false, true}) {
             EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
             dialog.show();
+            QCOMPARE(dialog.focusWidget(), Labelled<QLineEdit>(dialog, u"First:"_s));
             QCOMPARE(int(dialog.First()), 0x20);
             Labelled<QLineEdit>(dialog, u"First:"_s)->setText(u"65"_s);
             isAccepted ? dialog.accept() : dialog.reject();
