@@ -80,6 +80,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
     ConnectIndexer();
     RecallState();
     ShowFont();
+    Table().setFocus();
 }
 
 MainWindow::~MainWindow()
