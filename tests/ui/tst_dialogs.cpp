@@ -15,6 +15,7 @@
 #include "ui/dialogs/merge_mode_dialog.h"
 #include "ui/dialogs/preferences_dialog.h"
 #include "ui/dialogs/source_entries.h"
+#include "ui/dialogs/text_dialog.h"
 #include "ui/preview/generation_preview.h"
 #include "ui/support/application.h"
 #include "ui/window/info_panel.h"
@@ -173,6 +174,28 @@ private Q_SLOTS:
                          qPrintable(label->text()));
         }
         QCoreApplication::removeTranslator(&texts);
+    }
+
+    // A screen of 800 x 600, or one that shows all at twice the size.
+    void FitsOnSmallScreens()
+    {
+        const QSize least(790, 460);
+        const FontGenerationDialog generation(Outlines(), {}, nullptr);
+        const FontDialog font(nullptr);
+        const PreferencesDialog preferences(nullptr);
+        const EnableRangeDialog range(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
+        const SourceDialog source({}, nullptr);
+        for (const QDialog* const dialog : std::initializer_list<const QDialog*>{
+                 &generation, &font, &preferences, &range, &source}) {
+            const QSize size = dialog->minimumSizeHint();
+            QCOMPARE(size.boundedTo(least), size);
+        }
+        ScreenFit fit;
+        qApp->installEventFilter(&fit);
+        CommandDialog large(QString(5000, u'x'), nullptr);
+        large.resize(5000, 5000);
+        large.show();
+        QVERIFY(large.screen()->availableGeometry().contains(QRect(QPoint(), large.size())));
     }
 
     void RangesAreRememberedOnceAccepted()

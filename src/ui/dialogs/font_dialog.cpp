@@ -117,9 +117,11 @@ FontDialog::FontDialog(QWidget* parent)
     for (QPushButton* const button : {index_, directories})
         button->setAutoDefault(false);
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(MakeChoices(), 1);
-    layout->addWidget(MakeSample());
-    layout->addWidget(Row({status_, index_, directories}, status_));
+    QWidget* const choices = MakeChoices();
+    layout->addWidget(
+        ScrollingContent(*Column(
+            {choices, MakeSample(), Row({status_, index_, directories}, status_)}, choices)),
+        1);
     ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
 
     const FontDialogData stored = Settings::Instance().fontDialog.load();

@@ -79,7 +79,7 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
     auto* const previewLayout = new QVBoxLayout(previewGroup);
     previewLayout->addWidget(preview_);
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(Row({MakeEntries(), previewGroup}, previewGroup), 1);
+    layout->addWidget(ScrollingContent(*Row({MakeEntries(), previewGroup}, previewGroup)), 1);
     QDialogButtonBox* const buttons = AddButtons(*this, *layout);
     ok_ = buttons->button(QDialogButtonBox::Ok);
     copy_ = buttons->addButton(tr("Cop&y as command line"), QDialogButtonBox::ActionRole);

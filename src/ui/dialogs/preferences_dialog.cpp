@@ -26,7 +26,7 @@ PreferencesDialog::PreferencesDialog(QWidget* parent)
     pages_->addTab(MakeFilesPage(), tr("Generated files"));
     pages_->addTab(MakeFontsPage(), tr("Installed fonts"));
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(pages_, 1);
+    layout->addWidget(ScrollingContent(*pages_), 1);
     AddButtons(*this, *layout);
     const PreferencesDialogData stored = Settings::Instance().preferencesDialog.load();
     pages_->setCurrentIndex(std::clamp(stored.page, 0, pages_->count() - 1));

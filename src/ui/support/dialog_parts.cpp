@@ -55,6 +55,30 @@ QScrollArea* ScrollAreaOf(QWidget& content)
     return area;
 }
 
+QWidget* ScrollingContent(QWidget& content)
+{
+    // The base class wants no more than a part of the screen.
+    class Area final : public QScrollArea
+    {
+    public:
+        [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+        [[nodiscard]] QSize minimumSizeHint() const override
+        {
+            constexpr QSize least(240, 160);
+            return widget()->minimumSizeHint().boundedTo(least);
+        }
+    };
+
+    auto* const area = new Area;
+    area->setWidget(&content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    content.setAutoFillBackground(false);
+    area->viewport()->setAutoFillBackground(false);
+    return area;
+}
+
 QDialogButtonBox* AddButtons(QDialog& dialog, QVBoxLayout& layout,
                              QDialogButtonBox::StandardButtons kinds)
 {
