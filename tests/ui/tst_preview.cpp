@@ -2,6 +2,7 @@
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/preview/text_preview.h"
+#include "ui/support/contrast.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/window/info_panel.h"
 
@@ -83,6 +84,19 @@ private Q_SLOTS:
         QCOMPARE(panel.Value(u"Enabled"_s), u"no character"_s);
         panel.ShowCode(nullptr, -1);
         QCOMPARE(panel.Value(u"Height"_s), QString());
+    }
+
+    // The ink of disabled characters, in light and dark palettes.
+    void LegibleInks()
+    {
+        for (int paper = 0; paper < 256; paper += 5) {
+            for (int ink = 0; ink < 256; ink += 5) {
+                const QColor on(paper, paper, std::min(255, paper + 20));
+                QVERIFY(Contrast(LegibleInk(QColor(ink, ink, ink), on), on) >= 3);
+            }
+        }
+        QCOMPARE(LegibleInk(Qt::darkBlue, Qt::white), QColor(Qt::darkBlue));
+        QCOMPARE(qRound(Contrast(Qt::black, Qt::white)), 21);
     }
 
     void Codes_data()
