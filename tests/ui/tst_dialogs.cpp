@@ -301,7 +301,7 @@ private Q_SLOTS:
         dialog.show();
         dialog.findChild<FormatBox*>()->SetFormat(FontFormat(format));
         Labelled<QCheckBox>(dialog, u"Bold"_s)->setChecked(bold);
-        Labelled<QRadioButton>(dialog, u"Characters of a text"_s)->click();
+        Labelled<QCheckBox>(dialog, u"Characters of a text"_s)->click();
         QVERIFY(!Ok(dialog)->isEnabled());
         dialog.findChild<QPlainTextEdit*>()->setPlainText(u"Glyphs\n123\u6F22"_s);
         QVERIFY(Ok(dialog)->isEnabled());
@@ -340,7 +340,7 @@ private Q_SLOTS:
             QVERIFY(size->hasFocus() || !dialog.isActiveWindow());
             size->setValue(23);
             dialog.findChild<FormatBox*>()->SetFormat(FontFormat::AA2);
-            Labelled<QRadioButton>(dialog, u"Unicode blocks"_s)->click();
+            Labelled<QCheckBox>(dialog, u"Unicode blocks"_s)->click();
             QTest::keyClick(&dialog, Qt::Key_Return);
             QCOMPARE(dialog.result(), int(QDialog::Accepted));
             QCOMPARE(dialog.Args().selection->Next(0x80), int(CodeSet::Limit)); // Basic Latin alone
@@ -388,7 +388,7 @@ private Q_SLOTS:
         File(path).Replace("no mark");
         FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
         dialog.show();
-        Labelled<QRadioButton>(dialog, u"Pattern file"_s)->click();
+        Labelled<QCheckBox>(dialog, u"Pattern file"_s)->click();
         QVERIFY(!Ok(dialog)->isEnabled());
         auto* const field = Labelled<QLineEdit>(dialog, u"Pattern file"_s);
         field->setText(path);

@@ -6,7 +6,7 @@
 #include "ui/support/dialog_parts.h"
 #include "ui/window/info_panel.h"
 
-#include <QLineEdit>
+#include <QLabel>
 #include <QTest>
 
 namespace Glyphor {
@@ -39,7 +39,7 @@ private Q_SLOTS:
         strip.ShowFont(font.get());
         strip.SetText(u"B"_s);
         strip.SetZoom(3);
-        strip.SetColours(Qt::red, Qt::blue);
+        strip.SetColours({Qt::red, Qt::blue});
         strip.resize(strip.sizeHint());
         const QImage picture = strip.grab().toImage();
         const int margin = (picture.width() - 6 * 3) / 2;
@@ -59,9 +59,11 @@ private Q_SLOTS:
         TextPreview second;
         for (TextPreview* const preview : {&first, &second})
             preview->ShowFont(font.get());
-        first.findChild<QLineEdit*>()->setText(u"AB"_s);
+        first.SetSample(u"AB"_s);
+        first.UseColours({Qt::red, Qt::blue, Qt::green});
         second.RestoreState(first.State());
         QCOMPARE(second.Strip().Positions(), (QList<int>{0, 2, 8}));
+        QCOMPARE(second.Colours(), first.Colours());
         second.RestoreState("broken");
         QCOMPARE(second.State(), first.State());
     }

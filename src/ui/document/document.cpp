@@ -138,6 +138,8 @@ bool Document::AskGeneration(ActionOpenFontArgs& args)
     if (dialog.exec() != QDialog::Accepted)
         return false;
     args = dialog.Args();
+    if (!dialog.ChosenText().isEmpty())
+        Q_EMIT SampleChosen(dialog.ChosenText());
     return true;
 }
 

@@ -64,7 +64,8 @@ public:
 Q_SIGNALS:
     void OpeningRequested(const QString& path); // of a recent file
     void RecentFilesChanged();
-    void Done(const QString& text); // by no action
+    void Done(const QString& text);             // by no action
+    void SampleChosen(const QString& text);     // that the characters of a generated font are for
     void DirectoriesRequested(QWidget* parent); // a change of those that are indexed
 
 private:

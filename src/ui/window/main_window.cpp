@@ -107,6 +107,7 @@ void MainWindow::ConnectCommands()
         if (!Progress().IsWorking())
             document_->OpenFile(path);
     });
+    connect(document_, &Document::SampleChosen, &Preview(), &TextPreview::SetSample);
     connect(document_, &Document::Done, status_, &StatusLine::Tell);
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
     connect(commands_, &Commands::PreferencesChanged, this, [this] {
