@@ -52,6 +52,29 @@ private Q_SLOTS:
         }
     }
 
+    void LinesAndWhatIsMissing()
+    {
+        const auto font = Test::MakeSampleFont(FontFormat::Framed);
+        TextPreview preview;
+        preview.ShowFont(font.get());
+        preview.SetSample(u"AB\nA\u4E2D~\u4E2D"_s);
+        QCOMPARE(preview.Strip().Positions().sliced(0, 4), (QList<int>{0, 2, 8, 0}));
+        QCOMPARE(preview.Strip().Missing(), u"\u4E2D~"_s);
+        const auto labels = preview.findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(labels, [](const QLabel* label) {
+            return label->text().endsWith(u": 0x4E2D \u4E2D, 0x007E ~"_s) && !label->isHidden();
+        }));
+        preview.UseColours({Qt::red, Qt::blue, Qt::green});
+        const QImage picture = preview.Strip().grab().toImage();
+        QCOMPARE(picture.pixelColor(1, 1), QColor(Qt::green)); // behind the frame
+        TextStrip fitted;
+        fitted.ShowFont(font.get());
+        fitted.SetText(u"AB"_s);
+        fitted.FitZoom();
+        fitted.resize(12 + 8 * 4, 200);
+        QCOMPARE(fitted.Zoom(), 4);
+    }
+
     void StateIsRemembered()
     {
         const auto font = Test::MakeSampleFont(FontFormat::AA2);

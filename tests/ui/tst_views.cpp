@@ -1,5 +1,6 @@
 #include "support/test_main.h"
 #include "ui/editor/char_bitmap_view.h"
+#include "ui/window/start_page.h"
 #include "ui/window/status_line.h"
 #include "ui/window_fixture.h"
 
@@ -134,6 +135,24 @@ private Q_SLOTS:
         window_->Table().SelectCode('B');
         window_->Editor().SelectFirstPixel();
         QVERIFY(isEnabled(ActionType::SetPixelIndex0));
+    }
+
+    void AWindowWithoutAFontTellsWhatToDo()
+    {
+        WriteSample(FontFormat::AA2, Path("a<b>.sif"));
+        window_->CurrentDocument().SetRecentFiles({Path("a<b>.sif")});
+        window_->close();
+        CloseWindow();
+        OpenWindow();
+        const auto page = [this] { return window_->findChild<StartPage*>(); };
+        QVERIFY(page()->isVisible() && !window_->Table().isVisible());
+        for (QLabel* const label : page()->findChildren<QLabel*>()) {
+            QVERIFY(!label->text().isEmpty());
+            if (label->accessibleName() == u"a<b>.sif"_s)
+                Q_EMIT label->linkActivated({});
+        }
+        QCOMPARE(session_->Path(), Path("a<b>.sif"));
+        QVERIFY(!page()->isVisible() && window_->Table().hasFocus());
     }
 
     void TheDeleteKeyDeletesCharacters()

@@ -60,6 +60,10 @@ CharacterSelection::CharacterSelection(QWidget* parent)
     AddChoice(CharacterChoice::Pattern, tr("&Pattern file"), pattern);
     AddChoice(CharacterChoice::Text, tr("Characters of a te&xt"), text_);
     all->setChecked(true);
+    connect(choices_[CharacterChoice::Text], &QCheckBox::clicked, this, [this](bool isOn) {
+        if (isOn)
+            text_->setFocus(); // to be typed
+    });
     layout->addWidget(blocks, 3);
     layout->addWidget(pattern);
     layout->addWidget(text_, 1);

@@ -9,7 +9,6 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -274,16 +273,6 @@ void CharacterTable::contextMenuEvent(QContextMenuEvent* event)
         place = viewport()->mapToGlobal(CellRect(current_).center());
     }
     Q_EMIT MenuRequested(place);
-}
-
-void CharacterTable::paintEvent(QPaintEvent* event)
-{
-    QTableView::paintEvent(event);
-    if (model_->ShownFont() != nullptr)
-        return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter, tr("Open a font file or drop one here."));
 }
 
 void CharacterTable::resizeEvent(QResizeEvent* event)

@@ -20,6 +20,7 @@
 #include "ui/window/edit_commands.h"
 #include "ui/window/help.h"
 #include "ui/window/menu_bar.h"
+#include "ui/window/start_page.h"
 #include "ui/window/tool_bar.h"
 
 #include <QAction>
@@ -30,6 +31,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QMimeData>
+#include <QStackedWidget>
 
 // Outside of the namespace, as the macro needs it.
 static void InitResources()
@@ -61,6 +63,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       document_(new Document(session, *indexer_, *this)),
       menus_(new MenuBar(this)),
       panes_(new Panes),
+      startPage_(new StartPage),
       edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
       pencil_(new PencilTool(session, history, panes_->Editor())),
       commands_(new Commands({session, *indexer_, *document_, *menus_, *panes_, *edits_, *pencil_},
@@ -72,7 +75,10 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
     setAcceptDrops(true);
     setMenuBar(menus_);
     addToolBar(new ToolBar(*menus_, *document_, *pencil_));
-    setCentralWidget(panes_);
+    auto* const content = new QStackedWidget;
+    content->addWidget(startPage_);
+    content->addWidget(panes_);
+    setCentralWidget(content);
     setStatusBar(status_);
     setMinimumSize(640, 420);
     ConnectCommands();
@@ -80,7 +86,6 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
     ConnectIndexer();
     RecallState();
     ShowFont();
-    Table().setFocus();
 }
 
 MainWindow::~MainWindow()
@@ -103,10 +108,12 @@ void MainWindow::ConnectCommands()
         status_->Tell(text);
         UpdateTitle();
     });
-    connect(document_, &Document::OpeningRequested, this, [this](const QString& path) {
-        if (!Progress().IsWorking())
-            document_->OpenFile(path);
-    });
+    connect(document_, &Document::OpeningRequested, this, &MainWindow::OpenRecentFile);
+    connect(startPage_, &StartPage::FileChosen, this, &MainWindow::OpenRecentFile);
+    connect(startPage_, &StartPage::NewRequested, menus_->Command(ActionType::CreateFont),
+            &QAction::trigger);
+    connect(startPage_, &StartPage::OpeningRequested, menus_->Command(ActionType::OpenFont),
+            &QAction::trigger);
     connect(document_, &Document::SampleChosen, &Preview(), &TextPreview::SetSample);
     connect(document_, &Document::Done, status_, &StatusLine::Tell);
     connect(document_, &Document::RecentFilesChanged, this, &MainWindow::KeepState);
@@ -197,9 +204,22 @@ void MainWindow::OnActionTriggered(quint32 id)
         commands_->Run(id);
 }
 
+void MainWindow::OpenRecentFile(const QString& path)
+{
+    if (!Progress().IsWorking())
+        document_->OpenFile(path);
+}
+
 void MainWindow::ShowFont()
 {
     Font* const font = session_.CurrentFont();
+    auto* const content = qobject_cast<QStackedWidget*>(centralWidget());
+    const bool isFirst = font != nullptr && content->currentWidget() != panes_;
+    if (font == nullptr)
+        startPage_->ShowRecentFiles(document_->RecentFiles());
+    content->setCurrentIndex(font != nullptr ? 1 : 0);
+    if (isFirst)
+        Table().setFocus();
     shownFont_ = font;
     panes_->ShowFont(font);
     pencil_->ShowFont(font);

@@ -17,6 +17,7 @@ class FontIndexer;
 class MenuBar;
 class PencilTool;
 class Session;
+class StartPage;
 class UndoStack;
 
 // The window: its menus with their commands, the views of the font, and what is remembered of them.
@@ -74,6 +75,7 @@ private:
     void ShowFont();
     void ShowChanges();
     void UpdateTitle();
+    void OpenRecentFile(const QString& path);
 
     Session& session_;
     UndoStack& history_;
@@ -81,6 +83,7 @@ private:
     Document* document_;
     MenuBar* menus_;
     Panes* panes_;
+    StartPage* startPage_; // instead of the panes where there is no font
     EditCommands* edits_;
     PencilTool* pencil_;
     Commands* commands_;
