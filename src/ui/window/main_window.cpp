@@ -71,7 +71,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       status_(new StatusLine)
 {
     InitResources();
-    setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
+    QApplication::setWindowIcon(QIcon(u":/icons/glyphor.svg"_s)); // of boxes as well
     setAcceptDrops(true);
     setMenuBar(menus_);
     addToolBar(new ToolBar(*menus_, *document_, *pencil_));
