@@ -59,6 +59,7 @@ private Q_SLOTS:
         preview.ShowFont(font.get());
         preview.SetSample(u"AB\nA\u4E2D~\u4E2D"_s);
         QCOMPARE(preview.Strip().Positions().sliced(0, 4), (QList<int>{0, 2, 8, 0}));
+        QCOMPARE(preview.Strip().sizeHint().height(), 2 * 3 * 2 + 12);
         QCOMPARE(preview.Strip().Missing(), u"\u4E2D~"_s);
         const auto labels = preview.findChildren<QLabel*>();
         QVERIFY(std::ranges::any_of(labels, [](const QLabel* label) {

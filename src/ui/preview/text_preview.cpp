@@ -131,7 +131,8 @@ QString TextStrip::Missing() const
 
 int TextStrip::LineHeight() const
 {
-    return font_ != nullptr ? font_->Metrics().height + font_->Metrics().verticalSpace : 16;
+    return font_ != nullptr ? std::max(font_->Metrics().height, font_->Metrics().verticalSpace)
+                            : 16;
 }
 
 QSize TextStrip::TextSize() const
