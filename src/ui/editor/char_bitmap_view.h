@@ -102,9 +102,9 @@ private:
     int rows_ = 0;
     QPoint guides_ = {-1, -1};
     qreal cellSize_ = 1;
-    int zoom_ = 0;       // size of a cell in pixels; 0 fits the view
+    int zoom_ = 0;           // size of a cell in pixels; 0 fits the view
     QPoint told_ = {-1, -1}; // the cell whose index is told
-    int wheelAngle_ = 0; // that was turned and has not zoomed yet
+    int wheelAngle_ = 0;     // that was turned and has not zoomed yet
 };
 
 } // namespace Glyphor

@@ -203,7 +203,8 @@ TextPreview::TextPreview(QWidget* parent)
     field_->setLineWrapMode(QPlainTextEdit::NoWrap);
     field_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     field_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    field_->setFixedHeight(lines * field_->fontMetrics().lineSpacing() + 12);
+    field_->setMinimumHeight(lines * field_->fontMetrics().lineSpacing());
+    field_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     zoom_->setRange(1, 8);
     zoom_->setPrefix(tr("×"));
     zoom_->setAccessibleName(tr("Zoom of the sample"));
@@ -223,9 +224,14 @@ TextPreview::TextPreview(QWidget* parent)
     area->setFrameShape(QFrame::StyledPanel);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 4, 6, 4);
-    layout->addWidget(Row({LabelFor(*field_, tr("Sa&mple:")), field_, zoom_, kerning_, inkButton_,
-                           paperButton_, backgroundButton_, presetsButton_},
-                          field_));
+    QWidget* const view = Row({zoom_, kerning_}, nullptr);
+    QWidget* const colours =
+        Row({inkButton_, paperButton_, backgroundButton_, presetsButton_}, nullptr);
+    auto* const entries = new QHBoxLayout;
+    entries->addWidget(LabelFor(*field_, tr("Sa&mple:")));
+    entries->addWidget(field_, 1);
+    entries->addWidget(Column({view, colours}, nullptr));
+    layout->addLayout(entries);
     layout->addWidget(area, 1);
     layout->addWidget(missing_);
 
