@@ -3,7 +3,6 @@
 #include "app/file_name.h"
 #include "app/settings.h"
 #include "files/font_file_c.h"
-#include "render/font_database.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/dialog_fixture.h"
@@ -35,24 +34,11 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTreeWidget>
 
 namespace Glyphor {
 
 using Test::Labelled;
 using Test::Ok;
-
-namespace {
-
-QStringList Texts(const QListWidget& list)
-{
-    QStringList texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
-    return texts;
-}
-
-} // namespace
 
 class TestDialogs : public QObject
 {
@@ -406,56 +392,6 @@ private Q_SLOTS:
         QVERIFY(!dialog.isVisible());
         QVERIFY(dialog.Args().selection->Test('A'));
         Test::RemoveAll(path);
-    }
-
-    void InstalledFonts()
-    {
-        auto database = std::make_shared<FontDatabase>();
-        QTemporaryDir fonts;
-        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf"),
-                            fonts.filePath(u"a.ttf"_s)));
-        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSans-Bold.ttf"),
-                            fonts.filePath(u"b.ttf"_s)));
-        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSansMono.ttf"),
-                            fonts.filePath(u"c.ttf"_s)));
-        FontDatabase::SetCurrent(nullptr);
-        {
-            FontDialog dialog(nullptr);
-            dialog.show();
-            dialog.SetIndexing(true);
-            QVERIFY(!Ok(dialog)->isEnabled());
-            database->Build(
-                {fonts.path()}, [](int) {}, [](int) { return true; });
-            FontDatabase::SetCurrent(database);
-            dialog.ShowDatabase();
-            dialog.SetIndexing(false);
-            auto* const families = dialog.findChild<QListWidget*>();
-            QCOMPARE(Texts(*families), (QStringList{u"DejaVu Sans"_s, u"DejaVu Sans Mono"_s}));
-            QTest::keyClicks(Labelled<QLineEdit>(dialog, u"Search:"_s), u"mono"_s);
-            QCOMPARE(Texts(*families), QStringList{u"DejaVu Sans Mono"_s});
-            QTest::keyClick(Labelled<QLineEdit>(dialog, u"Search:"_s), Qt::Key_A,
-                            Qt::ControlModifier);
-            QTest::keyClick(Labelled<QLineEdit>(dialog, u"Search:"_s), Qt::Key_Delete);
-            families->setCurrentRow(0);
-            auto* const styles = dialog.findChild<QTreeWidget*>();
-            QCOMPARE(styles->topLevelItemCount(), 2);
-            styles->setCurrentItem(styles->topLevelItem(1));
-            QCOMPARE(styles->currentItem()->text(1), u"700"_s);
-            QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
-            dialog.findChild<QDoubleSpinBox*>()->setValue(30);
-            auto* const scripts = Labelled<QComboBox>(dialog, u"Script:"_s);
-            scripts->setCurrentText(u"Hiragana"_s);
-            QCOMPARE(families->count(), 0);
-            QVERIFY(!Ok(dialog)->isEnabled());
-            scripts->setCurrentText(u"Greek"_s);
-            QCOMPARE(families->count(), 2);
-            QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s)); // chosen again
-            Ok(dialog)->click();
-        }
-        const FontDialog dialog(nullptr);
-        QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
-        QCOMPARE(dialog.ChosenSize().value, 30);
-        FontDatabase::SetCurrent(nullptr);
     }
 
     void Preferences()
