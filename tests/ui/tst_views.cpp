@@ -1,15 +1,19 @@
 #include "support/test_main.h"
 #include "ui/editor/char_bitmap_view.h"
+#include "ui/preview/text_preview.h"
 #include "ui/window/start_page.h"
 #include "ui/window/status_line.h"
 #include "ui/window_fixture.h"
 
 #include <QContextMenuEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QScrollBar>
 
 namespace Glyphor {
+
+using Test::DialogAnswer;
 
 // Which of the views a key or a command is for, and what they show of the font.
 class TestViews : public QObject, private Test::WindowFixture
@@ -153,6 +157,23 @@ private Q_SLOTS:
         }
         QCOMPARE(session_->Path(), Path("a<b>.sif"));
         QVERIFY(!page()->isVisible() && window_->Table().hasFocus());
+    }
+
+    // What was chosen for a text shows that text; a pattern that is saved is told of.
+    void TheDocumentTellsTheWindow()
+    {
+        OpenSample();
+        Document& document = window_->CurrentDocument();
+        Q_EMIT document.SampleChosen(u"AB\nA"_s);
+        QCOMPARE(window_->Preview().Strip().Positions().size(), 5);
+        const DialogAnswer<QFileDialog> answer([this](QFileDialog& dialog) {
+            dialog.setDirectory(folder_.path());
+            dialog.selectFile(u"kept.txt"_s);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        document.SavePattern();
+        QCOMPARE(window_->statusBar()->currentMessage(),
+                 u"Saved pattern file: "_s + Path("kept.txt"));
     }
 
     void TheDeleteKeyDeletesCharacters()

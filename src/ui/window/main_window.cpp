@@ -109,6 +109,8 @@ void MainWindow::ConnectCommands()
         UpdateTitle();
     });
     connect(document_, &Document::OpeningRequested, this, &MainWindow::OpenRecentFile);
+    connect(document_, &Document::RecentFilesChanged, startPage_,
+            [this] { startPage_->ShowRecentFiles(document_->RecentFiles()); });
     connect(startPage_, &StartPage::FileChosen, this, &MainWindow::OpenRecentFile);
     connect(startPage_, &StartPage::NewRequested, menus_->Command(ActionType::CreateFont),
             &QAction::trigger);

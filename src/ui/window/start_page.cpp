@@ -1,6 +1,7 @@
 #include "ui/window/start_page.h"
 
 #include "app/shown_text.h"
+#include "ui/support/contrast.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -20,6 +21,10 @@ QLabel* MakeLink(const QString& text)
     link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     link->setFocusPolicy(Qt::TabFocus);
     link->setAccessibleName(text);
+    QPalette palette = link->palette();
+    const QColor paper = palette.color(QPalette::Window);
+    palette.setColor(QPalette::Link, LegibleInk(palette.color(QPalette::Link), paper));
+    link->setPalette(palette);
     return link;
 }
 
