@@ -69,7 +69,6 @@ CharacterSelection::CharacterSelection(QWidget* parent)
     layout->addWidget(text_, 1);
     layout->addStretch();
     layout->addWidget(count_);
-    setMinimumHeight(200); // the parts come and go
     connect(blocks_, &QListWidget::itemChanged, this, &CharacterSelection::TellChange);
     connect(patternPath_, &QLineEdit::textChanged, this, &CharacterSelection::TellChange);
     connect(text_, &QPlainTextEdit::textChanged, this, &CharacterSelection::TellChange);
