@@ -83,7 +83,15 @@ QCheckBox* CharacterSelection::AddChoice(CharacterChoice choice, const QString& 
     buttons_->addWidget(button, index / 2, index % 2);
     if (part != nullptr) {
         part->hide();
-        connect(button, &QCheckBox::toggled, part, &QWidget::setVisible);
+        connect(button, &QCheckBox::toggled, part, [this, part](bool isOn) {
+            part->setVisible(isOn);
+            // What scrolls around this has to know at once, or the parts are squeezed.
+            for (QWidget* around = this; around != nullptr; around = around->parentWidget()) {
+                if (around->layout() != nullptr)
+                    around->layout()->activate();
+                around->updateGeometry();
+            }
+        });
     }
     connect(button, &QCheckBox::toggled, this, [this, choice](bool isOn) { Choose(choice, isOn); });
     return button;
