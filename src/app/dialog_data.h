@@ -55,7 +55,7 @@ struct FontDialogData
     bool operator==(const FontDialogData&) const = default;
 };
 
-// Which characters are generated. The numbers are stored.
+// Which characters are generated. The numbers are stored; several ones as bits above them.
 enum class CharacterChoice : qint32 { All = 0, Blocks = 1, Pattern = 2, Text = 3 };
 
 struct FontGenerationDialogData

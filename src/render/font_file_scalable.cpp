@@ -59,7 +59,14 @@ FaceTraits FontFileScalable::Traits() const
 {
     if (!face_.IsOpen())
         return {};
-    return {AxesOf(face_.Handle()), CharmapNames(face_.Handle()), HasOtherCharmaps(face_.Handle())};
+    CodeSet codes;
+    face_.WalkAllCodes([&codes](char32_t code, FT_UInt) {
+        if (code < CodeSet::Limit)
+            codes.Set(quint16(code), true);
+        return true;
+    });
+    return {AxesOf(face_.Handle()), CharmapNames(face_.Handle()), HasOtherCharmaps(face_.Handle()),
+            codes};
 }
 
 int FontFileScalable::EmSize()

@@ -16,6 +16,7 @@ struct FaceTraits
     std::vector<FaceAxis> axes;
     QStringList charmaps;          // "0: Mac Roman"
     bool hasOtherCharmaps = false; // than those of Unicode
+    CodeSet codes;                 // that it has glyphs for, up to U+FFFF
 };
 
 // A scalable font file, rendered at one size into a font of one format. Read only.

@@ -3,7 +3,6 @@
 #include "app/file_name.h"
 #include "app/settings.h"
 #include "files/font_file_c.h"
-#include "render/font_database.h"
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/dialog_fixture.h"
@@ -15,6 +14,7 @@
 #include "ui/dialogs/merge_mode_dialog.h"
 #include "ui/dialogs/preferences_dialog.h"
 #include "ui/dialogs/source_entries.h"
+#include "ui/dialogs/text_dialog.h"
 #include "ui/preview/generation_preview.h"
 #include "ui/support/application.h"
 #include "ui/window/info_panel.h"
@@ -34,24 +34,11 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTreeWidget>
 
 namespace Glyphor {
 
 using Test::Labelled;
 using Test::Ok;
-
-namespace {
-
-QStringList Texts(const QListWidget& list)
-{
-    QStringList texts;
-    for (int row = 0; row < list.count(); ++row)
-        texts.append(list.item(row)->text());
-    return texts;
-}
-
-} // namespace
 
 class TestDialogs : public QObject
 {
@@ -118,6 +105,7 @@ private Q_SLOTS:
         EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::ShiftJis, nullptr);
         dialog.show();
         QVERIFY(!dialog.findChild<QComboBox*>()->isVisible()); // blocks are Unicode's
+        QCOMPARE(dialog.focusWidget(), Labelled<QLineEdit>(dialog, u"First:"_s));
         Labelled<QLineEdit>(dialog, u"First:"_s)->setText(QString(QChar(0x3042)));
         Labelled<QLineEdit>(dialog, u"Last:"_s)->setText(u"U+3042"_s);
         QCOMPARE(int(dialog.First()), 0x82A0);
@@ -166,8 +154,34 @@ private Q_SLOTS:
                 keys.append(key);
             }
             QVERIFY(keys.size() >= 3);
+            for (const QLabel* const label : dialog->findChildren<QLabel*>())
+                QVERIFY2(!label->text().contains(u"&"_s) ||
+                             label->buddy()->focusPolicy() != Qt::NoFocus,
+                         qPrintable(label->text()));
         }
         QCoreApplication::removeTranslator(&texts);
+    }
+
+    // A screen of 800 x 600, or one that shows all at twice the size.
+    void FitsOnSmallScreens()
+    {
+        const QSize least(790, 460);
+        const FontGenerationDialog generation(Outlines(), {}, nullptr);
+        const FontDialog font(nullptr);
+        const PreferencesDialog preferences(nullptr);
+        const EnableRangeDialog range(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
+        const SourceDialog source({}, nullptr);
+        for (const QDialog* const dialog : std::initializer_list<const QDialog*>{
+                 &generation, &font, &preferences, &range, &source}) {
+            const QSize size = dialog->minimumSizeHint();
+            QCOMPARE(size.boundedTo(least), size);
+        }
+        ScreenFit fit;
+        qApp->installEventFilter(&fit);
+        CommandDialog large(QString(5000, u'x'), nullptr);
+        large.resize(5000, 5000);
+        large.show();
+        QVERIFY(large.screen()->availableGeometry().contains(QRect(QPoint(), large.size())));
     }
 
     void RangesAreRememberedOnceAccepted()
@@ -175,6 +189,7 @@ private Q_SLOTS:
         for (const bool isAccepted : {false, true}) {
             EnableRangeDialog dialog(ActionType::Enable, {}, EncodingType::Unicode, nullptr);
             dialog.show();
+            QCOMPARE(dialog.focusWidget(), Labelled<QLineEdit>(dialog, u"First:"_s));
             QCOMPARE(int(dialog.First()), 0x20);
             Labelled<QLineEdit>(dialog, u"First:"_s)->setText(u"65"_s);
             isAccepted ? dialog.accept() : dialog.reject();
@@ -272,7 +287,7 @@ private Q_SLOTS:
         dialog.show();
         dialog.findChild<FormatBox*>()->SetFormat(FontFormat(format));
         Labelled<QCheckBox>(dialog, u"Bold"_s)->setChecked(bold);
-        Labelled<QRadioButton>(dialog, u"Characters of a text"_s)->click();
+        Labelled<QCheckBox>(dialog, u"Characters of a text"_s)->click();
         QVERIFY(!Ok(dialog)->isEnabled());
         dialog.findChild<QPlainTextEdit*>()->setPlainText(u"Glyphs\n123\u6F22"_s);
         QVERIFY(Ok(dialog)->isEnabled());
@@ -311,7 +326,7 @@ private Q_SLOTS:
             QVERIFY(size->hasFocus() || !dialog.isActiveWindow());
             size->setValue(23);
             dialog.findChild<FormatBox*>()->SetFormat(FontFormat::AA2);
-            Labelled<QRadioButton>(dialog, u"Unicode blocks"_s)->click();
+            Labelled<QCheckBox>(dialog, u"Unicode blocks"_s)->click();
             QTest::keyClick(&dialog, Qt::Key_Return);
             QCOMPARE(dialog.result(), int(QDialog::Accepted));
             QCOMPARE(dialog.Args().selection->Next(0x80), int(CodeSet::Limit)); // Basic Latin alone
@@ -359,7 +374,7 @@ private Q_SLOTS:
         File(path).Replace("no mark");
         FontGenerationDialog dialog(Outlines(), {u"Book"_s}, nullptr);
         dialog.show();
-        Labelled<QRadioButton>(dialog, u"Pattern file"_s)->click();
+        Labelled<QCheckBox>(dialog, u"Pattern file"_s)->click();
         QVERIFY(!Ok(dialog)->isEnabled());
         auto* const field = Labelled<QLineEdit>(dialog, u"Pattern file"_s);
         field->setText(path);
@@ -377,56 +392,6 @@ private Q_SLOTS:
         QVERIFY(!dialog.isVisible());
         QVERIFY(dialog.Args().selection->Test('A'));
         Test::RemoveAll(path);
-    }
-
-    void InstalledFonts()
-    {
-        auto database = std::make_shared<FontDatabase>();
-        QTemporaryDir fonts;
-        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSans.ttf"),
-                            fonts.filePath(u"a.ttf"_s)));
-        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSans-Bold.ttf"),
-                            fonts.filePath(u"b.ttf"_s)));
-        QVERIFY(QFile::copy(QStringLiteral(SYSTEM_FONTS "/DejaVuSansMono.ttf"),
-                            fonts.filePath(u"c.ttf"_s)));
-        FontDatabase::SetCurrent(nullptr);
-        {
-            FontDialog dialog(nullptr);
-            dialog.show();
-            dialog.SetIndexing(true);
-            QVERIFY(!Ok(dialog)->isEnabled());
-            database->Build(
-                {fonts.path()}, [](int) {}, [](int) { return true; });
-            FontDatabase::SetCurrent(database);
-            dialog.ShowDatabase();
-            dialog.SetIndexing(false);
-            auto* const families = dialog.findChild<QListWidget*>();
-            QCOMPARE(Texts(*families), (QStringList{u"DejaVu Sans"_s, u"DejaVu Sans Mono"_s}));
-            QTest::keyClicks(Labelled<QLineEdit>(dialog, u"Search:"_s), u"mono"_s);
-            QCOMPARE(Texts(*families), QStringList{u"DejaVu Sans Mono"_s});
-            QTest::keyClick(Labelled<QLineEdit>(dialog, u"Search:"_s), Qt::Key_A,
-                            Qt::ControlModifier);
-            QTest::keyClick(Labelled<QLineEdit>(dialog, u"Search:"_s), Qt::Key_Delete);
-            families->setCurrentRow(0);
-            auto* const styles = dialog.findChild<QTreeWidget*>();
-            QCOMPARE(styles->topLevelItemCount(), 2);
-            styles->setCurrentItem(styles->topLevelItem(1));
-            QCOMPARE(styles->currentItem()->text(1), u"700"_s);
-            QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
-            dialog.findChild<QDoubleSpinBox*>()->setValue(30);
-            auto* const scripts = Labelled<QComboBox>(dialog, u"Script:"_s);
-            scripts->setCurrentText(u"Hiragana"_s);
-            QCOMPARE(families->count(), 0);
-            QVERIFY(!Ok(dialog)->isEnabled());
-            scripts->setCurrentText(u"Greek"_s);
-            QCOMPARE(families->count(), 2);
-            QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s)); // chosen again
-            Ok(dialog)->click();
-        }
-        const FontDialog dialog(nullptr);
-        QCOMPARE(dialog.Path(), fonts.filePath(u"b.ttf"_s));
-        QCOMPARE(dialog.ChosenSize().value, 30);
-        FontDatabase::SetCurrent(nullptr);
     }
 
     void Preferences()

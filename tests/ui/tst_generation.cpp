@@ -16,9 +16,9 @@
 #include <QDoubleSpinBox>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QProcess>
-#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -163,13 +163,50 @@ private Q_SLOTS:
         GenerationPreview preview;
         preview.SetSample(u"g\u00C0"_s);
         QSignalSpy finished(&preview, &GenerationPreview::Finished);
-        preview.ShowFor(args, MissingCharacters::Ignored);
+        preview.ShowFor(args, {});
         QVERIFY(finished.wait(10000));
         const std::unique_ptr<Font> font = ReadFont(args);
         QCOMPARE(preview.SampleFont()->Metrics().height, font->Metrics().height);
         for (const quint16 code : {quint16('g'), quint16(0xC0)})
             QCOMPARE(preview.SampleFont()->FindChar(code)->bitmap->DataAsList(),
                      font->FindChar(code)->bitmap->DataAsList());
+    }
+
+    void ChoicesOfCharactersAdd()
+    {
+        FontDialogData asked;
+        asked.size.value = 16;
+        Settings::Instance().fontDialog.save(asked);
+        const auto choice = [](FontGenerationDialog& dialog, const QString& name) {
+            return Labelled<QCheckBox>(dialog, name);
+        };
+        {
+            FontGenerationDialog dialog(DejaVu(), {u"Book"_s}, nullptr);
+            dialog.show();
+            choice(dialog, u"Unicode blocks"_s)->click();
+            choice(dialog, u"Characters of a text"_s)->click();
+            QVERIFY(!choice(dialog, u"All characters"_s)->isChecked());
+            dialog.findChild<QPlainTextEdit*>()->setPlainText(u"A\u20AC\u4E2D"_s);
+            QCOMPARE(dialog.Preview().Sample(), u"A\u20AC\u4E2D"_s);
+            QVERIFY(HasNote(dialog, u"130 codes, of which the font has 96"_s));
+            const auto& blocks = *dialog.findChild<QListWidget*>();
+            QCOMPARE(blocks.item(0)->text(), u"Basic Latin (95)"_s);
+            QVERIFY(blocks.findItems(u"Bengali (0)"_s, Qt::MatchExactly).constFirst()->isHidden());
+            dialog.findChild<FontSizeBox*>()->SetValue({23});
+            dialog.accept();
+        }
+        FontGenerationDialog dialog(DejaVu(), {u"Book"_s}, nullptr);
+        CodeSet expected;
+        expected.SetRange(0, 127, true);
+        expected.Set(0x20AC, true);
+        expected.Set(0x4E2D, true);
+        QCOMPARE(*dialog.Args().selection, expected);
+        QCOMPARE(dialog.ChosenText(), u"A\u20AC\u4E2D"_s);
+        QCOMPARE(Settings::Instance().fontDialog.load().size.value, 23);
+        choice(dialog, u"All characters"_s)->click();
+        QVERIFY(!dialog.Args().selection && dialog.ChosenText().isEmpty());
+        choice(dialog, u"All characters"_s)->click();
+        QVERIFY(choice(dialog, u"Unicode blocks"_s)->isChecked()); // something is chosen always
     }
 
     void RenderingIsRemembered()
@@ -274,13 +311,13 @@ private Q_SLOTS:
             dialog.template findChild<FontSizeBox*>()->SetValue({13, true, HeightUnit::Capital});
             dialog.template findChild<FormatBox*>()->SetFormat(FontFormat::AA4);
             Labelled<QDoubleSpinBox>(dialog, u"Gamma:"_s)->setValue(1.4);
-            Labelled<QRadioButton>(dialog, u"Characters of a text"_s)->click();
+            Labelled<QCheckBox>(dialog, u"Characters of a text"_s)->click();
             dialog.template findChild<QPlainTextEdit*>()->setPlainText(u"-it's 5 \"$\"\u20AC"_s);
         });
         row("axes", Variable().path, [](auto& dialog) {
             Labelled<QComboBox>(dialog, u"Face:"_s)->setCurrentIndex(2);
             Labelled<QDoubleSpinBox>(dialog, u"Weight (wght):"_s)->setValue(512.25);
-            Labelled<QRadioButton>(dialog, u"Unicode blocks"_s)->click();
+            Labelled<QCheckBox>(dialog, u"Unicode blocks"_s)->click();
             Labelled<QLineEdit>(dialog, u"Mapping:"_s)->setText(u"65, 65=0xE001:heart"_s);
         });
     }

@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QDockWidget>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
@@ -85,7 +86,7 @@ private Q_SLOTS:
         QVERIFY(IsEnabled(ActionType::SaveKerning) && withKerning.isEnabled());
         // The sample draws with them.
         withKerning.setChecked(true);
-        window_->Preview().findChild<QLineEdit*>()->setText(u"AB"_s);
+        window_->Preview().findChild<QPlainTextEdit*>()->setPlainText(u"AB"_s);
         QCOMPARE(window_->Preview().Strip().Positions().back(), 2 + -2 + 6);
         Pairs().setFocus();
         Pairs().selectRow(1);

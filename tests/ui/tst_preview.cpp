@@ -2,10 +2,11 @@
 #include "support/sample_font.h"
 #include "support/test_main.h"
 #include "ui/preview/text_preview.h"
+#include "ui/support/contrast.h"
 #include "ui/support/dialog_parts.h"
 #include "ui/window/info_panel.h"
 
-#include <QLineEdit>
+#include <QLabel>
 #include <QTest>
 
 namespace Glyphor {
@@ -38,7 +39,7 @@ private Q_SLOTS:
         strip.ShowFont(font.get());
         strip.SetText(u"B"_s);
         strip.SetZoom(3);
-        strip.SetColours(Qt::red, Qt::blue);
+        strip.SetColours({Qt::red, Qt::blue});
         strip.resize(strip.sizeHint());
         const QImage picture = strip.grab().toImage();
         const int margin = (picture.width() - 6 * 3) / 2;
@@ -51,6 +52,30 @@ private Q_SLOTS:
         }
     }
 
+    void LinesAndWhatIsMissing()
+    {
+        const auto font = Test::MakeSampleFont(FontFormat::Framed);
+        TextPreview preview;
+        preview.ShowFont(font.get());
+        preview.SetSample(u"AB\nA\u4E2D~\u4E2D"_s);
+        QCOMPARE(preview.Strip().Positions().sliced(0, 4), (QList<int>{0, 2, 8, 0}));
+        QCOMPARE(preview.Strip().sizeHint().height(), 2 * 3 * 2 + 12);
+        QCOMPARE(preview.Strip().Missing(), u"\u4E2D~"_s);
+        const auto labels = preview.findChildren<QLabel*>();
+        QVERIFY(std::ranges::any_of(labels, [](const QLabel* label) {
+            return label->text().endsWith(u": 0x4E2D \u4E2D, 0x007E ~"_s) && !label->isHidden();
+        }));
+        preview.UseColours({Qt::red, Qt::blue, Qt::green});
+        const QImage picture = preview.Strip().grab().toImage();
+        QCOMPARE(picture.pixelColor(1, 1), QColor(Qt::green)); // behind the frame
+        TextStrip fitted;
+        fitted.ShowFont(font.get());
+        fitted.SetText(u"AB"_s);
+        fitted.FitZoom();
+        fitted.resize(12 + 8 * 4, 200);
+        QCOMPARE(fitted.Zoom(), 4);
+    }
+
     void StateIsRemembered()
     {
         const auto font = Test::MakeSampleFont(FontFormat::AA2);
@@ -58,9 +83,11 @@ private Q_SLOTS:
         TextPreview second;
         for (TextPreview* const preview : {&first, &second})
             preview->ShowFont(font.get());
-        first.findChild<QLineEdit*>()->setText(u"AB"_s);
+        first.SetSample(u"AB"_s);
+        first.UseColours({Qt::red, Qt::blue, Qt::green});
         second.RestoreState(first.State());
         QCOMPARE(second.Strip().Positions(), (QList<int>{0, 2, 8}));
+        QCOMPARE(second.Colours(), first.Colours());
         second.RestoreState("broken");
         QCOMPARE(second.State(), first.State());
     }
@@ -81,6 +108,19 @@ private Q_SLOTS:
         QCOMPARE(panel.Value(u"Enabled"_s), u"no character"_s);
         panel.ShowCode(nullptr, -1);
         QCOMPARE(panel.Value(u"Format"_s), QString());
+    }
+
+    // The ink of disabled characters, in light and dark palettes.
+    void LegibleInks()
+    {
+        for (int paper = 0; paper < 256; paper += 5) {
+            for (int ink = 0; ink < 256; ink += 5) {
+                const QColor on(paper, paper, std::min(255, paper + 20));
+                QVERIFY(Contrast(LegibleInk(QColor(ink, ink, ink), on), on) >= 3);
+            }
+        }
+        QCOMPARE(LegibleInk(Qt::darkBlue, Qt::white), QColor(Qt::darkBlue));
+        QCOMPARE(qRound(Contrast(Qt::black, Qt::white)), 21);
     }
 
     void Codes_data()

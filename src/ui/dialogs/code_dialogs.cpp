@@ -34,7 +34,7 @@ EnableRangeDialog::EnableRangeDialog(ActionType change, const CodeSet& existing,
       encoding_(encoding),
       first_(new QLineEdit),
       last_(new QLineEdit),
-      block_(new QComboBox(this)),
+      block_(new QComboBox),
       hint_(PlainLabel())
 {
     setWindowTitle(change == ActionType::Enable ? tr("Enable range of characters")
@@ -45,10 +45,12 @@ EnableRangeDialog::EnableRangeDialog(ActionType change, const CodeSet& existing,
     auto* const form = new QFormLayout;
     form->addRow(tr("&First:"), first_);
     form->addRow(tr("&Last:"), last_);
-    if (encoding == EncodingType::Unicode) // whose codes blocks are of
+    if (encoding == EncodingType::Unicode) { // whose codes blocks are of
         form->addRow(tr("&Block:"), block_);
-    else
+    } else {
+        block_->setParent(this);
         block_->hide();
+    }
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(hint_);
@@ -65,6 +67,7 @@ EnableRangeDialog::EnableRangeDialog(ActionType change, const CodeSet& existing,
     first_->setText(CodeText(isStored ? stored.first : 0x20));
     last_->setText(CodeText(isStored ? stored.last : 0x7E));
     RestoreGeometry(*this, stored.geometry);
+    first_->setFocus();
     first_->selectAll();
 }
 

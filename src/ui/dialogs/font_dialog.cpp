@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QCoreApplication>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -20,12 +21,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <limits>
 
 namespace Glyphor {
 
 namespace {
 
-constexpr quint32 UsualWeight = 400;
+constexpr int UsualWeight = 400;
+constexpr int UsualWidth = 5;
 
 struct ScriptRow
 {
@@ -70,6 +74,31 @@ bool HasRange(const FontFamily& family, int bit)
     return bit / 32 < words.size() && (words[bit / 32] >> (bit % 32) & 1) != 0;
 }
 
+// Another width is farther off than any slant, and that farther than any weight.
+int DistanceFromUsual(const FaceStyle& style)
+{
+    constexpr int slant = 1000;
+    constexpr int width = 10 * slant;
+    return std::abs(int(style.width) - UsualWidth) * width + (style.italic ? slant : 0) +
+           std::min(slant - 1, std::abs(int(style.weight) - UsualWeight));
+}
+
+QString WidthName(quint32 width)
+{
+    static constexpr std::array names = {QT_TRANSLATE_NOOP("Width", "ultra-condensed"),
+                                         QT_TRANSLATE_NOOP("Width", "extra-condensed"),
+                                         QT_TRANSLATE_NOOP("Width", "condensed"),
+                                         QT_TRANSLATE_NOOP("Width", "semi-condensed"),
+                                         QT_TRANSLATE_NOOP("Width", "normal"),
+                                         QT_TRANSLATE_NOOP("Width", "semi-expanded"),
+                                         QT_TRANSLATE_NOOP("Width", "expanded"),
+                                         QT_TRANSLATE_NOOP("Width", "extra-expanded"),
+                                         QT_TRANSLATE_NOOP("Width", "ultra-expanded")};
+    return width >= 1 && width <= names.size()
+               ? QCoreApplication::translate("Width", names[width - 1])
+               : QString();
+}
+
 } // namespace
 
 FontDialog::FontDialog(QWidget* parent)
@@ -88,9 +117,11 @@ FontDialog::FontDialog(QWidget* parent)
     for (QPushButton* const button : {index_, directories})
         button->setAutoDefault(false);
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(MakeChoices(), 1);
-    layout->addWidget(MakeSample());
-    layout->addWidget(Row({status_, index_, directories}, status_));
+    QWidget* const choices = MakeChoices();
+    layout->addWidget(
+        ScrollingContent(*Column(
+            {choices, MakeSample(), Row({status_, index_, directories}, status_)}, choices)),
+        1);
     ok_ = AddButtons(*this, *layout)->button(QDialogButtonBox::Ok);
 
     const FontDialogData stored = Settings::Instance().fontDialog.load();
@@ -146,7 +177,10 @@ QWidget* FontDialog::MakeChoices()
     }
     search_->setClearButtonEnabled(true);
     search_->setPlaceholderText(tr("A part of the name"));
-    styles_->setHeaderLabels({tr("Style"), tr("Weight"), tr("Slant")});
+    styles_->setHeaderLabels({tr("Style"), tr("Weight"), tr("Width"), tr("Slant")});
+    styles_->header()->setStretchLastSection(false);
+    styles_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    styles_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     styles_->setRootIsDecorated(false);
     families_->setAccessibleName(tr("Families"));
     styles_->setAccessibleName(tr("Styles"));
@@ -230,28 +264,27 @@ QString FontDialog::ChosenStyle() const
     return item != nullptr ? item->text(0) : QString();
 }
 
+// The style that was chosen in this family, or else its most usual one.
 void FontDialog::ShowStyles()
 {
     const FontFamily* const family = Family();
-    const QString wanted = wantedStyle_;
+    const bool isSame = family != nullptr && family->Name() == wantedFamily_;
+    const QString wanted = isSame ? wantedStyle_ : QString();
     const QSignalBlocker blocker(styles_);
     styles_->clear();
-    bool hasUsual = false;
+    int least = std::numeric_limits<int>::max();
     for (const QString& name : family != nullptr ? family->StyleNames() : QStringList()) {
         const FaceStyle style = family->Style(name);
         const QString weight = style.weight > 0 ? QString::number(style.weight) : QString();
-        auto* const item =
-            new QTreeWidgetItem({name, weight, style.italic ? tr("italic") : tr("upright")});
+        auto* const item = new QTreeWidgetItem(
+            {name, weight, WidthName(style.width), style.italic ? tr("italic") : tr("upright")});
         styles_->addTopLevelItem(item);
-        const bool isUsual = style.weight == UsualWeight && !style.italic;
-        const QTreeWidgetItem* const chosen = styles_->currentItem();
-        const bool isBetter =
-            isUsual && !hasUsual && chosen != nullptr && chosen->text(0) != wanted;
-        if (chosen == nullptr || name == wanted || isBetter)
+        const int distance = name == wanted ? -1 : DistanceFromUsual(style);
+        if (distance < least) {
+            least = distance;
             styles_->setCurrentItem(item);
-        hasUsual = hasUsual || isUsual;
+        }
     }
-    styles_->resizeColumnToContents(0);
     if (family != nullptr)
         wantedFamily_ = family->Name();
     ShowSample();

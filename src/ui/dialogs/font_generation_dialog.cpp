@@ -79,7 +79,7 @@ FontGenerationDialog::FontGenerationDialog(const ActionOpenFontArgs& args, const
     auto* const previewLayout = new QVBoxLayout(previewGroup);
     previewLayout->addWidget(preview_);
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(Row({MakeEntries(), previewGroup}, previewGroup), 1);
+    layout->addWidget(ScrollingContent(*Row({MakeEntries(), previewGroup}, previewGroup)), 1);
     QDialogButtonBox* const buttons = AddButtons(*this, *layout);
     ok_ = buttons->button(QDialogButtonBox::Ok);
     copy_ = buttons->addButton(tr("Cop&y as command line"), QDialogButtonBox::ActionRole);
@@ -162,6 +162,7 @@ void FontGenerationDialog::LoadEntries()
     LoadEntriesOfFile();
     preview_->SetSample(record.sample.isEmpty() ? tr("The quick brown fox 0123456789")
                                                 : record.sample);
+    ShowChosenText();
     resize(880, 560);
     RestoreGeometry(*this, record.geometry);
 }
@@ -219,6 +220,9 @@ void FontGenerationDialog::StoreEntries() const
     record.gamma = rendering_->Gamma();
     StoreEntriesOfFile(record);
     Settings::Instance().fontGenerationDialog.save(record);
+    FontDialogData choice = Settings::Instance().fontDialog.load(); // which asks for it before
+    choice.size = record.size;
+    Settings::Instance().fontDialog.save(choice);
 }
 
 void FontGenerationDialog::ConnectEntries()
@@ -233,7 +237,10 @@ void FontGenerationDialog::ConnectEntries()
         connect(box, &QComboBox::currentIndexChanged, this, &FontGenerationDialog::ShowEffect);
     for (QCheckBox* const box : {bold_, italic_})
         connect(box, &QCheckBox::toggled, this, &FontGenerationDialog::ShowEffect);
-    connect(selection_, &CharacterSelection::Changed, this, &FontGenerationDialog::ShowEffect);
+    connect(selection_, &CharacterSelection::Changed, this, [this] {
+        ShowChosenText();
+        ShowEffect();
+    });
     connect(rendering_, &RenderingEntries::Changed, this, &FontGenerationDialog::ShowEffect);
     connect(sources_, &SourceEntries::Changed, this, &FontGenerationDialog::ShowEffect);
     connect(copy_, &QPushButton::clicked, this, &FontGenerationDialog::CopyCommandLine);
@@ -251,7 +258,21 @@ void FontGenerationDialog::ShowFace()
         traits = {}; // rendering it will tell what is wrong
     }
     rendering_->ShowAxes(traits.axes);
+    selection_->ShowFace(traits.codes);
     sources_->ShowCharmaps(traits.charmaps, traits.hasOtherCharmaps);
+}
+
+// What the device has to show is the best sample.
+void FontGenerationDialog::ShowChosenText()
+{
+    constexpr qsizetype most = 200;
+    if (const QString text = ChosenText().simplified().left(most); !text.isEmpty())
+        preview_->SetSample(text);
+}
+
+QString FontGenerationDialog::ChosenText() const
+{
+    return args_.selection ? QString() : selection_->ChosenText();
 }
 
 void FontGenerationDialog::ShowEffect()
@@ -266,8 +287,7 @@ void FontGenerationDialog::ShowEffect()
     UserInterface silent; // until the choice is made
     const InterfaceScope scope(silent);
     try {
-        const bool isWanted = !args_.selection && selection_->IsExact();
-        preview_->ShowFor(Args(), isWanted ? MissingCharacters::Named : MissingCharacters::Ignored);
+        preview_->ShowFor(Args(), args_.selection ? CodeSet() : selection_->ExactCodes());
     } catch (const CriticalException& error) {
         for (QPushButton* const button : {ok_, copy_})
             button->setEnabled(false);

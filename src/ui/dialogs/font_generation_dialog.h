@@ -39,6 +39,9 @@ public:
     // A line for a shell that makes the same font without a window. Throws as Args() does.
     [[nodiscard]] QString CommandLine() const;
 
+    // The text that characters are taken from; empty where none are.
+    [[nodiscard]] QString ChosenText() const;
+
     void done(int result) override;
 
     [[nodiscard]] GenerationPreview& Preview() const { return *preview_; }
@@ -54,6 +57,7 @@ private:
     void CopyCommandLine();
     void ConnectEntries();
     void ShowEffect();
+    void ShowChosenText();
 
     ActionOpenFontArgs args_;
     FontSizeBox* size_;

@@ -35,6 +35,7 @@ FontSizeBox::FontSizeBox(QWidget* parent)
     layout->addWidget(unit_);
     layout->addWidget(subject_);
     setFocusProxy(value_);
+    setFocusPolicy(value_->focusPolicy()); // or labels would not bring the focus here
     connect(value_, &QDoubleSpinBox::valueChanged, this, &FontSizeBox::Changed);
     connect(unit_, &QComboBox::currentIndexChanged, this, &FontSizeBox::Changed);
     connect(subject_, &QComboBox::currentIndexChanged, this, [this] {

@@ -2,6 +2,7 @@
 
 #include "app/file_system.h"
 #include "app/shown_text.h"
+#include "ui/support/contrast.h"
 #include "ui/support/dialog_parts.h"
 
 #include <QCheckBox>
@@ -26,7 +27,7 @@ PreferencesDialog::PreferencesDialog(QWidget* parent)
     pages_->addTab(MakeFilesPage(), tr("Generated files"));
     pages_->addTab(MakeFontsPage(), tr("Installed fonts"));
     auto* const layout = new QVBoxLayout(this);
-    layout->addWidget(pages_, 1);
+    layout->addWidget(ScrollingContent(*pages_), 1);
     AddButtons(*this, *layout);
     const PreferencesDialogData stored = Settings::Instance().preferencesDialog.load();
     pages_->setCurrentIndex(std::clamp(stored.page, 0, pages_->count() - 1));
@@ -138,7 +139,8 @@ void PreferencesDialog::AddDirectory(const QString& path)
     auto* const item = new QListWidgetItem(Shown(path), directories_);
     item->setData(Qt::UserRole, path);
     if (KindOf(path) != FileKind::Directory) {
-        item->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
+        item->setForeground(LegibleInk(palette().color(QPalette::Disabled, QPalette::Text),
+                                       palette().color(QPalette::Base)));
         item->setToolTip(tr("There is no such directory now."));
     }
 }

@@ -144,6 +144,8 @@ bool Document::AskGeneration(ActionOpenFontArgs& args)
     if (dialog.exec() != QDialog::Accepted)
         return false;
     args = dialog.Args();
+    if (!dialog.ChosenText().isEmpty())
+        Q_EMIT SampleChosen(dialog.ChosenText());
     return true;
 }
 
@@ -348,6 +350,7 @@ void Document::SavePattern()
         CodeSet codes = session_.CurrentFont()->EnabledCodes();
         codes &= session_.CurrentFont()->ExistingCodes();
         PatternFile(path).Write(codes);
+        Q_EMIT Done(tr("Saved pattern file: %1").arg(Shown(path)));
     });
 }
 

@@ -73,6 +73,8 @@ Q_SIGNALS:
     void OpeningRequested(const QString& path); // of a recent file
     void RecentFilesChanged();                  // or are to be shown
     void Noticed(const QString& text);          // of the file on the disk
+    void Done(const QString& text);             // by no action
+    void SampleChosen(const QString& text);     // that the characters of a generated font are for
     void DirectoriesRequested(QWidget* parent); // a change of those that are indexed
 
 private:

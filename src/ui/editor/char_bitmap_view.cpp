@@ -101,6 +101,10 @@ void CharBitmapView::SetCharacter(const Character* character, int code)
         UpdateMark();
     }
     TellPixel();
+    if (told_.x() >= 0) { // its index may be another one now
+        const CharPixelItem* const cell = CellItem(told_.x(), told_.y());
+        Q_EMIT StatusChanged(cell != nullptr ? Description(*cell) : QString());
+    }
 }
 
 // Where the cursor goes and where the characters stand, in the grid.
@@ -395,6 +399,8 @@ bool CharBitmapView::event(QEvent* event)
 void CharBitmapView::keyPressEvent(QKeyEvent* event)
 {
     const bool isArrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+    if (current_ != nullptr)
+        scene_.setFocusItem(current_); // menus took it
     if (current_ == nullptr && isArrow)
         SelectFirstPixel();
     else if (current_ != nullptr)
@@ -442,8 +448,17 @@ void CharBitmapView::ShowStatus(const Character& character, QPoint pixel)
 
 void CharBitmapView::ShowStatus(const CharPixelItem& item)
 {
-    if (const QString text = Description(item); !text.isEmpty())
-        Q_EMIT StatusChanged(text);
+    const QString text = Description(item);
+    if (text.isEmpty())
+        return;
+    told_ = {item.Column(), item.Row()};
+    Q_EMIT StatusChanged(text);
+}
+
+void CharBitmapView::ClearStatus()
+{
+    told_ = {-1, -1};
+    Q_EMIT StatusChanged({});
 }
 
 // To the commands, and to those who don't see the mark.

@@ -48,12 +48,13 @@ public:
     [[nodiscard]] int RowCount() const { return rows_; }
     [[nodiscard]] qreal CellSize() const { return cellSize_; }
 
-    // Tells the place and the index of a cell that is a pixel.
+    // Tells the place and the index of a cell that is a pixel, until the mouse leaves it.
     void ShowStatus(const CharPixelItem& item);
     void ShowStatus(const Character& character, QPoint pixel);
 
     // Shows pixels of a bitmap that the character may get, until it is set the next time.
     void ShowDraft(const Character& draft, const std::vector<QPoint>& pixels);
+    void ClearStatus();
 
     // The y of the first row of the character's bitmap.
     [[nodiscard]] int Top() const;
@@ -129,8 +130,9 @@ private:
     bool hasOtherBackground_ = false; // than what is painted
     QRect shownCells_;                // when they were placed
     qreal cellSize_ = 1;
-    int zoom_ = 0;       // size of a cell in pixels; 0 fits the view
-    int wheelAngle_ = 0; // that was turned and has not zoomed yet
+    int zoom_ = 0;           // size of a cell in pixels; 0 fits the view
+    QPoint told_ = {-1, -1}; // the cell whose index is told
+    int wheelAngle_ = 0;     // that was turned and has not zoomed yet
 };
 
 } // namespace Glyphor

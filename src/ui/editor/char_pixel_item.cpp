@@ -127,7 +127,7 @@ void CharPixelItem::hoverEnterEvent(QGraphicsSceneHoverEvent*)
 
 void CharPixelItem::hoverLeaveEvent(QGraphicsSceneHoverEvent*)
 {
-    Q_EMIT view_.StatusChanged({});
+    view_.ClearStatus();
 }
 
 // The neighbour, or the next cell that can be selected, on the other side of a frame for example.

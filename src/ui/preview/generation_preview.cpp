@@ -86,16 +86,24 @@ GenerationPreview::GenerationPreview(QWidget* parent)
       sizes_(PlainLabel()),
       notes_(PlainLabel())
 {
-    QWidget* const strips = Column({strip_, lightStrip_}, nullptr);
-    strips->layout()->setSpacing(0);
+    auto* const strips = new QWidget; // of one size, whatever they show
+    auto* const stripLayout = new QVBoxLayout(strips);
+    stripLayout->setContentsMargins(0, 0, 0, 0);
+    stripLayout->setSpacing(0);
+    for (TextStrip* const strip : {strip_, lightStrip_})
+        stripLayout->addWidget(strip, 1);
     QScrollArea* const area = ScrollAreaOf(*strips);
     area->setMinimumSize(300, 130);
     for (TextStrip* const strip : {strip_, lightStrip_})
-        strip->SetZoom(2);
-    lightStrip_->SetColours(Qt::white, Qt::black);
+        strip->FitZoom();
+    lightStrip_->SetColours({Qt::white, Qt::black});
     lightStrip_->setAccessibleName(tr("Sample, light on dark"));
     notes_->setWordWrap(true);
     sizes_->setWordWrap(true);
+    for (QLabel* const label : {sizes_, notes_}) { // or the strips would jump
+        label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
+        label->setAlignment(Qt::AlignTop);
+    }
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(Row({LabelFor(*field_, tr("&Sample:")), field_}, field_));
@@ -109,7 +117,7 @@ GenerationPreview::GenerationPreview(QWidget* parent)
         strip_->SetText(text);
         lightStrip_->SetText(text);
         if (!args_.path.isEmpty())
-            ShowFor(args_, missing_);
+            ShowFor(args_, wanted_);
     });
 }
 
@@ -129,11 +137,11 @@ void GenerationPreview::SetSample(const QString& sample)
     field_->setCursorPosition(0);
 }
 
-void GenerationPreview::ShowFor(const ActionOpenFontArgs& args, MissingCharacters missing)
+void GenerationPreview::ShowFor(const ActionOpenFontArgs& args, const CodeSet& wanted)
 {
     args_ = args;
     args_.render.findsLayoutKerning = false;
-    missing_ = missing;
+    wanted_ = wanted;
     isStale_ = true;
     timer_.start();
 }
@@ -196,7 +204,6 @@ void GenerationPreview::RenderSample()
     ShowFont(ReadFont(args));
     sizes_->setText(
         tr("Line height: %1 px, em size: %2 px").arg(font_->Metrics().height).arg(EmSize(args)));
-    notes_->clear();
 }
 
 void GenerationPreview::RenderAll()
@@ -218,14 +225,12 @@ void GenerationPreview::RenderAll()
     ShowFont(std::move(all)); // its line may be higher than that of the sample
 }
 
-// The first ones of the selected characters that did not come out.
+// The first ones of the wanted characters that did not come out.
 QString GenerationPreview::MissingFrom(const Font& font) const
 {
     constexpr qsizetype most = 40;
     QString missing;
-    if (missing_ == MissingCharacters::Ignored || !args_.selection)
-        return missing;
-    for (const quint16 unicode : *args_.selection) {
+    for (const quint16 unicode : wanted_) {
         const auto code = Encoded(unicode, font.Metrics().encoding);
         if (QChar(unicode).isPrint() && (!code || font.FindChar(*code) == nullptr))
             missing.append(QChar(unicode));

@@ -12,8 +12,6 @@ namespace Glyphor {
 
 class TextStrip;
 
-enum class MissingCharacters { Named, Ignored };
-
 // Shows a sample in the pixels that a scalable font would be rendered to, and how large the font
 // would be. It renders in the window's turns, so that the dialog around it keeps working.
 class GenerationPreview final : public QWidget
@@ -24,9 +22,9 @@ public:
     explicit GenerationPreview(QWidget* parent = nullptr);
     ~GenerationPreview() override;
 
-    // Shows the font that the arguments make, soon, and which of the selected characters it lacks.
+    // Shows the font that the arguments make, soon, and which of the wanted characters it lacks.
     // What is being rendered is given up.
-    void ShowFor(const ActionOpenFontArgs& args, MissingCharacters missing);
+    void ShowFor(const ActionOpenFontArgs& args, const CodeSet& wanted);
 
     // Shows a text instead.
     void ShowFault(const QString& fault);
@@ -58,7 +56,7 @@ private:
     QLabel* notes_;
     QTimer timer_;
     ActionOpenFontArgs args_;
-    MissingCharacters missing_ = MissingCharacters::Ignored;
+    CodeSet wanted_;
     std::unique_ptr<Font> font_;
     bool isRendering_ = false;
     bool isStale_ = false; // what is being rendered

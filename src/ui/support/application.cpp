@@ -24,6 +24,7 @@ Application* runningApplication = nullptr;
 Application::Application(int& argc, char** argv) : QApplication(argc, KeepOptions(argc, argv))
 {
     runningApplication = this;
+    installEventFilter(&screenFit_);
     setDesktopFileName(u"com.example.morvek.Glyphor"_s);
     if (LoadTexts(QLocale(), texts_, toolkitTexts_)) {
         installTranslator(&toolkitTexts_);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/support/screen_fit.h"
+
 #include <QApplication>
 #include <QTranslator>
 
@@ -17,6 +19,7 @@ public:
     static Application* Instance();
 
 private:
+    ScreenFit screenFit_;
     QTranslator texts_;
     QTranslator toolkitTexts_;
 };

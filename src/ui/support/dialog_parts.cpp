@@ -34,6 +34,37 @@ QWidget* Lined(QBoxLayout::Direction direction, std::initializer_list<QWidget*> 
     return whole;
 }
 
+// Hides from a scroll area that the height of something depends on its width: it would get its
+// preferred height then, and scroll before that is needed.
+class Holder final : public QWidget
+{
+public:
+    explicit Holder(QWidget& content) : content_(content) { content.setParent(this); }
+
+    [[nodiscard]] QSize sizeHint() const override { return content_.sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override { return content_.minimumSizeHint(); }
+
+protected:
+    void resizeEvent(QResizeEvent*) override { content_.setGeometry(rect()); }
+
+private:
+    QWidget& content_;
+};
+
+// The base class wants no more than a part of the screen.
+class ContentArea final : public QScrollArea
+{
+public:
+    explicit ContentArea(QWidget& content) { setWidget(new Holder(content)); }
+
+    [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        constexpr QSize least(240, 160);
+        return widget()->minimumSizeHint().boundedTo(least);
+    }
+};
+
 } // namespace
 
 QWidget* Row(std::initializer_list<QWidget*> parts, const QWidget* growing)
@@ -52,6 +83,17 @@ QScrollArea* ScrollAreaOf(QWidget& content)
     area->setWidget(&content);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
+    return area;
+}
+
+QWidget* ScrollingContent(QWidget& content)
+{
+    auto* const area = new ContentArea(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    for (QWidget* const part : {&content, area->widget(), area->viewport()})
+        part->setAutoFillBackground(false);
     return area;
 }
 

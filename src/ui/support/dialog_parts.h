@@ -48,6 +48,9 @@ ShowPlainBox(QWidget* parent, QMessageBox::Icon icon, const QString& title, cons
 // A view of something that scrolls in it, and that keys do not reach.
 [[nodiscard]] QScrollArea* ScrollAreaOf(QWidget& content);
 
+// The content of a dialog, which scrolls where the screen has no room for it.
+[[nodiscard]] QWidget* ScrollingContent(QWidget& content);
+
 // For rows of more than one widget, which have no buddy of their own.
 [[nodiscard]] QLabel* LabelFor(QWidget& buddy, const QString& text);
 

@@ -1,6 +1,7 @@
 #include "ui/table/character_delegate.h"
 
 #include "ui/support/char_picture.h"
+#include "ui/support/contrast.h"
 #include "ui/table/character_model.h"
 
 #include <QAbstractItemView>
@@ -77,8 +78,9 @@ void CharacterDelegate::PaintCharacter(QPainter& painter, const Character& chara
                                        bool isEnabled, const QStyleOptionViewItem& option) const
 {
     const QRect& cell = option.rect;
-    const QColor disabledInk = option.palette.color(QPalette::Disabled, QPalette::Text);
     const QColor disabledPaper = option.palette.color(QPalette::Disabled, QPalette::Button);
+    const QColor disabledInk =
+        LegibleInk(option.palette.color(QPalette::Disabled, QPalette::Text), disabledPaper);
     painter.fillRect(cell, isEnabled ? QColor(Qt::white) : disabledPaper);
     const QImage picture =
         CharPicture(character, isEnabled ? QColor(Qt::black) : disabledInk, Qt::cyan);

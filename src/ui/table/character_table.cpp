@@ -5,9 +5,10 @@
 #include "ui/table/character_delegate.h"
 #include "ui/table/character_model.h"
 
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -21,6 +22,27 @@ namespace {
 constexpr int MinCellSize = 24;
 constexpr int CellMargins = 2 * CharacterDelegate::Margin;
 constexpr int MaxZoom = 16;
+
+bool IsTyped(const QKeyEvent& key)
+{
+    return key.text().size() == 1 && key.text()[0].isPrint();
+}
+
+// One that the shortcuts of menus have.
+bool HasCommandModifier(const QKeyEvent& key)
+{
+    return (key.modifiers() &
+            (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+bool IsOfCommand(const QWidget& window, const QKeyEvent& key)
+{
+    const auto commands = window.findChildren<QAction*>();
+    return std::ranges::any_of(commands, [&key](const QAction* command) {
+        return command->shortcutContext() == Qt::WindowShortcut &&
+               command->shortcuts().contains(QKeySequence(key.keyCombination()));
+    });
+}
 
 } // namespace
 
@@ -65,6 +87,7 @@ void CharacterTable::ShowFont(const Font* font)
     scrollToTop();
     if (model_->rowCount() > 0) {
         SelectCode(FirstCodeWithPixels());
+        horizontalScrollBar()->setValue(0);
     } else {
         Q_EMIT CurrentCodeChanged(-1);
         Q_EMIT CodesSelected();
@@ -232,16 +255,13 @@ void CharacterTable::keyboardSearch(const QString& text)
         SelectCode(*code);
 }
 
-// Typing jumps to a character, so it must not trigger the commands that have letters as shortcuts,
-// whether or not the font has the character.
+// Plain typing jumps to a character, so it must not trigger the commands that have letters as
+// shortcuts, whether or not the font has the character.
 bool CharacterTable::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        const auto* const key = static_cast<QKeyEvent*>(event);
-        const auto commands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-        const QString text = key->text();
-        const bool isTyped = text.size() == 1 && text[0].isPrint();
-        if (model_->ShownFont() != nullptr && (key->modifiers() & commands) == 0 && isTyped) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (model_->ShownFont() != nullptr && IsTyped(key) && !HasCommandModifier(key)) {
             event->accept();
             return true;
         }
@@ -269,23 +289,25 @@ void CharacterTable::wheelEvent(QWheelEvent* event)
     scrollTo(currentIndex());
 }
 
-// A blank is a character like others here.
+// A blank is a character like others here. A command that can't be run now gets its key still, or
+// the selection that it is meant for would be lost.
 void CharacterTable::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
         keyboardSearch(event->text());
-    else
+    else if (!IsTyped(*event) || !HasCommandModifier(*event) || !IsOfCommand(*window(), *event))
         QTableView::keyPressEvent(event);
 }
 
-void CharacterTable::paintEvent(QPaintEvent* event)
+// The key opens the menu at the current cell.
+void CharacterTable::contextMenuEvent(QContextMenuEvent* event)
 {
-    QTableView::paintEvent(event);
-    if (model_->ShownFont() != nullptr)
-        return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter, tr("Open a font file or drop one here."));
+    QPoint place = event->globalPos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        scrollTo(currentIndex());
+        place = viewport()->mapToGlobal(CellRect(current_).center());
+    }
+    Q_EMIT MenuRequested(place);
 }
 
 void CharacterTable::resizeEvent(QResizeEvent* event)

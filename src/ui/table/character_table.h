@@ -49,11 +49,12 @@ Q_SIGNALS:
     void CurrentCodeChanged(int code);
     void CodesSelected();
     void EditRequested(); // double click or Return
+    void MenuRequested(QPoint globalPosition);
 
 protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

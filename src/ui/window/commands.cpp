@@ -43,6 +43,9 @@ Commands::Commands(const WindowParts& parts, QWidget& window)
     // The same key without Shift where plus is above another character.
     parts_.menus.Command(WindowCommand::ZoomIn)
         ->setShortcuts({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal});
+    QAction* const deletion = parts_.menus.Command(WindowCommand::DeleteCharacters);
+    deletion->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    parts_.panes.Table().addAction(deletion);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget*, const QWidget* now) { NoteFocus(now); });
 }
@@ -196,6 +199,8 @@ void Commands::RunWindowCommand(quint32 id)
     case WindowCommand::RecoverFonts:
         Q_EMIT RecoveryRequested();
         return;
+    case WindowCommand::DeleteCharacters:
+        return parts_.edits.DeleteSelection();
     default:
         return;
     }
@@ -242,8 +247,7 @@ void Commands::ShowContextMenu(QPoint globalPosition)
             [this] { parts_.edits.ChangeSelection(ActionType::Disable); });
     QAction* const toggle = parts_.menus.Command(ActionType::Toggle);
     menu.addAction(toggle);
-    connect(menu.addAction(tr("De&lete")), &QAction::triggered, &parts_.edits,
-            &EditCommands::DeleteSelection);
+    menu.addAction(parts_.menus.Command(WindowCommand::DeleteCharacters));
     for (QAction* const action : menu.actions())
         action->setEnabled(toggle->isEnabled()); // they all need a character
     menu.addSeparator();
@@ -331,7 +335,7 @@ void Commands::EnableEdits()
 {
     const Font* const font = parts_.session.CurrentFont();
     const bool hasFont = font != nullptr;
-    const bool hasCharacter = !parts_.edits.SelectedCharacters().IsEmpty();
+    const bool hasCharacter = !parts_.edits.EditedCharacters().IsEmpty();
     const bool hasPixels = !parts_.selection.IsEmpty();
     const bool hasPixel = hasPixels || (hasFont && parts_.panes.Editor().SelectedPixel().x() >= 0);
     const bool isLegacy = hasFont && IsLegacyFormat(font->Metrics().format);
@@ -348,6 +352,8 @@ void Commands::EnableEdits()
         parts_.menus.Command(edit.type)->setEnabled(hasTarget && !isRefused);
     }
     parts_.menus.Command(ActionType::Toggle)->setEnabled(hasCharacter);
+    parts_.menus.Command(WindowCommand::DeleteCharacters)
+        ->setEnabled(!parts_.edits.SelectedCharacters().IsEmpty());
 }
 
 } // namespace Glyphor

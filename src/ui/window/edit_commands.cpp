@@ -10,6 +10,7 @@
 #include "ui/support/undo_stack.h"
 #include "ui/table/character_table.h"
 
+#include <QApplication>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -33,7 +34,12 @@ EditCommands::EditCommands(Session& session, UndoStack& history, CharacterTable&
       table_(table),
       editor_(editor),
       window_(window)
-{}
+{
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) {
+        if (now == &editor_ || now == &table_)
+            isInEditor_ = now == &editor_;
+    });
+}
 
 CodeSet EditCommands::SelectedCharacters() const
 {
@@ -44,11 +50,21 @@ CodeSet EditCommands::SelectedCharacters() const
     return codes;
 }
 
+CodeSet EditCommands::EditedCharacters() const
+{
+    if (!isInEditor_)
+        return SelectedCharacters();
+    CodeSet codes;
+    if (editor_.CurrentCharacter() != nullptr)
+        codes.Set(quint16(editor_.CurrentCode()), true);
+    return codes;
+}
+
 void EditCommands::RunEdit(const Edit& edit)
 {
     switch (edit.target) {
     case EditTarget::Character:
-        edit.copies ? Duplicate() : RunSelectionEdit(edit);
+        edit.copies ? Duplicate() : RunCharacterEdit(edit);
         break;
     case EditTarget::Font:
         RunAction(std::make_shared<ActionFont>(session_, edit.type));
@@ -134,9 +150,9 @@ void EditCommands::RunForEach(const std::vector<CodeRange>& runs, const QString&
         });
 }
 
-void EditCommands::RunSelectionEdit(const Edit& edit)
+void EditCommands::RunCharacterEdit(const Edit& edit)
 {
-    RunForEach(RunsOf(SelectedCharacters()), LogEntry(edit.log).Translated(),
+    RunForEach(RunsOf(EditedCharacters()), LogEntry(edit.log).Translated(),
                [&](const CodeRange& run) {
                    auto action = std::make_shared<ActionChar>(session_, edit.type);
                    action->Args() = {.first = run.first, .last = run.last};
@@ -147,7 +163,7 @@ void EditCommands::RunSelectionEdit(const Edit& edit)
 void EditCommands::ChangeSelection(ActionType type)
 {
     const Font& font = *session_.CurrentFont();
-    CodeSet codes = SelectedCharacters();
+    CodeSet codes = EditedCharacters();
     if (codes.IsEmpty())
         return;
     // All of the selection becomes the opposite of its first character.

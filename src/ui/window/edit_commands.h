@@ -61,6 +61,9 @@ public:
     // The selected codes that have a character.
     [[nodiscard]] CodeSet SelectedCharacters() const;
 
+    // The current character alone where the editor was used last, or else the selected ones.
+    [[nodiscard]] CodeSet EditedCharacters() const;
+
 Q_SIGNALS:
     void Changed();
     void Done(const QString& text);
@@ -68,7 +71,7 @@ Q_SIGNALS:
 private:
     using MakeAction = std::function<std::shared_ptr<Action>(const CodeRange&)>;
 
-    void RunSelectionEdit(const Edit& edit);
+    void RunCharacterEdit(const Edit& edit);
     void RunPixelEdit(const Edit& edit);
     void RunForEach(const std::vector<CodeRange>& runs, const QString& text,
                     const MakeAction& make);
@@ -81,6 +84,7 @@ private:
     CharacterTable& table_;
     CharBitmapView& editor_;
     QWidget& window_;
+    bool isInEditor_ = false; // where the focus was last, of the table and the editor
     bool isAtWork_ = false;
     bool isMovingInHistory_ = false; // by undo or redo
     CodeSet movedCodes_;             // that undo or redo changed

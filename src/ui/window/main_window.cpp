@@ -28,6 +28,7 @@
 #include "ui/window/kerning_panel.h"
 #include "ui/window/menu_bar.h"
 #include "ui/window/metric_commands.h"
+#include "ui/window/start_page.h"
 #include "ui/window/tool_bar.h"
 
 #include <QAction>
@@ -39,6 +40,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QMimeData>
+#include <QStackedWidget>
 
 // Outside of the namespace, as the macro needs it.
 static void InitResources()
@@ -92,6 +94,7 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
       document_(new Document(session, *indexer_, *this)),
       menus_(new MenuBar(this)),
       panes_(new Panes),
+      startPage_(new StartPage),
       edits_(new EditCommands(session, history, panes_->Table(), panes_->Editor(), *this)),
       selection_(new PixelSelection(session, panes_->Editor())), // gets what tools leave
       clipboard_(
@@ -108,11 +111,14 @@ MainWindow::MainWindow(Session& session, UndoStack& history)
           session, *document_, [this] { return !IsAtRest(); }, *this))
 {
     InitResources();
-    setWindowIcon(QIcon(u":/icons/glyphor.svg"_s));
+    QApplication::setWindowIcon(QIcon(u":/icons/glyphor.svg"_s)); // of boxes as well
     setAcceptDrops(true);
     setMenuBar(menus_);
     addToolBar(new ToolBar(*menus_, *document_, *tools_));
-    setCentralWidget(panes_);
+    auto* const content = new QStackedWidget;
+    content->addWidget(startPage_);
+    content->addWidget(panes_);
+    setCentralWidget(content);
     setStatusBar(status_);
     setMinimumSize(640, 420);
     AddPanes();
@@ -179,11 +185,16 @@ void MainWindow::ConnectCommands()
         status_->Tell(text);
         UpdateTitle();
     });
-    connect(document_, &Document::OpeningRequested, this, [this](const QString& path) {
-        panes_->Info().TakeTyped();
-        if (!Progress().IsWorking())
-            document_->OpenRecentFile(path);
-    });
+    connect(document_, &Document::OpeningRequested, this, &MainWindow::OpenRecentFile);
+    connect(document_, &Document::RecentFilesChanged, startPage_,
+            [this] { startPage_->ShowRecentFiles(document_->RecentFiles()); });
+    connect(startPage_, &StartPage::FileChosen, this, &MainWindow::OpenRecentFile);
+    connect(startPage_, &StartPage::NewRequested, menus_->Command(ActionType::CreateFont),
+            &QAction::trigger);
+    connect(startPage_, &StartPage::OpeningRequested, menus_->Command(ActionType::OpenFont),
+            &QAction::trigger);
+    connect(document_, &Document::SampleChosen, &Preview(), &TextPreview::SetSample);
+    connect(document_, &Document::Done, status_, &StatusLine::Tell);
     connect(document_, &Document::Noticed, this, [this](const QString& text) {
         if (!text.isEmpty())
             status_->Tell(text);
@@ -208,10 +219,7 @@ void MainWindow::ConnectViews()
     for (QSplitter* const splitter : panes_->SubSplitters())
         connect(splitter, &QSplitter::splitterMoved, this, &MainWindow::OnSplitterSubMoved);
     connect(&Table(), &CharacterTable::CodesSelected, commands_, &Commands::EnablePossible);
-    Table().setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&Table(), &QWidget::customContextMenuRequested, commands_, [this](QPoint place) {
-        commands_->ShowContextMenu(Table().viewport()->mapToGlobal(place));
-    });
+    connect(&Table(), &CharacterTable::MenuRequested, commands_, &Commands::ShowContextMenu);
     const CharBitmapView& editor = Editor();
     connect(&editor, &CharBitmapView::PixelSelected, commands_, &Commands::EnablePossible);
     connect(&editor, &CharBitmapView::StatusChanged, status_, &StatusLine::TellPixel);
@@ -303,9 +311,23 @@ void MainWindow::OnActionTriggered(quint32 id)
         commands_->Run(id);
 }
 
+void MainWindow::OpenRecentFile(const QString& path)
+{
+    panes_->Info().TakeTyped();
+    if (!Progress().IsWorking())
+        document_->OpenRecentFile(path);
+}
+
 void MainWindow::ShowFont()
 {
     Font* const font = session_.CurrentFont();
+    auto* const content = qobject_cast<QStackedWidget*>(centralWidget());
+    const bool isFirst = font != nullptr && content->currentWidget() != panes_;
+    if (font == nullptr)
+        startPage_->ShowRecentFiles(document_->RecentFiles());
+    content->setCurrentIndex(font != nullptr ? 1 : 0);
+    if (isFirst)
+        Table().setFocus();
     shownFont_ = font;
     panes_->ShowFont(font);
     tools_->ShowFont(font);
@@ -319,8 +341,10 @@ void MainWindow::ShowChanges()
 {
     if (edits_->IsAtWork())
         return;
-    if (session_.CurrentFont() != shownFont_)
+    if (session_.CurrentFont() != shownFont_) {
+        Editor().SetZoom(0);
         return ShowFont();
+    }
     panes_->ShowChanges();
     ShowKerning();
     UpdateTitle();

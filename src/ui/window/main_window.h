@@ -24,6 +24,7 @@ class MetricCommands;
 class PixelSelection;
 class Recovery;
 class Session;
+class StartPage;
 class UndoStack;
 
 // The window: its menus with their commands, the views of the font, and what is remembered of them.
@@ -97,6 +98,7 @@ private:
     void ShowChanges();
     void ShowKerning();
     void UpdateTitle();
+    void OpenRecentFile(const QString& path);
 
     Session& session_;
     UndoStack& history_;
@@ -104,6 +106,7 @@ private:
     Document* document_;
     MenuBar* menus_;
     Panes* panes_;
+    StartPage* startPage_; // instead of the panes where there is no font
     EditCommands* edits_;
     PixelSelection* selection_;
     ClipboardCommands* clipboard_;

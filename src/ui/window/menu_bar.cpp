@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace Glyphor {
 
 namespace {
@@ -47,6 +49,23 @@ void MenuBar::AddSubmenu(const MenuRow& row, QMenu* parent)
         submenus_.insert(row.submenuId, menu);
     menu->installEventFilter(this);
     Build(row.Rows(), menu);
+    if (parent != nullptr)
+        FollowEntries(*menu);
+}
+
+// A submenu is enabled as long as one of its entries is.
+void MenuBar::FollowEntries(QMenu& menu)
+{
+    const auto follow = [&menu] {
+        menu.menuAction()->setEnabled(std::ranges::any_of(menu.actions(), [](const QAction* entry) {
+            return !entry->isSeparator() && entry->isEnabled();
+        }));
+    };
+    for (const QAction* const entry : menu.actions()) {
+        if (!entry->isSeparator())
+            connect(entry, &QAction::enabledChanged, &menu, follow);
+    }
+    follow();
 }
 
 // In menus a plain key is that of an entry. It may be the shortcut of a command as well, which

@@ -37,6 +37,7 @@ protected:
 private:
     void Build(std::span<const MenuRow> rows, QMenu* parent);
     void AddSubmenu(const MenuRow& row, QMenu* parent);
+    void FollowEntries(QMenu& menu);
     void AddCommand(const MenuRow& row, QMenu* parent);
     [[nodiscard]] static bool TakesKey(QEvent& event);
     static void MakeExclusive(QAction& command, QMenu& menu);

@@ -303,7 +303,7 @@ public:
         Submenu(QT_TR_NOOP("Too&ls"), DrawingRows, SubmenuId::Tools),
         Submenu(QT_TR_NOOP("Tra&nsform"), TransformRows, SubmenuId::Transform),
         Submenu(QT_TR_NOOP("Pixel selecti&on"), PixelSelectionRows, SubmenuId::PixelSelection),
-        Entry(QT_TR_NOOP("Dup&licate to code..."), nullptr,
+        Entry(QT_TR_NOOP("Duplicate to code..."), nullptr,
               QT_TR_NOOP("Copy the selected characters to another code and those behind it"),
               ActionType::CopyTo),
         Separator,
@@ -315,6 +315,9 @@ public:
               WindowCommand::Copy),
         Entry(QT_TR_NOOP("Paste"), "Ctrl+V",
               QT_TR_NOOP("Paste pixels or characters from the clipboard"), WindowCommand::Paste),
+        Entry(QT_TR_NOOP("Delete c&haracters"), "Del",
+              QT_TR_NOOP("Delete the selected characters from the font"),
+              WindowCommand::DeleteCharacters),
     };
 
     static constexpr MenuRow ViewRows[] = {

@@ -37,7 +37,8 @@ enum class WindowCommand : quint32 {
     DeletePixels = 155,
     History = 175,
     KerningPairs = 176,
-    RecoverFonts = 191
+    RecoverFonts = 191,
+    DeleteCharacters = 200
 };
 
 // The number that commands have in the menus and their actions.

@@ -5,11 +5,35 @@
 #include "ui/table/character_table.h"
 #include "ui/window/info_panel.h"
 
+#include <QBoxLayout>
+#include <QFrame>
 #include <QScrollArea>
 
 namespace Glyphor {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The style paints handles as if there were none.
+void ShowHandle(QSplitter& splitter)
+{
+    constexpr int thickness = 5;
+    splitter.setHandleWidth(thickness);
+    auto* const line = new QFrame;
+    const bool isUpright = splitter.orientation() == Qt::Horizontal;
+    line->setFrameShape(isUpright ? QFrame::VLine : QFrame::HLine);
+    line->setFrameShadow(QFrame::Plain);
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* const layout = new QBoxLayout(QBoxLayout::LeftToRight, splitter.handle(1));
+    layout->setContentsMargins({});
+    layout->addWidget(line);
+    QPalette palette = line->palette();
+    palette.setColor(QPalette::WindowText, QColor(0xBB, 0xBB, 0xBB));
+    line->setPalette(palette);
+}
+
+} // namespace
 
 Panes::Panes()
     : QSplitter(Qt::Horizontal),
@@ -41,6 +65,7 @@ Panes::Panes()
          std::initializer_list<QSplitter*>{this, subSplitter_, upperSplitter_}) {
         splitter->setStyleSheet(u"QSplitterHandle { background: #bbbbbb; }"_s);
         splitter->setChildrenCollapsible(false);
+        ShowHandle(*splitter);
     }
     connect(table_, &CharacterTable::CurrentCodeChanged, this, &Panes::ShowCurrentCharacter);
     connect(preview_, &TextPreview::TextChanged, this, [this] {

@@ -7,10 +7,18 @@
 
 namespace Glyphor {
 
+namespace {
+
+// More than the base class leaves around its widgets, so that texts stand where it paints messages.
+constexpr int messageMargin = 4;
+
+} // namespace
+
 StatusLine::StatusLine()
     : work_(PlainLabel(tr("Ready"))), pixel_(PlainLabel()), progress_(new ProgressArea)
 {
     addWidget(work_, 1);
+    work_->setContentsMargins(messageMargin, 0, 0, 0);
     addPermanentWidget(pixel_);
     addPermanentWidget(progress_);
     connect(progress_, &ProgressArea::TextChanged, this, [this](const QString& text) {

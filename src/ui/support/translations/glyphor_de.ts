@@ -1539,10 +1539,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <translation>Hier eingeben oder einfügen, was das Gerät anzeigen soll.</translation>
     </message>
     <message>
-        <source>Every character that the font file has.</source>
-        <translation>Alle Zeichen der Schriftdatei.</translation>
-    </message>
-    <message>
         <source>A&amp;ll characters</source>
         <translation>A&amp;lle Zeichen</translation>
     </message>
@@ -1590,16 +1586,28 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
         <source>The file %1 does not exist.</source>
         <translation>Die Datei %1 gibt es nicht.</translation>
     </message>
+    <message>
+        <source>Show blocks that the font has nothing of</source>
+        <translation>Blöcke zeigen, von denen die Schrift nichts hat</translation>
+    </message>
+    <message>
+        <source>%1 (%L2)</source>
+        <translation>%1 (%L2)</translation>
+    </message>
+    <message>
+        <source>All %L1 characters of the font</source>
+        <translation>Alle %L1 Zeichen der Schrift</translation>
+    </message>
+    <message>
+        <source>Chosen: %L1 codes, of which the font has %L2</source>
+        <translation>Gewählt: %L1 Codes, davon in der Schrift: %L2</translation>
+    </message>
 </context>
 <context>
     <name>Glyphor::CharacterTable</name>
     <message>
         <source>Characters</source>
         <translation>Zeichen</translation>
-    </message>
-    <message>
-        <source>Open a font file or drop one here.</source>
-        <translation>Eine Schriftdatei öffnen oder hierher ziehen.</translation>
     </message>
 </context>
 <context>
@@ -1673,10 +1681,6 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>&amp;Disable</source>
         <translation>&amp;Deaktivieren</translation>
-    </message>
-    <message>
-        <source>De&amp;lete</source>
-        <translation>&amp;Löschen</translation>
     </message>
 </context>
 <context>
@@ -1764,6 +1768,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>The file %1 does not exist. Remove it from the recent files?</source>
         <translation>Die Datei %1 gibt es nicht. Aus den zuletzt benutzten Dateien entfernen?</translation>
+    </message>
+    <message>
+        <source>Saved pattern file: %1</source>
+        <translation>Musterdatei gespeichert: %1</translation>
     </message>
 </context>
 <context>
@@ -1997,6 +2005,10 @@ Zum Zeichnen eine Zeile oder Spalte einfügen.</translation>
     <message>
         <source>Families: %L1 of %L2</source>
         <translation>Familien: %L1 von %L2</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
     </message>
 </context>
 <context>
@@ -2894,6 +2906,25 @@ Was soll mit ihnen geschehen?</translation>
     </message>
 </context>
 <context>
+    <name>Glyphor::StartPage</name>
+    <message>
+        <source>Make a font of an installed one</source>
+        <translation>Eine Schrift aus einer installierten erzeugen</translation>
+    </message>
+    <message>
+        <source>Open a font file</source>
+        <translation>Eine Schriftdatei öffnen</translation>
+    </message>
+    <message>
+        <source>or drop a font file anywhere in this window</source>
+        <translation>oder eine Schriftdatei irgendwo in diesem Fenster ablegen</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>Zuletzt benutzte Dateien</translation>
+    </message>
+</context>
+<context>
     <name>Glyphor::StatusLine</name>
     <message>
         <source>Ready</source>
@@ -2935,12 +2966,36 @@ Was soll mit ihnen geschehen?</translation>
         <translation>Farbe des Papiers</translation>
     </message>
     <message>
-        <source>Ink</source>
-        <translation>Schriftfarbe</translation>
+        <source>Black on white</source>
+        <translation>Schwarz auf Weiß</translation>
     </message>
     <message>
-        <source>Paper</source>
-        <translation>Papierfarbe</translation>
+        <source>White on black</source>
+        <translation>Weiß auf Schwarz</translation>
+    </message>
+    <message>
+        <source>Several lines are possible.</source>
+        <translation>Mehrere Zeilen sind möglich.</translation>
+    </message>
+    <message>
+        <source>Colour behind the frame</source>
+        <translation>Farbe hinter dem Rahmen</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Colours that are used often</source>
+        <translation>Häufig benutzte Farben</translation>
+    </message>
+    <message>
+        <source>Not in the font or disabled: %1</source>
+        <translation>Nicht in der Schrift oder deaktiviert: %1</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 auf %2</translation>
     </message>
 </context>
 <context>
@@ -3680,10 +3735,6 @@ Was soll mit ihnen geschehen?</translation>
         <translation>P&amp;ixelauswahl</translation>
     </message>
     <message>
-        <source>Dup&amp;licate to code...</source>
-        <translation>Auf &amp;Code duplizieren...</translation>
-    </message>
-    <message>
         <source>Copy the selected characters to another code and those behind it</source>
         <translation>Die ausgewählten Zeichen auf einen anderen Code und die folgenden kopieren</translation>
     </message>
@@ -3734,6 +3785,18 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Restore fonts whose windows were lost before they were saved</source>
         <translation>Schriften wiederherstellen, deren Fenster vor dem Speichern verloren gingen</translation>
+    </message>
+    <message>
+        <source>Duplicate to code...</source>
+        <translation>Auf &amp;Code duplizieren...</translation>
+    </message>
+    <message>
+        <source>Delete c&amp;haracters</source>
+        <translation>Zeichen lös&amp;chen</translation>
+    </message>
+    <message>
+        <source>Delete the selected characters from the font</source>
+        <translation>Die ausgewählten Zeichen aus der Schrift löschen</translation>
     </message>
 </context>
 <context>
@@ -3849,6 +3912,45 @@ Was soll mit ihnen geschehen?</translation>
     <message>
         <source>Braille</source>
         <translation>Braille</translation>
+    </message>
+</context>
+<context>
+    <name>Width</name>
+    <message>
+        <source>ultra-condensed</source>
+        <translation>ultraschmal</translation>
+    </message>
+    <message>
+        <source>extra-condensed</source>
+        <translation>extraschmal</translation>
+    </message>
+    <message>
+        <source>condensed</source>
+        <translation>schmal</translation>
+    </message>
+    <message>
+        <source>semi-condensed</source>
+        <translation>halbschmal</translation>
+    </message>
+    <message>
+        <source>normal</source>
+        <translation>normal</translation>
+    </message>
+    <message>
+        <source>semi-expanded</source>
+        <translation>halbbreit</translation>
+    </message>
+    <message>
+        <source>expanded</source>
+        <translation>breit</translation>
+    </message>
+    <message>
+        <source>extra-expanded</source>
+        <translation>extrabreit</translation>
+    </message>
+    <message>
+        <source>ultra-expanded</source>
+        <translation>ultrabreit</translation>
     </message>
 </context>
 </TS>
