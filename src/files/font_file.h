@@ -34,8 +34,8 @@ public:
     // the file can't be written.
     virtual void Write(const Font& font);
 
-    // Called when the contents are ready, before they take the place of the old ones; what it throws
-    // keeps those. C files alone ask.
+    // Called when the contents are ready, before they take the place of the old ones; what it
+    // throws keeps those. C files alone ask.
     void SetApproval(std::function<void()> approval) { approval_ = std::move(approval); }
 
     // Where set, rendering leaves out the characters that are not in it.
