@@ -10,7 +10,7 @@ namespace Glyphor {
 
 namespace {
 
-struct Place
+struct TextPlace
 {
     const Character* left = nullptr; // null for one without ink as well
     const Character* right = nullptr;
@@ -39,14 +39,14 @@ const Character* InkAt(const QString& text, qsizetype index, const Font& font)
     return character != nullptr && HasInk(*character) ? character : nullptr;
 }
 
-Place BestPlace(const QString& text, const Font& font, quint16 code)
+TextPlace BestPlace(const QString& text, const Font& font, quint16 code)
 {
-    Place best;
+    TextPlace best;
     for (qsizetype index = 0; index < text.size() && best.Count() < 2; ++index) {
         if (CodeAt(text, index, font) != code)
             continue;
-        const Place place = {InkAt(text, index - 1, font), InkAt(text, index + 1, font),
-                             CodeAt(text, index + 1, font).value_or(0)};
+        const TextPlace place = {InkAt(text, index - 1, font), InkAt(text, index + 1, font),
+                                 CodeAt(text, index + 1, font).value_or(0)};
         if (place.Count() > best.Count())
             best = place;
     }
@@ -71,7 +71,7 @@ Neighbour NeighbourAt(int x, const Character& character)
 std::vector<Neighbour> NeighboursIn(const QString& text, const Font& font, quint16 code)
 {
     std::vector<Neighbour> neighbours;
-    const Place place = BestPlace(text, font, code);
+    const TextPlace place = BestPlace(text, font, code);
     if (place.left != nullptr)
         neighbours.push_back(NeighbourAt(
             -KerningOf(*place.left, code) - place.left->info.cursorDistance, *place.left));
