@@ -295,7 +295,7 @@ void PixelSelection::Extend(QPoint step)
 
 bool PixelSelection::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isMouse = watched == editor_.viewport();
+    const bool isMouse = watched != &editor_; // which may be going
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
