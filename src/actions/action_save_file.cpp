@@ -88,7 +88,7 @@ std::future<QStringList> ActionSaveFile::LookBesideTheFont() const
     constexpr qint64 worthAThread = 1'000'000;
     const bool isOnThread = Args().threads != 1 && file->size() > worthAThread;
     return std::async(isOnThread ? std::launch::async : std::launch::deferred, [file] {
-        const QStringList others = BesideTheFontOfFile(*file);
+        QStringList others = BesideTheFontOfFile(*file);
         if (others.isEmpty())
             file->ForgetContents();
         file->close();

@@ -19,7 +19,10 @@ struct PixelBlock
 
     [[nodiscard]] bool IsEmpty() const { return indices.empty(); }
     [[nodiscard]] QSize Size() const { return {width, rows}; }
-    [[nodiscard]] int At(int x, int y) const { return indices[std::size_t(y * width + x)]; }
+    [[nodiscard]] int At(int x, int y) const
+    {
+        return indices[std::size_t(y) * std::size_t(width) + std::size_t(x)];
+    }
 
     bool operator==(const PixelBlock&) const = default;
 };
