@@ -40,7 +40,7 @@ namespace Glyphor {
     Function(hb_font_set_var_coords_design);                                                       \
     Function(hb_ot_layout_collect_lookups);                                                        \
     Function(hb_ot_layout_feature_with_variations_get_lookups);                                    \
-    Function(hb_ot_layout_get_glyph_class);                                                        \
+    Function(hb_ot_layout_get_glyphs_in_class);                                                    \
     Function(hb_ot_layout_language_find_feature);                                                  \
     Function(hb_ot_layout_lookup_collect_glyphs);                                                  \
     Function(hb_ot_layout_lookup_get_glyph_alternates);                                            \

@@ -137,12 +137,25 @@ bool LayoutKerning::HasKerning() const
     return harfBuzz_.hb_set_is_empty(touched_.get()) == 0;
 }
 
+// GDEF may give a glyph any number as its class: shaping knows these alone.
+std::array<HarfBuzzOwner<hb_set_t>, LayoutKerning::ClassCount> LayoutKerning::GlyphClasses() const
+{
+    const auto glyphsOf = [this](hb_ot_layout_glyph_class_t glyphClass) {
+        HarfBuzzOwner<hb_set_t> glyphs(harfBuzz_.hb_set_create(), harfBuzz_.hb_set_destroy);
+        harfBuzz_.hb_ot_layout_get_glyphs_in_class(face_.Face(), glyphClass, glyphs.get());
+        return glyphs;
+    };
+    return {glyphsOf(HB_OT_LAYOUT_GLYPH_CLASS_BASE_GLYPH),
+            glyphsOf(HB_OT_LAYOUT_GLYPH_CLASS_LIGATURE), glyphsOf(HB_OT_LAYOUT_GLYPH_CLASS_MARK)};
+}
+
 // Where no context counts, glyphs that kerning does not begin at and that no class of a pair lists
 // kern alike, unless they are marks: lookups can skip some of those.
 std::vector<LayoutKerning::Kind>
 LayoutKerning::KindsOf(std::span<const ShownGlyph> characters) const
 {
     hb_unicode_funcs_t* const unicode = harfBuzz_.hb_unicode_funcs_get_default();
+    const auto classes = GlyphClasses();
     std::map<std::tuple<hb_script_t, bool, hb_codepoint_t>, Kind> kinds;
     for (quint32 index = 0; index < characters.size(); ++index) {
         const auto& [character, glyph] = characters[index];
@@ -155,12 +168,15 @@ LayoutKerning::KindsOf(std::span<const ShownGlyph> characters) const
         const bool isMark = harfBuzz_.hb_unicode_general_category(unicode, character) ==
                             HB_UNICODE_GENERAL_CATEGORY_NON_SPACING_MARK;
         const bool isTouched = harfBuzz_.hb_set_has(touched_.get(), glyph) != 0;
-        const auto glyphClass = harfBuzz_.hb_ot_layout_get_glyph_class(face_.Face(), glyph);
+        const auto glyphClass =
+            std::ranges::find_if(classes, [this, shown = glyph](const auto& glyphs) {
+                return harfBuzz_.hb_set_has(glyphs.get(), shown) != 0;
+            });
         const bool isAlone =
-            isTouched || hasContexts_ || isMark || glyphClass == HB_OT_LAYOUT_GLYPH_CLASS_MARK;
+            isTouched || hasContexts_ || isMark || glyphClass == classes.begin() + MarkClass;
         const hb_codepoint_t code = (isMark ? MarkCodes : PlainCodes) + glyph;
-        const auto key =
-            std::make_tuple(script, isAlone, isAlone ? code : hb_codepoint_t(glyphClass));
+        const auto key = std::make_tuple(
+            script, isAlone, isAlone ? code : hb_codepoint_t(glyphClass - classes.begin()));
         kinds.try_emplace(key, Kind{code, script, isTouched, {}})
             .first->second.members.push_back(index);
     }

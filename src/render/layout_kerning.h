@@ -2,6 +2,7 @@
 
 #include "render/layout_face.h"
 
+#include <array>
 #include <functional>
 #include <span>
 
@@ -54,7 +55,11 @@ private:
         int distance;
     };
 
+    static constexpr std::size_t ClassCount = 3;
+    static constexpr std::ptrdiff_t MarkClass = 2;
+
     void ReadLookups();
+    [[nodiscard]] std::array<HarfBuzzOwner<hb_set_t>, ClassCount> GlyphClasses() const;
     [[nodiscard]] std::vector<Kind> KindsOf(std::span<const ShownGlyph> characters) const;
     void AskAll(const Kind& left, std::span<const std::size_t> rights, std::span<const Kind> kinds,
                 Progress& progress, std::vector<Found>& found);

@@ -15,6 +15,7 @@
     contexts.ttf    kerning that depends on what stands around a pair
     moving.ttf      kerning that grows along the weight axis
     loose.ttf       a GPOS table that is cut off, and a GSUB table of noise
+    unclassed.ttf   layout.ttf with classes of glyphs that nobody knows
     everything.ttf  a small GPOS table that claims to kern every glyph with every other
     bitmap.bdf      letters, a blank that moves the cursor, one that does not
 """
@@ -320,6 +321,13 @@ feature kern { pos A V (wght=400:-60 wght=900:-260); pos V A -100; } kern;
     font.save(os.path.join(folder, "moving.ttf"))
 
 
+def unclassed(folder):
+    font = with_features("Test Unclassed", LAYOUT_FEATURES)
+    classes = font["GDEF"].table.GlyphClassDef.classDefs
+    classes.update((glyph, 0x0A01) for glyph in font.getGlyphOrder())
+    font.save(os.path.join(folder, "unclassed.ttf"))
+
+
 def loose(folder):
     font = with_features("Test Loose", LAYOUT_FEATURES)
     data = font.getTableData("GPOS")
@@ -382,7 +390,7 @@ def main():
     folder = sys.argv[1]
     os.makedirs(folder, exist_ok=True)
     for make in (outlines, variable, collection, strike, hostile, damaged, packed, charmaps, layout,
-                 contexts, moving, loose, everything, bitmap):
+                 contexts, moving, unclassed, loose, everything, bitmap):
         make(folder)
 
 

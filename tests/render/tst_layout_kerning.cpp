@@ -129,6 +129,7 @@ private Q_SLOTS:
         row("all kinds", Test::FontPath("layout.ttf"), 40, 0, 1);
         row("small", Test::FontPath("layout.ttf"), 9, 0, 1);
         row("contexts", Test::FontPath("contexts.ttf"), 100, 0, 1);
+        row("unknown classes of glyphs", Test::FontPath("unclassed.ttf"), 40, 0, 1);
         row("default instance", Test::FontPath("moving.ttf"), 100, 0, 1);
         row("heavy instance", Test::FontPath("moving.ttf"), 100, 1, 1);
         row("PostScript outlines", u"" INTER_FONT ""_s, 48, 0, 11);
